@@ -1,0 +1,21 @@
+# Warnings and optimisation for every target of this project.
+find_program(CCACHE ccache)
+if(CCACHE)
+  set(CMAKE_C_COMPILER_LAUNCHER ${CCACHE})
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})
+endif()
+
+add_library(tremolux_options INTERFACE)
+target_include_directories(tremolux_options INTERFACE ${CMAKE_SOURCE_DIR})
+target_compile_options(tremolux_options INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Werror)
+
+if(TREMOLUX_SANITIZE)
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+endif()
+
+if(WIN32)
+  add_compile_definitions(UNICODE _UNICODE WIN32_LEAN_AND_MEAN NOMINMAX _WIN32_WINNT=0x0A00)
+  add_compile_options(-ffunction-sections -fdata-sections)
+  add_link_options(-static -Wl,--gc-sections)
+endif()

@@ -1,0 +1,15 @@
+# The Windows side: the thin layer and the executable.
+floor(windows platform/windows platform)
+if(TARGET windows)
+  get_target_property(windows_type windows TYPE)
+  if(windows_type STREQUAL "STATIC_LIBRARY")
+    target_link_libraries(windows PUBLIC iphlpapi ws2_32 gdi32 user32 shell32 advapi32 winmm)
+  endif()
+endif()
+
+if(EXISTS ${CMAKE_SOURCE_DIR}/engine/main.cpp)
+  enable_language(RC)
+  add_executable(Tremolux WIN32 engine/main.cpp assets/tremolux.rc)
+  target_link_libraries(Tremolux PRIVATE preferences windows)
+  target_link_options(Tremolux PRIVATE -municode -s)
+endif()

@@ -1,0 +1,69 @@
+// Off-screen pictures and what can be drawn on them.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "platform/colour.h"
+#include "platform/geometry.h"
+
+namespace platform {
+
+struct FontSpec {
+  std::string face = "Tahoma";  // the system's nearest font when it is not installed
+  int height = 11;              // pixels, character height without internal leading (96 dpi: 8 pt)
+  bool bold = false;
+  friend bool operator==(const FontSpec&, const FontSpec&) = default;
+};
+
+enum class PenStyle { kSolid, kDash, kDot, kDashDot, kDashDotDot };
+
+enum class TextAlign { kLeft, kCentre, kRight };
+
+class Bitmap;
+
+// Draws on a bitmap or a window's back buffer. Points outside are clipped. System colours are
+// resolved when they are drawn. A canvas is lent for one call or belongs to its bitmap.
+class Canvas {
+ public:
+  virtual ~Canvas() = default;
+
+  [[nodiscard]] virtual Size Extent() const = 0;
+
+  virtual void Fill(const Rect& area, Colour colour) = 0;
+
+  // A line one pixel wide; its end point is not painted. The gaps of a broken style stay as they
+  // were.
+  virtual void Line(Point from, Point to, Colour colour, PenStyle style = PenStyle::kSolid) = 0;
+
+  // One line of text, centred vertically in `box` and clipped to it, without a background of its
+  // own. "&" has no meaning here.
+  virtual void Text(const Rect& box, std::string_view text, const FontSpec& font, Colour colour,
+                    TextAlign align) = 0;
+  [[nodiscard]] virtual Size TextSize(std::string_view text, const FontSpec& font) = 0;
+
+  // Copies a whole bitmap, its top left corner at `at`.
+  virtual void Draw(const Bitmap& bitmap, Point at) = 0;
+};
+
+// A picture in memory, 32 bits a pixel, black when it is new.
+class Bitmap {
+ public:
+  virtual ~Bitmap() = default;
+
+  [[nodiscard]] virtual Size Extent() const = 0;
+  [[nodiscard]] virtual Canvas& GetCanvas() = 0;
+  // The colour of a pixel as 0x00BBGGRR; black outside.
+  [[nodiscard]] virtual Colour Pixel(Point at) const = 0;
+};
+
+class Graphics {
+ public:
+  virtual ~Graphics() = default;
+
+  // Null when a side is not 1 to 16384 pixels or memory is short.
+  [[nodiscard]] virtual std::unique_ptr<Bitmap> CreateBitmap(Size size) = 0;
+};
+
+}  // namespace platform

@@ -1,0 +1,36 @@
+// Dates and times of day as one number, and the calendar over it.
+#pragma once
+
+namespace platform {
+
+// Days since 1899-12-30, local time; the fraction is the time of day. This is the form in which
+// dates are stored, so two dates are compared as exact doubles.
+using DateTime = double;
+
+struct CivilDate {
+  int year = 1899;
+  int month = 12;  // 1 to 12
+  int day = 30;    // 1 to 31
+  friend bool operator==(const CivilDate&, const CivilDate&) = default;
+};
+
+// The moment at midnight of a date of the Gregorian calendar. The date must exist.
+[[nodiscard]] DateTime EncodeDate(int year, int month, int day);
+
+// The moment plus a time of day; hour 0 to 23, minute and second 0 to 59, milliseconds 0 to 999.
+[[nodiscard]] DateTime EncodeDateTime(int year, int month, int day, int hour, int minute,
+                                      int second, int millisecond = 0);
+
+// The calendar date that `moment` lies in.
+[[nodiscard]] CivilDate DecodeDate(DateTime moment);
+
+// Midnight at the start of the day of `moment`.
+[[nodiscard]] DateTime DateOf(DateTime moment);
+
+// The time of day alone: 0.0 up to, but not including, 1.0.
+[[nodiscard]] DateTime TimeOf(DateTime moment);
+
+// 1 = Sunday ... 7 = Saturday.
+[[nodiscard]] int DayOfWeek(DateTime moment);
+
+}  // namespace platform

@@ -1,0 +1,33 @@
+// The files beside the program. Paths are the system's, with "\" between folders.
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace platform {
+
+class Files {
+ public:
+  virtual ~Files() = default;
+
+  // Full path of the running executable.
+  [[nodiscard]] virtual std::string ProgramPath() = 0;
+  // Its folder, with the trailing backslash.
+  [[nodiscard]] virtual std::string ProgramFolder() = 0;
+
+  // Whether `path` is a file (not a folder).
+  [[nodiscard]] virtual bool Exists(std::string_view path) = 0;
+  // The bytes of a file; nothing when it cannot be read or is larger than `limit` bytes.
+  [[nodiscard]] virtual std::optional<std::string> Load(std::string_view path,
+                                                        std::size_t limit) = 0;
+  // Replaces the file, made when missing. False when refused; the old file may then be cut short.
+  virtual bool Save(std::string_view path, std::string_view bytes) = 0;
+  // Names, without folder, of the entries of a folder that match `mask` ("*.lng"), sorted.
+  [[nodiscard]] virtual std::vector<std::string> List(std::string_view folder,
+                                                      std::string_view mask) = 0;
+};
+
+}  // namespace platform

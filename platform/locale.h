@@ -1,0 +1,24 @@
+// The user's language conventions and the system's code page.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "platform/date_time.h"
+
+namespace platform {
+
+class Locale {
+ public:
+  virtual ~Locale() = default;
+
+  // The decimal separator of the user's number format, such as "," (LOCALE_SDECIMAL).
+  [[nodiscard]] virtual std::string DecimalSeparator() = 0;
+  // A date in the user's short form, and a time of day in the user's long form.
+  [[nodiscard]] virtual std::string ShortDate(DateTime moment) = 0;
+  [[nodiscard]] virtual std::string LongTime(DateTime moment) = 0;
+  // Bytes in the system's code page (CP_ACP) as UTF-8.
+  [[nodiscard]] virtual std::string FromCodePage(std::string_view bytes) = 0;
+};
+
+}  // namespace platform

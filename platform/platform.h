@@ -1,0 +1,39 @@
+// All Windows services that the program uses. Handed down by reference; there is no global.
+#pragma once
+
+#include "platform/canvas.h"
+#include "platform/clipboard.h"
+#include "platform/clock.h"
+#include "platform/files.h"
+#include "platform/interface_table.h"
+#include "platform/locale.h"
+#include "platform/menus.h"
+#include "platform/message_loop.h"
+#include "platform/registry.h"
+#include "platform/screen.h"
+#include "platform/single_instance.h"
+#include "platform/sockets.h"
+#include "platform/timers.h"
+#include "platform/windowing.h"
+
+namespace platform {
+
+// References to the services; the services outlive it.
+struct Platform {
+  InterfaceTable& interface_table;
+  Registry& registry;
+  Sockets& sockets;
+  SingleInstance& single_instance;
+  Clock& clock;
+  Files& files;
+  Locale& locale;
+  Clipboard& clipboard;
+  Windowing& windowing;
+  Menus& menus;
+  Timers& timers;
+  MessageLoop& message_loop;
+  Screen& screen;
+  Graphics& graphics;
+};
+
+}  // namespace platform

@@ -1,0 +1,72 @@
+// A window of its own on the desktop.
+#pragma once
+
+#include <string>
+
+#include "platform/widget.h"
+
+namespace platform {
+
+enum class Frame {
+  kSizeableTool,  // small caption, sizing border, no taskbar button
+  kTool,          // small caption, fixed size, no taskbar button
+  kDialog,        // caption with close box, fixed size
+  kHint,          // bare, above everything, never active, lets the mouse through
+};
+
+struct TopWindowParams {
+  std::string name;  // of the form; how other programs find the window (its class)
+  std::string caption;
+  Frame frame = Frame::kDialog;
+  // Without a caption bar: the pop-up style set, the dialog frame cleared. What remains of a
+  // sizeable window is a frame one pixel wide whose edges still size it.
+  bool bare_popup = false;
+};
+
+class TopWindowEvents : public WidgetEvents {
+ public:
+  // The user or the system asks to close the window; nothing has happened yet.
+  virtual void OnClose() {}
+  // The window was moved or sized, whoever did it.
+  virtual void OnPlaced() {}
+  // It became or ceased to be the active window.
+  virtual void OnActivate(bool /*active*/) {}
+  // It came onto a monitor of another resolution, or the user changed it; `bounds` is the size that
+  // keeps its look.
+  virtual void OnDpiChanged(int /*dpi*/, const Rect& /*bounds*/) {}
+  // The resolution or arrangement of the monitors changed.
+  virtual void OnDisplayChange() {}
+  // The machine came back from sleep.
+  virtual void OnResume() {}
+  // The Windows session ends now; the process may be gone when this returns.
+  virtual void OnEndSession() {}
+  // A system colour or setting changed.
+  virtual void OnSettingChange() {}
+};
+
+enum class Activation { kActivate, kLeaveFocus };
+
+class TopWindow : public Widget {
+ public:
+  // Shows it; kLeaveFocus never takes the keyboard from the program that the user works in.
+  virtual void Show(Activation activation) = 0;
+
+  // Above all windows that are not topmost, without moving, sizing or activating it.
+  virtual void SetTopmost(bool topmost) = 0;
+  // What the system says; a program that ran on the full screen may have taken it away.
+  [[nodiscard]] virtual bool Topmost() const = 0;
+
+  // The smallest and largest outer size that the user can give it.
+  virtual void SetSizeLimits(Size smallest, Size largest) = 0;
+
+  // While the left button is down: lets the user drag the window as if by its caption. Returns when
+  // the drag is over, on systems where that is a loop of its own.
+  virtual void BeginDrag() = 0;
+
+  // To the front and active.
+  virtual void Raise() = 0;
+
+  [[nodiscard]] virtual int Dpi() const = 0;
+};
+
+}  // namespace platform

@@ -1,0 +1,76 @@
+// What every native control has, and what it reports.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "platform/canvas.h"
+#include "platform/geometry.h"
+
+namespace platform {
+
+enum class MouseButton { kNone, kLeft, kRight, kMiddle };
+
+struct MouseEvent {
+  Point at;                                 // client pixels of the widget
+  MouseButton button = MouseButton::kNone;  // which one went down or up; none for a move
+  bool left_down = false;                   // the left button is held
+};
+
+// Reports of a widget, on the thread of the user interface. A report is made because the user or
+// the system did something; what the code sets itself comes back as a report only where the comment
+// says so. A report may destroy the widget that made it.
+class WidgetEvents {
+ public:
+  virtual ~WidgetEvents() = default;
+
+  // The whole client area is to be painted; the canvas is a back buffer that the platform shows in
+  // one piece afterwards. Surfaces and top windows only.
+  virtual void OnPaint(Canvas&) {}
+  virtual void OnMouseMove(const MouseEvent&) {}
+  virtual void OnMouseDown(const MouseEvent&) {}
+  virtual void OnMouseUp(const MouseEvent&) {}
+  virtual void OnDoubleClick(const MouseEvent&) {}
+  // The pointer came onto the widget itself or left it; moving to a child leaves the parent.
+  virtual void OnMouseEnter() {}
+  virtual void OnMouseLeave() {}
+  // A context menu is wanted at this place of the screen (right click, menu key).
+  virtual void OnContextMenu(Point) {}
+  // The client area has this size now, whoever changed it.
+  virtual void OnResize(Size) {}
+};
+
+// A native control. Destroying it removes it from the screen. Calls after the window system took it
+// away do nothing.
+class Widget {
+ public:
+  virtual ~Widget() = default;
+
+  // The text that the window system, and so a screen reader, knows it by.
+  virtual void SetText(std::string_view text) = 0;
+  [[nodiscard]] virtual std::string Text() const = 0;
+
+  // Pixels; relative to the parent's client area, for a top window on the screen.
+  virtual void SetBounds(const Rect& bounds) = 0;
+  [[nodiscard]] virtual Rect Bounds() const = 0;
+  [[nodiscard]] virtual Size ClientSize() const = 0;
+
+  virtual void SetVisible(bool visible) = 0;
+  // Its own flag, whatever its parents are.
+  [[nodiscard]] virtual bool Visible() const = 0;
+  virtual void SetEnabled(bool enabled) = 0;
+  [[nodiscard]] virtual bool Enabled() const = 0;
+
+  virtual void SetFont(const FontSpec& font) = 0;
+  virtual void SetColours(Colour text, Colour background) = 0;
+
+  // Puts the keyboard into it.
+  virtual void Focus() = 0;
+  // Asks for a repaint of the whole client area soon.
+  virtual void Invalidate() = 0;
+  // The place of a client point on the screen.
+  [[nodiscard]] virtual Point ToScreen(Point client) const = 0;
+};
+
+}  // namespace platform
