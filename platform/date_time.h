@@ -5,6 +5,9 @@ namespace platform {
 
 // Days since 1899-12-30, local time; the fraction is the time of day. This is the form in which
 // dates are stored, so two dates are compared as exact doubles.
+//
+// Before that day the whole part counts backwards while the fraction still counts on from midnight,
+// as in the system's own automation dates: -1.25 is 06:00 on 1899-12-29.
 using DateTime = double;
 
 struct CivilDate {
@@ -14,6 +17,14 @@ struct CivilDate {
   friend bool operator==(const CivilDate&, const CivilDate&) = default;
 };
 
+struct ClockTime {
+  int hour = 0;         // 0 to 23
+  int minute = 0;       // 0 to 59
+  int second = 0;       // 0 to 59
+  int millisecond = 0;  // 0 to 999
+  friend bool operator==(const ClockTime&, const ClockTime&) = default;
+};
+
 // The moment at midnight of a date of the Gregorian calendar. The date must exist.
 [[nodiscard]] DateTime EncodeDate(int year, int month, int day);
 
@@ -21,8 +32,12 @@ struct CivilDate {
 [[nodiscard]] DateTime EncodeDateTime(int year, int month, int day, int hour, int minute,
                                       int second, int millisecond = 0);
 
-// The calendar date that `moment` lies in.
+// The calendar date that `moment` lies in. What was stored may be anything: a moment outside the
+// years 1 to 9999 gives the first or last day of these, what is no number gives 1899-12-30.
 [[nodiscard]] CivilDate DecodeDate(DateTime moment);
+
+// The time of day of `moment` to the nearest millisecond, never past 23:59:59.999.
+[[nodiscard]] ClockTime DecodeTime(DateTime moment);
 
 // Midnight at the start of the day of `moment`.
 [[nodiscard]] DateTime DateOf(DateTime moment);
