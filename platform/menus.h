@@ -15,6 +15,7 @@ struct MenuEntry {
   int id = 0;            // above 0, unique in the menu; returned when it is chosen
   std::string text;      // "&" marks the key, "&&" is an ampersand
   std::string shortcut;  // shown at the right, such as "Ctrl+Alt+F"; empty for none
+  std::string hint;      // for whoever shows it while the entry is highlighted
   bool separator = false;
   bool enabled = true;
   bool checked = false;

@@ -1,0 +1,37 @@
+// A message loop whose messages are the steps of a test.
+#pragma once
+
+#include <deque>
+#include <functional>
+
+#include "platform/message_loop.h"
+
+namespace platform::memory {
+
+class MessageLoop final : public platform::MessageLoop {
+ public:
+  // Runs the steps that tests put in. A loop that is left without any ends as if nobody would ever
+  // do anything again: false, and `starved` counts up.
+  bool RunUntil(const std::function<bool()>& done) override;
+  // Runs one step, if there is one and `steps_when_pending` is set.
+  bool ProcessPending() override;
+  void Quit() override { quit_ = true; }
+
+  // The next thing that happens while a loop runs.
+  void Then(std::function<void()> step) { steps_.push_back(std::move(step)); }
+
+  [[nodiscard]] bool HasQuit() const { return quit_; }
+  [[nodiscard]] int Depth() const { return depth_; }
+
+  bool steps_when_pending = false;
+  int starved = 0;
+
+ private:
+  void RunStep();
+
+  std::deque<std::function<void()>> steps_;
+  bool quit_ = false;
+  int depth_ = 0;
+};
+
+}  // namespace platform::memory

@@ -1,0 +1,39 @@
+#include "toolkit/application.h"
+
+namespace toolkit {
+
+Application::Application(platform::Platform& platform)
+    : platform_(platform), modals_(*this), hints_(*this) {}
+
+Application::~Application() = default;
+
+void Application::SetTitle(std::string_view title) {
+  title_ = title;
+  platform_.windowing.SetApplicationTitle(title);
+}
+
+void Application::Run() {
+  platform_.message_loop.RunUntil([this] { return terminated_; });
+}
+
+void Application::Terminate() {
+  terminated_ = true;
+  platform_.menus.Cancel();
+  modals_.CancelAll();
+  platform_.message_loop.Quit();
+}
+
+bool Application::ProcessMessages() {
+  return platform_.message_loop.ProcessPending() && !terminated_;
+}
+
+void Application::Report(std::string_view message) noexcept {
+  try {
+    if (exception_handler_) exception_handler_(message);
+  } catch (...) {
+    // The error log is the last resort: there is nobody left to tell.
+    return;
+  }
+}
+
+}  // namespace toolkit

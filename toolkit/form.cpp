@@ -1,0 +1,98 @@
+#include "toolkit/form.h"
+
+#include "toolkit/application.h"
+
+namespace toolkit {
+
+class Form::Events final : public platform::TopWindowEvents {
+ public:
+  explicit Events(Form& form) : form_(form) {}
+
+  void OnPaint(platform::Canvas& canvas) override {
+    Guarded([&] { form_.FormPaint(canvas); });
+  }
+  void OnMouseMove(const platform::MouseEvent& event) override { form_.OnMouseMove(event); }
+  void OnMouseUp(const platform::MouseEvent& event) override { form_.OnMouseUp(event); }
+  void OnDoubleClick(const platform::MouseEvent& event) override { form_.OnDoubleClick(event); }
+  void OnMouseEnter() override { form_.OnMouseEnter(); }
+  void OnMouseLeave() override { form_.OnMouseLeave(); }
+  void OnContextMenu(platform::Point screen) override { form_.OnContextMenu(screen); }
+  void OnResize(platform::Size size) override { form_.OnResize(size); }
+  void OnClose() override {
+    Guarded([&] { form_.FormClose(); });
+  }
+  void OnPlaced() override {
+    Guarded([&] { form_.FormPlaced(); });
+  }
+  void OnDpiChanged(int /*dpi*/, const platform::Rect& bounds) override {
+    Guarded([&] { form_.ChangeDpi(bounds); });
+  }
+  void OnDisplayChange() override {
+    Guarded([&] { form_.FormDisplayChange(); });
+  }
+  void OnResume() override {
+    Guarded([&] { form_.FormResumed(); });
+  }
+  void OnEndSession() override {
+    Guarded([&] { form_.FormEndSession(); });
+  }
+  void OnSettingChange() override {
+    Guarded([&] { form_.FormSettingChange(); });
+  }
+
+ private:
+  template <class Handler>
+  void Guarded(const Handler& handler) {
+    form_.App().Guard(handler);
+  }
+
+  Form& form_;
+};
+
+Form::Form(Application& app, const platform::TopWindowParams& params, Form* owner)
+    : Control(app, nullptr, params.name), events_(std::make_unique<Events>(*this)) {
+  auto window = app.Platform().windowing.CreateTopWindow(
+      params, owner != nullptr ? &owner->Window() : nullptr, *events_);
+  window_ = window.get();
+  Attach(std::move(window));
+  SetCaption(params.caption);
+  app.forms_.push_back(this);
+}
+
+Form::~Form() {
+  App().Modals().Forget(*this);
+  std::erase(App().forms_, this);
+  Detach();
+}
+
+void Form::Show(platform::Activation activation) {
+  Window().Show(activation);
+  FormShow();
+}
+
+void Form::Hide() { Window().SetVisible(false); }
+
+void Form::EndModal(ModalResult result) { App().Modals().End(*this, result); }
+
+void Form::FormClose() {
+  if (App().Modals().Top() == this) {
+    EndModal(ModalResult::kCancel);
+  } else {
+    Hide();
+  }
+}
+
+void Form::FormPaint(platform::Canvas& canvas) {
+  const platform::Size size = canvas.Extent();
+  canvas.Fill({0, 0, size.width, size.height}, Colour());
+}
+
+void Form::Resized() { FormResize(); }
+
+void Form::ChangeDpi(const platform::Rect& bounds) {
+  SetWindowBounds(bounds);
+  Rescale();
+  FormDpiChanged();
+}
+
+}  // namespace toolkit

@@ -1,0 +1,67 @@
+// A window of the program.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string_view>
+
+#include "platform/top_window.h"
+#include "toolkit/control.h"
+#include "toolkit/modal_stack.h"
+
+namespace toolkit {
+
+class Form : public Control {
+ public:
+  // Made hidden. `owner` (null: the application) stays below it.
+  Form(Application& app, const platform::TopWindowParams& params, Form* owner = nullptr);
+  ~Form() override;
+
+  [[nodiscard]] Form& ParentForm() override { return *this; }
+
+  void Show(platform::Activation activation = platform::Activation::kActivate);
+  void Hide();
+  [[nodiscard]] bool Showing() const { return Window().Visible(); }
+  void Raise() { Window().Raise(); }
+
+  // Ends the modal loop that shows this form; without one nothing happens.
+  void EndModal(ModalResult result);
+
+  // Position and size on the screen, frame included, in real pixels.
+  [[nodiscard]] platform::Rect WindowBounds() const { return Window().Bounds(); }
+  void SetWindowBounds(const platform::Rect& bounds) { Window().SetBounds(bounds); }
+
+  [[nodiscard]] int Dpi() const { return Window().Dpi(); }
+  [[nodiscard]] platform::TopWindow& Window() const { return *window_; }
+
+  // Lets the user go on dragging the form by one of its controls.
+  void BeginDrag() { Window().BeginDrag(); }
+
+ protected:
+  // The user or the system asks to close the form. As it stands: a modal form ends with kCancel,
+  // another one hides.
+  virtual void FormClose();
+  virtual void FormResize() {}
+  // Moved or sized, by whomever.
+  virtual void FormPlaced() {}
+  virtual void FormShow() {}
+  virtual void FormDpiChanged() {}
+  virtual void FormDisplayChange() {}
+  virtual void FormResumed() {}
+  virtual void FormEndSession() {}
+  virtual void FormSettingChange() {}
+  // Children do not cover this area.
+  virtual void FormPaint(platform::Canvas& canvas);
+
+ private:
+  // Forwards the reports of the native window, each inside the guard.
+  class Events;
+
+  void Resized() override;
+  void ChangeDpi(const platform::Rect& bounds);
+
+  std::unique_ptr<Events> events_;
+  platform::TopWindow* window_ = nullptr;  // the peer, owned by Control
+};
+
+}  // namespace toolkit

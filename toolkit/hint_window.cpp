@@ -1,0 +1,170 @@
+#include "toolkit/hint_window.h"
+
+#include <algorithm>
+#include <string_view>
+#include <vector>
+
+#include "toolkit/application.h"
+#include "toolkit/control.h"
+#include "toolkit/design_pixels.h"
+#include "toolkit/form.h"
+
+namespace toolkit {
+namespace {
+
+constexpr int kShortestTimer = 10;  // ms, what the system can do
+constexpr int kMargin = 3;          // design pixels between frame and text
+constexpr int kBelowPointer = 20;   // design pixels, so that the arrow covers nothing
+const platform::FontSpec kFont{"Tahoma", 11, false};
+
+// A hint may have several lines, each ended by a carriage return.
+std::vector<std::string> Lines(std::string_view text) {
+  std::vector<std::string> lines(1);
+  for (const char c : text) {
+    if (c == '\r') {
+      lines.emplace_back();
+    } else if (c != '\n') {
+      lines.back() += c;
+    }
+  }
+  return lines;
+}
+
+}  // namespace
+
+class HintWindow::Window final : public platform::TopWindowEvents {
+ public:
+  Window(Application& app, platform::Colour colour) : app_(app), colour_(colour) {
+    platform::TopWindowParams params;
+    params.name = "TremoluxHint";
+    params.frame = platform::Frame::kHint;
+    window_ = app.Platform().windowing.CreateTopWindow(params, nullptr, *this);
+  }
+
+  void Show(const std::string& text, const platform::Rect& beside, int dpi) {
+    lines_ = Lines(text);
+    dpi_ = dpi;
+    window_->SetText(text);
+    window_->SetBounds(Place(Extent(), beside));
+    window_->Invalidate();
+    window_->Show(platform::Activation::kLeaveFocus);
+  }
+
+  void OnPaint(platform::Canvas& canvas) override {
+    const platform::Size size = canvas.Extent();
+    const platform::Rect all{0, 0, size.width, size.height};
+    canvas.Fill(all, platform::colour::kWindowFrame);
+    canvas.Fill(all.Shrunk(1), colour_);
+    const int margin = ScaleTo(dpi_, kMargin);
+    const int line_height =
+        (size.height - 2 * margin) / std::max(1, static_cast<int>(lines_.size()));
+    for (std::size_t i = 0; i < lines_.size(); ++i) {
+      canvas.Text({margin, margin + static_cast<int>(i) * line_height, size.width - 2 * margin,
+                   line_height},
+                  lines_[i], Font(), platform::colour::System(23), platform::TextAlign::kLeft);
+    }
+  }
+
+ private:
+  [[nodiscard]] platform::FontSpec Font() const {
+    return {kFont.face, ScaleTo(dpi_, kFont.height), kFont.bold};
+  }
+
+  platform::Size Extent() {
+    platform::Size size;
+    const auto scratch = app_.Platform().graphics.CreateBitmap({1, 1});
+    if (!scratch) return size;
+    for (const std::string& line : lines_) {
+      const platform::Size extent =
+          scratch->GetCanvas().TextSize(line.empty() ? " " : line, Font());
+      size.width = std::max(size.width, extent.width);
+      size.height += extent.height + 1;
+    }
+    const int margins = 2 * ScaleTo(dpi_, kMargin);
+    return {size.width + margins, size.height + margins};
+  }
+
+  // Beside the area or under the pointer, and inside the monitor's work area.
+  platform::Rect Place(platform::Size size, const platform::Rect& beside) {
+    const platform::Point pointer = app_.Platform().screen.Pointer();
+    platform::Rect place{pointer.x, pointer.y + ScaleTo(dpi_, kBelowPointer), size.width,
+                         size.height};
+    if (!beside.Empty()) place = {beside.Right(), beside.top, size.width, size.height};
+    const platform::Rect work = app_.Platform().screen.MonitorOf(place).work_area;
+    if (place.Right() > work.Right()) place.left = work.Right() - size.width;
+    if (place.Bottom() > work.Bottom()) place.top = pointer.y - size.height;
+    place.left = std::max(place.left, work.left);
+    place.top = std::max(place.top, work.top);
+    return place;
+  }
+
+  Application& app_;
+  platform::Colour colour_;
+  int dpi_ = kDesignDpi;
+  std::vector<std::string> lines_;
+  std::unique_ptr<platform::TopWindow> window_;
+};
+
+HintWindow::HintWindow(Application& app) : app_(app) {}
+HintWindow::~HintWindow() = default;
+
+bool HintWindow::Showing() const { return window_ != nullptr; }
+
+void HintWindow::PointerOn(Control& control) {
+  Disappear();
+  control_ = &control;
+  text_ = control.Hint();
+  beside_ = {};
+  dpi_ = control.ParentForm().Dpi();
+  Begin();
+}
+
+void HintWindow::PointerOff(const Control& control) { Forget(control); }
+
+void HintWindow::TextChanged(const Control& control) {
+  if (control_ != &control) return;
+  text_ = control.Hint();
+  if (!Showing()) {
+    Begin();
+  } else if (text_.empty()) {
+    Disappear();
+  } else {
+    window_->Show(text_, beside_, dpi_);
+  }
+}
+
+void HintWindow::Forget(const Control& control) {
+  if (control_ != &control) return;
+  control_ = nullptr;
+  Disappear();
+}
+
+void HintWindow::ShowBeside(std::string_view text, const platform::Rect& area, int dpi) {
+  Disappear();
+  control_ = nullptr;
+  text_ = text;
+  beside_ = area;
+  dpi_ = dpi;
+  Begin();
+}
+
+void HintWindow::Begin() {
+  timer_.reset();
+  if (text_.empty() || HidePause <= 0) return;
+  timer_ = app_.Platform().timers.Start(std::max(Pause, kShortestTimer),
+                                        [this] { app_.Guard([this] { Appear(); }); });
+}
+
+void HintWindow::Appear() {
+  window_ = std::make_unique<Window>(app_, Colour);
+  window_->Show(text_, beside_, dpi_);
+  timer_ = app_.Platform().timers.Start(std::max(HidePause, kShortestTimer),
+                                        [this] { app_.Guard([this] { Disappear(); }); });
+}
+
+void HintWindow::Disappear() {
+  timer_.reset();
+  window_.reset();
+}
+
+}  // namespace toolkit

@@ -1,0 +1,52 @@
+// Modal windows: the one place where a message loop runs inside another.
+#pragma once
+
+#include <string_view>
+#include <vector>
+
+namespace toolkit {
+
+class Application;
+class Form;
+
+enum class ModalResult { kNone = 0, kOk = 1, kCancel = 2, kYes = 6, kNo = 7 };
+
+class ModalStack {
+ public:
+  explicit ModalStack(Application& app) : app_(app) {}
+  ModalStack(const ModalStack&) = delete;
+  ModalStack& operator=(const ModalStack&) = delete;
+
+  // Shows `form` above all others, which are disabled meanwhile, and returns when it has a result:
+  // given by Form::EndModal, kCancel when it is closed or destroyed, or when the program ends. Of
+  // each kind (form name) one may be open; for a second one the first is raised and the answer is
+  // kCancel. Timers, and so scans, go on meanwhile.
+  ModalResult Show(Form& form);
+
+  // Raises the modal form of this name; false when none is open.
+  bool Raise(std::string_view form_name);
+
+  // Ends all with kCancel, the newest first; each Show returns when the loops above it have.
+  void CancelAll();
+
+  [[nodiscard]] bool Empty() const { return open_.empty(); }
+  // The form on top; null when none is open.
+  [[nodiscard]] Form* Top() const;
+
+ private:
+  friend class Form;
+
+  struct Entry {
+    Form* form;  // null once it is destroyed
+    ModalResult result;
+  };
+  class Level;
+
+  void End(const Form& form, ModalResult result);
+  void Forget(const Form& form);
+
+  Application& app_;
+  std::vector<Entry*> open_;
+};
+
+}  // namespace toolkit

@@ -1,0 +1,44 @@
+#include "toolkit/phase_timer.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "toolkit/application.h"
+
+namespace toolkit {
+namespace {
+
+constexpr std::int64_t kShortestTimer = 10;  // ms, what the system can do
+
+}  // namespace
+
+PhaseTimer::PhaseTimer(Application& app, int period_ms, std::function<void()> on_tick)
+    : app_(app), period_ms_(period_ms), on_tick_(std::move(on_tick)) {}
+
+void PhaseTimer::SetActive(bool active) {
+  if (active == active_) return;
+  active_ = active;
+  timer_.reset();
+  if (!active_) return;
+  deadline_ = app_.Platform().clock.SteadyMilliseconds() + period_ms_;
+  Arm();
+}
+
+// Armed before the tick runs, so that ticks go on while a window that the tick shows is open.
+void PhaseTimer::Arm() {
+  const std::int64_t wait = deadline_ - app_.Platform().clock.SteadyMilliseconds();
+  timer_ = app_.Platform().timers.Start(static_cast<int>(std::max(wait, kShortestTimer)),
+                                        [this] { Tick(); });
+}
+
+void PhaseTimer::Tick() {
+  const std::int64_t now = app_.Platform().clock.SteadyMilliseconds();
+  // The system's clock and its timers differ by a few ms; that early is in time.
+  deadline_ += period_ms_;
+  // What was missed is not made up for: the next tick would bring two scans at once.
+  while (deadline_ <= now) deadline_ += period_ms_;
+  Arm();
+  app_.Guard([this] { on_tick_(); });
+}
+
+}  // namespace toolkit

@@ -1,0 +1,20 @@
+// Key combinations as 16-bit codes.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace toolkit {
+
+// Virtual-key code in the low byte, plus kShift, kCtrl and kAlt; 0 for none.
+using ShortCut = std::uint16_t;
+
+inline constexpr ShortCut kShift = 0x2000;
+inline constexpr ShortCut kCtrl = 0x4000;
+inline constexpr ShortCut kAlt = 0x8000;
+
+// As menus write it, such as "Ctrl+Alt+F". Empty for 0 and for keys other than letters, digits and
+// F1 to F24.
+[[nodiscard]] std::string ShortCutText(ShortCut short_cut);
+
+}  // namespace toolkit
