@@ -25,7 +25,8 @@ class Files {
                                                         std::size_t limit) = 0;
   // Replaces the file, made when missing. False when refused; the old file may then be cut short.
   virtual bool Save(std::string_view path, std::string_view bytes) = 0;
-  // Names, without folder, of the entries of a folder that match `mask` ("*.lng"), sorted.
+  // Names, without folder, of the files of a folder that match `mask` ("*.lng", see MatchesMask),
+  // sorted by their bytes. Nothing when the folder cannot be read.
   [[nodiscard]] virtual std::vector<std::string> List(std::string_view folder,
                                                       std::string_view mask) = 0;
 };

@@ -14,8 +14,9 @@ class Locale {
 
   // The decimal separator of the user's number format, such as "," (LOCALE_SDECIMAL).
   [[nodiscard]] virtual std::string DecimalSeparator() = 0;
-  // A date in the user's short form, and a time of day in the user's long form.
+  // A date in the user's short form; empty for one before 1601, which the system's calendar lacks.
   [[nodiscard]] virtual std::string ShortDate(DateTime moment) = 0;
+  // A time of day in the user's long form.
   [[nodiscard]] virtual std::string LongTime(DateTime moment) = 0;
   // Bytes in the system's code page (CP_ACP) as UTF-8.
   [[nodiscard]] virtual std::string FromCodePage(std::string_view bytes) = 0;

@@ -1,0 +1,15 @@
+// What a row of the interface table says.
+#pragma once
+
+#include <string>
+
+#include "platform/interface_table.h"
+
+namespace platform {
+
+// The bytes of the description, in the system's code page, without the terminating NUL. On Windows
+// `dwDescrLen` counts that NUL and under Wine it does not, so the text ends at the first NUL or
+// where the length says, whichever comes first. At most 256 bytes, whatever the row claims.
+[[nodiscard]] std::string DescriptionBytes(const InterfaceRow& row);
+
+}  // namespace platform

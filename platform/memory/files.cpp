@@ -1,0 +1,107 @@
+#include "platform/memory/files.h"
+
+#include <algorithm>
+
+#include "platform/file_mask.h"
+#include "platform/memory/case_fold.h"
+
+namespace platform::memory {
+namespace {
+
+std::string_view FolderOf(std::string_view path) {
+  const std::size_t cut = path.rfind('\\');
+  return cut == std::string_view::npos ? std::string_view() : path.substr(0, cut);
+}
+
+std::string_view NameOf(std::string_view path) {
+  const std::size_t cut = path.rfind('\\');
+  return cut == std::string_view::npos ? path : path.substr(cut + 1);
+}
+
+std::string FoldFolder(std::string_view folder) {
+  while (!folder.empty() && folder.back() == '\\') folder.remove_suffix(1);
+  return FoldCase(folder);
+}
+
+}  // namespace
+
+Files::Files(Notebook& notebook) : notebook_(notebook) {
+  SetProgramPath("C:\\Program Files\\Korvane Tremolux\\Tremolux.exe");
+}
+
+std::string Files::ProgramFolder() { return std::string(FolderOf(program_path_)) + '\\'; }
+
+bool Files::Exists(std::string_view path) { return files_.contains(FoldCase(path)); }
+
+std::optional<std::string> Files::Load(std::string_view path, std::size_t limit) {
+  ++loads;
+  if (notebook_.Fails()) return std::nullopt;
+  std::optional<std::string> bytes = Bytes(path);
+  if (bytes && bytes->size() > limit) return std::nullopt;
+  return bytes;
+}
+
+bool Files::Save(std::string_view path, std::string_view bytes) {
+  ++saves;
+  const std::string folder = FoldFolder(FolderOf(path));
+  const bool refused = notebook_.Fails() || !folders_.contains(folder) ||
+                       folders_.contains(FoldFolder(path)) || NameOf(path).empty() ||
+                       unwritable_.contains(folder) || unwritable_.contains(FoldFolder(path));
+  if (refused) return false;
+  Put(path, bytes);
+  return true;
+}
+
+std::vector<std::string> Files::List(std::string_view folder, std::string_view mask) {
+  std::vector<std::string> names;
+  if (notebook_.Fails()) return names;
+  for (const auto& [path, file] : files_) {
+    if (FolderOf(path) == FoldFolder(folder) && MatchesMask(file.name, mask)) {
+      names.push_back(file.name);
+    }
+  }
+  std::sort(names.begin(), names.end());
+  return names;
+}
+
+void Files::SetProgramPath(std::string_view path) {
+  program_path_ = path;
+  AddFolder(FolderOf(path));
+  Put(path, "MZ");
+}
+
+void Files::AddFolder(std::string_view folder) {
+  for (; !folder.empty(); folder = FolderOf(folder)) folders_.insert(FoldFolder(folder));
+}
+
+void Files::Put(std::string_view path, std::string_view bytes) {
+  AddFolder(FolderOf(path));
+  File& file = files_[FoldCase(path)];
+  if (file.name.empty()) file.name = NameOf(path);
+  file.bytes = bytes;
+}
+
+void Files::PutBesideProgram(std::string_view name, std::string_view bytes) {
+  Put(ProgramFolder() + std::string(name), bytes);
+}
+
+std::optional<std::string> Files::Bytes(std::string_view path) const {
+  const auto found = files_.find(FoldCase(path));
+  return found == files_.end() ? std::nullopt : std::optional(found->second.bytes);
+}
+
+std::optional<std::string> Files::BytesBesideProgram(std::string_view name) const {
+  return Bytes(std::string(FolderOf(program_path_)) + '\\' + std::string(name));
+}
+
+void Files::Remove(std::string_view path) { files_.erase(FoldCase(path)); }
+
+void Files::SetWritable(std::string_view path, bool writable) {
+  if (writable) {
+    unwritable_.erase(FoldFolder(path));
+  } else {
+    unwritable_.insert(FoldFolder(path));
+  }
+}
+
+}  // namespace platform::memory

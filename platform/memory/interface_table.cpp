@@ -1,0 +1,78 @@
+#include "platform/memory/interface_table.h"
+
+#include <algorithm>
+#include <cstring>
+#include <utility>
+
+namespace platform::memory {
+namespace {
+
+constexpr std::uint32_t kGeneralFailure = 31;  // ERROR_GEN_FAILURE
+
+}  // namespace
+
+InterfaceRow MakeRow(std::string_view description, std::initializer_list<std::uint8_t> mac,
+                     std::uint32_t mtu, std::uint32_t speed, DescriptionLength length) {
+  InterfaceRow row;
+  row.dwType = 6;  // Ethernet
+  row.dwMtu = mtu;
+  row.dwSpeed = speed;
+  const std::size_t mac_length = std::min(mac.size(), row.bPhysAddr.size());
+  std::copy_n(mac.begin(), mac_length, row.bPhysAddr.begin());
+  row.dwPhysAddrLen = static_cast<std::uint32_t>(mac_length);
+  row.dwAdminStatus = 1;
+  row.dwOperStatus = 5;  // operational
+  // One byte always remains for the terminating NUL.
+  const std::string_view kept = description.substr(0, row.bDescr.size() - 1);
+  std::transform(kept.begin(), kept.end(), row.bDescr.begin(),
+                 [](char c) { return static_cast<std::uint8_t>(c); });
+  row.dwDescrLen =
+      static_cast<std::uint32_t>(kept.size()) + (length == DescriptionLength::kCountsNul ? 1U : 0U);
+  return row;
+}
+
+std::uint32_t InterfaceTable::Read(std::span<std::byte> buffer, std::uint32_t& size) {
+  ++reads;
+  if (notebook_.Fails()) return kGeneralFailure;
+  const auto failure = std::find_if(failures_.begin(), failures_.end(),
+                                    [this](const Failure& f) { return f.read == reads; });
+  if (failure != failures_.end()) return failure->code;
+
+  const std::size_t needed = kInterfaceTableHead + rows.size() * sizeof(InterfaceRow);
+  size = static_cast<std::uint32_t>(needed);
+  if (buffer.size() < needed) {
+    if (after_size_read_) std::exchange(after_size_read_, nullptr)();
+    return kInsufficientBuffer;
+  }
+  const auto count = static_cast<std::uint32_t>(rows.size());
+  std::memcpy(buffer.data(), &count, sizeof count);
+  if (count > 0) {
+    std::memcpy(buffer.data() + kInterfaceTableHead, rows.data(),
+                rows.size() * sizeof(InterfaceRow));
+  }
+  return 0;
+}
+
+bool InterfaceTable::IsFilter(std::uint32_t index) {
+  ++filter_questions;
+  return !notebook_.Fails() && filters_.contains(index);
+}
+
+InterfaceRow& InterfaceTable::AddRow(InterfaceRow row) {
+  if (row.dwIndex == 0) row.dwIndex = last_index_ + 1;
+  last_index_ = std::max(last_index_, row.dwIndex);
+  return rows.emplace_back(row);
+}
+
+void InterfaceTable::RemoveRow(std::size_t position) {
+  rows.erase(rows.begin() + static_cast<std::ptrdiff_t>(position));
+}
+
+void InterfaceTable::AddTraffic(std::size_t position, std::uint32_t received, std::uint32_t sent) {
+  rows.at(position).dwInOctets += received;
+  rows.at(position).dwOutOctets += sent;
+}
+
+void InterfaceTable::FailRead(int n, std::uint32_t code) { failures_.push_back({reads + n, code}); }
+
+}  // namespace platform::memory

@@ -1,0 +1,34 @@
+#include "platform/memory/locale.h"
+
+#include "platform/text.h"
+
+namespace platform::memory {
+namespace {
+
+std::string Padded(int number, std::size_t digits) {
+  std::string text = std::to_string(number);
+  if (text.size() < digits) text.insert(0, digits - text.size(), '0');
+  return text;
+}
+
+}  // namespace
+
+std::string Locale::ShortDate(DateTime moment) {
+  const CivilDate date = DecodeDate(moment);
+  // The system's calendar begins with the year 1601.
+  if (date.year < 1601) return {};
+  return Padded(date.day, 2) + "." + Padded(date.month, 2) + "." + Padded(date.year, 4);
+}
+
+std::string Locale::LongTime(DateTime moment) {
+  const ClockTime time = DecodeTime(moment);
+  return Padded(time.hour, 2) + ":" + Padded(time.minute, 2) + ":" + Padded(time.second, 2);
+}
+
+std::string Locale::FromCodePage(std::string_view bytes) {
+  std::u16string wide;
+  for (const char byte : bytes) wide += static_cast<char16_t>(static_cast<unsigned char>(byte));
+  return ToUtf8(wide);
+}
+
+}  // namespace platform::memory

@@ -1,0 +1,19 @@
+// Language conventions that a test chooses.
+#pragma once
+
+#include "platform/locale.h"
+
+namespace platform::memory {
+
+// Dates as 31.12.2024, times as 13:05:09; Latin-1 is the code page.
+class Locale : public platform::Locale {
+ public:
+  [[nodiscard]] std::string DecimalSeparator() override { return decimal_separator; }
+  [[nodiscard]] std::string ShortDate(DateTime moment) override;
+  [[nodiscard]] std::string LongTime(DateTime moment) override;
+  [[nodiscard]] std::string FromCodePage(std::string_view bytes) override;
+
+  std::string decimal_separator = ",";
+};
+
+}  // namespace platform::memory

@@ -1,0 +1,33 @@
+// Named mutexes of one session.
+#pragma once
+
+#include <set>
+#include <string>
+
+#include "platform/memory/notebook.h"
+#include "platform/single_instance.h"
+
+namespace platform::memory {
+
+class SingleInstance : public platform::SingleInstance {
+ public:
+  explicit SingleInstance(Notebook& notebook) : notebook_(notebook) {}
+
+  [[nodiscard]] bool ClaimFirst(std::string_view name) override {
+    // A mutex that cannot be made counts as first.
+    if (notebook_.Fails()) return true;
+    return taken_.emplace(name).second;
+  }
+
+  // Another program has a mutex of this name.
+  void TakeByOther(std::string_view name) { taken_.emplace(name); }
+  [[nodiscard]] bool Taken(std::string_view name) const {
+    return taken_.contains(std::string(name));
+  }
+
+ private:
+  Notebook& notebook_;
+  std::set<std::string> taken_;  // unlike other names, these are told apart by case
+};
+
+}  // namespace platform::memory

@@ -1,0 +1,38 @@
+// A sockets library with the answers that a test gives it.
+#pragma once
+
+#include <functional>
+
+#include "platform/memory/notebook.h"
+#include "platform/sockets.h"
+
+namespace platform::memory {
+
+class Sockets : public platform::Sockets {
+ public:
+  explicit Sockets(Notebook& notebook) : notebook_(notebook) {}
+
+  bool Start(std::uint16_t version) override;
+  [[nodiscard]] std::string HostName() override;
+  [[nodiscard]] std::optional<std::vector<std::string>> HostAddresses(
+      std::string_view host) override;
+  void Cleanup() override;
+
+  // The answers. No addresses: the look-up fails.
+  std::string host_name = "workstation";
+  std::optional<std::vector<std::string>> addresses = std::vector<std::string>{"192.168.1.20"};
+  // Runs inside each look-up; a test may let time pass in it.
+  std::function<void()> during_look_up;
+
+  // What was asked for.
+  int starts = 0;
+  int cleanups = 0;
+  int look_ups = 0;
+  std::uint16_t last_version = 0;
+
+ private:
+  Notebook& notebook_;
+  int running_ = 0;  // successful starts that were not taken back
+};
+
+}  // namespace platform::memory
