@@ -1,15 +1,22 @@
 // A whole machine in memory: every service that the program uses, and what tests see of it.
 #pragma once
 
+#include "platform/memory/canvas.h"
 #include "platform/memory/clipboard.h"
 #include "platform/memory/clock.h"
 #include "platform/memory/files.h"
 #include "platform/memory/interface_table.h"
 #include "platform/memory/locale.h"
+#include "platform/memory/menus.h"
+#include "platform/memory/message_loop.h"
 #include "platform/memory/notebook.h"
 #include "platform/memory/registry.h"
+#include "platform/memory/screen.h"
 #include "platform/memory/single_instance.h"
 #include "platform/memory/sockets.h"
+#include "platform/memory/timers.h"
+#include "platform/memory/windowing.h"
+#include "platform/platform.h"
 
 namespace platform::memory {
 
@@ -26,6 +33,19 @@ class Machine {
   Files files{notebook};
   Locale locale;
   Clipboard clipboard{notebook};
+  Screen screen;
+  Graphics graphics{notebook, screen};
+  Windowing windowing{screen};
+  Menus menus;
+  Timers timers{clock};
+  MessageLoop message_loop;
+
+  [[nodiscard]] platform::Platform& Platform() { return platform_; }
+
+ private:
+  platform::Platform platform_{interface_table, registry,     sockets,   single_instance, clock,
+                               files,           locale,       clipboard, windowing,       menus,
+                               timers,          message_loop, screen,    graphics};
 };
 
 }  // namespace platform::memory
