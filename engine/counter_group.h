@@ -1,0 +1,76 @@
+// The groups of four counters that the statistics are made of, machine-wide and for each adapter.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include "settings/schema.h"
+#include "settings/store.h"
+
+namespace engine {
+
+struct CounterGroup {
+  settings::CounterSetting total_dl;
+  settings::CounterSetting total_ul;
+  settings::CounterSetting max_dl;
+  settings::CounterSetting max_ul;
+  bool resets_max_ul_first = false;
+};
+
+// Since the last reset; the machine's totals of this kind are not kept by the scan.
+inline constexpr CounterGroup kInfoGroup{
+    settings::setting::InfoTotalDL, settings::setting::InfoTotalUL, settings::setting::InfoMaxDL,
+    settings::setting::InfoMaxUL};
+inline constexpr CounterGroup kDayGroup{
+    settings::setting::CurrentDayTotalDL, settings::setting::CurrentDayTotalUL,
+    settings::setting::CurrentDayMaxDL, settings::setting::CurrentDayMaxUL};
+inline constexpr CounterGroup kWeekGroup{
+    settings::setting::CurrentWeekTotalDL, settings::setting::CurrentWeekTotalUL,
+    settings::setting::CurrentWeekMaxDL, settings::setting::CurrentWeekMaxUL, true};
+inline constexpr CounterGroup kMonthGroup{
+    settings::setting::CurrentMonthTotalDL, settings::setting::CurrentMonthTotalUL,
+    settings::setting::CurrentMonthMaxDL, settings::setting::CurrentMonthMaxUL};
+
+// What a scan adds to a group: bytes, and the candidates for the maxima.
+struct GroupAmounts {
+  std::int64_t dl = 0;
+  std::int64_t ul = 0;
+  std::int64_t max_dl = 0;
+  std::int64_t max_ul = 0;
+};
+
+// Whose groups they are: the machine's, under Settings, or an adapter's, under AdapterDatas with
+// the adapter's trimmed name in front of each value name.
+class GroupOwner {
+ public:
+  [[nodiscard]] static GroupOwner Machine(settings::Store& store);
+  [[nodiscard]] static GroupOwner Adapter(settings::Store& store, std::string_view description);
+
+  // Adds to the totals and raises the maxima, each value read, changed and written in turn. Throws
+  // ConversionError when a stored text is no number, std::runtime_error when a write is refused;
+  // what was written before stays.
+  void Add(const CounterGroup& group, const GroupAmounts& amounts) const;
+
+  // Writes "0" to the four values.
+  void Reset(const CounterGroup& group) const;
+
+ private:
+  // When a candidate replaces a stored maximum. An adapter also writes one that is equal.
+  enum class MaxRule { kGreater, kGreaterOrEqual };
+
+  GroupOwner(settings::Store& store, settings::KeyIndex key, std::string prefix, MaxRule rule)
+      : store_(store), key_(key), prefix_(std::move(prefix)), rule_(rule) {}
+
+  [[nodiscard]] std::string Name(settings::CounterSetting counter) const;
+  void AddTo(settings::CounterSetting total, std::int64_t bytes) const;
+  void Raise(settings::CounterSetting max, std::int64_t candidate) const;
+
+  settings::Store& store_;
+  settings::KeyIndex key_;
+  std::string prefix_;
+  MaxRule rule_;
+};
+
+}  // namespace engine

@@ -1,0 +1,136 @@
+#include "engine/interface_sampler.h"
+
+#include <cstddef>
+
+#include "engine/adapter.h"
+#include "settings/adapter_values.h"
+
+namespace engine {
+namespace {
+
+using platform::InterfaceRow;
+
+std::int32_t HighestIndex(const std::vector<InterfaceRow>& table) {
+  return static_cast<std::int32_t>(table.size()) - 1;
+}
+
+AdapterCounters SeededFrom(const InterfaceRow& row) {
+  AdapterCounters counters;
+  counters.LastInOctets = row.dwInOctets;
+  counters.LastOutOctets = row.dwOutOctets;
+  return counters;
+}
+
+// One direction of one row. Unsigned differences, so a counter that wrapped still gives the true
+// small one.
+void Advance(std::uint32_t octets, std::uint32_t& last, std::uint32_t& delta, std::uint32_t& total,
+             std::uint32_t& active_scans) {
+  delta = octets - last;
+  total += delta;
+  if (delta != 0) ++active_scans;
+  last = octets;
+}
+
+void Cap(std::int64_t cap, std::uint32_t& bytes) {
+  if (bytes > cap) bytes = static_cast<std::uint32_t>(cap);
+}
+
+// The order is part of the figures: the maxima are taken from the full amounts and cut afterwards,
+// totals and activity keep what really moved.
+void UpdateCounters(const InterfaceRow& row, std::int64_t speed_cap, AdapterCounters& c) {
+  Advance(row.dwInOctets, c.LastInOctets, c.DeltaIn, c.TotalIn, c.ActiveInScans);
+  Advance(row.dwOutOctets, c.LastOutOctets, c.DeltaOut, c.TotalOut, c.ActiveOutScans);
+  if (c.DeltaIn > c.MaxIn) c.MaxIn = c.DeltaIn;
+  if (c.DeltaOut > c.MaxOut) c.MaxOut = c.DeltaOut;
+  if (speed_cap <= 0) return;
+  for (std::uint32_t* bytes : {&c.DeltaIn, &c.DeltaOut, &c.MaxIn, &c.MaxOut}) {
+    Cap(speed_cap, *bytes);
+  }
+}
+
+}  // namespace
+
+std::vector<AdapterItem> InterfaceSampler::InitAdapters() {
+  reader_.ReadInterfaceTable(state_.interface_table);
+  const std::vector<InterfaceRow>& table = state_.interface_table;
+  state_.AdapterHigh = kNotInitialised;
+  state_.adapter_counters.clear();
+  for (const InterfaceRow& row : table) state_.adapter_counters.push_back(SeededFrom(row));
+  state_.mac_addresses.assign(table.size(), "");
+
+  std::vector<AdapterItem> items;
+  for (std::size_t row = 0; row < table.size(); ++row) {
+    const std::string description = AdapterDescription(table[row], locale_);
+    if (IsLoopback(description)) continue;
+    WriteAdapterData(store_, description, table[row]);
+    state_.mac_addresses[row] = FormatMacAddress(table[row]);
+    if (description.empty()) continue;
+    const bool included = store_.ReadBool(settings::TrimmedAdapterName(description), true);
+    items.push_back({description, static_cast<std::int32_t>(row), included});
+  }
+  // Last, so that an initialisation which failed half-way is made again by the next scan.
+  state_.AdapterHigh = HighestIndex(table);
+  return items;
+}
+
+bool InterfaceSampler::RowCountChanged() {
+  reader_.ReadInterfaceTable(state_.interface_table);
+  return HighestIndex(state_.interface_table) != state_.AdapterHigh;
+}
+
+ScanAmounts InterfaceSampler::SampleInterfaces(platform::DateTime today) {
+  reader_.ReadInterfaceTable(state_.interface_table);
+  ScanAmounts scan;
+  // An adapter came or went since the row count was looked at. Rows and counters may belong to
+  // different adapters now; the next scan seeds them anew, this one measures nothing.
+  if (!CountersFitTable()) return scan;
+
+  // Two loops with the result of one: storing may fail in the middle, and the rows behind must not
+  // keep the bytes of this scan for the next.
+  const std::size_t rows = state_.interface_table.size();
+  for (std::size_t row = 0; row < rows; ++row) {
+    UpdateCounters(state_.interface_table[row], state_.SpeedCap, state_.adapter_counters[row]);
+  }
+  for (std::size_t row = 0; row < rows; ++row) CountRow(row, today, scan);
+  return scan;
+}
+
+void InterfaceSampler::CountRow(std::size_t row, platform::DateTime today, ScanAmounts& scan) {
+  const AdapterCounters& counters = state_.adapter_counters[row];
+  const std::string description = AdapterDescription(state_.interface_table[row], locale_);
+  if (IsLoopback(description)) return;
+  if (store_.ReadBool(settings::AdapterName(description), true)) {
+    scan.ScanSumDL += counters.DeltaIn;
+    scan.ScanSumUL += counters.DeltaOut;
+    scan.ScanMaxDL += counters.MaxIn;
+    scan.ScanMaxUL += counters.MaxOut;
+  }
+  // The sums so far decide, not the row's own bytes: behind an active row an idle or excluded one
+  // is persisted too, and a scan with bytes in one direction only persists nothing.
+  if (scan.ScanSumDL == 0 || scan.ScanSumUL == 0) return;
+  WriteAdapterData(store_, description, state_.interface_table[row]);
+  statistics_.UpdateAdapterStatistics(description, counters, today);
+}
+
+void InterfaceSampler::TakePresentCounters() {
+  reader_.ReadInterfaceTable(state_.interface_table);
+  if (!CountersFitTable()) return;
+  for (std::size_t row = 0; row < state_.interface_table.size(); ++row) {
+    state_.adapter_counters[row].LastInOctets = state_.interface_table[row].dwInOctets;
+    state_.adapter_counters[row].LastOutOctets = state_.interface_table[row].dwOutOctets;
+  }
+}
+
+std::vector<std::string> InterfaceSampler::Descriptions() const {
+  std::vector<std::string> descriptions;
+  for (const InterfaceRow& row : state_.interface_table) {
+    descriptions.push_back(AdapterDescription(row, locale_));
+  }
+  return descriptions;
+}
+
+bool InterfaceSampler::CountersFitTable() const {
+  return state_.adapter_counters.size() == state_.interface_table.size();
+}
+
+}  // namespace engine

@@ -1,0 +1,68 @@
+// Turns the system's octet counters into the bytes of each scan.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "engine/interface_reader.h"
+#include "engine/statistics.h"
+#include "engine/traffic_state.h"
+#include "platform/interface_table.h"
+#include "platform/locale.h"
+#include "settings/store.h"
+
+namespace engine {
+
+// An adapter as the two adapter menus show it.
+struct AdapterItem {
+  std::string description;  // the caption
+  std::int32_t row = 0;     // the Tag
+  bool included = true;     // the check mark of "Connection Sources"
+};
+
+class InterfaceSampler {
+ public:
+  // All outlive the sampler.
+  InterfaceSampler(platform::InterfaceTable& interface_table, platform::Locale& locale,
+                   settings::Store& store, Statistics& statistics, TrafficState& state)
+      : reader_(interface_table),
+        locale_(locale),
+        store_(store),
+        statistics_(statistics),
+        state_(state) {}
+
+  // Reads the table, seeds the counters of every row from it, so that the next scan counts from
+  // here, and stores the adapter data. Returns the adapters that the menus list, in row order.
+  // Throws what the store throws; the table then counts as not initialised.
+  [[nodiscard]] std::vector<AdapterItem> InitAdapters();
+
+  // Reads the table; whether its row count differs from that of the last InitAdapters.
+  [[nodiscard]] bool RowCountChanged();
+
+  // Reads the table and measures one scan; for each row that is to be persisted stores the adapter
+  // data and updates its statistics.
+  //   today  midnight of the local date
+  // Throws what the store throws. The counters of all rows are up to date then, so the bytes of
+  // this scan are not counted by a later one.
+  [[nodiscard]] ScanAmounts SampleInterfaces(platform::DateTime today);
+
+  // Takes the present counters as those of the previous scan. For the return from sleep, when
+  // drivers may have started theirs anew and a difference is no traffic.
+  void TakePresentCounters();
+
+  // The adapters' descriptions by row of the table as last read.
+  [[nodiscard]] std::vector<std::string> Descriptions() const;
+
+ private:
+  [[nodiscard]] bool CountersFitTable() const;
+  void CountRow(std::size_t row, platform::DateTime today, ScanAmounts& scan);
+
+  InterfaceReader reader_;
+  platform::Locale& locale_;
+  settings::Store& store_;
+  Statistics& statistics_;
+  TrafficState& state_;
+};
+
+}  // namespace engine

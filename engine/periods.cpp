@@ -1,0 +1,73 @@
+#include "engine/periods.h"
+
+#include <cstdint>
+
+#include "engine/week_number.h"
+
+namespace engine {
+namespace {
+
+namespace setting = settings::setting;
+
+MarkerAge DayAge(platform::DateTime today, platform::DateTime marker) {
+  return marker == today ? MarkerAge::kSame : MarkerAge::kNext;
+}
+
+MarkerAge WeekAge(std::int64_t week, std::int64_t marker) {
+  const std::int64_t difference = week - marker;
+  if (difference >= 2 || difference < 0) return MarkerAge::kFar;
+  return difference == 0 ? MarkerAge::kSame : MarkerAge::kNext;
+}
+
+// Unlike a week, a month that is one lower waits for its start day as well.
+MarkerAge MonthAge(std::int64_t month, std::int64_t marker) {
+  const std::int64_t difference = month - marker;
+  if (difference >= 2 || difference <= -2) return MarkerAge::kFar;
+  return difference == 0 ? MarkerAge::kSame : MarkerAge::kNext;
+}
+
+}  // namespace
+
+Periods::Periods(settings::Store& store, platform::DateTime today)
+    : store_(store), today_(today), week_(WeekOfYear(today)), date_(platform::DecodeDate(today)) {}
+
+MarkerAge Periods::Age(Period period) const {
+  switch (period) {
+    case Period::kDay:
+      return DayAge(today_, store_.Read(setting::CurrentDay, today_));
+    case Period::kWeek:
+      return WeekAge(week_, store_.Read(setting::CurrentWeek));
+    case Period::kMonth:
+      break;
+  }
+  return MonthAge(date_.month, store_.Read(setting::CurrentMonth));
+}
+
+bool Periods::HasStarted(Period period) const {
+  switch (period) {
+    case Period::kDay:
+      return true;
+    case Period::kWeek:
+      return platform::DayOfWeek(today_) >= store_.Read(setting::wPerStartsOn);
+    case Period::kMonth:
+      break;
+  }
+  // The scan's own default: without a stored day the month starts on the 1st.
+  return date_.day >= store_.ReadWith(setting::mPerStartsOn, 0) + 1;
+}
+
+void Periods::WriteMarker(Period period) const {
+  switch (period) {
+    case Period::kDay:
+      store_.Write(setting::CurrentDay, today_);
+      break;
+    case Period::kWeek:
+      store_.Write(setting::CurrentWeek, week_);
+      break;
+    case Period::kMonth:
+      store_.Write(setting::CurrentMonth, date_.month);
+      break;
+  }
+}
+
+}  // namespace engine

@@ -1,0 +1,45 @@
+// When a day, week or month of the statistics is over.
+#pragma once
+
+#include "platform/date_time.h"
+#include "settings/store.h"
+
+namespace engine {
+
+enum class Period { kDay, kWeek, kMonth };
+
+// How a stored marker ("CurrentDay", "CurrentWeek", "CurrentMonth") stands to today.
+enum class MarkerAge {
+  kSame,  // today's
+  kNext,  // a neighbour: the period is over once its start day is reached
+  kFar,   // too far away to wait for a start day
+};
+
+// The rules of the periods on one date. The markers are the same for the machine and all adapters.
+class Periods {
+ public:
+  //   today  midnight of the local date
+  Periods(settings::Store& store, platform::DateTime today);
+
+  // Reads the marker.
+  //   day    another date is kNext, and every day has begun: it rolls over at once.
+  //   week   one number higher is kNext; lower (a new year, a clock set back) or further is kFar.
+  //   month  one number higher or lower is kNext, all else kFar: from 12 to 1 rolls over at once.
+  [[nodiscard]] MarkerAge Age(Period period) const;
+
+  // Whether today is the start day of the new period or behind it. Reads "wPerStartsOn" (1 = Sunday
+  // ... 7 = Saturday, smaller ones mean the day on which the week number changes) or "mPerStartsOn"
+  // (the month starts on the day after that one).
+  [[nodiscard]] bool HasStarted(Period period) const;
+
+  // Makes today's the current period.
+  void WriteMarker(Period period) const;
+
+ private:
+  settings::Store& store_;
+  platform::DateTime today_;
+  int week_;
+  platform::CivilDate date_;
+};
+
+}  // namespace engine

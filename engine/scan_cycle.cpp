@@ -1,0 +1,71 @@
+#include "engine/scan_cycle.h"
+
+#include <utility>
+
+#include "settings/counter_text.h"
+
+namespace engine {
+namespace {
+
+// The graph's inputs have 32 bits: what does not fit is cut off.
+std::int32_t GraphInput(std::int64_t bytes) {
+  return static_cast<std::int32_t>(static_cast<std::uint32_t>(settings::WrappingAbs(bytes)));
+}
+
+}  // namespace
+
+// Puts the stage back, also when a step throws.
+class ScanCycle::StageScope {
+ public:
+  StageScope(Stage& stage, Stage during) : stage_(stage), before_(std::exchange(stage, during)) {}
+  ~StageScope() { stage_ = before_; }
+  StageScope(const StageScope&) = delete;
+  StageScope& operator=(const StageScope&) = delete;
+
+ private:
+  Stage& stage_;
+  Stage before_;
+};
+
+// The order of a scan is this function, top to bottom. The amounts are its own: they end with it,
+// so nothing has to be zeroed at the end, and a scan that runs inside the bandwidth step counts
+// only its own bytes.
+void ScanCycle::Run() {
+  if (stage_ == Stage::kBusy) return;
+  const StageScope scope(stage_, Stage::kBusy);
+  const platform::DateTime today = platform::DateOf(clock_.Now());
+
+  ReinitialiseIfRowsChanged();
+  const ScanAmounts scan = sampler_.SampleInterfaces(today);
+  FeedGraph(scan);
+  state_.AddToRunTotals(scan);
+  statistics_.UpdateMachineMaxima(scan);
+  steps_.ShowIcon(scan);
+  steps_.ShowKeyboardLights(scan);
+  steps_.CheckNotifications(scan);
+  steps_.ShowNumericLine(scan);
+  steps_.Tick(scan);
+  statistics_.UpdateMachinePeriods(scan, today);
+  CheckBandwidthAlert();
+}
+
+void ScanCycle::ReinitialiseIfRowsChanged() {
+  if (!sampler_.RowCountChanged()) return;
+  try {
+    steps_.Reinitialise();
+  } catch (...) {
+    state_.AdapterHigh = kNotInitialised;  // the next scan tries again
+    throw;
+  }
+}
+
+void ScanCycle::FeedGraph(const ScanAmounts& scan) {
+  steps_.FeedGraph(GraphInput(scan.ScanSumDL), GraphInput(scan.ScanSumUL));
+}
+
+void ScanCycle::CheckBandwidthAlert() {
+  const StageScope scope(stage_, Stage::kInBandwidthStep);
+  steps_.CheckBandwidthAlert();
+}
+
+}  // namespace engine

@@ -1,0 +1,44 @@
+// The statistics that outlive a run: read, changed and written back within each scan.
+#pragma once
+
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "engine/counter_group.h"
+#include "engine/periods.h"
+#include "engine/traffic_state.h"
+#include "platform/date_time.h"
+#include "settings/store.h"
+
+namespace engine {
+
+// All of it throws what the store throws: settings::ConversionError for a stored counter that is no
+// number, std::runtime_error for a refused write. What was written before stays.
+class Statistics {
+ public:
+  explicit Statistics(settings::Store& store) : store_(store) {}
+
+  // Counts the start. The very first one also sets the period markers and includes every adapter.
+  //   descriptions  of all rows of the interface table, the loopback's too
+  //   now           local date and time
+  void InitStatistics(std::span<const std::string> descriptions, platform::DateTime now);
+
+  // Of one adapter, in a scan that persists it. It compares with the machine's period markers and
+  // does not write them, so that all adapters of the scan roll over together; one that is not
+  // persisted in that scan misses the reset and goes on adding to the old values.
+  //   today  midnight of the local date
+  void UpdateAdapterStatistics(std::string_view description, const AdapterCounters& counters,
+                               platform::DateTime today);
+
+  // The machine's part of a scan is two steps, since others run between them.
+  void UpdateMachineMaxima(const ScanAmounts& scan);
+  void UpdateMachinePeriods(const ScanAmounts& scan, platform::DateTime today);
+
+ private:
+  void RollOver(const Periods& periods, Period period, const CounterGroup& group);
+
+  settings::Store& store_;
+};
+
+}  // namespace engine

@@ -1,0 +1,30 @@
+#include "settings/counter_text.h"
+
+#include <charconv>
+
+namespace settings {
+
+ConversionError::ConversionError(std::string_view text)
+    : std::runtime_error("'" + std::string(text) + "' is not a valid integer value") {}
+
+std::int64_t ParseCounter(std::string_view text) {
+  std::string_view digits = text;
+  // from_chars knows the minus sign only; "+-5" must stay an error.
+  if (digits.starts_with('+')) {
+    digits.remove_prefix(1);
+    if (digits.starts_with('-')) throw ConversionError(text);
+  }
+  std::int64_t value = 0;
+  const char* const end = digits.data() + digits.size();
+  const auto [stop, error] = std::from_chars(digits.data(), end, value);
+  if (error != std::errc() || stop != end) throw ConversionError(text);
+  return value;
+}
+
+std::string CounterText(std::int64_t value) {
+  // The smallest number has no absolute value in 64 bits. Its text keeps the sign, so that what is
+  // written can be read again: digits beyond the range would fail every later scan.
+  return std::to_string(WrappingAbs(value));
+}
+
+}  // namespace settings

@@ -1,0 +1,33 @@
+// 64-bit byte counters as the decimal texts that the registry keeps.
+#pragma once
+
+#include <cstdint>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+namespace settings {
+
+// A stored text that should be a number is none: "'abc' is not a valid integer value".
+class ConversionError : public std::runtime_error {
+ public:
+  explicit ConversionError(std::string_view text);
+};
+
+// An optional sign and decimal digits that fit into 64 bits; throws ConversionError for anything
+// else, also for an empty text or one with blanks.
+[[nodiscard]] std::int64_t ParseCounter(std::string_view text);
+
+// The decimal digits of the absolute value.
+[[nodiscard]] std::string CounterText(std::int64_t value);
+
+// Sum and absolute value modulo 2^64; a counter at its end wraps instead of stopping the program.
+// The absolute value of the smallest number is that number itself.
+[[nodiscard]] constexpr std::int64_t WrappingAdd(std::int64_t a, std::int64_t b) {
+  return static_cast<std::int64_t>(static_cast<std::uint64_t>(a) + static_cast<std::uint64_t>(b));
+}
+[[nodiscard]] constexpr std::int64_t WrappingAbs(std::int64_t value) {
+  return value < 0 ? static_cast<std::int64_t>(0 - static_cast<std::uint64_t>(value)) : value;
+}
+
+}  // namespace settings
