@@ -14,8 +14,8 @@ class SingleInstance : public platform::SingleInstance {
   explicit SingleInstance(Notebook& notebook) : notebook_(notebook) {}
 
   [[nodiscard]] bool ClaimFirst(std::string_view name) override {
-    // A mutex that cannot be made counts as first.
-    if (notebook_.Fails()) return true;
+    // A mutex that cannot be made counts as first; a backslash would name a space that is missing.
+    if (notebook_.Fails() || name.find('\\') != std::string_view::npos) return true;
     return taken_.emplace(name).second;
   }
 

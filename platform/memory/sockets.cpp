@@ -22,8 +22,10 @@ std::optional<std::vector<std::string>> Sockets::HostAddresses(std::string_view 
   ++look_ups;
   if (during_look_up) during_look_up();
   if (notebook_.Fails() || running_ == 0) return std::nullopt;
-  // Names are compared without case; an empty name is the machine itself.
-  if (!host.empty() && AsciiLower(host) != AsciiLower(host_name)) return std::nullopt;
+  const std::string name = AsciiLower(host);
+  if (name == "localhost") return std::vector<std::string>{"127.0.0.1"};
+  // An empty name is the machine itself.
+  if (!name.empty() && name != AsciiLower(host_name)) return std::nullopt;
   return addresses;
 }
 

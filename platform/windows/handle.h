@@ -1,9 +1,8 @@
-// An owner for the system's handles.
+// An owner for the system's handles. Knows nothing of the system itself, so that it is tested
+// everywhere; the kinds stand with the services that use them.
 #pragma once
 
 #include <utility>
-
-#include "platform/windows/win32.h"
 
 namespace platform::windows {
 

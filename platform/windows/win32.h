@@ -2,6 +2,8 @@
 // rename whatever bears the name of a call.
 #pragma once
 
-// winsock2.h must come before windows.h; it includes that one itself.
-#include <windows.h>
+// In this order: the sockets' header first, or windows.h declares an older one beside it.
+// clang-format off
 #include <winsock2.h>
+#include <windows.h>
+// clang-format on

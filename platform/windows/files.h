@@ -1,0 +1,19 @@
+// Files by their wide calls.
+#pragma once
+
+#include "platform/files.h"
+
+namespace platform::windows {
+
+class Files : public platform::Files {
+ public:
+  [[nodiscard]] std::string ProgramPath() override;
+  [[nodiscard]] std::string ProgramFolder() override;
+  [[nodiscard]] bool Exists(std::string_view path) override;
+  [[nodiscard]] std::optional<std::string> Load(std::string_view path, std::size_t limit) override;
+  bool Save(std::string_view path, std::string_view bytes) override;
+  [[nodiscard]] std::vector<std::string> List(std::string_view folder,
+                                              std::string_view mask) override;
+};
+
+}  // namespace platform::windows
