@@ -1,5 +1,6 @@
 #include "engine/program.h"
 
+#include "engine/product.h"
 #include "settings/first_start.h"
 #include "settings/store.h"
 

@@ -3,15 +3,11 @@
 
 #include <functional>
 #include <memory>
-#include <string_view>
 
 #include "engine/traffic_state.h"
 #include "platform/platform.h"
 
 namespace engine {
-
-// Title of the application and name of the mutex that keeps a second copy from running.
-inline constexpr std::string_view kProductTitle = "Korvane Tremolux";
 
 // The meter window, as far as the program entry needs it.
 class MeterWindow {
