@@ -11,5 +11,6 @@ if(EXISTS ${CMAKE_SOURCE_DIR}/engine/main.cpp)
   enable_language(RC)
   add_executable(Tremolux WIN32 engine/main.cpp assets/tremolux.rc)
   target_link_libraries(Tremolux PRIVATE preferences windows)
-  target_link_options(Tremolux PRIVATE -municode -s)
+  # The entry lies in the windows library, which is searched before anything asks for it.
+  target_link_options(Tremolux PRIVATE -municode -s -Wl,-u,wWinMain)
 endif()

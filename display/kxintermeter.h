@@ -73,6 +73,8 @@ class TKxInterMeter : public toolkit::Control {
 
   // Empties the history.
   void Clear();
+  // A new picture of the same, as when the system's colours changed.
+  void Refresh() { Changed(); }
 
   // The bytes received and sent in the current tick. SetTestWrite comes last and completes the
   // sample; a negative amount is drawn as none.
@@ -86,7 +88,6 @@ class TKxInterMeter : public toolkit::Control {
 
   // Bevel and border widths on one side, in real pixels.
   [[nodiscard]] int FramePixels();
-  // The scale's upper edge as it stands, in bytes per second.
   [[nodiscard]] const std::deque<GraphSample>& History() const { return history_; }
 
  protected:

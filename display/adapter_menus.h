@@ -1,0 +1,39 @@
+// The two submenus that list the network adapters.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "engine/interface_sampler.h"
+#include "settings/store.h"
+#include "toolkit/popup_menu.h"
+
+namespace display {
+
+class AdapterMenus {
+ public:
+  // All outlive the menus.
+  AdapterMenus(settings::Store& store, toolkit::MenuItem& statistics, toolkit::MenuItem& sources)
+      : store_(store), statistics_(statistics), sources_(sources) {}
+
+  // Removes all items of both submenus.
+  void Clear();
+
+  // Adds an item for each adapter to both submenus.
+  void Add(const std::vector<engine::AdapterItem>& adapters);
+
+  // Opens the statistics window of the adapter with this description; while it is empty the items
+  // of "Connection Statistics" are disabled.
+  std::function<void(const std::string& description)> OpenStatistics;
+
+ private:
+  void MyPopupHandler(toolkit::MenuItem& item);
+  void MyPopupHandler2(const toolkit::MenuItem& item);
+
+  settings::Store& store_;
+  toolkit::MenuItem& statistics_;
+  toolkit::MenuItem& sources_;
+};
+
+}  // namespace display

@@ -1,0 +1,14 @@
+// The grid over the graph.
+#pragma once
+
+#include "platform/canvas.h"
+#include "settings/store.h"
+
+namespace display {
+
+// Draws the horizontal and vertical lines that are switched on, over the whole canvas.
+//   frame  pixels that the frame takes on each side; vertical lines stay inside it
+//   dpi    of the screen; the stored spacings are pixels at 96
+void DrawGridLines(platform::Canvas& canvas, settings::Store& store, int frame, int dpi);
+
+}  // namespace display

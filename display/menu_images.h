@@ -1,0 +1,19 @@
+// The pictures of the main menu.
+#pragma once
+
+#include "toolkit/image_list.h"
+
+namespace display {
+
+// Indices into MenuImages; that of the adapters is part of the menu's design.
+inline constexpr int kStatisticsImage = 0;
+inline constexpr int kGraphImage = 1;
+inline constexpr int kAdapterImage = 2;
+inline constexpr int kSourcesImage = 3;
+inline constexpr int kSettingsImage = 4;
+inline constexpr int kHelpImage = 5;
+inline constexpr int kExitImage = 6;
+
+extern const toolkit::ImageList kMenuImages;
+
+}  // namespace display

@@ -1,0 +1,94 @@
+#include "display/numeric_line.h"
+
+#include "engine/product.h"
+#include "settings/counter_text.h"
+
+namespace display {
+namespace {
+
+constexpr std::string_view kSection = "MainForm";
+
+}  // namespace
+
+void NumericLine::SetAveragePeriod(std::int64_t scans) {
+  if (scans == AvarageTime) return;
+  AvarageTime = scans;
+  scans_summed_ = 0;
+  ClearSums();
+}
+
+void NumericLine::ClearSums() {
+  sum_dl_ = 0;
+  sum_ul_ = 0;
+}
+
+void NumericLine::Reset() {
+  const bool bits = store_.Read(settings::setting::ScaleUnit) != 0;
+  // "kbit" in the first text and "kbits" in the others: the first is the text that the formatting
+  // gives for zero, the others are wordings of their own. Both stay.
+  const std::string zero_kbits = "0,0 kbits";
+  const std::string zero_bytes = "0,0 kB";
+  const std::string& zero = bits ? zero_kbits : zero_bytes;
+  current_.clear();
+  average_.clear();
+  maximum_.clear();
+  if (store_.Read(settings::setting::SOM1)) {
+    current_ = bits ? "[ DL:0,0 kbit UL:0,0 kbit ]" : "[ DL:0,0 kB UL:0,0 kB ]";
+  }
+  if (store_.Read(settings::setting::SOM2)) {
+    average_ =
+        "[ " + language_.Text(kSection, "S1", "Average") + " DL:" + zero + " UL:" + zero + " ]";
+  }
+  if (store_.Read(settings::setting::SOM3)) {
+    maximum_ =
+        "[ " + language_.Text(kSection, "S2", "Max") + " DL:" + zero + " Max UL:" + zero + " ]";
+  }
+}
+
+void NumericLine::Update(const engine::ScanAmounts& scan) {
+  current_.clear();
+  if (store_.Read(settings::setting::SOM1)) {
+    current_ = "[ DL:" + Amount(scan.ScanSumDL) + " UL:" + Amount(scan.ScanSumUL) + " ]";
+  }
+  if (store_.Read(settings::setting::SOM2)) {
+    UpdateAverage(scan);
+  } else {
+    average_.clear();
+  }
+  maximum_.clear();
+  if (store_.Read(settings::setting::SOM3)) {
+    // The literal word here, the language's in the initial text.
+    maximum_ = "[ Max DL:" + Amount(scan.ScanMaxDL) + " Max UL:" + Amount(scan.ScanMaxUL) + " ]";
+  }
+}
+
+// The scan at which the average is due is counted nowhere, so with a period of 5 the text changes
+// every sixth scan.
+void NumericLine::UpdateAverage(const engine::ScanAmounts& scan) {
+  if (scans_summed_ < AvarageTime) {
+    sum_dl_ = settings::WrappingAdd(sum_dl_, scan.ScanSumDL);
+    sum_ul_ = settings::WrappingAdd(sum_ul_, scan.ScanSumUL);
+    ++scans_summed_;
+    return;
+  }
+  const std::int64_t divisor = AvarageTime == 0 ? 1 : AvarageTime;
+  average_ = "[ " + language_.Text(kSection, "S1", "Average") + " DL:" + Amount(sum_dl_ / divisor) +
+             " UL:" + Amount(sum_ul_ / divisor) + " ]";
+  scans_summed_ = 0;
+  ClearSums();
+}
+
+std::string NumericLine::Amount(std::int64_t bytes) {
+  return NumberAndUnit(quantity_.FormatQuantity(bytes));
+}
+
+std::string NumericLine::Label() const {
+  std::string joined = Joined();
+  return joined.empty() ? std::string(engine::kProductTitle) : joined;
+}
+
+std::string NumericLine::TrayHint() const {
+  return std::string(engine::kProductTitle) + " " + Joined();
+}
+
+}  // namespace display

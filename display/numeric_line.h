@@ -1,0 +1,60 @@
+// The numeric line: current, average and maximum amounts as text.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "display/quantity/quantity.h"
+#include "engine/traffic_state.h"
+#include "settings/language.h"
+#include "settings/store.h"
+
+namespace display {
+
+class NumericLine {
+ public:
+  // All outlive the line.
+  NumericLine(settings::Store& store, Quantity& quantity, const settings::Language& language)
+      : store_(store), quantity_(quantity), language_(language) {}
+
+  // The averaging period in scans. Another one than before starts the average anew.
+  void SetAveragePeriod(std::int64_t scans);
+
+  // The texts of an idle line, each only if its mode is on.
+  void Reset();
+
+  // Takes the amounts of one scan and makes the texts of the modes that are on.
+  void Update(const engine::ScanAmounts& scan);
+
+  // Zeroes the sums of the average but leaves its scan counter where it stands.
+  void ClearSums();
+
+  // The texts of the modes that are on, one behind the other; empty with all three off.
+  [[nodiscard]] std::string Joined() const { return current_ + average_ + maximum_; }
+  // What the meter shows: the joined texts or, with all three off, the product's name.
+  [[nodiscard]] std::string Label() const;
+  // What the tray icon's hint says.
+  [[nodiscard]] std::string TrayHint() const;
+
+  // Replaces the average text until the average is next due.
+  void SetAverageText(std::string text) { average_ = std::move(text); }
+
+ private:
+  void UpdateAverage(const engine::ScanAmounts& scan);
+  [[nodiscard]] std::string Amount(std::int64_t bytes);
+
+  settings::Store& store_;
+  Quantity& quantity_;
+  const settings::Language& language_;
+
+  std::string current_;
+  std::string average_;
+  std::string maximum_;
+
+  std::int64_t AvarageTime = 5;  // scans
+  std::int64_t scans_summed_ = 0;
+  std::int64_t sum_dl_ = 0;
+  std::int64_t sum_ul_ = 0;
+};
+
+}  // namespace display

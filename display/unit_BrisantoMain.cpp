@@ -1,0 +1,266 @@
+#include "display/unit_BrisantoMain.h"
+
+#include "display/display_settings.h"
+#include "display/grid_lines.h"
+#include "engine/local_ip.h"
+#include "engine/product.h"
+#include "toolkit/application.h"
+#include "toolkit/design_pixels.h"
+#include "toolkit/placement.h"
+
+namespace display {
+namespace {
+
+namespace setting = settings::setting;
+
+// Design pixels.
+constexpr platform::Rect kDesignBounds{761, 128, 274, 135};
+constexpr platform::Size kSmallest{150, 25};
+constexpr platform::Size kLargest{350, 200};
+constexpr int kPanelHeight = 17;
+
+// Display modes as stored in "WindowMode".
+constexpr std::int64_t kGraphMode = 0;
+constexpr std::int64_t kTextMode = 1;
+constexpr std::int64_t kTextAndGraphMode = 2;
+
+// The sizeable tool window made bare: a thin frame and no caption bar.
+platform::TopWindowParams CreateParams() {
+  platform::TopWindowParams params;
+  params.name = "T_frmBrisanto";
+  params.caption = engine::kProductTitle;
+  params.frame = platform::Frame::kSizeableTool;
+  params.bare_popup = true;
+  return params;
+}
+
+int LabelPoints(int window_width) {
+  if (window_width < 126) return 6;
+  return window_width <= 175 ? 7 : 8;
+}
+
+}  // namespace
+
+T_frmBrisanto::T_frmBrisanto(toolkit::Application& app)
+    : Form(app, CreateParams()),
+      error_log_(app.Platform().files, CommonMemo),
+      RegME(app.Platform().registry, app.Platform().files),
+      quantity_(RegME, app.Platform().locale),
+      statistics_(RegME),
+      sampler_(app.Platform().interface_table, app.Platform().locale, RegME, statistics_, traffic_),
+      scan_cycle_(app.Platform().clock, sampler_, statistics_, traffic_, *this),
+      _MainMenu(app),
+      adapter_menus_(RegME, *_MainMenu.conenctionMonitor1, *_MainMenu.ConnectionSources1),
+      _tlkInterMeter(*this, "_tlkInterMeter"),
+      pnlContain(*this, "pnlContain"),
+      _tlkDLULMeter(pnlContain, "_tlkDLULMeter"),
+      numeric_line_(RegME, quantity_, _ReadLangauge) {
+  DesignControls();
+  ConnectHandlers();
+  // A step that fails is logged; the rest of the program starts all the same, and the first scan
+  // makes the initialisation again.
+  app.Guard([this] { FormCreate(); });
+  Show(platform::Activation::kLeaveFocus);
+  _tlkInterMeter.Activate(true);
+}
+
+T_frmBrisanto::~T_frmBrisanto() { App().SetExceptionHandler(nullptr); }
+
+void T_frmBrisanto::DesignControls() {
+  RestrictSize();
+  const int dpi = Dpi();
+  const platform::Rect bounds{kDesignBounds.left, kDesignBounds.top,
+                              toolkit::ScaleTo(dpi, kDesignBounds.width),
+                              toolkit::ScaleTo(dpi, kDesignBounds.height)};
+  SetWindowBounds(toolkit::BroughtIntoView(bounds, App().Platform().screen));
+
+  _tlkInterMeter.SetCaption("Traffic");
+  _tlkInterMeter.SetAlign(toolkit::Align::kClient);
+  pnlContain.SetBevels(toolkit::BevelCut::kNone, toolkit::BevelCut::kLowered);
+  pnlContain.SetBounds({0, 0, 0, kPanelHeight});
+  pnlContain.SetAlign(toolkit::Align::kBottom);
+  _tlkDLULMeter.SetColour(platform::colour::kWhite);
+  _tlkDLULMeter.SetCaption("[ DL:0,0 kB UL:0,0 kB ]");
+  _tlkDLULMeter.SetAlign(toolkit::Align::kClient);
+  SetPopupMenu(&_MainMenu.popup);
+}
+
+void T_frmBrisanto::ConnectHandlers() {
+  _tlkInterMeter.OnScan = [this] { _tlkInterMeterScan(); };
+  _tlkInterMeter.OnDisplay = [this](platform::Canvas& canvas) { _tlkInterMeterDisplay(canvas); };
+  _tlkInterMeter.OnMouseMoved = [this](const auto& event) { _tlkInterMeterMouseMove(event); };
+  _tlkDLULMeter.OnMouseMoved = [this](const auto& event) { _tlkDLULMeterMouseMove(event); };
+  for (toolkit::Control* control :
+       std::initializer_list<toolkit::Control*>{&_tlkInterMeter, &pnlContain, &_tlkDLULMeter}) {
+    control->OnDblClick = [this] { _TrayIconClick(); };
+  }
+
+  _MainMenu.mnuAlwaysTopOn->OnClick = [this] { mnuAlwaysTopOnClick(); };
+  _MainMenu.ShowHide1->OnClick = [this] { _TrayIconClick(); };
+  _MainMenu.mnuGraphMode->OnClick = [this] { mnuGraphModeClick(); };
+  _MainMenu.mnuTextMode->OnClick = [this] { mnuTextModeClick(); };
+  _MainMenu.mnuTextandGraph->OnClick = [this] { mnuTextandGraphClick(); };
+  _MainMenu.Clear1->OnClick = [this] { Clear1Click(); };
+  _MainMenu.Close1->OnClick = [this] { Close1Click(); };
+  // What they open is not there yet.
+  for (toolkit::MenuItem* item :
+       {_MainMenu.ConnectionInformations1, _MainMenu.ShowHide1, _MainMenu.Transparent1,
+        _MainMenu.mnuTransparent2k, _MainMenu.Settings1, _MainMenu.HelpContents1,
+        _MainMenu.AboutBrisantoXP1}) {
+    item->Enabled = false;
+  }
+}
+
+void T_frmBrisanto::FormCreate() {
+  App().SetExceptionHandler([this](std::string_view message) { error_log_.Append(message); });
+  traffic_.AdapterHigh = engine::kNotInitialised;
+  ApplyDisplaySettings();
+  InitAdapters();
+  statistics_.InitStatistics(sampler_.Descriptions(), App().Platform().clock.Now());
+  engine::CopyLocalIPIfWanted(RegME, App().Platform().sockets, App().Platform().clipboard);
+  App().Platform().windowing.HideTaskbarButton();
+}
+
+void T_frmBrisanto::InitAdapters() { adapter_menus_.Add(sampler_.InitAdapters()); }
+
+void T_frmBrisanto::ApplyDisplaySettings() {
+  ApplyGraphAppearance(RegME, _tlkInterMeter);
+  ApplyHints(RegME, App().Hints());
+  ApplyScale(RegME, _tlkInterMeter, traffic_.SpeedCap);
+  ApplyLabelAppearance(RegME, _tlkDLULMeter);
+  numeric_line_.SetAveragePeriod(RegME.Read(setting::AvarageTime));
+  numeric_line_.Reset();
+  ShowLine();
+  ApplyAlwaysOnTop();
+  ApplyWindowMode();
+}
+
+void T_frmBrisanto::ApplyAlwaysOnTop() {
+  const bool on_top = RegME.Read(setting::AlwaysTopOn);
+  _MainMenu.mnuAlwaysTopOn->SetChecked(on_top);
+  Window().SetTopmost(on_top);
+}
+
+void T_frmBrisanto::ApplyWindowMode() {
+  const std::int64_t mode = RegME.Read(setting::WindowMode);
+  if (mode == kGraphMode) mnuGraphModeClick();
+  if (mode == kTextMode) mnuTextModeClick();
+  if (mode == kTextAndGraphMode) mnuTextandGraphClick();
+}
+
+void T_frmBrisanto::_tlkInterMeterScan() { scan_cycle_.Run(); }
+
+void T_frmBrisanto::_tlkInterMeterDisplay(platform::Canvas& canvas) {
+  DrawGridLines(canvas, RegME, _tlkInterMeter.FramePixels(), Dpi());
+}
+
+void T_frmBrisanto::_tlkInterMeterMouseMove(const platform::MouseEvent& event) {
+  if (event.left_down) BeginDrag();
+}
+
+void T_frmBrisanto::_tlkDLULMeterMouseMove(const platform::MouseEvent& event) {
+  if (event.left_down) BeginDrag();
+}
+
+void T_frmBrisanto::mnuGraphModeClick() {
+  _MainMenu.mnuGraphMode->SetChecked(true);
+  RegME.Write(setting::WindowMode, kGraphMode);
+  pnlContain.SetVisible(false);
+  _tlkInterMeter.SetVisible(true);
+  _MainMenu.mnuTransparent->Enabled = true;
+}
+
+void T_frmBrisanto::mnuTextModeClick() {
+  _MainMenu.mnuTextMode->SetChecked(true);
+  RegME.Write(setting::WindowMode, kTextMode);
+  _tlkInterMeter.SetVisible(false);
+  pnlContain.SetAlign(toolkit::Align::kClient);
+  pnlContain.SetVisible(true);
+  _MainMenu.mnuTransparent->Enabled = false;
+}
+
+void T_frmBrisanto::mnuTextandGraphClick() {
+  _MainMenu.mnuTextandGraph->SetChecked(true);
+  RegME.Write(setting::WindowMode, kTextAndGraphMode);
+  pnlContain.SetAlign(toolkit::Align::kBottom);
+  pnlContain.SetVisible(true);
+  _tlkInterMeter.SetVisible(true);
+  _MainMenu.mnuTransparent->Enabled = true;
+}
+
+void T_frmBrisanto::mnuAlwaysTopOnClick() {
+  const bool on_top = !_MainMenu.mnuAlwaysTopOn->Checked();
+  _MainMenu.mnuAlwaysTopOn->SetChecked(on_top);
+  RegME.Write(setting::AlwaysTopOn, on_top);
+  Window().SetTopmost(on_top);
+}
+
+void T_frmBrisanto::_TrayIconClick() {
+  // Without an icon in the tray there would be no way back to a hidden window.
+  if (Showing()) return;
+  Show(platform::Activation::kLeaveFocus);
+  App().ShowMainForm = true;
+}
+
+void T_frmBrisanto::Clear1Click() {
+  _tlkInterMeter.Clear();
+  numeric_line_.ClearSums();
+}
+
+void T_frmBrisanto::Close1Click() { FormClose(); }
+
+void T_frmBrisanto::FormClose() { App().Terminate(); }
+
+void T_frmBrisanto::FormResize() {
+  platform::FontSpec font = _tlkDLULMeter.Font();
+  font.height = toolkit::PointsToDesignPixels(LabelPoints(Unscale(WindowBounds().width)));
+  _tlkDLULMeter.SetFont(font);
+  _tlkDLULMeter.Invalidate();
+}
+
+void T_frmBrisanto::FormShow() { _tlkDLULMeter.Invalidate(); }
+
+void T_frmBrisanto::FormDpiChanged() { RestrictSize(); }
+
+void T_frmBrisanto::FormDisplayChange() {
+  // A program that had the full screen may have pushed the meter down.
+  if (_MainMenu.mnuAlwaysTopOn->Checked()) Window().SetTopmost(true);
+}
+
+void T_frmBrisanto::FormResumed() { sampler_.TakePresentCounters(); }
+
+void T_frmBrisanto::FormSettingChange() { _tlkInterMeter.Refresh(); }
+
+void T_frmBrisanto::RestrictSize() {
+  Window().SetSizeLimits({Scale(kSmallest.width), Scale(kSmallest.height)},
+                         {Scale(kLargest.width), Scale(kLargest.height)});
+}
+
+void T_frmBrisanto::ShowLine() { _tlkDLULMeter.SetCaption(numeric_line_.Label()); }
+
+void T_frmBrisanto::Reinitialise() {
+  adapter_menus_.Clear();
+  FormCreate();
+}
+
+void T_frmBrisanto::FeedGraph(std::int32_t TestRead, std::int32_t TestWrite) {
+  _tlkInterMeter.SetTestRead(TestRead);
+  _tlkInterMeter.SetTestWrite(TestWrite);
+}
+
+void T_frmBrisanto::ShowIcon(const engine::ScanAmounts& /*scan*/) {}
+
+void T_frmBrisanto::ShowKeyboardLights(const engine::ScanAmounts& /*scan*/) {}
+
+void T_frmBrisanto::CheckNotifications(const engine::ScanAmounts& /*scan*/) {}
+
+void T_frmBrisanto::ShowNumericLine(const engine::ScanAmounts& scan) {
+  numeric_line_.Update(scan);
+  ShowLine();
+}
+
+void T_frmBrisanto::Tick(const engine::ScanAmounts& /*scan*/) {}
+
+void T_frmBrisanto::CheckBandwidthAlert() {}
+
+}  // namespace display

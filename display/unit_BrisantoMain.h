@@ -1,0 +1,104 @@
+// The meter window: a small window without a caption bar that shows the traffic as a graph, as a
+// line of numbers, or both. It owns and wires all other parts of the program.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "display/adapter_menus.h"
+#include "display/kxintermeter.h"
+#include "display/main_menu.h"
+#include "display/numeric_line.h"
+#include "display/quantity/quantity.h"
+#include "engine/error_log.h"
+#include "engine/interface_sampler.h"
+#include "engine/program.h"
+#include "engine/scan_cycle.h"
+#include "engine/statistics.h"
+#include "engine/traffic_state.h"
+#include "settings/language.h"
+#include "settings/store.h"
+#include "toolkit/form.h"
+#include "toolkit/label.h"
+#include "toolkit/panel.h"
+
+namespace display {
+
+class T_frmBrisanto final : public toolkit::Form,
+                            public engine::MeterWindow,
+                            private engine::ScanSteps {
+ public:
+  // Made, initialised, shown without taking the focus, and scanning. `app` outlives the window.
+  explicit T_frmBrisanto(toolkit::Application& app);
+  ~T_frmBrisanto() override;
+
+  [[nodiscard]] engine::TrafficState& Traffic() override { return traffic_; }
+
+  // Takes the stored display settings over into all parts: at the start, when the adapters changed,
+  // and after a reset of the settings.
+  void ApplyDisplaySettings();
+
+ private:
+  // The initialisation; run again by the scan when the number of adapters changed, and then it
+  // leaves run totals, counts, sums, visibility, focus, place and the scan's phase alone.
+  void FormCreate();
+  void DesignControls();
+  void ConnectHandlers();
+  void InitAdapters();
+
+  // Handlers.
+  void _tlkInterMeterScan();
+  void _tlkInterMeterDisplay(platform::Canvas& canvas);
+  void _tlkInterMeterMouseMove(const platform::MouseEvent& event);
+  void _tlkDLULMeterMouseMove(const platform::MouseEvent& event);
+  void mnuGraphModeClick();
+  void mnuTextModeClick();
+  void mnuTextandGraphClick();
+  void mnuAlwaysTopOnClick();
+  void _TrayIconClick();
+  void Clear1Click();
+  void Close1Click();
+  void FormClose() override;
+  void FormResize() override;
+  void FormShow() override;
+  void FormDpiChanged() override;
+  void FormDisplayChange() override;
+  void FormResumed() override;
+  void FormSettingChange() override;
+  void RestrictSize();
+
+  // Parts of ApplyDisplaySettings.
+  void ApplyAlwaysOnTop();
+  void ApplyWindowMode();
+  void ShowLine();
+
+  // engine::ScanSteps
+  void Reinitialise() override;
+  void FeedGraph(std::int32_t TestRead, std::int32_t TestWrite) override;
+  void ShowIcon(const engine::ScanAmounts& scan) override;
+  void ShowKeyboardLights(const engine::ScanAmounts& scan) override;
+  void CheckNotifications(const engine::ScanAmounts& scan) override;
+  void ShowNumericLine(const engine::ScanAmounts& scan) override;
+  void Tick(const engine::ScanAmounts& scan) override;
+  void CheckBandwidthAlert() override;
+
+  std::vector<std::string> CommonMemo;
+  engine::ErrorLog error_log_;
+  settings::Store RegME;
+  settings::Language _ReadLangauge;
+  Quantity quantity_;
+
+  engine::TrafficState traffic_;
+  engine::Statistics statistics_;
+  engine::InterfaceSampler sampler_;
+  engine::ScanCycle scan_cycle_;
+
+  MainMenu _MainMenu;
+  AdapterMenus adapter_menus_;
+  TKxInterMeter _tlkInterMeter;
+  toolkit::Panel pnlContain;
+  toolkit::Label _tlkDLULMeter;
+  NumericLine numeric_line_;
+};
+
+}  // namespace display

@@ -1,0 +1,14 @@
+// Where windows may stand.
+#pragma once
+
+#include "platform/geometry.h"
+#include "platform/screen.h"
+
+namespace toolkit {
+
+// `bounds` moved, not sized, so that it lies inside the work area of its monitor; one that is
+// larger starts at the upper left corner.
+[[nodiscard]] platform::Rect BroughtIntoView(const platform::Rect& bounds,
+                                             platform::Screen& screen);
+
+}  // namespace toolkit
