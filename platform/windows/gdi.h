@@ -1,0 +1,75 @@
+// Owners of what GDI hands out, and colours as GDI takes them.
+#pragma once
+
+#include <string_view>
+#include <utility>
+
+#include "platform/colour.h"
+#include "platform/geometry.h"
+#include "platform/windows/handle.h"
+#include "platform/windows/win32.h"
+
+namespace platform::windows {
+
+template <class Object>
+struct GdiObjectKind {
+  using Raw = Object;
+  static constexpr Raw None() { return nullptr; }
+  static void Close(Raw object) { ::DeleteObject(object); }
+};
+using Font = Handle<GdiObjectKind<HFONT>>;
+using Pen = Handle<GdiObjectKind<HPEN>>;
+using GdiBitmap = Handle<GdiObjectKind<HBITMAP>>;
+
+struct MemoryDcKind {
+  using Raw = HDC;
+  static constexpr Raw None() { return nullptr; }
+  static void Close(Raw dc) { ::DeleteDC(dc); }
+};
+using MemoryDc = Handle<MemoryDcKind>;
+
+// An object selected into a device context for as long as this lives. Both must outlive it.
+class Selection {
+ public:
+  Selection(HDC dc, HGDIOBJ object) : dc_(dc), before_(::SelectObject(dc, object)) {}
+  ~Selection() {
+    if (before_ != nullptr) ::SelectObject(dc_, before_);
+  }
+  Selection(const Selection&) = delete;
+  Selection& operator=(const Selection&) = delete;
+
+ private:
+  HDC dc_;
+  HGDIOBJ before_;
+};
+
+// What is changed in a device context while this lives is undone at its end.
+class SavedDc {
+ public:
+  explicit SavedDc(HDC dc) : dc_(dc), level_(::SaveDC(dc)) {}
+  ~SavedDc() {
+    if (level_ != 0) ::RestoreDC(dc_, level_);
+  }
+  SavedDc(const SavedDc&) = delete;
+  SavedDc& operator=(const SavedDc&) = delete;
+
+ private:
+  HDC dc_;
+  int level_;
+};
+
+// The colour as 0x00BBGGRR; a system colour as the user's scheme has it now.
+[[nodiscard]] COLORREF ToColorref(Colour colour);
+
+[[nodiscard]] constexpr RECT ToRect(const Rect& area) {
+  return {area.left, area.top, area.Right(), area.Bottom()};
+}
+[[nodiscard]] constexpr Rect FromRect(const RECT& area) {
+  return {static_cast<int>(area.left), static_cast<int>(area.top),
+          static_cast<int>(area.right - area.left), static_cast<int>(area.bottom - area.top)};
+}
+
+// Fills `area` of `dc`; makes no brush.
+void FillArea(HDC dc, const RECT& area, Colour colour);
+
+}  // namespace platform::windows

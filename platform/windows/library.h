@@ -1,0 +1,23 @@
+// Calls that older systems lack, looked up at run time.
+#pragma once
+
+#include "platform/windows/handle.h"
+#include "platform/windows/win32.h"
+
+namespace platform::windows {
+
+struct LibraryKind {
+  using Raw = HMODULE;
+  static constexpr Raw None() { return nullptr; }
+  static void Close(Raw module) { ::FreeLibrary(module); }
+};
+using Library = Handle<LibraryKind>;
+
+// The function of `module` with this name as a `Pointer`; null when either is missing.
+template <class Pointer>
+[[nodiscard]] Pointer Function(HMODULE module, const char* name) {
+  if (module == nullptr) return nullptr;
+  return reinterpret_cast<Pointer>(reinterpret_cast<void*>(::GetProcAddress(module, name)));
+}
+
+}  // namespace platform::windows

@@ -1,0 +1,54 @@
+// The real machine: every service of Windows that the program uses.
+#pragma once
+
+#include "platform/platform.h"
+#include "platform/windows/clipboard.h"
+#include "platform/windows/clock.h"
+#include "platform/windows/drawing.h"
+#include "platform/windows/files.h"
+#include "platform/windows/graphics.h"
+#include "platform/windows/interface_table.h"
+#include "platform/windows/locale.h"
+#include "platform/windows/menus.h"
+#include "platform/windows/message_loop.h"
+#include "platform/windows/registry.h"
+#include "platform/windows/screen.h"
+#include "platform/windows/single_instance.h"
+#include "platform/windows/sockets.h"
+#include "platform/windows/timers.h"
+#include "platform/windows/windowing.h"
+
+namespace platform::windows {
+
+// Made and used on one thread, one at a time: its window classes belong to the process.
+class Machine {
+ public:
+  // Throws std::runtime_error when the system has no windows to give.
+  Machine() = default;
+  Machine(const Machine&) = delete;
+  Machine& operator=(const Machine&) = delete;
+
+  [[nodiscard]] Platform& platform() { return platform_; }
+
+ private:
+  InterfaceTable interface_table_;
+  Registry registry_;
+  Sockets sockets_;
+  SingleInstance single_instance_;
+  Clock clock_;
+  Files files_;
+  Locale locale_;
+  Clipboard clipboard_;
+  Screen screen_;
+  MessageLoop message_loop_;
+  Drawing drawing_;  // before those that draw
+  Graphics graphics_{drawing_.fonts};
+  Windowing windowing_{drawing_};
+  Menus menus_{drawing_};
+  Timers timers_;
+  Platform platform_{interface_table_, registry_,     sockets_,   single_instance_, clock_,
+                     files_,           locale_,       clipboard_, windowing_,       menus_,
+                     timers_,          message_loop_, screen_,    graphics_};
+};
+
+}  // namespace platform::windows

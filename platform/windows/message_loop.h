@@ -1,0 +1,30 @@
+// The message loop of the thread.
+#pragma once
+
+#include "platform/message_loop.h"
+#include "platform/windows/win32.h"
+
+namespace platform::windows {
+
+class MessageLoop final : public platform::MessageLoop {
+ public:
+  MessageLoop() = default;
+  ~MessageLoop() override;
+  MessageLoop(const MessageLoop&) = delete;
+  MessageLoop& operator=(const MessageLoop&) = delete;
+
+  bool RunUntil(const std::function<bool()>& done) override;
+  bool ProcessPending() override;
+  void Quit() override;
+
+ private:
+  // Delivers one message, and what other threads have sent. False when none was waiting.
+  bool DeliverOne();
+  // Leaves one RunUntil.
+  void Leave();
+
+  bool quit_ = false;
+  int depth_ = 0;  // of running RunUntil
+};
+
+}  // namespace platform::windows

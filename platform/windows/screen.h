@@ -1,0 +1,22 @@
+// Monitors, system colours, the pointer.
+#pragma once
+
+#include "platform/screen.h"
+#include "platform/windows/dpi.h"
+
+namespace platform::windows {
+
+class Screen final : public platform::Screen {
+ public:
+  [[nodiscard]] std::vector<Monitor> Monitors() override;
+  [[nodiscard]] Monitor MonitorOf(const Rect& area) override;
+  [[nodiscard]] Colour Resolve(Colour colour) override;
+  [[nodiscard]] Point Pointer() override;
+
+ private:
+  [[nodiscard]] Monitor Describe(HMONITOR monitor) const;
+
+  MonitorDpi dpi_;
+};
+
+}  // namespace platform::windows

@@ -1,0 +1,187 @@
+#include "platform/windows/top_window.h"
+
+#include "platform/windows/dpi.h"
+#include "platform/windows/wide.h"
+
+namespace platform::windows {
+namespace {
+
+// The system menu's "move", begun by the caption: 61458.
+constexpr WPARAM kMoveByCaption = SC_MOVE | HTCAPTION;
+static_assert(kMoveByCaption == 61458);
+
+WindowStyle StyleOf(const TopWindowParams& params) {
+  constexpr DWORD kAll = WS_POPUP | WS_CLIPCHILDREN | WS_CLIPSIBLINGS;
+  constexpr DWORD kCaption = WS_CAPTION | WS_SYSMENU;
+  WindowStyle style;
+  switch (params.frame) {
+    case Frame::kSizeableTool:
+      style = {kAll | kCaption | WS_THICKFRAME, WS_EX_TOOLWINDOW};
+      break;
+    case Frame::kTool:
+      style = {kAll | kCaption, WS_EX_TOOLWINDOW};
+      break;
+    case Frame::kDialog:
+      style = {kAll | kCaption, WS_EX_DLGMODALFRAME};
+      break;
+    case Frame::kHint:
+      // Only a layered window lets the mouse through to the windows of other programs.
+      return {kAll, WS_EX_TOOLWINDOW | WS_EX_TOPMOST | WS_EX_NOACTIVATE | WS_EX_TRANSPARENT |
+                        WS_EX_LAYERED};
+  }
+  // A caption is a border and a dialog frame; without the latter the border stays.
+  if (params.bare_popup) style.style &= ~static_cast<DWORD>(WS_DLGFRAME);
+  return style;
+}
+
+}  // namespace
+
+TopWindow::TopWindow(const WindowClass& window_class, const TopWindowParams& params, HWND owner,
+                     Drawing& drawing, TopWindowEvents& events)
+    : WidgetOf(drawing, events),
+      events_(events),
+      frame_(params.frame),
+      bare_frame_(params.frame == Frame::kSizeableTool && params.bare_popup) {
+  Create(window_class, StyleOf(params), owner, ToWide(params.caption));
+  if (bare_frame_) BareFrame::TakeOver(hwnd());
+  if (frame_ == Frame::kHint) ::SetLayeredWindowAttributes(hwnd(), 0, 255, LWA_ALPHA);
+  // The system has given a sizeable window its own smallest size, and the frame is to be taken
+  // anew now that the messages arrive here.
+  ::SetWindowPos(hwnd(), nullptr, 0, 0, 0, 0,
+                 SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOOWNERZORDER | SWP_FRAMECHANGED);
+  reported_bounds_ = Bounds();
+  StartReporting();
+}
+
+void TopWindow::Show(Activation activation) {
+  // Not ShowWindow to activate: the first call of a process follows the shortcut that started it.
+  if (activation == Activation::kLeaveFocus) {
+    ::ShowWindow(hwnd(), SW_SHOWNOACTIVATE);
+    return;
+  }
+  ::SetWindowPos(hwnd(), nullptr, 0, 0, 0, 0,
+                 SWP_SHOWWINDOW | SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER);
+  Raise();
+}
+
+void TopWindow::SetTopmost(bool topmost) {
+  const Rect own = Bounds();
+  ::SetWindowPos(hwnd(), topmost ? HWND_TOPMOST : HWND_NOTOPMOST, own.left, own.top, own.width,
+                 own.height, SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE);
+}
+
+bool TopWindow::Topmost() const {
+  return (::GetWindowLongPtrW(hwnd(), GWL_EXSTYLE) & WS_EX_TOPMOST) != 0;
+}
+
+void TopWindow::SetSizeLimits(Size smallest, Size largest) { limits_ = {smallest, largest}; }
+
+void TopWindow::BeginDrag() {
+  // Moves of the mouse may be delivered while the drag goes on, and each of them asks again.
+  if (dragging_) return;
+  dragging_ = true;
+  const Lifetime::Watch watch(lifetime());
+  ::ReleaseCapture();
+  ::SendMessageW(hwnd(), WM_SYSCOMMAND, kMoveByCaption, 0);
+  if (!watch.Gone()) dragging_ = false;
+}
+
+void TopWindow::Raise() {
+  if (::IsIconic(hwnd())) ::ShowWindow(hwnd(), SW_RESTORE);
+  ::SetForegroundWindow(hwnd());
+}
+
+int TopWindow::Dpi() const { return DpiOfWindow(hwnd()); }
+
+std::optional<LRESULT> TopWindow::Handle(const Message& message) {
+  if (const auto answer = HandleKind(message)) return answer;
+  if (Reporting()) {
+    if (const auto answer = HandleWindow(message)) return answer;
+    if (const auto answer = HandleSystem(message)) return answer;
+  }
+  return WidgetOf::Handle(message);
+}
+
+std::optional<LRESULT> TopWindow::HandleKind(const Message& message) {
+  if (frame_ == Frame::kHint) {
+    if (message.id == WM_MOUSEACTIVATE) return MA_NOACTIVATE;
+    if (message.id == WM_NCHITTEST) return HTTRANSPARENT;
+  }
+  if (message.id == WM_GETMINMAXINFO) {
+    LimitSize(*reinterpret_cast<MINMAXINFO*>(message.l));
+    return 0;
+  }
+  return bare_frame_ ? BareFrame::Handle(hwnd(), message, limits_) : std::nullopt;
+}
+
+std::optional<LRESULT> TopWindow::HandleWindow(const Message& message) {
+  switch (message.id) {
+    case WM_CLOSE:
+      events_.OnClose();  // the system would destroy the window
+      return 0;
+    case WM_ACTIVATE:
+      events_.OnActivate(LOWORD(message.w) != WA_INACTIVE);
+      return std::nullopt;
+    case WM_WINDOWPOSCHANGED:
+      return HandlePlaced(message);
+    case WM_DPICHANGED:
+      return HandleDpi(message);
+    default:
+      return std::nullopt;
+  }
+}
+
+std::optional<LRESULT> TopWindow::HandleSystem(const Message& message) {
+  switch (message.id) {
+    case WM_DISPLAYCHANGE:
+      events_.OnDisplayChange();
+      return 0;
+    case WM_POWERBROADCAST:
+      if (message.w == PBT_APMRESUMEAUTOMATIC) events_.OnResume();
+      return TRUE;
+    case WM_QUERYENDSESSION:
+      return TRUE;
+    case WM_ENDSESSION:
+      if (message.w != FALSE) events_.OnEndSession();
+      return 0;
+    case WM_SYSCOLORCHANGE:
+    case WM_THEMECHANGED:
+    case WM_SETTINGCHANGE:
+      // What is painted in system colours looks different now.
+      ::RedrawWindow(hwnd(), nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME | RDW_ALLCHILDREN);
+      events_.OnSettingChange();
+      return 0;
+    default:
+      return std::nullopt;
+  }
+}
+
+LRESULT TopWindow::HandlePlaced(const Message& message) {
+  const Lifetime::Watch watch(lifetime());
+  const LRESULT answer = CallSystem(message);  // reports the size of the client area
+  if (watch.Gone() || hwnd() == nullptr || ::IsIconic(hwnd())) return answer;
+  const Rect bounds = Bounds();
+  if (bounds == reported_bounds_) return answer;
+  reported_bounds_ = bounds;
+  events_.OnPlaced();
+  return answer;
+}
+
+LRESULT TopWindow::HandleDpi(const Message& message) {
+  const Lifetime::Watch watch(lifetime());
+  // The width of the frame depends on the resolution, also where the size does not change.
+  ::SetWindowPos(hwnd(), nullptr, 0, 0, 0, 0,
+                 SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
+  if (watch.Gone()) return 0;
+  events_.OnDpiChanged(LOWORD(message.w), FromRect(*reinterpret_cast<const RECT*>(message.l)));
+  return 0;
+}
+
+void TopWindow::LimitSize(MINMAXINFO& info) const {
+  if (!Reporting()) info.ptMinTrackSize = {0, 0};  // it is made without a size
+  if (limits_.largest == Size{}) return;
+  info.ptMinTrackSize = {limits_.smallest.width, limits_.smallest.height};
+  info.ptMaxTrackSize = {limits_.largest.width, limits_.largest.height};
+}
+
+}  // namespace platform::windows
