@@ -66,15 +66,14 @@ void PaintScale(platform::Canvas& canvas, const GraphLook& look, const platform:
   }
 }
 
+// Edges on a bar of less than three columns would leave nothing of its own colour.
 void PaintBar(platform::Canvas& canvas, const platform::Rect& bar, const BarColours& colours,
               bool edges) {
   canvas.Fill(bar, colours.face);
-  if (!edges) return;
+  if (!edges || bar.width < 3) return;
   canvas.Fill({bar.left, bar.top, bar.width, 1}, colours.light);
-  if (bar.width >= 2) {
-    canvas.Fill({bar.left, bar.top, 1, bar.height}, colours.light);
-    canvas.Fill({bar.Right() - 1, bar.top, 1, bar.height}, colours.shadow);
-  }
+  canvas.Fill({bar.left, bar.top, 1, bar.height}, colours.light);
+  canvas.Fill({bar.Right() - 1, bar.top, 1, bar.height}, colours.shadow);
 }
 
 // The smaller amount stands in front of the larger one and leaves its left column and its top

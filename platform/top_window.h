@@ -40,6 +40,8 @@ class TopWindowEvents : public WidgetEvents {
   virtual void OnResume() {}
   // The Windows session ends now; the process may be gone when this returns.
   virtual void OnEndSession() {}
+  // Esc was pressed and no control of the window wanted it.
+  virtual void OnCancelKey() {}
   // A system colour or setting changed.
   virtual void OnSettingChange() {}
 };

@@ -12,6 +12,8 @@ namespace platform {
 
 enum class MouseButton { kNone, kLeft, kRight, kMiddle };
 
+enum class Key { kUp, kDown, kPageUp, kPageDown, kEnter, kOther };
+
 struct MouseEvent {
   Point at;                                 // client pixels of the widget
   MouseButton button = MouseButton::kNone;  // which one went down or up; none for a move
@@ -39,6 +41,18 @@ class WidgetEvents {
   virtual void OnContextMenu(Point) {}
   // The client area has this size now, whoever changed it.
   virtual void OnResize(Size) {}
+
+  // Native controls (platform/controls.h), only for what the user does:
+  // a button was pressed, a box ticked, a text clicked;
+  virtual void OnClick() {}
+  // the text, the selection or the position changed;
+  virtual void OnChange() {}
+  // a row of a check list was ticked or unticked;
+  virtual void OnCheck(int /*row*/) {}
+  // a key went down in an edit; true keeps it from the control.
+  virtual bool OnKey(Key) { return false; }
+  // the wheel turned over it, in notches away from the user.
+  virtual void OnWheel(int /*notches*/) {}
 };
 
 // A native control. Destroying it removes it from the screen. Calls after the window system took it

@@ -54,6 +54,7 @@ TopWindow::TopWindow(const WindowClass& window_class, const TopWindowParams& par
 }
 
 void TopWindow::Show(Activation activation) {
+  leaves_focus_ = activation == Activation::kLeaveFocus;
   // Not ShowWindow to activate: the first call of a process follows the shortcut that started it.
   if (activation == Activation::kLeaveFocus) {
     ::ShowWindow(hwnd(), SW_SHOWNOACTIVATE);
@@ -107,6 +108,11 @@ std::optional<LRESULT> TopWindow::HandleKind(const Message& message) {
     if (message.id == WM_MOUSEACTIVATE) return MA_NOACTIVATE;
     if (message.id == WM_NCHITTEST) return HTTRANSPARENT;
   }
+  // Wine asks with a click on the menu bar, which the window does not have, whether it takes the
+  // focus that the window manager offers to each window that appears.
+  if (message.id == WM_MOUSEACTIVATE && LOWORD(message.l) == HTMENU && leaves_focus_) {
+    return MA_NOACTIVATE;
+  }
   if (message.id == WM_GETMINMAXINFO) {
     LimitSize(*reinterpret_cast<MINMAXINFO*>(message.l));
     return 0;
@@ -120,6 +126,7 @@ std::optional<LRESULT> TopWindow::HandleWindow(const Message& message) {
       events_.OnClose();  // the system would destroy the window
       return 0;
     case WM_ACTIVATE:
+      leaves_focus_ = false;
       events_.OnActivate(LOWORD(message.w) != WA_INACTIVE);
       return std::nullopt;
     case WM_WINDOWPOSCHANGED:

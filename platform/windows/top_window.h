@@ -38,7 +38,8 @@ class TopWindow final : public WidgetOf<platform::TopWindow> {
   const bool bare_frame_;  // sizeable and without a caption: draws its own frame
   SizeLimits limits_;
   Rect reported_bounds_;
-  bool dragging_ = false;  // inside BeginDrag
+  bool leaves_focus_ = false;  // shown so, and not active since
+  bool dragging_ = false;      // inside BeginDrag
 };
 
 }  // namespace platform::windows
