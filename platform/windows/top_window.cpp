@@ -1,5 +1,7 @@
 #include "platform/windows/top_window.h"
 
+#include <utility>
+
 #include "platform/windows/dpi.h"
 #include "platform/windows/wide.h"
 
@@ -9,6 +11,10 @@ namespace {
 // The system menu's "move", begun by the caption: 61458.
 constexpr WPARAM kMoveByCaption = SC_MOVE | HTCAPTION;
 static_assert(kMoveByCaption == 61458);
+
+// Under Wine a window manager may offer the focus to each window that appears, in milliseconds from
+// then. Whether the window takes it, it is asked with a click on a menu bar, which none has here.
+constexpr ULONGLONG kOffersFocusWithin = 2000;
 
 WindowStyle StyleOf(const TopWindowParams& params) {
   constexpr DWORD kAll = WS_POPUP | WS_CLIPCHILDREN | WS_CLIPSIBLINGS;
@@ -53,10 +59,18 @@ TopWindow::TopWindow(const WindowClass& window_class, const TopWindowParams& par
   StartReporting();
 }
 
+void TopWindow::SetVisible(bool visible) {
+  if (visible && !Visible()) {
+    Show(Activation::kLeaveFocus);
+  } else {
+    WidgetOf::SetVisible(visible);
+  }
+}
+
 void TopWindow::Show(Activation activation) {
-  leaves_focus_ = activation == Activation::kLeaveFocus;
   // Not ShowWindow to activate: the first call of a process follows the shortcut that started it.
   if (activation == Activation::kLeaveFocus) {
+    declines_focus_until_ = ::GetTickCount64() + kOffersFocusWithin;
     ::ShowWindow(hwnd(), SW_SHOWNOACTIVATE);
     return;
   }
@@ -108,9 +122,7 @@ std::optional<LRESULT> TopWindow::HandleKind(const Message& message) {
     if (message.id == WM_MOUSEACTIVATE) return MA_NOACTIVATE;
     if (message.id == WM_NCHITTEST) return HTTRANSPARENT;
   }
-  // Wine asks with a click on the menu bar, which the window does not have, whether it takes the
-  // focus that the window manager offers to each window that appears.
-  if (message.id == WM_MOUSEACTIVATE && LOWORD(message.l) == HTMENU && leaves_focus_) {
+  if (message.id == WM_MOUSEACTIVATE && LOWORD(message.l) == HTMENU && DeclinesFocus()) {
     return MA_NOACTIVATE;
   }
   if (message.id == WM_GETMINMAXINFO) {
@@ -120,13 +132,16 @@ std::optional<LRESULT> TopWindow::HandleKind(const Message& message) {
   return bare_frame_ ? BareFrame::Handle(hwnd(), message, limits_) : std::nullopt;
 }
 
+bool TopWindow::DeclinesFocus() {
+  return ::GetTickCount64() < std::exchange(declines_focus_until_, 0);
+}
+
 std::optional<LRESULT> TopWindow::HandleWindow(const Message& message) {
   switch (message.id) {
     case WM_CLOSE:
       events_.OnClose();  // the system would destroy the window
       return 0;
     case WM_ACTIVATE:
-      leaves_focus_ = false;
       events_.OnActivate(LOWORD(message.w) != WA_INACTIVE);
       return std::nullopt;
     case WM_WINDOWPOSCHANGED:

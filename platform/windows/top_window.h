@@ -13,6 +13,7 @@ class TopWindow final : public WidgetOf<platform::TopWindow> {
   TopWindow(const WindowClass& window_class, const TopWindowParams& params, HWND owner,
             Drawing& drawing, TopWindowEvents& events);
 
+  void SetVisible(bool visible) override;
   void Show(Activation activation) override;
   void SetTopmost(bool topmost) override;
   [[nodiscard]] bool Topmost() const override;
@@ -31,6 +32,8 @@ class TopWindow final : public WidgetOf<platform::TopWindow> {
   [[nodiscard]] std::optional<LRESULT> HandleSystem(const Message& message);
   LRESULT HandlePlaced(const Message& message);
   LRESULT HandleDpi(const Message& message);
+  // Once after it was shown without taking the focus.
+  [[nodiscard]] bool DeclinesFocus();
   void LimitSize(MINMAXINFO& info) const;
 
   TopWindowEvents& events_;
@@ -38,8 +41,8 @@ class TopWindow final : public WidgetOf<platform::TopWindow> {
   const bool bare_frame_;  // sizeable and without a caption: draws its own frame
   SizeLimits limits_;
   Rect reported_bounds_;
-  bool leaves_focus_ = false;  // shown so, and not active since
-  bool dragging_ = false;      // inside BeginDrag
+  ULONGLONG declines_focus_until_ = 0;  // in ticks of the system
+  bool dragging_ = false;               // inside BeginDrag
 };
 
 }  // namespace platform::windows
