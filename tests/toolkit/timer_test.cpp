@@ -1,0 +1,70 @@
+#include "toolkit/timer.h"
+
+#include <gtest/gtest.h>
+
+#include "platform/memory/machine.h"
+#include "toolkit/application.h"
+#include "toolkit/phase_timer.h"
+
+namespace toolkit {
+namespace {
+
+TEST(Timer, IsNotStartedAnewBySwitchingItOnAgain) {
+  platform::memory::Machine machine;
+  Application app(machine.Platform());
+  int ticks = 0;
+  Timer timer(app, 1000, [&] { ++ticks; });
+  timer.SetEnabled(true);
+  for (int i = 0; i < 10; ++i) {
+    machine.timers.Advance(600);
+    timer.SetEnabled(true);
+  }
+  EXPECT_EQ(ticks, 6);
+  timer.SetEnabled(false);
+  machine.timers.Advance(5000);
+  EXPECT_EQ(ticks, 6);
+}
+
+TEST(PhaseTimer, KeepsItsPhaseWhateverEachTickCosts) {
+  platform::memory::Machine machine;
+  Application app(machine.Platform());
+  int ticks = 0;
+  PhaseTimer timer(app, 1000, [&] {
+    ++ticks;
+    machine.timers.Stall(ticks % 7 * 50);
+  });
+  timer.SetActive(true);
+  machine.timers.Advance(600 * 1000);
+  EXPECT_EQ(ticks, 600);
+}
+
+TEST(PhaseTimer, DoesNotMakeUpForTicksThatWereMissed) {
+  platform::memory::Machine machine;
+  Application app(machine.Platform());
+  int ticks = 0;
+  PhaseTimer timer(app, 1000, [&] { ++ticks; });
+  timer.SetActive(true);
+  machine.timers.Stall(10300);
+  machine.timers.Advance(1);
+  EXPECT_EQ(ticks, 1);
+  machine.timers.Advance(698);
+  EXPECT_EQ(ticks, 1) << "the next one is due at a whole second";
+  machine.timers.Advance(1);
+  EXPECT_EQ(ticks, 2);
+}
+
+TEST(PhaseTimer, GoesOnAfterATickThatThrows) {
+  platform::memory::Machine machine;
+  Application app(machine.Platform());
+  int ticks = 0;
+  PhaseTimer timer(app, 1000, [&] {
+    ++ticks;
+    throw 1;
+  });
+  timer.SetActive(true);
+  machine.timers.Advance(3000);
+  EXPECT_EQ(ticks, 3);
+}
+
+}  // namespace
+}  // namespace toolkit
