@@ -1,5 +1,8 @@
 #include "engine/local_ip.h"
 
+#include <cstdint>
+#include <optional>
+
 #include "platform/text.h"
 
 namespace engine {
@@ -7,9 +10,9 @@ namespace engine {
 std::string GetLocalIP(platform::Sockets& sockets) {
   constexpr std::uint16_t kVersion11 = 0x0101;
   if (!sockets.Start(kVersion11)) return {};
-  const auto addresses = sockets.HostAddresses(sockets.HostName());
-  // The library stays started after a failed look-up, as it always did; a next success does not
-  // depend on it.
+  const std::string host = sockets.HostName();
+  const auto addresses = host.empty() ? std::nullopt : sockets.HostAddresses(host);
+  // The library stays started after a failed look-up; it always did, and nothing depends on it.
   if (!addresses) return {};
   std::string last = addresses->empty() ? std::string() : addresses->back();
   sockets.Cleanup();

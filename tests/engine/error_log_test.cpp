@@ -1,0 +1,96 @@
+#include "engine/error_log.h"
+
+#include <gtest/gtest.h>
+
+#include "platform/memory/machine.h"
+
+namespace {
+
+class ErrorLog : public testing::Test {
+ protected:
+  std::string File() { return machine.files.BytesBesideProgram("err.log").value_or("(none)"); }
+
+  platform::memory::Machine machine;
+  std::vector<std::string> memo;
+  engine::ErrorLog log{machine.files, memo};
+  const std::string folder = machine.files.ProgramFolder();
+};
+
+TEST_F(ErrorLog, GrowsByALineAMessage) {
+  log.Append("first");
+  log.Append("second, in \xC3\xBCmlauts");
+  EXPECT_EQ(File(), "first\r\nsecond, in \xC3\xBCmlauts\r\n");
+}
+
+TEST_F(ErrorLog, KeepsTheLinesOfAFileThatIsThere) {
+  struct Row {
+    const char* why;
+    std::string bytes;
+    std::string after;
+  };
+  const Row rows[] = {
+      {"empty", "", "new\r\n"},
+      {"no line end at the end", "a\r\nb", "a\r\nb\r\nnew\r\n"},
+      {"other line ends", "a\nb\rc\n", "a\r\nb\r\nc\r\nnew\r\n"},
+      {"empty lines", "\r\na\r\n\r\n", "\r\na\r\n\r\nnew\r\n"},
+      {"byte order mark",
+       "\xEF\xBB\xBF"
+       "a\r\n",
+       "a\r\nnew\r\n"},
+  };
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.why);
+    memo = {"what the memo held before"};
+    machine.files.PutBesideProgram("err.log", row.bytes);
+    log.Append("new");
+    EXPECT_EQ(File(), row.after);
+  }
+}
+
+TEST_F(ErrorLog, LineBreaksInAMessageBecomeBlanks) {
+  log.Append("one\r\ntwo\nthree\rfour\n");
+  log.Append("half a character: \xC3");
+  EXPECT_EQ(File(), "one two three four \r\nhalf a character: \xEF\xBF\xBD\r\n");
+}
+
+TEST_F(ErrorLog, ADeletedFileComesBackWithTheLinesThatAreKnown) {
+  log.Append("a");
+  log.Append("b");
+  machine.files.Remove(folder + "err.log");
+  log.Append("c");
+  EXPECT_EQ(File(), "a\r\nb\r\nc\r\n");
+}
+
+TEST_F(ErrorLog, WhatCannotBeWrittenIsKeptForLater) {
+  machine.files.SetWritable(folder, false);
+  log.Append("a");
+  log.Append("b");
+  EXPECT_EQ(File(), "(none)");
+  machine.files.SetWritable(folder, true);
+  log.Append("c");
+  EXPECT_EQ(File(), "a\r\nb\r\nc\r\n");
+}
+
+TEST_F(ErrorLog, AFullLogStaysAsItIs) {
+  const std::string full = std::string(engine::kErrorLogLimit - 7, 'x') + "\r\n";
+  machine.files.PutBesideProgram("err.log", full);
+  log.Append("1234");
+  EXPECT_EQ(File(), full) << "the message does not fit any more";
+  log.Append("123");
+  EXPECT_EQ(File(), full + "123\r\n") << "this one does, just";
+  const std::string larger(engine::kErrorLogLimit + 1, 'x');
+  machine.files.PutBesideProgram("err.log", larger);
+  log.Append("new");
+  EXPECT_EQ(File(), larger) << "what is too large to be read is not overwritten";
+}
+
+TEST_F(ErrorLog, AFileThatCannotBeReadIsNotOverwritten) {
+  machine.files.PutBesideProgram("err.log", "a\r\n");
+  machine.notebook.FailCall(1);
+  log.Append("b");
+  EXPECT_EQ(File(), "a\r\n");
+  log.Append("c");
+  EXPECT_EQ(File(), "a\r\nc\r\n");
+}
+
+}  // namespace
