@@ -251,6 +251,19 @@ TEST(Sampler, ARowThatVanishesWithinAScanCausesNoSpike) {
   EXPECT_EQ(world.state.adapter_counters[0].TotalIn, 500U);
 }
 
+TEST(Sampler, AFailureWhileStoringARowLosesThatScanAlone) {
+  test::Engine world;
+  world.AddAdapter("a");
+  world.AddAdapter("b");
+  (void)world.Initialise();
+  world.SetText(test::kAdapterDatas, "aInfoTotalDL", "garbage");
+  world.machine.interface_table.AddTraffic(1, 4000, 4000);
+  EXPECT_THROW((void)world.Sample(500, 600), std::runtime_error);
+  world.SetText(test::kAdapterDatas, "aInfoTotalDL", "0");
+  world.machine.interface_table.AddTraffic(1, 20, 20);
+  EXPECT_EQ(world.Sample(1, 1).ScanSumDL, 21) << "b's bytes of the failed scan do not come late";
+}
+
 TEST(Sampler, AFailedReadOfTheTableIsMadeUpForByTheNextScan) {
   test::Engine world;
   world.AddAdapter("a");
