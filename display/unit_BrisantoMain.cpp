@@ -141,6 +141,11 @@ void T_frmBrisanto::ApplyAlwaysOnTop() {
   Window().SetTopmost(on_top);
 }
 
+// A program that had the full screen may have taken the place above all others away.
+void T_frmBrisanto::StayOnTop() {
+  if (_MainMenu.mnuAlwaysTopOn->Checked() && !Window().Topmost()) Window().SetTopmost(true);
+}
+
 void T_frmBrisanto::ApplyWindowMode() {
   const std::int64_t mode = RegME.Read(setting::WindowMode);
   if (mode == kGraphMode) mnuGraphModeClick();
@@ -148,7 +153,10 @@ void T_frmBrisanto::ApplyWindowMode() {
   if (mode == kTextAndGraphMode) mnuTextandGraphClick();
 }
 
-void T_frmBrisanto::_tlkInterMeterScan() { scan_cycle_.Run(); }
+void T_frmBrisanto::_tlkInterMeterScan() {
+  StayOnTop();
+  scan_cycle_.Run();
+}
 
 void T_frmBrisanto::_tlkInterMeterDisplay(platform::Canvas& canvas) {
   DrawGridLines(canvas, RegME, _tlkInterMeter.FramePixels(), Dpi());
@@ -222,10 +230,7 @@ void T_frmBrisanto::FormShow() { _tlkDLULMeter.Invalidate(); }
 
 void T_frmBrisanto::FormDpiChanged() { RestrictSize(); }
 
-void T_frmBrisanto::FormDisplayChange() {
-  // A program that had the full screen may have pushed the meter down.
-  if (_MainMenu.mnuAlwaysTopOn->Checked()) Window().SetTopmost(true);
-}
+void T_frmBrisanto::FormDisplayChange() { StayOnTop(); }
 
 void T_frmBrisanto::FormResumed() { sampler_.TakePresentCounters(); }
 

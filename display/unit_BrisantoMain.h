@@ -70,6 +70,7 @@ class T_frmBrisanto final : public toolkit::Form,
   // Parts of ApplyDisplaySettings.
   void ApplyAlwaysOnTop();
   void ApplyWindowMode();
+  void StayOnTop();
   void ShowLine();
 
   // engine::ScanSteps

@@ -68,6 +68,7 @@ void Raster::Set(Point at, Colour rgb) {
 
 void Raster::Fill(const Rect& area, Colour colour) {
   const Colour rgb = screen_.Resolve(colour);
+  if (area == Rect{0, 0, size_.width, size_.height}) texts_.clear();  // painted over
   const int right = std::min(area.Right(), size_.width);
   const int bottom = std::min(area.Bottom(), size_.height);
   for (int y = std::max(0, area.top); y < bottom; ++y) {

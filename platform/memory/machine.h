@@ -42,6 +42,12 @@ class Machine {
 
   [[nodiscard]] platform::Platform& Platform() { return platform_; }
 
+  // The program's process is over; another one may start.
+  void EndProcess() {
+    single_instance.EndProcess();
+    message_loop.Restart();
+  }
+
  private:
   platform::Platform platform_{interface_table, registry,     sockets,   single_instance, clock,
                                files,           locale,       clipboard, windowing,       menus,

@@ -20,6 +20,9 @@ class MessageLoop final : public platform::MessageLoop {
   // The next thing that happens while a loop runs.
   void Then(std::function<void()> step) { steps_.push_back(std::move(step)); }
 
+  // A new process begins: the loop may run again.
+  void Restart() { quit_ = false; }
+
   [[nodiscard]] bool HasQuit() const { return quit_; }
   [[nodiscard]] int Depth() const { return depth_; }
 

@@ -16,7 +16,15 @@ class SingleInstance : public platform::SingleInstance {
   [[nodiscard]] bool ClaimFirst(std::string_view name) override {
     // A mutex that cannot be made counts as first; a backslash would name a space that is missing.
     if (notebook_.Fails() || name.find('\\') != std::string_view::npos) return true;
-    return taken_.emplace(name).second;
+    const bool first = taken_.emplace(name).second;
+    if (first) own_.emplace(name);
+    return first;
+  }
+
+  // The process ended, and with it the mutexes that it made.
+  void EndProcess() {
+    for (const std::string& name : own_) taken_.erase(name);
+    own_.clear();
   }
 
   // Another program has a mutex of this name.
@@ -27,6 +35,7 @@ class SingleInstance : public platform::SingleInstance {
 
  private:
   Notebook& notebook_;
+  std::set<std::string> own_;
   std::set<std::string> taken_;  // unlike other names, these are told apart by case
 };
 

@@ -1,0 +1,119 @@
+#include "display/numeric_line.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "tests/display/meter.h"
+
+namespace {
+
+using test::MeterTest;
+
+class NumericLine : public MeterTest {};
+
+TEST_F(NumericLine, StartsWithTheTextsOfTheModesThatAreOn) {
+  struct Row {
+    const char* why;
+    std::uint32_t modes;  // bit 0: current, 1: average, 2: maximum
+    std::uint32_t scale_unit;
+    const char* line;
+  };
+  static constexpr Row kRows[] = {
+      {"none: the product", 0, 0, "Korvane Tremolux"},
+      {"current in bytes", 1, 0, "[ DL:0,0 kB UL:0,0 kB ]"},
+      {"current in bits: kbit without s", 1, 1, "[ DL:0,0 kbit UL:0,0 kbit ]"},
+      {"average in bits: kbits", 2, 1, "[ Average DL:0,0 kbits UL:0,0 kbits ]"},
+      {"maximum", 4, 0, "[ Max DL:0,0 kB Max UL:0,0 kB ]"},
+      {"all, one behind the other", 7, 0,
+       "[ DL:0,0 kB UL:0,0 kB ][ Average DL:0,0 kB UL:0,0 kB ][ Max DL:0,0 kB Max UL:0,0 kB ]"},
+  };
+  for (const Row& row : kRows) {
+    SCOPED_TRACE(row.why);
+    Set("SOM1", row.modes & 1U);
+    Set("SOM2", row.modes >> 1U & 1U);
+    Set("SOM3", row.modes >> 2U & 1U);
+    Set("ScaleUnit", row.scale_unit);
+    Run([&] { EXPECT_EQ(Line(), row.line); });
+  }
+}
+
+TEST_F(NumericLine, ShowsTheScanTheMaximumAndTheGapsOfTheFormatting) {
+  Set("SOM1", 1);
+  Set("SOM2", 0);
+  Set("SOM3", 1);
+  Run([&] {
+    Scan({1536, 0});
+    EXPECT_EQ(Line(), "[ DL:1,5 kB UL:0,0 kB ][ Max DL:1,5 kB Max UL:0,0 kB ]");
+    Scan({102399, 2048});
+    EXPECT_EQ(Line(), "[ DL:  UL:2 kB ][ Max DL:  Max UL:2 kB ]") << "an amount in a gap";
+    Scan({0, 1024});
+    EXPECT_EQ(Line(), "[ DL:0,0 kB UL:1 kB ][ Max DL:  Max UL:2 kB ]");
+  });
+}
+
+TEST_F(NumericLine, TheAverageChangesEverySixthScanAndLeavesThatScanOut) {
+  Set("AvarageTime", 5);
+  Run([&] {
+    const std::string at_start = Line();
+    for (std::uint32_t second = 1; second <= 5; ++second) {
+      Scan({second * 1024, 1024});
+      EXPECT_EQ(Line(), at_start);
+    }
+    Scan({900000, 900000});
+    EXPECT_EQ(Line(), "[ Average DL:3 kB UL:1 kB ]");
+    for (int i = 0; i < 5; ++i) Scan({2048, 0});
+    EXPECT_EQ(Line(), "[ Average DL:3 kB UL:1 kB ]");
+    Scan({});
+    EXPECT_EQ(Line(), "[ Average DL:2 kB UL:0,0 kB ]");
+  });
+}
+
+TEST_F(NumericLine, ClearGraphZeroesTheSumsButNotTheCounter) {
+  Set("AvarageTime", 2);
+  Run([&] {
+    Scan({4096, 4096});
+    Choose("Clear Graph");
+    Scan({2048, 1024});
+    Scan({});
+    EXPECT_EQ(Line(), "[ Average DL:1 kB UL:0,5 kB ]");
+  });
+}
+
+TEST_F(NumericLine, AnAveragePeriodOfZeroOrLessDividesByNothing) {
+  for (const std::uint32_t period : {0U, 0xFFFFFFFFU}) {
+    Set("AvarageTime", period);
+    Run([&] {
+      Scan({4096, 4096});
+      EXPECT_EQ(Line(), "[ Average DL:0,0 kB UL:0,0 kB ]");
+    });
+  }
+  EXPECT_FALSE(machine.files.BytesBesideProgram("err.log").has_value());
+}
+
+TEST_F(NumericLine, AChangedAveragePeriodStartsTheAverageAnew) {
+  Set("AvarageTime", 3);
+  Run([&] {
+    Scan({9000, 9000});
+    Scan({9000, 9000});
+    Set("AvarageTime", 1);
+    Window().ApplyDisplaySettings();
+    Scan({1024, 2048});
+    Scan({});
+    EXPECT_EQ(Line(), "[ Average DL:1 kB UL:2 kB ]");
+  });
+}
+
+TEST_F(NumericLine, AnEqualTextIsNotSetAgain) {
+  Set("SOM1", 1);
+  Set("SOM2", 0);
+  Run([&] {
+    Scan({1024, 1024});
+    const int changes = Widget("_tlkDLULMeter").text_changes;
+    Scan({1024, 1024});
+    Scan({1024, 1024});
+    EXPECT_EQ(Widget("_tlkDLULMeter").text_changes, changes);
+  });
+}
+
+}  // namespace
