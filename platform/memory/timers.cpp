@@ -8,11 +8,15 @@ struct Timers::Entry {
   std::int64_t due = 0;
   int interval = 0;
   std::function<void()> tick;
+  bool stopped = false;  // its timer has gone, while its last tick may still be running
 };
 
 class Timers::Handle final : public Timer {
  public:
   explicit Handle(std::shared_ptr<Entry> entry) : entry_(std::move(entry)) {}
+  ~Handle() override { entry_->stopped = true; }
+  Handle(const Handle&) = delete;
+  Handle& operator=(const Handle&) = delete;
 
  private:
   std::shared_ptr<Entry> entry_;
@@ -35,7 +39,8 @@ std::shared_ptr<Timers::Entry> Timers::NextDue(std::int64_t until) const {
   std::shared_ptr<Entry> next;
   for (const std::weak_ptr<Entry>& weak : entries_) {
     const std::shared_ptr<Entry> entry = weak.lock();
-    if (entry && entry->due <= until && (!next || entry->due < next->due)) next = entry;
+    if (!entry || entry->stopped) continue;
+    if (entry->due <= until && (!next || entry->due < next->due)) next = entry;
   }
   return next;
 }

@@ -1,0 +1,40 @@
+// The desktop that the contract tests of windows and drawing run against, with a user who does what
+// a test says. The build chooses the body.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "platform/platform.h"
+
+namespace contract {
+
+class Desk {
+ public:
+  virtual ~Desk() = default;
+
+  [[nodiscard]] virtual platform::Platform& Platform() = 0;
+
+  // The user's doings. `name` is a widget's name or, of a top window, the form's; `at` is in client
+  // pixels.
+  virtual void MoveMouse(std::string_view name, platform::Point at, bool left_down) = 0;
+  virtual void DoubleClick(std::string_view name, platform::Point at) = 0;
+  virtual void RightClick(std::string_view name, platform::Point at) = 0;
+  virtual void ClickCloseBox(std::string_view name) = 0;
+  // Moves and sizes a top window.
+  virtual void Place(std::string_view name, const platform::Rect& bounds) = 0;
+  // Chooses the entry with this text from the menu that opens next; "" presses Esc.
+  virtual void WillChoose(std::string_view text) = 0;
+
+  // Runs `step` once, from the message loop that runs next or goes on.
+  virtual void Later(std::function<void()> step) = 0;
+  // Lets time pass and messages be delivered until `condition` is true; false when it does not come
+  // true in a time that is ample for it.
+  [[nodiscard]] virtual bool LetHappen(const std::function<bool()>& condition) = 0;
+};
+
+[[nodiscard]] std::unique_ptr<Desk> MakeDesk();
+
+}  // namespace contract

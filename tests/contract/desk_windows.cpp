@@ -1,0 +1,175 @@
+#include <deque>
+#include <stdexcept>
+#include <vector>
+
+#include "platform/windows/machine.h"
+#include "platform/windows/wide.h"
+#include "tests/contract/desk.h"
+
+namespace contract {
+namespace {
+
+using platform::windows::ToWide;
+
+constexpr ULONGLONG kAmple = 10000;  // milliseconds
+
+struct Search {
+  std::wstring name;
+  HWND found = nullptr;
+};
+
+BOOL CALLBACK LookAt(HWND hwnd, LPARAM search_pointer) {
+  auto& search = *reinterpret_cast<Search*>(search_pointer);
+  wchar_t window_class[256] = {};
+  ::GetClassNameW(hwnd, window_class, 256);
+  if (search.name == window_class || ::GetPropW(hwnd, search.name.c_str()) != nullptr) {
+    search.found = hwnd;
+  } else {
+    ::EnumChildWindows(hwnd, &LookAt, search_pointer);
+  }
+  return search.found == nullptr;
+}
+
+// The window of this thread that is of the class `name`, or is a widget of that name.
+HWND Find(std::string_view name) {
+  Search search{ToWide(name)};
+  ::EnumThreadWindows(::GetCurrentThreadId(), &LookAt, reinterpret_cast<LPARAM>(&search));
+  if (search.found == nullptr) throw std::out_of_range("no window is " + std::string(name));
+  return search.found;
+}
+
+// What the keyboard does to choose the entry with a text.
+class MenuKeys {
+ public:
+  explicit MenuKeys(std::string_view text) : text_(ToWide(text)) {}
+
+  // The keys that choose the entry from `menu`, after which `selected` of its entries have been
+  // passed. False when it is in no submenu either.
+  bool Collect(HMENU menu, int selected) {
+    int downs = -selected;
+    for (int position = 0; position < ::GetMenuItemCount(menu); ++position) {
+      if ((::GetMenuState(menu, static_cast<UINT>(position), MF_BYPOSITION) & MF_SEPARATOR) != 0 &&
+          ::GetSubMenu(menu, position) == nullptr) {
+        continue;
+      }
+      ++downs;
+      const std::size_t before = keys.size();
+      keys.insert(keys.end(), static_cast<std::size_t>(downs), VK_DOWN);
+      if (TextOf(menu, position) == text_) {
+        keys.push_back(VK_RETURN);
+        return true;
+      }
+      if (const HMENU submenu = ::GetSubMenu(menu, position)) {
+        keys.push_back(VK_RIGHT);  // onto its first entry
+        if (Collect(submenu, 1)) return true;
+      }
+      keys.resize(before);
+    }
+    return false;
+  }
+
+  std::vector<WPARAM> keys;
+
+ private:
+  // Without the shortcut.
+  static std::wstring TextOf(HMENU menu, int position) {
+    wchar_t text[256] = {};
+    ::GetMenuStringW(menu, static_cast<UINT>(position), text, 256, MF_BYPOSITION);
+    const std::wstring all = text;
+    return all.substr(0, all.find(L'\t'));
+  }
+
+  std::wstring text_;
+};
+
+class WindowsDesk final : public Desk {
+ public:
+  platform::Platform& Platform() override { return machine_.platform(); }
+
+  void MoveMouse(std::string_view name, platform::Point at, bool left_down) override {
+    Mouse(name, WM_MOUSEMOVE, left_down ? MK_LBUTTON : 0, at);
+  }
+  void DoubleClick(std::string_view name, platform::Point at) override {
+    Mouse(name, WM_LBUTTONDOWN, MK_LBUTTON, at);
+    Mouse(name, WM_LBUTTONUP, 0, at);
+    Mouse(name, WM_LBUTTONDBLCLK, MK_LBUTTON, at);
+    Mouse(name, WM_LBUTTONUP, 0, at);
+  }
+  void RightClick(std::string_view name, platform::Point at) override {
+    Mouse(name, WM_RBUTTONDOWN, MK_RBUTTON, at);
+    Mouse(name, WM_RBUTTONUP, 0, at);
+  }
+  void ClickCloseBox(std::string_view name) override {
+    ::SendMessageW(Find(name), WM_SYSCOMMAND, SC_CLOSE, 0);
+  }
+  void Place(std::string_view name, const platform::Rect& bounds) override {
+    ::SetWindowPos(Find(name), nullptr, bounds.left, bounds.top, bounds.width, bounds.height,
+                   SWP_NOZORDER | SWP_NOACTIVATE);
+  }
+
+  void WillChoose(std::string_view text) override {
+    ::SetCursorPos(0, 0);  // a pointer on the menu would choose too
+    choosing_ = Platform().timers.Start(20, [this, text = std::string(text)] {
+      if (OpenMenu() != nullptr) PressKeys(text);
+    });
+  }
+
+  void Later(std::function<void()> step) override {
+    steps_.push_back(std::move(step));
+    if (!stepping_) stepping_ = Platform().timers.Start(10, [this] { RunStep(); });
+  }
+
+  bool LetHappen(const std::function<bool()>& condition) override {
+    const ULONGLONG deadline = ::GetTickCount64() + kAmple;
+    const auto wakes_the_loop = Platform().timers.Start(10, [] {});
+    Platform().message_loop.RunUntil([&] { return condition() || ::GetTickCount64() > deadline; });
+    return condition();
+  }
+
+ private:
+  void Mouse(std::string_view name, UINT message, WPARAM buttons, platform::Point at) {
+    ::SendMessageW(Find(name), message, buttons, MAKELPARAM(at.x, at.y));
+  }
+
+  static HWND OpenMenu() {
+    const HWND menu = ::FindWindowW(L"#32768", nullptr);
+    return menu != nullptr && ::IsWindowVisible(menu) ? menu : nullptr;
+  }
+
+  // Then leaves whatever menu is still open, because the entry was disabled.
+  void PressKeys(const std::string& text) {
+    constexpr UINT kGetMenu = 0x01E1;  // MN_GETHMENU
+    const HWND menu = OpenMenu();
+    MenuKeys keys(text);
+    if (!text.empty()) {
+      keys.Collect(reinterpret_cast<HMENU>(::SendMessageW(menu, kGetMenu, 0, 0)), 0);
+    }
+    for (const WPARAM key : keys.keys) ::PostMessageW(menu, WM_KEYDOWN, key, 0);
+    // A timer ticks only when the keys have been taken.
+    choosing_ = Platform().timers.Start(20, [this] {
+      if (const HWND open = OpenMenu()) {
+        ::PostMessageW(open, WM_KEYDOWN, VK_ESCAPE, 0);
+      } else {
+        choosing_.reset();
+      }
+    });
+  }
+
+  void RunStep() {
+    const std::function<void()> step = std::move(steps_.front());
+    steps_.pop_front();
+    if (steps_.empty()) stepping_.reset();
+    step();
+  }
+
+  platform::windows::Machine machine_;
+  std::deque<std::function<void()>> steps_;
+  std::unique_ptr<platform::Timer> stepping_;
+  std::unique_ptr<platform::Timer> choosing_;
+};
+
+}  // namespace
+
+std::unique_ptr<Desk> MakeDesk() { return std::make_unique<WindowsDesk>(); }
+
+}  // namespace contract
