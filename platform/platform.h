@@ -6,13 +6,17 @@
 #include "platform/clock.h"
 #include "platform/files.h"
 #include "platform/interface_table.h"
+#include "platform/keyboard.h"
 #include "platform/locale.h"
 #include "platform/menus.h"
 #include "platform/message_loop.h"
+#include "platform/notification_area.h"
 #include "platform/registry.h"
 #include "platform/screen.h"
+#include "platform/session.h"
 #include "platform/single_instance.h"
 #include "platform/sockets.h"
+#include "platform/sound.h"
 #include "platform/timers.h"
 #include "platform/windowing.h"
 
@@ -34,6 +38,10 @@ struct Platform {
   MessageLoop& message_loop;
   Screen& screen;
   Graphics& graphics;
+  NotificationArea& notification_area;
+  Sound& sound;
+  Keyboard& keyboard;
+  Session& session;
 };
 
 }  // namespace platform

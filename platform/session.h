@@ -16,7 +16,7 @@ class Session {
   // AdjustTokenPrivileges). False when the system refuses.
   virtual bool SetPrivilege(std::string_view name, Privilege wanted) = 0;
   // Asks the system to end the session (ExitWindowsEx with these flags). 0, or the error code.
-  [[nodiscard]] virtual std::uint32_t ExitWindows(std::uint32_t flags) = 0;
+  [[nodiscard]] virtual std::uint32_t EndSession(std::uint32_t flags) = 0;
 };
 
 }  // namespace platform

@@ -6,14 +6,18 @@
 #include "platform/memory/clock.h"
 #include "platform/memory/files.h"
 #include "platform/memory/interface_table.h"
+#include "platform/memory/keyboard.h"
 #include "platform/memory/locale.h"
 #include "platform/memory/menus.h"
 #include "platform/memory/message_loop.h"
 #include "platform/memory/notebook.h"
+#include "platform/memory/notification_area.h"
 #include "platform/memory/registry.h"
 #include "platform/memory/screen.h"
+#include "platform/memory/session.h"
 #include "platform/memory/single_instance.h"
 #include "platform/memory/sockets.h"
+#include "platform/memory/sound.h"
 #include "platform/memory/timers.h"
 #include "platform/memory/windowing.h"
 #include "platform/platform.h"
@@ -39,6 +43,10 @@ class Machine {
   Menus menus;
   Timers timers{clock};
   MessageLoop message_loop;
+  NotificationArea notification_area{screen};
+  Sound sound;
+  Keyboard keyboard;
+  Session session;
 
   [[nodiscard]] platform::Platform& Platform() { return platform_; }
 
@@ -49,9 +57,10 @@ class Machine {
   }
 
  private:
-  platform::Platform platform_{interface_table, registry,     sockets,   single_instance, clock,
-                               files,           locale,       clipboard, windowing,       menus,
-                               timers,          message_loop, screen,    graphics};
+  platform::Platform platform_{
+      interface_table, registry,  sockets,           single_instance, clock,    files,
+      locale,          clipboard, windowing,         menus,           timers,   message_loop,
+      screen,          graphics,  notification_area, sound,           keyboard, session};
 };
 
 }  // namespace platform::memory

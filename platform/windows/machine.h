@@ -8,13 +8,17 @@
 #include "platform/windows/files.h"
 #include "platform/windows/graphics.h"
 #include "platform/windows/interface_table.h"
+#include "platform/windows/keyboard.h"
 #include "platform/windows/locale.h"
 #include "platform/windows/menus.h"
 #include "platform/windows/message_loop.h"
+#include "platform/windows/notification_area.h"
 #include "platform/windows/registry.h"
 #include "platform/windows/screen.h"
+#include "platform/windows/session.h"
 #include "platform/windows/single_instance.h"
 #include "platform/windows/sockets.h"
+#include "platform/windows/sound.h"
 #include "platform/windows/timers.h"
 #include "platform/windows/windowing.h"
 
@@ -46,9 +50,14 @@ class Machine {
   Windowing windowing_{drawing_};
   Menus menus_{drawing_};
   Timers timers_;
-  Platform platform_{interface_table_, registry_,     sockets_,   single_instance_, clock_,
-                     files_,           locale_,       clipboard_, windowing_,       menus_,
-                     timers_,          message_loop_, screen_,    graphics_};
+  NotificationArea notification_area_;
+  Sound sound_;
+  Keyboard keyboard_;
+  Session session_;
+  Platform platform_{
+      interface_table_, registry_,  sockets_,           single_instance_, clock_,    files_,
+      locale_,          clipboard_, windowing_,         menus_,           timers_,   message_loop_,
+      screen_,          graphics_,  notification_area_, sound_,           keyboard_, session_};
 };
 
 }  // namespace platform::windows

@@ -1,0 +1,33 @@
+// A keyboard whose lock keys follow the strokes that are sent.
+#pragma once
+
+#include <array>
+#include <vector>
+
+#include "platform/keyboard.h"
+
+namespace platform::memory {
+
+struct KeyEvent {
+  std::uint8_t virtual_key;
+  std::uint8_t scan_code;
+  std::uint32_t flags;
+  friend bool operator==(const KeyEvent&, const KeyEvent&) = default;
+};
+
+class Keyboard final : public platform::Keyboard {
+ public:
+  [[nodiscard]] std::uint8_t State(std::uint8_t virtual_key) override {
+    return states[virtual_key];
+  }
+  // A press toggles the lock bit, as the system does for lock keys.
+  void Send(std::uint8_t virtual_key, std::uint8_t scan_code, std::uint32_t flags) override {
+    sent.push_back({virtual_key, scan_code, flags});
+    if ((flags & kKeyUp) == 0) states[virtual_key] ^= 1U;
+  }
+
+  std::array<std::uint8_t, 256> states{};
+  std::vector<KeyEvent> sent;
+};
+
+}  // namespace platform::memory

@@ -1,0 +1,50 @@
+#include "platform/memory/notification_area.h"
+
+#include "platform/text.h"
+
+namespace platform::memory {
+namespace {
+
+constexpr std::size_t kHintCharacters = 127;
+constexpr std::size_t kTitleCharacters = 63;
+constexpr std::size_t kTextCharacters = 255;
+
+}  // namespace
+
+class NotificationArea::Icon final : public TrayIcon {
+ public:
+  Icon(NotificationArea& area, TrayIconEvents& events) : area_(area) { area_.events_ = &events; }
+  ~Icon() override {
+    area_.events_ = nullptr;
+    area_.picture_.reset();
+    area_.hint.clear();
+  }
+  Icon(const Icon&) = delete;
+  Icon& operator=(const Icon&) = delete;
+
+  void SetPicture(const Bitmap& picture) override {
+    ++area_.picture_updates;
+    area_.picture_ = std::make_unique<Raster>(picture.Extent(), area_.screen_);
+    area_.picture_->Draw(picture, {0, 0});
+  }
+  void SetPicture(const Bitmap& picture, Colour /*see_through*/) override { SetPicture(picture); }
+  void SetHint(std::string_view hint) override {
+    ++area_.hint_updates;
+    area_.hint = CutCharacters(hint, kHintCharacters);
+  }
+  void ShowBalloon(std::string_view title, std::string_view text, BalloonIcon icon,
+                   int seconds) override {
+    area_.balloons.push_back({CutCharacters(title, kTitleCharacters),
+                              CutCharacters(text, kTextCharacters), icon, seconds});
+  }
+  [[nodiscard]] int PictureSize() const override { return area_.picture_size; }
+
+ private:
+  NotificationArea& area_;
+};
+
+std::unique_ptr<TrayIcon> NotificationArea::CreateIcon(TrayIconEvents& events) {
+  return std::make_unique<Icon>(*this, events);
+}
+
+}  // namespace platform::memory
