@@ -54,7 +54,8 @@ T_frmBrisanto::T_frmBrisanto(toolkit::Application& app)
       _tlkInterMeter(*this, "_tlkInterMeter"),
       pnlContain(*this, "pnlContain"),
       _tlkDLULMeter(pnlContain, "_tlkDLULMeter"),
-      numeric_line_(RegME, quantity_, _ReadLangauge) {
+      numeric_line_(RegME, quantity_, _ReadLangauge),
+      _TrayIcon(app, RegME) {
   DesignControls();
   ConnectHandlers();
   // A step that fails is logged; the rest of the program starts all the same, and the first scan
@@ -83,6 +84,7 @@ void T_frmBrisanto::DesignControls() {
   _tlkDLULMeter.SetCaption("[ DL:0,0 kB UL:0,0 kB ]");
   _tlkDLULMeter.SetAlign(toolkit::Align::kClient);
   SetPopupMenu(&_MainMenu.popup);
+  _TrayIcon.SetHint(engine::kProductTitle);
 }
 
 void T_frmBrisanto::ConnectHandlers() {
@@ -95,6 +97,8 @@ void T_frmBrisanto::ConnectHandlers() {
     control->OnDblClick = [this] { _TrayIconClick(); };
   }
 
+  _TrayIcon.OnClick = [this] { _TrayIconClick(); };
+  _TrayIcon.OnMenu = [this](platform::Point screen) { _MainMenu.popup.Popup(screen, *this); };
   _MainMenu.mnuAlwaysTopOn->OnClick = [this] { mnuAlwaysTopOnClick(); };
   _MainMenu.ShowHide1->OnClick = [this] { _TrayIconClick(); };
   _MainMenu.mnuGraphMode->OnClick = [this] { mnuGraphModeClick(); };
@@ -104,9 +108,8 @@ void T_frmBrisanto::ConnectHandlers() {
   _MainMenu.Close1->OnClick = [this] { Close1Click(); };
   // What they open is not there yet.
   for (toolkit::MenuItem* item :
-       {_MainMenu.ConnectionInformations1, _MainMenu.ShowHide1, _MainMenu.Transparent1,
-        _MainMenu.mnuTransparent2k, _MainMenu.Settings1, _MainMenu.HelpContents1,
-        _MainMenu.AboutBrisantoXP1}) {
+       {_MainMenu.ConnectionInformations1, _MainMenu.Transparent1, _MainMenu.mnuTransparent2k,
+        _MainMenu.Settings1, _MainMenu.HelpContents1, _MainMenu.AboutBrisantoXP1}) {
     item->Enabled = false;
   }
 }
@@ -124,6 +127,7 @@ void T_frmBrisanto::FormCreate() {
 void T_frmBrisanto::InitAdapters() { adapter_menus_.Add(sampler_.InitAdapters()); }
 
 void T_frmBrisanto::ApplyDisplaySettings() {
+  if (RegME.Read(setting::StartIconMode)) _TrayIcon.LoadPictures();
   ApplyGraphAppearance(RegME, _tlkInterMeter);
   ApplyHints(RegME, App().Hints());
   ApplyScale(RegME, _tlkInterMeter, traffic_.SpeedCap);
@@ -133,6 +137,7 @@ void T_frmBrisanto::ApplyDisplaySettings() {
   ShowLine();
   ApplyAlwaysOnTop();
   ApplyWindowMode();
+  _TrayIcon.ShowStart();
 }
 
 void T_frmBrisanto::ApplyAlwaysOnTop() {
@@ -204,15 +209,18 @@ void T_frmBrisanto::mnuAlwaysTopOnClick() {
 }
 
 void T_frmBrisanto::_TrayIconClick() {
-  // Without an icon in the tray there would be no way back to a hidden window.
-  if (Showing()) return;
-  Show(platform::Activation::kLeaveFocus);
-  App().ShowMainForm = true;
+  if (Showing()) {
+    Hide();
+  } else {
+    Show(platform::Activation::kLeaveFocus);
+  }
+  App().ShowMainForm = Showing();
 }
 
 void T_frmBrisanto::Clear1Click() {
   _tlkInterMeter.Clear();
   numeric_line_.ClearSums();
+  _TrayIcon.Clear();
 }
 
 void T_frmBrisanto::Close1Click() { FormClose(); }
@@ -253,7 +261,7 @@ void T_frmBrisanto::FeedGraph(std::int32_t TestRead, std::int32_t TestWrite) {
   _tlkInterMeter.SetTestWrite(TestWrite);
 }
 
-void T_frmBrisanto::ShowIcon(const engine::ScanAmounts& /*scan*/) {}
+void T_frmBrisanto::ShowIcon(const engine::ScanAmounts& scan) { _TrayIcon.ShowScan(scan); }
 
 void T_frmBrisanto::ShowKeyboardLights(const engine::ScanAmounts& /*scan*/) {}
 
@@ -262,6 +270,7 @@ void T_frmBrisanto::CheckNotifications(const engine::ScanAmounts& /*scan*/) {}
 void T_frmBrisanto::ShowNumericLine(const engine::ScanAmounts& scan) {
   numeric_line_.Update(scan);
   ShowLine();
+  _TrayIcon.SetHint(numeric_line_.TrayHint());
 }
 
 void T_frmBrisanto::Tick(const engine::ScanAmounts& /*scan*/) {}

@@ -10,6 +10,7 @@
 #include "display/main_menu.h"
 #include "display/numeric_line.h"
 #include "display/quantity/quantity.h"
+#include "display/tray_icon.h"
 #include "engine/error_log.h"
 #include "engine/interface_sampler.h"
 #include "engine/program.h"
@@ -100,6 +101,7 @@ class T_frmBrisanto final : public toolkit::Form,
   toolkit::Panel pnlContain;
   toolkit::Label _tlkDLULMeter;
   NumericLine numeric_line_;
+  TrayIcon _TrayIcon;
 };
 
 }  // namespace display

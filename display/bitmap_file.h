@@ -1,0 +1,28 @@
+// Reads bitmap files.
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string_view>
+#include <vector>
+
+#include "platform/colour.h"
+#include "platform/geometry.h"
+
+namespace display {
+
+struct Picture {
+  platform::Size size;
+  std::vector<platform::Colour> pixels;  // row by row from the top, 0x00BBGGRR
+
+  [[nodiscard]] platform::Colour At(platform::Point at) const {
+    return pixels[static_cast<std::size_t>(at.y) * static_cast<std::size_t>(size.width) +
+                  static_cast<std::size_t>(at.x)];
+  }
+};
+
+// The picture in the bytes of a BMP file: not compressed, with 1, 4, 8, 24 or 32 bits a pixel, each
+// side 1 to 1024 pixels. Nothing for any other bytes.
+[[nodiscard]] std::optional<Picture> DecodeBitmap(std::string_view bytes);
+
+}  // namespace display

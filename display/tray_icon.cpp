@@ -1,0 +1,117 @@
+#include "display/tray_icon.h"
+
+#include "toolkit/application.h"
+
+namespace display {
+namespace {
+
+namespace setting = settings::setting;
+
+constexpr std::int64_t kActivityPictures = 0;
+constexpr std::int64_t kHistogram = 1;
+
+// Every pixel becomes a block of whole pixels as far as the size allows, the rest by the nearest.
+void Enlarge(const platform::Bitmap& picture, platform::Bitmap& target) {
+  const platform::Size from = picture.Extent();
+  const platform::Size to = target.Extent();
+  for (int y = 0; y < to.height; ++y) {
+    for (int x = 0; x < to.width; ++x) {
+      target.GetCanvas().Fill(
+          {x, y, 1, 1}, picture.Pixel({x * from.width / to.width, y * from.height / to.height}));
+    }
+  }
+}
+
+}  // namespace
+
+TrayIcon::TrayIcon(toolkit::Application& app, settings::Store& store)
+    : app_(app), store_(store), icon_(app.Platform().notification_area.CreateIcon(*this)) {
+  drawing_ = app.Platform().graphics.CreateBitmap({kTrayPictureSize, kTrayPictureSize});
+}
+
+TrayIcon::~TrayIcon() = default;
+
+void TrayIcon::LoadPictures() {
+  const std::string built_in = store_.Resolve(setting::TrayIconFile.read);
+  pictures_.Load(app_.Platform().files, store_.Read(setting::TrayIconFile), built_in);
+}
+
+void TrayIcon::ShowStart() {
+  if (store_.Read(setting::IconType) == kActivityPictures) {
+    LoadPictures();
+    ShowActivity(TrayActivity::kIdle);
+  } else {
+    histogram_.Clear();
+    ShowHistogram();
+  }
+}
+
+void TrayIcon::ShowScan(const engine::ScanAmounts& scan) {
+  const std::int64_t type = store_.Read(setting::IconType);
+  if (type == kActivityPictures) {
+    ShowActivity(ActivityOf(scan.ScanSumDL, scan.ScanSumUL));
+  } else if (type == kHistogram) {
+    histogram_.Push(scan.ScanSumDL, scan.ScanSumUL);
+    ShowHistogram();
+  }
+}
+
+void TrayIcon::Clear() {
+  histogram_.Clear();
+  ShowHistogram();
+}
+
+void TrayIcon::ShowActivity(TrayActivity activity) {
+  if (!pictures_.Loaded()) {
+    // Without any picture file the empty histogram stands for the program.
+    Clear();
+    return;
+  }
+  const int size = icon_->PictureSize();
+  const auto picture = app_.Platform().graphics.CreateBitmap({size, size});
+  if (!picture) return;
+  pictures_.Draw(activity, picture->GetCanvas());
+  icon_->SetPicture(*picture, pictures_.SeeThrough());
+}
+
+// The shell is given the picture twice, after each half; the other half keeps what it showed, so
+// that nothing flickers.
+void TrayIcon::ShowHistogram() {
+  if (!drawing_) return;
+  platform::Canvas& canvas = drawing_->GetCanvas();
+  const platform::Colour receiving = store_.Read(setting::GraphColor_HistogramReceiving);
+  const platform::Colour sending = store_.Read(setting::GraphColor_HistogramSend);
+  TrayHistogram::DrawFrame(canvas);
+  histogram_.DrawUpperHalf(canvas, receiving);
+  ShowEnlarged(*drawing_);
+  histogram_.DrawLowerHalf(canvas, sending);
+  ShowEnlarged(*drawing_);
+}
+
+void TrayIcon::ShowEnlarged(const platform::Bitmap& picture) {
+  const int size = icon_->PictureSize();
+  if (size <= kTrayPictureSize) {
+    icon_->SetPicture(picture);
+    return;
+  }
+  if (!enlarged_ || enlarged_->Extent().width != size) {
+    enlarged_ = app_.Platform().graphics.CreateBitmap({size, size});
+  }
+  if (!enlarged_) return;
+  Enlarge(picture, *enlarged_);
+  icon_->SetPicture(*enlarged_);
+}
+
+void TrayIcon::OnTrayClick() {
+  app_.Guard([this] {
+    if (OnClick) OnClick();
+  });
+}
+
+void TrayIcon::OnTrayMenu(platform::Point screen) {
+  app_.Guard([&] {
+    if (OnMenu) OnMenu(screen);
+  });
+}
+
+}  // namespace display

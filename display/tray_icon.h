@@ -1,0 +1,69 @@
+// The program's icon in the notification area: four activity pictures, or a live histogram.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "display/tray_histogram.h"
+#include "display/tray_pictures.h"
+#include "engine/traffic_state.h"
+#include "platform/notification_area.h"
+#include "settings/store.h"
+
+namespace toolkit {
+class Application;
+}
+
+namespace display {
+
+class TrayIcon final : private platform::TrayIconEvents {
+ public:
+  // Both outlive the icon. It appears with its first picture.
+  TrayIcon(toolkit::Application& app, settings::Store& store);
+  ~TrayIcon() override;
+
+  std::function<void()> OnClick;
+  std::function<void(platform::Point screen)> OnMenu;
+
+  // Loads the activity pictures named by "TrayIconFile". A file that is not there or no such bitmap
+  // is replaced by the one that comes with the program, here and not in the store.
+  void LoadPictures();
+
+  // The picture before the first scan, by "IconType": idle, or the empty histogram.
+  void ShowStart();
+
+  // The picture of a scan: "IconType" 0 shows its activity, 1 the histogram; another value leaves
+  // the icon as it is. The histogram moves on only while it is shown.
+  void ShowScan(const engine::ScanAmounts& scan);
+
+  // Empties the histogram and shows it.
+  void Clear();
+
+  void SetHint(std::string_view hint) { icon_->SetHint(hint); }
+
+  // Cut at 63 characters of title and 255 of text.
+  void ShowBalloon(std::string_view title, std::string_view text, platform::BalloonIcon icon,
+                   int seconds) {
+    icon_->ShowBalloon(title, text, icon, seconds);
+  }
+
+ private:
+  void OnTrayClick() override;
+  void OnTrayMenu(platform::Point screen) override;
+
+  void ShowActivity(TrayActivity activity);
+  void ShowHistogram();
+  void ShowEnlarged(const platform::Bitmap& picture);
+
+  toolkit::Application& app_;
+  settings::Store& store_;
+  TrayPictures pictures_;
+  TrayHistogram histogram_;
+  std::unique_ptr<platform::Bitmap> drawing_;   // 16 x 16
+  std::unique_ptr<platform::Bitmap> enlarged_;  // as large as the area shows, when that is more
+  std::unique_ptr<platform::TrayIcon> icon_;
+};
+
+}  // namespace display
