@@ -60,7 +60,7 @@ TEST_F(InterfaceReader, WhateverFailsLeavesTheTableAsItWas) {
 
 TEST_F(InterfaceReader, FiltersAreLeftOutAndAskedAboutOnce) {
   source.AddRow(MakeRow("card"));
-  const InterfaceRow filter = source.AddRow(MakeRow("filter"));
+  const InterfaceRow filter = source.AddRow(MakeRow("card"));  // named as the card it sits on
   source.AddRow(MakeRow("vpn"));
   source.MarkFilter(filter.dwIndex);
   EXPECT_EQ(Read(), "card vpn ");
