@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "alerts/reactions.h"
 #include "display/tray_histogram.h"
 #include "display/tray_pictures.h"
 #include "engine/traffic_state.h"
@@ -18,7 +19,7 @@ class Application;
 
 namespace display {
 
-class TrayIcon final : private platform::TrayIconEvents {
+class TrayIcon final : public alerts::Balloons, private platform::TrayIconEvents {
  public:
   // Both outlive the icon. It appears with its first picture.
   TrayIcon(toolkit::Application& app, settings::Store& store);
@@ -43,9 +44,8 @@ class TrayIcon final : private platform::TrayIconEvents {
 
   void SetHint(std::string_view hint) { icon_->SetHint(hint); }
 
-  // Cut at 63 characters of title and 255 of text.
   void ShowBalloon(std::string_view title, std::string_view text, platform::BalloonIcon icon,
-                   int seconds) {
+                   int seconds) override {
     icon_->ShowBalloon(title, text, icon, seconds);
   }
 

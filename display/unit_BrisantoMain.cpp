@@ -1,5 +1,7 @@
 #include "display/unit_BrisantoMain.h"
 
+#include "alerts/bandwidth_limit.h"
+#include "alerts/keyboard_leds.h"
 #include "display/display_settings.h"
 #include "display/grid_lines.h"
 #include "engine/local_ip.h"
@@ -55,7 +57,11 @@ T_frmBrisanto::T_frmBrisanto(toolkit::Application& app)
       pnlContain(*this, "pnlContain"),
       _tlkDLULMeter(pnlContain, "_tlkDLULMeter"),
       numeric_line_(RegME, quantity_, _ReadLangauge),
-      _TrayIcon(app, RegME) {
+      _TrayIcon(app, RegME),
+      _WindowsManager(app),
+      reactions_(app.Platform().sound, _TrayIcon, _WindowsManager.shutdown),
+      notifications_(app, RegME, _ReadLangauge, reactions_),
+      ticker_(RegME, reactions_) {
   DesignControls();
   ConnectHandlers();
   // A step that fails is logged; the rest of the program starts all the same, and the first scan
@@ -263,9 +269,13 @@ void T_frmBrisanto::FeedGraph(std::int32_t TestRead, std::int32_t TestWrite) {
 
 void T_frmBrisanto::ShowIcon(const engine::ScanAmounts& scan) { _TrayIcon.ShowScan(scan); }
 
-void T_frmBrisanto::ShowKeyboardLights(const engine::ScanAmounts& /*scan*/) {}
+void T_frmBrisanto::ShowKeyboardLights(const engine::ScanAmounts& scan) {
+  alerts::UpdateKeyboardLeds(RegME, _WindowsManager.sys_keys, scan);
+}
 
-void T_frmBrisanto::CheckNotifications(const engine::ScanAmounts& /*scan*/) {}
+void T_frmBrisanto::CheckNotifications(const engine::ScanAmounts& scan) {
+  notifications_.CheckNotifications(scan);
+}
 
 void T_frmBrisanto::ShowNumericLine(const engine::ScanAmounts& scan) {
   numeric_line_.Update(scan);
@@ -273,7 +283,7 @@ void T_frmBrisanto::ShowNumericLine(const engine::ScanAmounts& scan) {
   _TrayIcon.SetHint(numeric_line_.TrayHint());
 }
 
-void T_frmBrisanto::Tick(const engine::ScanAmounts& /*scan*/) {}
+void T_frmBrisanto::Tick(const engine::ScanAmounts& scan) { ticker_.Update(scan); }
 
 void T_frmBrisanto::CheckBandwidthAlert() {}
 

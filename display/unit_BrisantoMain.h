@@ -5,6 +5,10 @@
 #include <string>
 #include <vector>
 
+#include "alerts/notifications.h"
+#include "alerts/reactions.h"
+#include "alerts/system_manager.h"
+#include "alerts/ticker.h"
 #include "display/adapter_menus.h"
 #include "display/kxintermeter.h"
 #include "display/main_menu.h"
@@ -102,6 +106,11 @@ class T_frmBrisanto final : public toolkit::Form,
   toolkit::Label _tlkDLULMeter;
   NumericLine numeric_line_;
   TrayIcon _TrayIcon;
+
+  alerts::SystemManager _WindowsManager;
+  alerts::Reactions reactions_;
+  alerts::Notifications notifications_;
+  alerts::Ticker ticker_;
 };
 
 }  // namespace display

@@ -1,0 +1,32 @@
+// The allowance for a day, week or month, and how much of it is used.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+
+#include "settings/store.h"
+
+namespace alerts {
+
+// The limit in bytes; nothing for a stored unit that does not exist. Wraps like all sums.
+[[nodiscard]] std::optional<std::int64_t> LimitBytes(settings::Store& store);
+
+// The stored period that the limit is for.
+enum class LimitPeriod { kDay = 0, kWeek = 1, kMonth = 2 };
+
+// Nothing for a stored period that does not exist.
+[[nodiscard]] std::optional<LimitPeriod> ReadLimitPeriod(settings::Store& store);
+
+// What moved so far in the period. Throws settings::ConversionError when a stored total is no
+// number.
+[[nodiscard]] std::int64_t PeriodTotalDL(settings::Store& store, LimitPeriod period);
+[[nodiscard]] std::int64_t PeriodTotalUL(settings::Store& store, LimitPeriod period);
+
+// The scan's step: when the counted total has reached the limit, marks the alert as shown
+// ("BAShow") and then runs `alert`. Once in a period: every reset of a day, week or month clears
+// the mark, whichever of them the limit is for, so a monthly limit that is exceeded alerts again
+// each day.
+void CheckBandwidthAlert(settings::Store& store, const std::function<void()>& alert);
+
+}  // namespace alerts

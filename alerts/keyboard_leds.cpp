@@ -1,0 +1,73 @@
+#include "alerts/keyboard_leds.h"
+
+#include <functional>
+#include <optional>
+#include <utility>
+
+namespace alerts {
+namespace {
+
+constexpr std::uint8_t kOff = 0;
+constexpr std::uint8_t kOn = 1;
+
+// A lock key during one scan. Its state is asked once: the system reports a stroke that was just
+// sent only later, and the second pair of rules must see what the first one did.
+class Light {
+ public:
+  Light(settings::Store& store, const settings::BooleanSetting& given, std::uint8_t state,
+        std::function<void()> toggle)
+      : store_(store), given_(given), state_(state), toggle_(std::move(toggle)) {}
+
+  void SwitchOn() { Switch(kOff, kOn); }
+  void SwitchOff() { Switch(kOn, kOff); }
+
+ private:
+  void Switch(std::uint8_t from, std::uint8_t to) {
+    if (state_ != from || !Given()) return;
+    toggle_();
+    state_ = to;
+  }
+  bool Given() {
+    if (!is_given_) is_given_ = store_.Read(given_);
+    return *is_given_;
+  }
+
+  settings::Store& store_;
+  const settings::BooleanSetting& given_;
+  std::uint8_t state_;
+  std::function<void()> toggle_;
+  std::optional<bool> is_given_;
+};
+
+}  // namespace
+
+// An amount equal to the limit counts both as idle and as busy, and the second pair may overrule
+// the first: an idle line with a limit of 0 ends with Scroll Lock on and Num Lock off. This is
+// meant.
+void UpdateKeyboardLeds(settings::Store& store, TQelSysKeys& keys,
+                        const engine::ScanAmounts& scan) {
+  const std::int64_t limit = store.Read(settings::setting::spnKeyLedsLimit);
+  const std::int64_t dl = scan.ScanSumDL;
+  const std::int64_t ul = scan.ScanSumUL;
+  Light scroll(store, settings::setting::DLSwitchScr, keys.ScrollLock(),
+               [&keys] { keys.ToggleScrollLock(); });
+  Light num(store, settings::setting::ULSwitchNum, keys.NumLock(),
+            [&keys] { keys.ToggleNumLock(); });
+
+  if (dl <= limit && ul <= limit) {
+    scroll.SwitchOff();
+    num.SwitchOff();
+  } else if (dl >= limit && ul >= limit) {
+    scroll.SwitchOn();
+    num.SwitchOn();
+  }
+  if (dl >= limit && ul <= limit) {
+    scroll.SwitchOn();
+    num.SwitchOff();
+  } else if (ul >= limit && dl <= limit) {
+    scroll.SwitchOff();
+    num.SwitchOn();
+  }
+}
+
+}  // namespace alerts

@@ -1,0 +1,14 @@
+// Traffic on the keyboard's lights: Scroll Lock for download, Num Lock for upload.
+#pragma once
+
+#include "alerts/sys_keys.h"
+#include "engine/traffic_state.h"
+#include "settings/store.h"
+
+namespace alerts {
+
+// Sets the lights that the user gave to the traffic, by comparing the scan with "spnKeyLedsLimit"
+// (bytes). Lights that are not given are never touched.
+void UpdateKeyboardLeds(settings::Store& store, TQelSysKeys& keys, const engine::ScanAmounts& scan);
+
+}  // namespace alerts

@@ -1,0 +1,55 @@
+// The two rules that watch for too little and for too much traffic.
+#pragma once
+
+#include <cstdint>
+
+#include "alerts/reactions.h"
+#include "engine/traffic_state.h"
+#include "settings/language.h"
+#include "settings/store.h"
+#include "toolkit/action.h"
+#include "toolkit/timer.h"
+
+namespace alerts {
+
+class Notifications {
+ public:
+  // All outlive the notifications.
+  Notifications(toolkit::Application& app, settings::Store& store,
+                const settings::Language& language, Reactions& reactions);
+
+  // The scan's step: counts the scans in a row that were at or below, at or above the stored number
+  // of bytes. Switched off, it stops the timer and leaves the counts as they are.
+  void CheckNotifications(const engine::ScanAmounts& scan);
+
+  // Compares the counts with the stored seconds, once a second while a rule watches something.
+  toolkit::Timer TimeOutTimer;
+
+  toolkit::Action LessNotification{"LessNotification"};
+  toolkit::Action MoreNotification{"MoreNotification"};
+
+ private:
+  struct Rule;
+  static const Rule kLess;
+  static const Rule kMore;
+
+  void TimeOutTimerTimer();
+  void LessNotificationExecute() { Execute(kLess); }
+  void MoreNotificationExecute() { Execute(kMore); }
+
+  void Execute(const Rule& rule);
+  void FireWhenDue(std::int64_t& ticks, const settings::IntegerSetting& seconds,
+                   const toolkit::Action& action);
+
+  settings::Store& store_;
+  const settings::Language& language_;
+  Reactions& reactions_;
+
+  // Scans in a row that the rule holds for.
+  std::int64_t LessUploadedTicks = 0;
+  std::int64_t LessDownloadedTicks = 0;
+  std::int64_t MoreUploadedTicks = 0;
+  std::int64_t MoreDownloadedTicks = 0;
+};
+
+}  // namespace alerts

@@ -1,0 +1,49 @@
+// What the program does when traffic crosses a line: a sound, a balloon, the end of the session.
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+#include "alerts/shutdown.h"
+#include "platform/notification_area.h"
+#include "platform/sound.h"
+
+namespace alerts {
+
+// The stored codes of "LessAction", "MoreAction" and "BAAction". The lists offer "Display Message"
+// twice, and the second one does nothing; users have both stored. Other codes do nothing either.
+inline constexpr std::int64_t kNoAction = 0;
+inline constexpr std::int64_t kDisplayMessage = 1;
+inline constexpr std::int64_t kShutdownComputer = 2;
+inline constexpr std::int64_t kInertDisplayMessage = 3;
+
+// Shows balloons; the tray icon does.
+class Balloons {
+ public:
+  virtual ~Balloons() = default;
+  // Cut at 63 characters of title and 255 of text.
+  virtual void ShowBalloon(std::string_view title, std::string_view text,
+                           platform::BalloonIcon icon, int seconds) = 0;
+};
+
+class Reactions {
+ public:
+  // All outlive the reactions.
+  Reactions(platform::Sound& sound, Balloons& balloons, Shutdown& shutdown)
+      : sound_(sound), balloons_(balloons), shutdown_(shutdown) {}
+
+  // Starts the sound and does not wait for it; a file that cannot be played is silence.
+  void PlayWave(std::string_view path) { sound_.Play(path); }
+  void Warn(std::string_view title, std::string_view text, int seconds) {
+    balloons_.ShowBalloon(title, text, platform::BalloonIcon::kWarning, seconds);
+  }
+  // Without a question; a refusal of the system is silent.
+  void ShutDownComputer() { shutdown_.Execute(); }
+
+ private:
+  platform::Sound& sound_;
+  Balloons& balloons_;
+  Shutdown& shutdown_;
+};
+
+}  // namespace alerts
