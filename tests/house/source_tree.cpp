@@ -11,7 +11,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-const fs::path kRoot = HOUSE_ROOT;
+const fs::path kRoot = SOURCE_FOLDER;
 
 }  // namespace
 
