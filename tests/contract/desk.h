@@ -28,6 +28,11 @@ class Desk {
   // Chooses the entry with this text from the menu that opens next; "" presses Esc.
   virtual void WillChoose(std::string_view text) = 0;
 
+  // Clicks the program's icon in the notification area, or asks for its menu at a place of the
+  // screen.
+  virtual void ClickTray() = 0;
+  virtual void RightClickTray(platform::Point at) = 0;
+
   // Runs `step` once, from the message loop that runs next or goes on.
   virtual void Later(std::function<void()> step) = 0;
   // Lets time pass and messages be delivered until `condition` is true; false when it does not come

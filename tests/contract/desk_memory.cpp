@@ -23,6 +23,9 @@ class MemoryDesk final : public Desk {
   }
   void WillChoose(std::string_view text) override { machine_.menus.WillChoose(std::string(text)); }
 
+  void ClickTray() override { machine_.notification_area.Click(); }
+  void RightClickTray(platform::Point at) override { machine_.notification_area.RightClick(at); }
+
   void Later(std::function<void()> step) override { machine_.message_loop.Then(std::move(step)); }
   bool LetHappen(const std::function<bool()>& condition) override {
     constexpr int kRounds = 1000;

@@ -5,6 +5,8 @@
 #include "platform/windows/machine.h"
 #include "platform/windows/wide.h"
 #include "tests/contract/desk.h"
+// After the system's header, which it needs.
+#include <shellapi.h>
 
 namespace contract {
 namespace {
@@ -12,6 +14,7 @@ namespace {
 using platform::windows::ToWide;
 
 constexpr ULONGLONG kAmple = 10000;  // milliseconds
+constexpr UINT kTrayMessage = WM_APP + 1;
 
 struct Search {
   std::wstring name;
@@ -112,6 +115,15 @@ class WindowsDesk final : public Desk {
     choosing_ = Platform().timers.Start(20, [this, text = std::string(text)] {
       if (OpenMenu() != nullptr) PressKeys(text);
     });
+  }
+
+  // What the shell sends to the icon's window.
+  void ClickTray() override {
+    ::SendMessageW(Find("TremoluxTray"), kTrayMessage, 0, MAKELPARAM(NIN_SELECT, 1));
+  }
+  void RightClickTray(platform::Point at) override {
+    ::SendMessageW(Find("TremoluxTray"), kTrayMessage, static_cast<WPARAM>(MAKELPARAM(at.x, at.y)),
+                   MAKELPARAM(WM_CONTEXTMENU, 1));
   }
 
   void Later(std::function<void()> step) override {
