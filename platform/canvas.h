@@ -2,6 +2,7 @@
 #pragma once
 
 #include <memory>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -56,6 +57,9 @@ class Bitmap {
   [[nodiscard]] virtual Canvas& GetCanvas() = 0;
   // The colour of a pixel as 0x00BBGGRR; black outside.
   [[nodiscard]] virtual Colour Pixel(Point at) const = 0;
+  // The colours of row `y` from its left end; much faster than pixel by pixel. `row` is as long as
+  // the bitmap is wide, and `y` inside.
+  virtual void ReadRow(int y, std::span<Colour> row) const = 0;
 };
 
 class Graphics {

@@ -18,6 +18,8 @@ class Locale {
   [[nodiscard]] virtual std::string ShortDate(DateTime moment) = 0;
   // A time of day in the user's long form.
   [[nodiscard]] virtual std::string LongTime(DateTime moment) = 0;
+  // In small letters, of all scripts and whatever the user's language (LCMapStringEx).
+  [[nodiscard]] virtual std::string Lower(std::string_view text) = 0;
   // Bytes in the system's code page (CP_ACP) as UTF-8.
   [[nodiscard]] virtual std::string FromCodePage(std::string_view bytes) = 0;
 };

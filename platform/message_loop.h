@@ -16,6 +16,9 @@ class MessageLoop {
   // Delivers what is waiting and returns. False after Quit.
   virtual bool ProcessPending() = 0;
 
+  // Delivers messages for so long, waiting for more. False, at once, after Quit.
+  virtual bool ProcessFor(int milliseconds) = 0;
+
   // Ends every running loop; one that starts later ends at once.
   virtual void Quit() = 0;
 };

@@ -5,15 +5,18 @@
 #include "platform/clipboard.h"
 #include "platform/clock.h"
 #include "platform/files.h"
+#include "platform/hot_keys.h"
 #include "platform/interface_table.h"
 #include "platform/keyboard.h"
 #include "platform/locale.h"
 #include "platform/menus.h"
 #include "platform/message_loop.h"
 #include "platform/notification_area.h"
+#include "platform/other_windows.h"
 #include "platform/registry.h"
 #include "platform/screen.h"
 #include "platform/session.h"
+#include "platform/shell.h"
 #include "platform/single_instance.h"
 #include "platform/sockets.h"
 #include "platform/sound.h"
@@ -42,6 +45,9 @@ struct Platform {
   Sound& sound;
   Keyboard& keyboard;
   Session& session;
+  OtherWindows& other_windows;
+  HotKeys& hot_keys;
+  Shell& shell;
 };
 
 }  // namespace platform

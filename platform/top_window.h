@@ -1,6 +1,7 @@
 // A window of its own on the desktop.
 #pragma once
 
+#include <span>
 #include <string>
 
 #include "platform/widget.h"
@@ -29,6 +30,12 @@ class TopWindowEvents : public WidgetEvents {
   virtual void OnClose() {}
   // The window was moved or sized, whoever did it.
   virtual void OnPlaced() {}
+  // The user drags the window, which is to get these bounds now; they follow the pointer whatever
+  // the last ones were changed to, and the handler may change them. Where a window manager moves
+  // the window by itself, this comes once, when the user has let go.
+  virtual void OnMoving(Rect& /*bounds*/) {}
+  // The user has let go after moving or sizing the window.
+  virtual void OnDragEnded() {}
   // It became or ceased to be the active window.
   virtual void OnActivate(bool /*active*/) {}
   // It came onto a monitor of another resolution, or the user changed it; `bounds` is the size that
@@ -64,6 +71,21 @@ class TopWindow : public Widget {
   // While the left button is down: lets the user drag the window as if by its caption. Returns when
   // the drag is over, on systems where that is a loop of its own.
   virtual void BeginDrag() = 0;
+  // Whether the user is moving or sizing the window just now.
+  [[nodiscard]] virtual bool Dragging() const = 0;
+
+  // How much the whole window covers what is behind it: 0 not at all, 255 fully. Nothing happens on
+  // systems that have no layered windows (SetLayeredWindowAttributes).
+  virtual void SetAlpha(std::uint8_t alpha) = 0;
+
+  // Only these parts of the window exist, for the eye and for the mouse; counted from its upper
+  // left corner, the frame included (SetWindowRgn). Setting the shape that it has does nothing.
+  virtual void SetShape(std::span<const Rect> parts) = 0;
+  // All of the window exists, as at first.
+  virtual void ResetShape() = 0;
+
+  // Whether the pointer is on the window or on a control of it, and no other window is between.
+  [[nodiscard]] virtual bool UnderPointer() const = 0;
 
   // To the front and active.
   virtual void Raise() = 0;

@@ -60,6 +60,11 @@ Colour Raster::Pixel(Point at) const {
                  static_cast<std::size_t>(at.x)];
 }
 
+void Raster::ReadRow(int y, std::span<Colour> row) const {
+  const auto start = pixels_.begin() + static_cast<std::ptrdiff_t>(y) * size_.width;
+  std::copy_n(start, row.size(), row.begin());
+}
+
 void Raster::Set(Point at, Colour rgb) {
   if (!Rect{0, 0, size_.width, size_.height}.Contains(at)) return;
   pixels_[static_cast<std::size_t>(at.y) * static_cast<std::size_t>(size_.width) +

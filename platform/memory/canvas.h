@@ -29,6 +29,8 @@ class Raster final : public Bitmap, public Canvas {
   [[nodiscard]] Canvas& GetCanvas() override { return *this; }
   [[nodiscard]] Colour Pixel(Point at) const override;
 
+  void ReadRow(int y, std::span<Colour> row) const override;
+
   void Fill(const Rect& area, Colour colour) override;
   void Line(Point from, Point to, Colour colour, PenStyle style) override;
   // Letters are blocks, so that tests see where there is text; `texts` has the words.

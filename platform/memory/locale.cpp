@@ -1,5 +1,6 @@
 #include "platform/memory/locale.h"
 
+#include "platform/memory/case_fold.h"
 #include "platform/text.h"
 
 namespace platform::memory {
@@ -24,6 +25,8 @@ std::string Locale::LongTime(DateTime moment) {
   const ClockTime time = DecodeTime(moment);
   return Padded(time.hour, 2) + ":" + Padded(time.minute, 2) + ":" + Padded(time.second, 2);
 }
+
+std::string Locale::Lower(std::string_view text) { return FoldCase(text); }
 
 std::string Locale::FromCodePage(std::string_view bytes) {
   std::u16string wide;

@@ -11,6 +11,8 @@ class Locale : public platform::Locale {
   [[nodiscard]] std::string DecimalSeparator() override { return decimal_separator; }
   [[nodiscard]] std::string ShortDate(DateTime moment) override;
   [[nodiscard]] std::string LongTime(DateTime moment) override;
+  // The letters that FoldCase knows.
+  [[nodiscard]] std::string Lower(std::string_view text) override;
   [[nodiscard]] std::string FromCodePage(std::string_view bytes) override;
 
   std::string decimal_separator = ",";

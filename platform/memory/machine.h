@@ -5,6 +5,7 @@
 #include "platform/memory/clipboard.h"
 #include "platform/memory/clock.h"
 #include "platform/memory/files.h"
+#include "platform/memory/hot_keys.h"
 #include "platform/memory/interface_table.h"
 #include "platform/memory/keyboard.h"
 #include "platform/memory/locale.h"
@@ -12,9 +13,11 @@
 #include "platform/memory/message_loop.h"
 #include "platform/memory/notebook.h"
 #include "platform/memory/notification_area.h"
+#include "platform/memory/other_windows.h"
 #include "platform/memory/registry.h"
 #include "platform/memory/screen.h"
 #include "platform/memory/session.h"
+#include "platform/memory/shell.h"
 #include "platform/memory/single_instance.h"
 #include "platform/memory/sockets.h"
 #include "platform/memory/sound.h"
@@ -47,6 +50,9 @@ class Machine {
   Sound sound;
   Keyboard keyboard;
   Session session;
+  OtherWindows other_windows{windowing, clock};
+  HotKeys hot_keys;
+  Shell shell;
 
   [[nodiscard]] platform::Platform& Platform() { return platform_; }
 
@@ -58,9 +64,9 @@ class Machine {
 
  private:
   platform::Platform platform_{
-      interface_table, registry,  sockets,           single_instance, clock,    files,
-      locale,          clipboard, windowing,         menus,           timers,   message_loop,
-      screen,          graphics,  notification_area, sound,           keyboard, session};
+      interface_table,   registry,  sockets,  single_instance, clock,         files,    locale,
+      clipboard,         windowing, menus,    timers,          message_loop,  screen,   graphics,
+      notification_area, sound,     keyboard, session,         other_windows, hot_keys, shell};
 };
 
 }  // namespace platform::memory

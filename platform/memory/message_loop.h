@@ -15,6 +15,8 @@ class MessageLoop final : public platform::MessageLoop {
   bool RunUntil(const std::function<bool()>& done) override;
   // Runs one step, if there is one and `steps_when_pending` is set.
   bool ProcessPending() override;
+  // As ProcessPending; no time passes.
+  bool ProcessFor(int /*milliseconds*/) override { return ProcessPending(); }
   void Quit() override { quit_ = true; }
 
   // The next thing that happens while a loop runs.

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <stdexcept>
+#include <utility>
 
 namespace platform::memory {
 namespace {
@@ -22,7 +23,10 @@ class WidgetPeer : public Widget {
     state_.events = &events;
     windowing_.widgets_.push_back(&state_);
   }
-  ~WidgetPeer() override { std::erase(windowing_.widgets_, &state_); }
+  ~WidgetPeer() override {
+    std::erase(windowing_.widgets_, &state_);
+    if (windowing_.pointed_at_ == &state_) windowing_.pointed_at_ = nullptr;
+  }
   WidgetPeer(const WidgetPeer&) = delete;
   WidgetPeer& operator=(const WidgetPeer&) = delete;
 
@@ -54,6 +58,14 @@ class WidgetPeer : public Widget {
   }
   void Invalidate() override { ++state_.invalidated; }
   [[nodiscard]] Point ToScreen(Point client) const override { return state_.ToScreen(client); }
+
+  [[nodiscard]] bool LayeredWindows() const { return windowing_.layered_windows; }
+  // Whether the pointer is on it or on a child of it.
+  [[nodiscard]] bool UnderPointer() const {
+    const WidgetState* at = windowing_.pointed_at_;
+    while (at != nullptr && at != &state_) at = at->parent;
+    return at != nullptr && state_.OnScreen();
+  }
 
   [[nodiscard]] WidgetState& State() { return state_; }
   [[nodiscard]] const WidgetState& State() const { return state_; }
@@ -108,6 +120,24 @@ class TopWindowPeer final : public TopWindow {
     peer_.State().largest = largest;
   }
   void BeginDrag() override { ++peer_.State().drags; }
+  [[nodiscard]] bool Dragging() const override { return peer_.State().dragging; }
+  void SetAlpha(std::uint8_t alpha) override {
+    if (!peer_.LayeredWindows()) return;
+    peer_.State().alpha = alpha;
+    peer_.State().alphas.push_back(alpha);
+  }
+  void SetShape(std::span<const Rect> parts) override {
+    std::vector<Rect> shape(parts.begin(), parts.end());
+    if (peer_.State().shape == shape) return;
+    peer_.State().shape = std::move(shape);
+    ++peer_.State().shape_changes;
+  }
+  void ResetShape() override {
+    if (!peer_.State().shape) return;
+    peer_.State().shape.reset();
+    ++peer_.State().shape_changes;
+  }
+  [[nodiscard]] bool UnderPointer() const override { return peer_.UnderPointer(); }
   void Raise() override { ++peer_.State().raised; }
   [[nodiscard]] int Dpi() const override { return peer_.State().dpi; }
 
@@ -201,6 +231,44 @@ bool Windowing::Reachable(const WidgetState& state) const {
 void Windowing::MoveMouse(std::string_view name, Point at, bool left_down) {
   const WidgetState& state = Find(name);
   if (Reachable(state)) state.events->OnMouseMove({at, MouseButton::kNone, left_down});
+}
+
+void Windowing::PointAt(std::string_view name) {
+  WidgetState& onto = Find(name);
+  WidgetState* const left = std::exchange(pointed_at_, &onto);
+  if (left == &onto) return;
+  if (Reachable(onto)) onto.events->OnMouseEnter();
+  if (left != nullptr) left->events->OnMouseLeave();
+}
+
+void Windowing::PointAway() {
+  WidgetState* const left = std::exchange(pointed_at_, nullptr);
+  if (left != nullptr) left->events->OnMouseLeave();
+}
+
+void Windowing::Drag(std::string_view name, Point to) {
+  WidgetState& state = Find(name);
+  state.dragging = true;
+  Rect bounds{to.x, to.y, state.bounds.width, state.bounds.height};
+  state.top_events->OnMoving(bounds);
+  state.window->SetBounds(bounds);
+  state.dragging = false;
+  state.top_events->OnDragEnded();
+}
+
+std::vector<const WidgetState*> Windowing::TopWindows() const {
+  std::vector<const WidgetState*> top;
+  for (const WidgetState* state : widgets_) {
+    if (state->kind == WidgetState::Kind::kTopWindow) top.push_back(state);
+  }
+  return top;
+}
+
+WidgetState* Windowing::OwnTopWindow(WindowId id) {
+  for (WidgetState* state : widgets_) {
+    if (reinterpret_cast<WindowId>(state) == id) return state;
+  }
+  return nullptr;
 }
 
 void Windowing::DoubleClick(std::string_view name, Point at) {

@@ -2,10 +2,12 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "platform/memory/canvas.h"
+#include "platform/other_windows.h"
 #include "platform/windowing.h"
 
 namespace platform::memory {
@@ -46,6 +48,11 @@ struct WidgetState {
   Activation shown_with = Activation::kActivate;
   int dpi = 96;
   int drags = 0;
+  bool dragging = false;
+  std::optional<std::uint8_t> alpha;       // nothing: not a layered window
+  std::vector<std::uint8_t> alphas;        // every one that was set
+  std::optional<std::vector<Rect>> shape;  // nothing: the whole window
+  int shape_changes = 0;
   int raised = 0;
 
   [[nodiscard]] Size ClientSize() const {
@@ -82,10 +89,23 @@ class Windowing final : public platform::Windowing {
   void MoveMouse(std::string_view name, Point at, bool left_down = false);
   void DoubleClick(std::string_view name, Point at = {});
   void RightClick(std::string_view name, Point at = {});
+  // The pointer comes onto a control, or away from all. As on the real system the control that it
+  // comes onto may hear of it before the one that it left.
+  void PointAt(std::string_view name);
+  void PointAway();
+  // Moves a top window by dragging, in one go from where it is.
+  void Drag(std::string_view name, Point to);
   // Moves or sizes a top window as the user would, within its limits.
   void Place(std::string_view name, const Rect& bounds);
   void ClickCloseBox(std::string_view name);
 
+  // Visible or not, in order of creation.
+  [[nodiscard]] std::vector<const WidgetState*> TopWindows() const;
+  // Null when it is none of the program's.
+  [[nodiscard]] WidgetState* OwnTopWindow(WindowId id);
+
+  // Whether the system has layered windows.
+  bool layered_windows = true;
   std::string application_title;
   bool taskbar_button = true;
 
@@ -96,6 +116,7 @@ class Windowing final : public platform::Windowing {
   [[nodiscard]] bool Reachable(const WidgetState& state) const;
 
   Screen& screen_;
+  WidgetState* pointed_at_ = nullptr;
   std::vector<WidgetState*> widgets_;  // in order of creation
 };
 

@@ -1,9 +1,18 @@
 #include "platform/windows/dib.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <utility>
 
 namespace platform::windows {
+namespace {
+
+// The picture has red where a colour has blue.
+Colour ColourOf(std::uint32_t rgb) {
+  return (rgb & 0xFFU) << 16 | (rgb & 0xFF00U) | (rgb >> 16 & 0xFFU);
+}
+
+}  // namespace
 
 Dib::Dib(MemoryDc dc, GdiBitmap bitmap, const std::uint32_t* bits, Size size)
     : dc_(std::move(dc)),
@@ -30,9 +39,16 @@ std::unique_ptr<Dib> Dib::Make(Size size) {
 
 Colour Dib::Pixel(Point at) const {
   ::GdiFlush();  // drawing may still be queued
-  const auto row = static_cast<std::size_t>(at.y) * static_cast<std::size_t>(size_.width);
-  const std::uint32_t rgb = bits_[row + static_cast<std::size_t>(at.x)];
-  return (rgb & 0xFFU) << 16 | (rgb & 0xFF00U) | (rgb >> 16 & 0xFFU);
+  return ColourOf(Row(at.y)[at.x]);
+}
+
+void Dib::ReadRow(int y, std::span<Colour> row) const {
+  ::GdiFlush();
+  std::transform(Row(y), Row(y) + row.size(), row.begin(), &ColourOf);
+}
+
+const std::uint32_t* Dib::Row(int y) const {
+  return bits_ + static_cast<std::size_t>(y) * static_cast<std::size_t>(size_.width);
 }
 
 }  // namespace platform::windows

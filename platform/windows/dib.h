@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <span>
 
 #include "platform/geometry.h"
 #include "platform/windows/gdi.h"
@@ -19,9 +20,12 @@ class Dib {
   [[nodiscard]] Size size() const { return size_; }
   // The colour at a point inside, as 0x00BBGGRR.
   [[nodiscard]] Colour Pixel(Point at) const;
+  // The colours of a row inside, from its left end.
+  void ReadRow(int y, std::span<Colour> row) const;
 
  private:
   Dib(MemoryDc dc, GdiBitmap bitmap, const std::uint32_t* bits, Size size);
+  [[nodiscard]] const std::uint32_t* Row(int y) const;
 
   // In this order, so that the selection is undone first and the context goes last.
   MemoryDc dc_;

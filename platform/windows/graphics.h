@@ -19,6 +19,7 @@ class DibBitmap final : public Bitmap {
   [[nodiscard]] Size Extent() const override { return dib_->size(); }
   [[nodiscard]] Canvas& GetCanvas() override { return canvas_; }
   [[nodiscard]] Colour Pixel(Point at) const override;
+  void ReadRow(int y, std::span<Colour> row) const override { dib_->ReadRow(y, row); }
 
   [[nodiscard]] const Dib& dib() const { return *dib_; }
 

@@ -56,6 +56,16 @@ std::string Locale::LongTime(DateTime moment) {
                                          static_cast<int>(text.size())));
 }
 
+std::string Locale::Lower(std::string_view text) {
+  const std::wstring wide = ToWide(text);
+  if (wide.empty()) return {};
+  std::wstring lower(wide.size(), L'\0');  // one code unit for another
+  const auto length = static_cast<int>(wide.size());
+  const int written = ::LCMapStringEx(LOCALE_NAME_INVARIANT, LCMAP_LOWERCASE, wide.data(), length,
+                                      lower.data(), length, nullptr, nullptr, 0);
+  return written == length ? FromWide(lower) : std::string(text);
+}
+
 std::string Locale::FromCodePage(std::string_view bytes) {
   if (bytes.empty()) return {};
   const auto size = static_cast<int>(bytes.size());

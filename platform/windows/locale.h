@@ -10,6 +10,7 @@ class Locale : public platform::Locale {
   [[nodiscard]] std::string DecimalSeparator() override;
   [[nodiscard]] std::string ShortDate(DateTime moment) override;
   [[nodiscard]] std::string LongTime(DateTime moment) override;
+  [[nodiscard]] std::string Lower(std::string_view text) override;
   [[nodiscard]] std::string FromCodePage(std::string_view bytes) override;
 };
 

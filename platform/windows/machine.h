@@ -7,15 +7,18 @@
 #include "platform/windows/drawing.h"
 #include "platform/windows/files.h"
 #include "platform/windows/graphics.h"
+#include "platform/windows/hot_keys.h"
 #include "platform/windows/interface_table.h"
 #include "platform/windows/keyboard.h"
 #include "platform/windows/locale.h"
 #include "platform/windows/menus.h"
 #include "platform/windows/message_loop.h"
 #include "platform/windows/notification_area.h"
+#include "platform/windows/other_windows.h"
 #include "platform/windows/registry.h"
 #include "platform/windows/screen.h"
 #include "platform/windows/session.h"
+#include "platform/windows/shell.h"
 #include "platform/windows/single_instance.h"
 #include "platform/windows/sockets.h"
 #include "platform/windows/sound.h"
@@ -54,10 +57,16 @@ class Machine {
   Sound sound_;
   Keyboard keyboard_;
   Session session_;
-  Platform platform_{
-      interface_table_, registry_,  sockets_,           single_instance_, clock_,    files_,
-      locale_,          clipboard_, windowing_,         menus_,           timers_,   message_loop_,
-      screen_,          graphics_,  notification_area_, sound_,           keyboard_, session_};
+  OtherWindows other_windows_;
+  HotKeys hot_keys_;
+  Shell shell_;
+  Platform platform_{interface_table_, registry_,  sockets_,
+                     single_instance_, clock_,     files_,
+                     locale_,          clipboard_, windowing_,
+                     menus_,           timers_,    message_loop_,
+                     screen_,          graphics_,  notification_area_,
+                     sound_,           keyboard_,  session_,
+                     other_windows_,   hot_keys_,  shell_};
 };
 
 }  // namespace platform::windows

@@ -42,6 +42,17 @@ bool MessageLoop::ProcessPending() {
   return !quit_;
 }
 
+bool MessageLoop::ProcessFor(int milliseconds) {
+  const ULONGLONG end = ::GetTickCount64() + static_cast<ULONGLONG>(milliseconds);
+  while (ProcessPending()) {
+    const ULONGLONG now = ::GetTickCount64();
+    if (now >= end) break;
+    ::MsgWaitForMultipleObjectsEx(0, nullptr, static_cast<DWORD>(end - now), QS_ALLINPUT,
+                                  MWMO_INPUTAVAILABLE);
+  }
+  return !quit_;
+}
+
 void MessageLoop::Quit() {
   quit_ = true;
   // Ends the system's own loops too, of a menu or a drag.

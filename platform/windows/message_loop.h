@@ -15,6 +15,7 @@ class MessageLoop final : public platform::MessageLoop {
 
   bool RunUntil(const std::function<bool()>& done) override;
   bool ProcessPending() override;
+  bool ProcessFor(int milliseconds) override;
   void Quit() override;
 
  private:

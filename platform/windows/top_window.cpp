@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "platform/windows/dpi.h"
+#include "platform/windows/layered.h"
 #include "platform/windows/wide.h"
 
 namespace platform::windows {
@@ -101,6 +102,14 @@ void TopWindow::BeginDrag() {
   if (!watch.Gone()) dragging_ = false;
 }
 
+void TopWindow::SetAlpha(std::uint8_t alpha) { SetWindowOpacity(hwnd(), alpha); }
+
+bool TopWindow::UnderPointer() const {
+  POINT pointer{};
+  if (!::GetCursorPos(&pointer)) return false;
+  return ::GetAncestor(::WindowFromPoint(pointer), GA_ROOT) == hwnd();
+}
+
 void TopWindow::Raise() {
   if (::IsIconic(hwnd())) ::ShowWindow(hwnd(), SW_RESTORE);
   ::SetForegroundWindow(hwnd());
@@ -113,6 +122,7 @@ std::optional<LRESULT> TopWindow::Handle(const Message& message) {
   if (Reporting()) {
     if (const auto answer = HandleWindow(message)) return answer;
     if (const auto answer = HandleSystem(message)) return answer;
+    if (const auto answer = HandleDrag(message)) return answer;
   }
   return WidgetOf::Handle(message);
 }
@@ -176,6 +186,40 @@ std::optional<LRESULT> TopWindow::HandleSystem(const Message& message) {
     default:
       return std::nullopt;
   }
+}
+
+std::optional<LRESULT> TopWindow::HandleDrag(const Message& message) {
+  switch (message.id) {
+    case WM_ENTERSIZEMOVE:
+      drag_.Begin(Bounds());
+      return std::nullopt;
+    case WM_EXITSIZEMOVE:
+      EndDrag();
+      return 0;
+    case WM_MOVING: {
+      auto* proposed = reinterpret_cast<RECT*>(message.l);
+      Rect bounds = drag_.Moving(FromRect(*proposed));
+      events_.OnMoving(bounds);
+      *proposed = ToRect(bounds);
+      return TRUE;
+    }
+    default:
+      return std::nullopt;
+  }
+}
+
+void TopWindow::EndDrag() {
+  const Lifetime::Watch watch(lifetime());
+  const Rect bounds = Bounds();
+  if (drag_.MovedByOthers(bounds)) {
+    Rect wanted = bounds;
+    events_.OnMoving(wanted);
+    if (watch.Gone()) return;
+    if (wanted != bounds) SetBounds(wanted);
+    if (watch.Gone()) return;
+  }
+  drag_.End();
+  events_.OnDragEnded();
 }
 
 LRESULT TopWindow::HandlePlaced(const Message& message) {

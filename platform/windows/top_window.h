@@ -3,7 +3,9 @@
 
 #include "platform/top_window.h"
 #include "platform/windows/bare_frame.h"
+#include "platform/windows/drag_watch.h"
 #include "platform/windows/widget_window.h"
+#include "platform/windows/window_shape.h"
 
 namespace platform::windows {
 
@@ -19,6 +21,11 @@ class TopWindow final : public WidgetOf<platform::TopWindow> {
   [[nodiscard]] bool Topmost() const override;
   void SetSizeLimits(Size smallest, Size largest) override;
   void BeginDrag() override;
+  [[nodiscard]] bool Dragging() const override { return drag_.Active(); }
+  void SetAlpha(std::uint8_t alpha) override;
+  void SetShape(std::span<const Rect> parts) override { shape_.Set(hwnd(), parts); }
+  void ResetShape() override { shape_.Reset(hwnd()); }
+  [[nodiscard]] bool UnderPointer() const override;
   void Raise() override;
   [[nodiscard]] int Dpi() const override;
 
@@ -30,7 +37,9 @@ class TopWindow final : public WidgetOf<platform::TopWindow> {
   [[nodiscard]] std::optional<LRESULT> HandleKind(const Message& message);
   [[nodiscard]] std::optional<LRESULT> HandleWindow(const Message& message);
   [[nodiscard]] std::optional<LRESULT> HandleSystem(const Message& message);
+  [[nodiscard]] std::optional<LRESULT> HandleDrag(const Message& message);
   LRESULT HandlePlaced(const Message& message);
+  void EndDrag();
   LRESULT HandleDpi(const Message& message);
   // Once after it was shown without taking the focus.
   [[nodiscard]] bool DeclinesFocus();
@@ -43,6 +52,8 @@ class TopWindow final : public WidgetOf<platform::TopWindow> {
   Rect reported_bounds_;
   ULONGLONG declines_focus_until_ = 0;  // in ticks of the system
   bool dragging_ = false;               // inside BeginDrag
+  DragWatch drag_;
+  WindowShape shape_;
 };
 
 }  // namespace platform::windows

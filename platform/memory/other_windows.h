@@ -1,0 +1,52 @@
+// A desktop of windows with titles: those that tests put there, and the program's own.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "platform/memory/clock.h"
+#include "platform/memory/windowing.h"
+#include "platform/other_windows.h"
+
+namespace platform::memory {
+
+class OtherWindows final : public platform::OtherWindows {
+ public:
+  // A window of another program.
+  struct Window {
+    WindowId id = 0;
+    std::string title;
+    bool hangs = false;    // never answers: whoever sets its title waits in vain
+    bool refuses = false;  // belongs to somebody more privileged
+    int title_changes = 0;
+  };
+
+  OtherWindows(Windowing& windowing, Clock& clock) : windowing_(windowing), clock_(clock) {}
+
+  // The program's own windows come first.
+  [[nodiscard]] std::vector<WindowId> TopLevel() override;
+  [[nodiscard]] WindowTitle Title(WindowId window, std::size_t characters) override;
+  // Waiting for a window that hangs takes its time on the clock.
+  TitleOutcome SetTitle(WindowId window, std::string_view title, int patience_ms) override;
+  [[nodiscard]] WindowId Foreground() override { return foreground; }
+
+  // For tests.
+  WindowId Add(std::string_view title);
+  void Remove(WindowId window);
+  // Throws std::out_of_range when there is no such window.
+  [[nodiscard]] Window& Find(WindowId window);
+
+  WindowId foreground = 0;
+  // Calls of SetTitle.
+  int sets = 0;
+
+ private:
+  [[nodiscard]] Window* Lookup(WindowId window);
+
+  Windowing& windowing_;
+  Clock& clock_;
+  std::vector<Window> windows_;
+  WindowId last_id_ = 0;
+};
+
+}  // namespace platform::memory
