@@ -19,21 +19,31 @@ class Form::Events final : public platform::TopWindowEvents {
   void OnContextMenu(platform::Point screen) override { form_.OnContextMenu(screen); }
   void OnResize(platform::Size size) override { form_.OnResize(size); }
   void OnClose() override {
+    Tell([](FormComponent& part) { part.FormClosing(); });
     Guarded([&] { form_.FormClose(); });
   }
+  void OnMoving(platform::Rect& bounds) override {
+    Tell([&bounds](FormComponent& part) { part.FormMoving(bounds); });
+  }
+  void OnDragEnded() override {
+    Tell([](FormComponent& part) { part.FormDragEnded(); });
+  }
   void OnPlaced() override {
+    Tell([](FormComponent& part) { part.FormPlaced(); });
     Guarded([&] { form_.FormPlaced(); });
   }
   void OnDpiChanged(int /*dpi*/, const platform::Rect& bounds) override {
     Guarded([&] { form_.ChangeDpi(bounds); });
   }
   void OnDisplayChange() override {
+    Tell([](FormComponent& part) { part.FormDisplayChanged(); });
     Guarded([&] { form_.FormDisplayChange(); });
   }
   void OnResume() override {
     Guarded([&] { form_.FormResumed(); });
   }
   void OnEndSession() override {
+    Tell([](FormComponent& part) { part.FormSessionEnds(); });
     Guarded([&] { form_.FormEndSession(); });
   }
   void OnSettingChange() override {
@@ -44,6 +54,11 @@ class Form::Events final : public platform::TopWindowEvents {
   template <class Handler>
   void Guarded(const Handler& handler) {
     form_.App().Guard(handler);
+  }
+
+  template <class Call>
+  void Tell(const Call& call) {
+    for (FormComponent* part : form_.components_) Guarded([&] { call(*part); });
   }
 
   Form& form_;

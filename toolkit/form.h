@@ -4,9 +4,11 @@
 #include <functional>
 #include <memory>
 #include <string_view>
+#include <vector>
 
 #include "platform/top_window.h"
 #include "toolkit/control.h"
+#include "toolkit/form_component.h"
 #include "toolkit/modal_stack.h"
 
 namespace toolkit {
@@ -37,6 +39,10 @@ class Form : public Control {
   // Lets the user go on dragging the form by one of its controls.
   void BeginDrag() { Window().BeginDrag(); }
 
+  // Gives every control its text in the user's language: called by the form itself when it is made,
+  // and by the application when another language was chosen. It closes and destroys no form.
+  virtual void Localise() {}
+
  protected:
   // The user or the system asks to close the form. As it stands: a modal form ends with kCancel,
   // another one hides.
@@ -54,6 +60,8 @@ class Form : public Control {
   virtual void FormPaint(platform::Canvas& canvas);
 
  private:
+  friend class FormComponent;
+
   // Forwards the reports of the native window, each inside the guard.
   class Events;
 
@@ -61,6 +69,7 @@ class Form : public Control {
   void ChangeDpi(const platform::Rect& bounds);
 
   std::unique_ptr<Events> events_;
+  std::vector<FormComponent*> components_;  // each takes itself out
   platform::TopWindow* window_ = nullptr;  // the peer, owned by Control
 };
 

@@ -12,4 +12,15 @@ platform::Rect BroughtIntoView(const platform::Rect& bounds, platform::Screen& s
   return moved;
 }
 
+bool InSight(const platform::Rect& bounds, const std::vector<platform::Monitor>& monitors) {
+  constexpr int kHold = 24;  // pixels, either way
+  const auto shows = [&](const platform::Monitor& monitor) {
+    const platform::Rect& work = monitor.work_area;
+    const int width = std::min(bounds.Right(), work.Right()) - std::max(bounds.left, work.left);
+    const int height = std::min(bounds.Bottom(), work.Bottom()) - std::max(bounds.top, work.top);
+    return width >= std::min(bounds.width, kHold) && height >= std::min(bounds.height, kHold);
+  };
+  return std::any_of(monitors.begin(), monitors.end(), shows);
+}
+
 }  // namespace toolkit
