@@ -8,6 +8,7 @@ namespace display {
 namespace {
 
 constexpr std::int64_t kStep = 1024;  // from one unit to the next, as everywhere in the program
+constexpr std::int64_t kNextUnitAt = 1000;
 constexpr std::int64_t kBitsPerByte = 8;
 
 // An idle line has a scale too: one kilobyte or kilobit.
@@ -27,7 +28,7 @@ std::int64_t RoundUp(std::int64_t value) {
 // The unit of the amount: how many bytes (or bits) one is.
 std::int64_t UnitOf(std::int64_t amount) {
   std::int64_t unit = kStep;
-  while (amount / unit >= 1000) unit *= kStep;
+  while (amount / unit >= kNextUnitAt) unit *= kStep;
   return unit;
 }
 
@@ -39,7 +40,9 @@ std::int64_t AutomaticEdge(std::int64_t peak, ScaleUnits units) {
   const std::int64_t amount = InUnits(peak, units);
   const std::int64_t unit = UnitOf(amount);
   const std::int64_t whole = std::max(kSmallestUpperEdge, (amount + unit - 1) / unit);
-  const std::int64_t edge = RoundUp(whole) * unit;
+  // A thousand of a unit is written in the next one, so the edge is one of that.
+  const std::int64_t round = RoundUp(whole);
+  const std::int64_t edge = round < kNextUnitAt ? round * unit : kStep * unit;
   return units == ScaleUnits::kKBits ? edge / kBitsPerByte : edge;
 }
 

@@ -9,9 +9,10 @@ namespace display {
 namespace {
 
 constexpr int kScanPeriodMs = 1000;
-constexpr std::size_t kLongestHistory =
-    4096;                                    // samples; wider than any screen with bars of 1 pixel
-constexpr std::int64_t kWidestDrawn = 1000;  // pixels; beyond it nothing changes any more
+// Samples; wider than any screen with bars of one pixel.
+constexpr std::size_t kLongestHistory = 4096;
+// Design pixels; beyond it nothing changes any more.
+constexpr std::int64_t kWidestDrawn = 1000;
 const platform::FontSpec kScaleFont{"Small Fonts", 9, true};
 
 }  // namespace
@@ -30,6 +31,7 @@ void TKxInterMeter::Clear() {
 }
 
 void TKxInterMeter::SetTestWrite(std::int32_t bytes) {
+  // What the 32 bits of the inputs cannot hold arrives as less than nothing.
   history_.push_back({std::max(0, test_read_), std::max(0, bytes)});
   if (history_.size() > kLongestHistory) history_.pop_front();
   test_read_ = 0;
@@ -50,11 +52,15 @@ void TKxInterMeter::Changed() {
 
 void TKxInterMeter::OnPaint(platform::Canvas& canvas) {
   App().Guard([&] {
-    const platform::Size size = canvas.Extent();
-    if (size.width <= 0 || size.height <= 0) return;
-    if (picture_is_old_ || picture_ == nullptr || picture_->Extent() != size) Compose(size);
-    if (picture_ != nullptr) canvas.Draw(*picture_, {0, 0});
+    if (Picture() != nullptr) canvas.Draw(*picture_, {0, 0});
   });
+}
+
+const platform::Bitmap* TKxInterMeter::Picture() {
+  const platform::Size size = ClientPixels();
+  if (size.width <= 0 || size.height <= 0) return nullptr;
+  if (picture_is_old_ || picture_ == nullptr || picture_->Extent() != size) Compose(size);
+  return picture_.get();
 }
 
 void TKxInterMeter::Compose(platform::Size size) {

@@ -64,6 +64,10 @@ class TKxInterMeter : public toolkit::Control {
   // On: the scale fits the largest amount in sight. Off: it ends at SpeedLimit.
   MeterProperty<bool> AutoScale{*this, true};
   MeterProperty<std::int64_t> SpeedLimit{*this, 0};  // bytes per second
+  // As designed: scanning goes on while nothing moves, and what is sent says nothing about the
+  // connection. Nobody switches them on.
+  MeterProperty<bool> StopInactive{*this, false};
+  MeterProperty<bool> UseSentToDetermineConnect{*this, false};
   // No background: what is neither bar nor text nor frame is left out of the window.
   MeterProperty<bool> Transparent{*this, false};
 
@@ -86,6 +90,8 @@ class TKxInterMeter : public toolkit::Control {
   // After the picture was painted and before it is shown; the handler may draw on it.
   std::function<void(platform::Canvas& canvas)> OnDisplay;
 
+  // The picture as it is shown, composed now when it is old. Null while there is none.
+  [[nodiscard]] const platform::Bitmap* Picture();
   // Bevel and border widths on one side, in real pixels.
   [[nodiscard]] int FramePixels();
   [[nodiscard]] const std::deque<GraphSample>& History() const { return history_; }

@@ -14,10 +14,16 @@ constexpr std::int64_t kHistogram = 1;
 void Enlarge(const platform::Bitmap& picture, platform::Bitmap& target) {
   const platform::Size from = picture.Extent();
   const platform::Size to = target.Extent();
-  for (int y = 0; y < to.height; ++y) {
-    for (int x = 0; x < to.width; ++x) {
-      target.GetCanvas().Fill(
-          {x, y, 1, 1}, picture.Pixel({x * from.width / to.width, y * from.height / to.height}));
+  const auto edge = [](int pixel, int from_side, int to_side) {
+    return (pixel * to_side + from_side - 1) / from_side;
+  };
+  for (int y = 0; y < from.height; ++y) {
+    const int top = edge(y, from.height, to.height);
+    const int height = edge(y + 1, from.height, to.height) - top;
+    for (int x = 0; x < from.width; ++x) {
+      const int left = edge(x, from.width, to.width);
+      const int width = edge(x + 1, from.width, to.width) - left;
+      target.GetCanvas().Fill({left, top, width, height}, picture.Pixel({x, y}));
     }
   }
 }
@@ -25,15 +31,14 @@ void Enlarge(const platform::Bitmap& picture, platform::Bitmap& target) {
 }  // namespace
 
 TrayIcon::TrayIcon(toolkit::Application& app, settings::Store& store)
-    : app_(app), store_(store), icon_(app.Platform().notification_area.CreateIcon(*this)) {
-  drawing_ = app.Platform().graphics.CreateBitmap({kTrayPictureSize, kTrayPictureSize});
-}
+    : app_(app), store_(store), icon_(app.Platform().notification_area.CreateIcon(*this)) {}
 
 TrayIcon::~TrayIcon() = default;
 
 void TrayIcon::LoadPictures() {
   const std::string built_in = store_.Resolve(setting::TrayIconFile.read);
   pictures_.Load(app_.Platform().files, store_.Read(setting::TrayIconFile), built_in);
+  shown_activity_.reset();
 }
 
 void TrayIcon::ShowStart() {
@@ -41,8 +46,7 @@ void TrayIcon::ShowStart() {
     LoadPictures();
     ShowActivity(TrayActivity::kIdle);
   } else {
-    histogram_.Clear();
-    ShowHistogram();
+    ShowHistogram(TrayHistogram());
   }
 }
 
@@ -52,39 +56,47 @@ void TrayIcon::ShowScan(const engine::ScanAmounts& scan) {
     ShowActivity(ActivityOf(scan.ScanSumDL, scan.ScanSumUL));
   } else if (type == kHistogram) {
     histogram_.Push(scan.ScanSumDL, scan.ScanSumUL);
-    ShowHistogram();
+    ShowHistogram(histogram_);
   }
 }
 
 void TrayIcon::Clear() {
   histogram_.Clear();
-  ShowHistogram();
+  ShowHistogram(histogram_);
 }
 
 void TrayIcon::ShowActivity(TrayActivity activity) {
   if (!pictures_.Loaded()) {
-    // Without any picture file the empty histogram stands for the program.
-    Clear();
+    // Without any picture file an empty histogram stands for the program.
+    ShowHistogram(TrayHistogram());
     return;
   }
+  if (activity == shown_activity_) return;
   const int size = icon_->PictureSize();
   const auto picture = app_.Platform().graphics.CreateBitmap({size, size});
   if (!picture) return;
   pictures_.Draw(activity, picture->GetCanvas());
   icon_->SetPicture(*picture, pictures_.SeeThrough());
+  shown_activity_ = activity;
 }
 
 // The shell is given the picture twice, after each half; the other half keeps what it showed, so
 // that nothing flickers.
-void TrayIcon::ShowHistogram() {
-  if (!drawing_) return;
+void TrayIcon::ShowHistogram(const TrayHistogram& histogram) {
+  shown_activity_.reset();
+  if (!drawing_) {
+    drawing_ = app_.Platform().graphics.CreateBitmap({kTrayPictureSize, kTrayPictureSize});
+    if (!drawing_) return;
+    drawing_->GetCanvas().Fill({0, 0, kTrayPictureSize, kTrayPictureSize},
+                               platform::colour::kWhite);
+  }
   platform::Canvas& canvas = drawing_->GetCanvas();
   const platform::Colour receiving = store_.Read(setting::GraphColor_HistogramReceiving);
   const platform::Colour sending = store_.Read(setting::GraphColor_HistogramSend);
   TrayHistogram::DrawFrame(canvas);
-  histogram_.DrawUpperHalf(canvas, receiving);
+  histogram.DrawUpperHalf(canvas, receiving);
   ShowEnlarged(*drawing_);
-  histogram_.DrawLowerHalf(canvas, sending);
+  histogram.DrawLowerHalf(canvas, sending);
   ShowEnlarged(*drawing_);
 }
 

@@ -3,6 +3,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -32,7 +33,8 @@ class TrayIcon final : public alerts::Balloons, private platform::TrayIconEvents
   // is replaced by the one that comes with the program, here and not in the store.
   void LoadPictures();
 
-  // The picture before the first scan, by "IconType": idle, or the empty histogram.
+  // The picture of a start, by "IconType": idle, or an empty histogram. What the histogram holds
+  // comes back with the next scan.
   void ShowStart();
 
   // The picture of a scan: "IconType" 0 shows its activity, 1 the histogram; another value leaves
@@ -54,7 +56,7 @@ class TrayIcon final : public alerts::Balloons, private platform::TrayIconEvents
   void OnTrayMenu(platform::Point screen) override;
 
   void ShowActivity(TrayActivity activity);
-  void ShowHistogram();
+  void ShowHistogram(const TrayHistogram& histogram);
   void ShowEnlarged(const platform::Bitmap& picture);
 
   toolkit::Application& app_;
@@ -63,6 +65,8 @@ class TrayIcon final : public alerts::Balloons, private platform::TrayIconEvents
   TrayHistogram histogram_;
   std::unique_ptr<platform::Bitmap> drawing_;   // 16 x 16
   std::unique_ptr<platform::Bitmap> enlarged_;  // as large as the area shows, when that is more
+  // What the icon shows; nothing while it is the histogram or the pictures were loaded anew.
+  std::optional<TrayActivity> shown_activity_;
   std::unique_ptr<platform::TrayIcon> icon_;
 };
 

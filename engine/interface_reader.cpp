@@ -45,20 +45,20 @@ std::vector<InterfaceRow> InterfaceReader::WithoutFilters(const std::vector<Inte
   known.reserve(rows.size());
   for (const InterfaceRow& row : rows) {
     known.push_back(Know(row, known.size()));
-    if (!known.back().filter) kept.push_back(row);
+    if (!known.back().filter.value_or(false)) kept.push_back(row);
   }
   known_ = std::move(known);
   return kept;
 }
 
-// Asks the system only about a row that the latest read did not have, so that a steady scan costs
-// no call beside the table's own. An index can be given to another interface later; the description
-// tells.
+// Asks the system only about a row that it has not answered for at the latest read, so that a
+// steady scan costs no call beside the table's own. An index can be given to another interface
+// later; the description tells.
 InterfaceReader::KnownRow InterfaceReader::Know(const InterfaceRow& row,
                                                 std::size_t position) const {
   std::string description = platform::DescriptionBytes(row);
   const auto is_this = [&](const KnownRow& known) {
-    return known.index == row.dwIndex && known.description == description;
+    return known.filter && known.index == row.dwIndex && known.description == description;
   };
   if (position < known_.size() && is_this(known_[position])) return known_[position];
   const auto found = std::find_if(known_.begin(), known_.end(), is_this);

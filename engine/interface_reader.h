@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -20,8 +21,8 @@ class InterfaceReader {
  private:
   struct KnownRow {
     std::uint32_t index;
-    std::string description;  // bytes of the code page
-    bool filter;
+    std::string description;     // bytes of the code page
+    std::optional<bool> filter;  // nothing: the system could not say
   };
 
   [[nodiscard]] std::vector<platform::InterfaceRow> ReadRows();

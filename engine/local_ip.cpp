@@ -12,7 +12,8 @@ std::string GetLocalIP(platform::Sockets& sockets) {
   if (!sockets.Start(kVersion11)) return {};
   const std::string host = sockets.HostName();
   const auto addresses = host.empty() ? std::nullopt : sockets.HostAddresses(host);
-  // The library stays started after a failed look-up; it always did, and nothing depends on it.
+  // The library stays started after a failed look-up; starting it again costs nothing, and
+  // nothing depends on it.
   if (!addresses) return {};
   std::string last = addresses->empty() ? std::string() : addresses->back();
   sockets.Cleanup();

@@ -4,6 +4,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <span>
 
 namespace platform {
@@ -55,8 +56,8 @@ class InterfaceTable {
   [[nodiscard]] virtual std::uint32_t Read(std::span<std::byte> buffer, std::uint32_t& size) = 0;
 
   // Whether the interface with this `dwIndex` is a lightweight filter, which repeats the octets of
-  // the adapter that it sits on (GetIfEntry2, FilterInterface). False when the system cannot say.
-  [[nodiscard]] virtual bool IsFilter(std::uint32_t index) = 0;
+  // the adapter that it sits on (GetIfEntry2, FilterInterface). Nothing when the system cannot say.
+  [[nodiscard]] virtual std::optional<bool> IsFilter(std::uint32_t index) = 0;
 };
 
 }  // namespace platform

@@ -61,7 +61,7 @@ class HintWindow::Window final : public platform::TopWindowEvents {
     for (std::size_t i = 0; i < lines_.size(); ++i) {
       canvas.Text({margin, margin + static_cast<int>(i) * line_height, size.width - 2 * margin,
                    line_height},
-                  lines_[i], Font(), platform::colour::System(23), platform::TextAlign::kLeft);
+                  lines_[i], Font(), platform::colour::kBlack, platform::TextAlign::kLeft);
     }
   }
 

@@ -10,6 +10,10 @@ namespace {
 
 constexpr std::int64_t kShortestTimer = 10;  // ms, what the system can do
 
+// Part of a period that lies between two ticks at least. A tick that comes so late that the next
+// would follow at once takes that one's place as well: it would find next to nothing.
+constexpr std::int64_t kShortestGapPercent = 25;
+
 }  // namespace
 
 PhaseTimer::PhaseTimer(Application& app, int period_ms, std::function<void()> on_tick)
@@ -27,16 +31,19 @@ void PhaseTimer::SetActive(bool active) {
 // Armed before the tick runs, so that ticks go on while a window that the tick shows is open.
 void PhaseTimer::Arm() {
   const std::int64_t wait = deadline_ - app_.Platform().clock.SteadyMilliseconds();
-  timer_ = app_.Platform().timers.Start(static_cast<int>(std::max(wait, kShortestTimer)),
-                                        [this] { Tick(); });
+  auto next = app_.Platform().timers.Start(static_cast<int>(std::max(wait, kShortestTimer)),
+                                           [this] { Tick(); });
+  // Refused, the present one goes on: out of phase is better than not at all.
+  if (next) timer_ = std::move(next);
 }
 
 void PhaseTimer::Tick() {
   const std::int64_t now = app_.Platform().clock.SteadyMilliseconds();
   // The system's clock and its timers differ by a few ms; that early is in time.
   deadline_ += period_ms_;
-  // What was missed is not made up for: the next tick would bring two scans at once.
-  while (deadline_ <= now) deadline_ += period_ms_;
+  // What was missed is not made up for.
+  const std::int64_t earliest = now + period_ms_ * kShortestGapPercent / 100;
+  while (deadline_ < earliest) deadline_ += period_ms_;
   Arm();
   app_.Guard([this] { on_tick_(); });
 }

@@ -41,7 +41,7 @@ class EntryBuilder {
     items_.push_back(item);
     platform::MenuEntry entry;
     entry.id = static_cast<int>(items_.size());
-    entry.separator = item->Caption == kSeparator;
+    entry.separator = !item->Literal && item->Caption == kSeparator;
     entry.text = item->Literal ? DoubleAmpersands(item->Caption) : item->Caption;
     entry.shortcut = ShortCutText(item->ShortCut);
     entry.hint = item->Hint;
@@ -54,6 +54,19 @@ class EntryBuilder {
   }
 
   std::vector<std::weak_ptr<MenuItem>> items_;
+};
+
+// Marks a menu as open until its choice is made, also when that fails.
+class OpenScope {
+ public:
+  explicit OpenScope(bool& open) : open_(open) { open_ = true; }
+  ~OpenScope() { End(); }
+  OpenScope(const OpenScope&) = delete;
+  OpenScope& operator=(const OpenScope&) = delete;
+  void End() const { open_ = false; }
+
+ private:
+  bool& open_;
 };
 
 }  // namespace
@@ -77,12 +90,12 @@ PopupMenu::PopupMenu(Application& app, const ImageList& images)
 
 void PopupMenu::Popup(platform::Point screen, Form& owner) {
   if (open_) return;
-  open_ = true;
+  const OpenScope scope(open_);
   if (OnPopup) app_.Guard(OnPopup);
   EntryBuilder builder;
   const std::vector<platform::MenuEntry> entries = builder.Build(Items.Children());
   const int id = app_.Platform().menus.Popup(owner.Window(), screen, entries, painter_);
-  open_ = false;
+  scope.End();
   // Scans go on while the menu is open and may have replaced the adapter items; the one that is
   // held here outlives its handler.
   const std::shared_ptr<MenuItem> item = builder.ItemOf(id);

@@ -53,9 +53,12 @@ std::uint32_t InterfaceTable::Read(std::span<std::byte> buffer, std::uint32_t& s
   return 0;
 }
 
-bool InterfaceTable::IsFilter(std::uint32_t index) {
+std::optional<bool> InterfaceTable::IsFilter(std::uint32_t index) {
   ++filter_questions;
-  return !notebook_.Fails() && filters_.contains(index);
+  const bool there = std::any_of(rows.begin(), rows.end(),
+                                 [index](const InterfaceRow& row) { return row.dwIndex == index; });
+  if (notebook_.Fails() || !there) return std::nullopt;
+  return filters_.contains(index);
 }
 
 InterfaceRow& InterfaceTable::AddRow(InterfaceRow row) {

@@ -30,7 +30,7 @@ class InterfaceTable : public platform::InterfaceTable {
   explicit InterfaceTable(Notebook& notebook) : notebook_(notebook) {}
 
   [[nodiscard]] std::uint32_t Read(std::span<std::byte> buffer, std::uint32_t& size) override;
-  [[nodiscard]] bool IsFilter(std::uint32_t index) override;
+  [[nodiscard]] std::optional<bool> IsFilter(std::uint32_t index) override;
 
   // The rows as they stand now. A test may change them in any way; without any row the table has a
   // row count of zero.

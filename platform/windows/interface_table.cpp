@@ -28,11 +28,13 @@ std::uint32_t InterfaceTable::Read(std::span<std::byte> buffer, std::uint32_t& s
   return result;
 }
 
-bool InterfaceTable::IsFilter(std::uint32_t index) {
+std::optional<bool> InterfaceTable::IsFilter(std::uint32_t index) {
+  // A system that lacks the call has no such filters either.
   if (get_entry_ == nullptr) return false;
   MIB_IF_ROW2 row{};
   row.InterfaceIndex = index;
-  return get_entry_(&row) == NO_ERROR && row.InterfaceAndOperStatusFlags.FilterInterface != 0;
+  if (get_entry_(&row) != NO_ERROR) return std::nullopt;
+  return row.InterfaceAndOperStatusFlags.FilterInterface != 0;
 }
 
 }  // namespace platform::windows

@@ -11,7 +11,7 @@ class InterfaceTable : public platform::InterfaceTable {
   InterfaceTable();
 
   [[nodiscard]] std::uint32_t Read(std::span<std::byte> buffer, std::uint32_t& size) override;
-  [[nodiscard]] bool IsFilter(std::uint32_t index) override;
+  [[nodiscard]] std::optional<bool> IsFilter(std::uint32_t index) override;
 
  private:
   using GetEntry = DWORD(WINAPI*)(MIB_IF_ROW2*);

@@ -64,7 +64,7 @@ void ShellTrayIcon::Show(Icon icon) {
   std::swap(icon_, icon);
   if (added_) {
     Modify(NIF_ICON);
-  } else {
+  } else if (!retrying_) {
     Add();
   }
 }
@@ -117,6 +117,7 @@ void ShellTrayIcon::Add() {
     // A shell that timed out may have taken it all the same.
     added_ = ::Shell_NotifyIconW(NIM_MODIFY, &data) != FALSE;
   }
+  retrying_ = !added_;
   if (added_) {
     data.uVersion = NOTIFYICON_VERSION_4;
     ::Shell_NotifyIconW(NIM_SETVERSION, &data);

@@ -44,6 +44,7 @@ class ShellTrayIcon final : public TrayIcon, public NativeWindow {
   Icon icon_;
   std::wstring hint_;
   bool added_ = false;
+  bool retrying_ = false;     // the shell was too busy; the timer asks it again
   LONG last_key_select_ = 0;  // message time, ms
 };
 

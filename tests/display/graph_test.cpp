@@ -49,7 +49,7 @@ TEST(GraphScale, TheUpperEdgeRisesWithThePeakToARoundNumber) {
       {"on the edge", 1024, ScaleUnits::kKBytes, 1024},
       {"just above", 1025, ScaleUnits::kKBytes, 2 * 1024},
       {"21 kB", 21 * 1024, ScaleUnits::kKBytes, 50 * 1024},
-      {"999 kB", 999 * 1024, ScaleUnits::kKBytes, 1000 * 1024},
+      {"999 kB", 999 * 1024, ScaleUnits::kKBytes, 1024 * 1024},
       {"megabytes begin at 1000", 1000 * 1024, ScaleUnits::kKBytes, 1024 * 1024},
       {"the largest", 2147483647, ScaleUnits::kKBytes, 2LL << 30},
       {"kilobits", 1000, ScaleUnits::kKBits, 10 * 1024 / 8},

@@ -138,6 +138,15 @@ TEST_F(Tray, TheHistogramIsFramedAndItsBarsMoveToTheLeft) {
   EXPECT_FALSE(machine.notification_area.Present()) << "the icon goes with the program";
 }
 
+TEST_F(Tray, AdaptersThatComeDoNotEmptyTheHistory) {
+  Run([&] {
+    Scan({5000, 0});
+    machine.interface_table.AddRow(platform::memory::MakeRow("Another"));
+    Scan({});
+    EXPECT_EQ(Bar(13, kRed), 5);
+  });
+}
+
 TEST_F(Tray, ClearGraphEmptiesTheHistogram) {
   Run([&] {
     Scan({5000, 800});
@@ -162,6 +171,9 @@ TEST_F(Tray, ActivityIsShownByFourPictures) {
     EXPECT_EQ(At(3, 3), kPictures[1]);
     Scan({});
     EXPECT_EQ(At(3, 3), kPictures[0]);
+    const int updates = machine.notification_area.picture_updates;
+    Scan({});
+    EXPECT_EQ(machine.notification_area.picture_updates, updates) << "nothing has changed";
   });
 }
 
@@ -222,6 +234,10 @@ TEST_F(Tray, IsEnlargedByWholePixelsWhereTheScreenAsksForMore) {
     EXPECT_EQ(At(28, 12), kRed);
     EXPECT_EQ(At(29, 13), kRed);
     EXPECT_EQ(At(28, 3), kWhite);
+    machine.notification_area.picture_size = 20;
+    Scan({5000, 0});
+    for (int x = 0; x < 20; ++x) EXPECT_NE(At(x, 8), 0xDEADU);
+    EXPECT_EQ(At(19, 6), 0x808080U) << "the frame reaches the edge";
   });
 }
 

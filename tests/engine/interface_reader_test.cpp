@@ -80,6 +80,15 @@ TEST_F(InterfaceReader, FiltersAreLeftOutAndAskedAboutOnce) {
   EXPECT_EQ(source.filter_questions, 4) << "an index in other hands is asked about again";
 }
 
+TEST_F(InterfaceReader, AQuestionThatWasRefusedIsAskedAgain) {
+  source.AddRow(MakeRow("card"));
+  source.MarkFilter(source.AddRow(MakeRow("filter")).dwIndex);
+  machine.notebook.FailCall(4);  // two calls for the table, one for the card
+  EXPECT_EQ(Read(), "card filter ");
+  EXPECT_EQ(Read(), "card ");
+  EXPECT_EQ(source.filter_questions, 3);
+}
+
 TEST_F(InterfaceReader, ATableOfNothingButFiltersCountsAsEmpty) {
   source.MarkFilter(source.AddRow(MakeRow("filter")).dwIndex);
   EXPECT_EQ(Read(), "");

@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
+#include <vector>
+
 #include "platform/memory/machine.h"
 #include "toolkit/application.h"
 #include "toolkit/phase_timer.h"
@@ -51,6 +54,20 @@ TEST(PhaseTimer, DoesNotMakeUpForTicksThatWereMissed) {
   EXPECT_EQ(ticks, 1) << "the next one is due at a whole second";
   machine.timers.Advance(1);
   EXPECT_EQ(ticks, 2);
+}
+
+TEST(PhaseTimer, ALateTickIsNotFollowedByAnotherAtOnce) {
+  platform::memory::Machine machine;
+  Application app(machine.Platform());
+  std::vector<std::int64_t> ticks;
+  const std::int64_t begin = machine.clock.SteadyMilliseconds();
+  PhaseTimer timer(app, 1000, [&] { ticks.push_back(machine.clock.SteadyMilliseconds() - begin); });
+  timer.SetActive(true);
+  machine.timers.Stall(1700);
+  machine.timers.Advance(1300);
+  machine.timers.Stall(1950);
+  machine.timers.Advance(1100);
+  EXPECT_EQ(ticks, (std::vector<std::int64_t>{1700, 2000, 3000, 4950, 6000}));
 }
 
 TEST(PhaseTimer, GoesOnAfterATickThatThrows) {
