@@ -1,0 +1,33 @@
+// The meter's hot keys, which work whatever program the user is in.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+#include "platform/hot_keys.h"
+#include "toolkit/short_cut.h"
+
+namespace toolkit {
+class Application;
+}
+
+namespace display {
+
+// What a hot key does. `OnKeyDown` runs inside the application's guard.
+struct HotKeyItem {
+  toolkit::ShortCut GlobalKey = 0;
+  std::function<void()> OnKeyDown;
+};
+
+// Registered with the system as long as it exists. One that another program has taken already stays
+// silent.
+class HotKeyHolder {
+ public:
+  HotKeyHolder(toolkit::Application& app, std::vector<HotKeyItem> items);
+
+ private:
+  std::vector<std::unique_ptr<platform::HotKey>> registered_;
+};
+
+}  // namespace display
