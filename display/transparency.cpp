@@ -1,6 +1,7 @@
 #include "display/transparency.h"
 
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 #include "display/graph_shape.h"
@@ -14,7 +15,6 @@ namespace setting = settings::setting;
 constexpr int kOpaque = 255;
 // Milliseconds. From the usual opacity to opaque a fade takes a quarter of a second.
 constexpr std::int64_t kFadeStep = 4;
-constexpr std::int64_t kFadeStalled = 500;
 
 int Alpha(std::int64_t stored) {
   return static_cast<int>(std::clamp<std::int64_t>(stored, 0, kOpaque));
@@ -109,8 +109,7 @@ void Transparency::Fade(int from, int to) {
     ~Scope() { flag = false; }
     bool& flag;
   } const scope(fading_);
-  last_step_ = window_.App().Platform().clock.SteadyMilliseconds();
-  std::int64_t due = last_step_;
+  std::int64_t due = window_.App().Platform().clock.SteadyMilliseconds();
   for (bool first = true; LetMessagesThrough(due) && fade_target_; first = false) {
     const int towards = alpha_ < *fade_target_ ? 1 : -1;
     if (first) {
@@ -128,16 +127,14 @@ bool Transparency::LetMessagesThrough(std::int64_t due) {
   toolkit::Application& app = window_.App();
   if (!app.ProcessMessages()) return false;
   const std::int64_t wait = due - app.Platform().clock.SteadyMilliseconds();
-  if (wait > 0 && !app.Platform().message_loop.ProcessFor(static_cast<int>(wait))) return false;
-  last_step_ = app.Platform().clock.SteadyMilliseconds();
-  return true;
+  ++steps_;
+  return wait <= 0 || app.Platform().message_loop.ProcessFor(static_cast<int>(wait));
 }
 
 void Transparency::Check() {
   if (hovered_) PointerChanged();
-  if (!fading_ || !fade_target_) return;
-  const std::int64_t now = window_.App().Platform().clock.SteadyMilliseconds();
-  if (now - last_step_ > kFadeStalled) SetWindowAlpha(*fade_target_);
+  const bool stands = std::exchange(steps_seen_, steps_) == steps_;
+  if (stands && fading_ && fade_target_) SetWindowAlpha(*fade_target_);
 }
 
 void Transparency::ApplyShape() {

@@ -38,8 +38,8 @@ class Transparency {
   // returns when that is done: with "TransparentFade" messages are delivered meanwhile.
   void PointerChanged();
 
-  // Once a scan: sees a leave that nobody reported, and ends a fade that does not get on, because a
-  // menu or another window was opened from within it.
+  // Once a scan: sees a leave that nobody reported, and ends a fade that did not get on since the
+  // last scan, because a menu or another window was opened from within it.
   void Check();
 
   // Gives the window the shape of what the graph shows now.
@@ -62,7 +62,8 @@ class Transparency {
   int alpha_ = 255;
   bool fading_ = false;             // the loop of a fade is under way
   std::optional<int> fade_target_;  // nothing: that loop is to end
-  std::int64_t last_step_ = 0;      // of the fade, on the steady clock
+  std::int64_t steps_ = 0;          // of all fades so far
+  std::int64_t steps_seen_ = 0;     // of them, at the last check
 };
 
 }  // namespace display

@@ -52,7 +52,7 @@ class Machine {
   Session session;
   OtherWindows other_windows{windowing, clock};
   HotKeys hot_keys;
-  Shell shell;
+  Shell shell{files};
 
   [[nodiscard]] platform::Platform& Platform() { return platform_; }
 
