@@ -1,0 +1,40 @@
+// The user's list of window titles: which windows the numeric line is posted into.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/files.h"
+#include "platform/locale.h"
+
+namespace display {
+
+using TitleLines = std::vector<std::string>;
+
+// The lines of the list's file, "WindowTitles.tit" beside the program, one title in each; empty
+// lines too. UTF-8 with or without a byte order mark, or else the system's code page; any line
+// ends. A file that is missing or cannot be read has none.
+[[nodiscard]] TitleLines LoadTitleLines(platform::Files& files, platform::Locale& locale);
+
+// Replaces the file: UTF-8 without a mark, each line ended by CR LF. False when it cannot be
+// written.
+bool SaveTitleLines(platform::Files& files, const TitleLines& lines);
+
+// The list in use, made ready for finding.
+class TitleList {
+ public:
+  explicit TitleList(platform::Locale& locale) : locale_(locale) {}
+
+  void SetLines(const TitleLines& lines);
+
+  // Whether one of the lines occurs anywhere in a title, capital letters or not. An empty line
+  // occurs in every title.
+  [[nodiscard]] bool OccursIn(std::string_view title) const;
+
+ private:
+  platform::Locale& locale_;
+  TitleLines lower_;  // in small letters
+};
+
+}  // namespace display
