@@ -16,8 +16,9 @@ if(CMAKE_CROSSCOMPILING)
   find_program(WINE wine)
   find_program(WINESERVER wineserver)
   set(CMAKE_CROSSCOMPILING_EMULATOR ${WINE})
-  # No offer to fetch the parts of Wine that no test uses.
-  set(WINE_ENVIRONMENT WINEPREFIX=${CMAKE_BINARY_DIR}/wine WINEDEBUG=-all
+  # A locale whose files may have names in any script; no offer to fetch the parts of Wine that no
+  # test uses.
+  set(WINE_ENVIRONMENT WINEPREFIX=${CMAKE_BINARY_DIR}/wine WINEDEBUG=-all LC_ALL=C.UTF-8
       "WINEDLLOVERRIDES=mscoree=\\;mshtml=")
   add_test(NAME wine_starts COMMAND ${WINE} wineboot --init)
   add_test(NAME wine_stops COMMAND sh -c "'${WINESERVER}' --kill || true")  # fails when all ended
@@ -59,13 +60,23 @@ function(test_program name folder)
   endif()
 endfunction()
 
+# hook_module(<name> <folder>): a library that a hook of the tests brings into the program.
+function(hook_module name folder)
+  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/${folder}/*.cpp)
+  add_library(${name} SHARED ${sources})
+  target_link_libraries(${name} PRIVATE tremolux_options)
+  set_target_properties(${name} PROPERTIES PREFIX "")
+endfunction()
+
 if(WIN32)
   test_program(contract_tests_windows tests/contract windows)
-  test_program(desktop_tests tests/desktop platform)
-  if(TARGET desktop_tests)
-    set_property(TEST desktop_tests APPEND PROPERTY FIXTURES_REQUIRED program_folder)
-    set_tests_properties(desktop_tests PROPERTIES WORKING_DIRECTORY ${TESTED_FOLDER})
-  endif()
+
+  # The desktop tests drive the real program from outside.
+  floor(desktop_driver tests/desktop/driver windows)
+  target_link_libraries(desktop_driver PUBLIC gdiplus)
+  hook_module(menu_spy tests/desktop/spy)
+  test_program(desktop_tests tests/desktop desktop_driver)
+  include(cmake/desktop_tests.cmake)
 else()
   test_program(platform_tests tests/platform memory)
   test_program(contract_tests tests/contract memory)
