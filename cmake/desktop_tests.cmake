@@ -1,0 +1,33 @@
+# What the desktop tests need around them: the program folder, under Wine a desktop of Wine's own,
+# and a second run of some of them on dates of their own.
+add_dependencies(desktop_tests menu_spy)
+set_tests_properties(desktop_tests PROPERTIES WORKING_DIRECTORY ${TESTED_FOLDER} TIMEOUT 600)
+set_property(TEST desktop_tests APPEND PROPERTY FIXTURES_REQUIRED program_folder)
+set_property(TEST desktop_tests APPEND PROPERTY ENVIRONMENT "GTEST_FILTER=-FakedDate.*")
+
+if(CMAKE_CROSSCOMPILING)
+  add_test(NAME wine_desktop
+           COMMAND ${WINE} regedit /S ${CMAKE_SOURCE_DIR}/tests/desktop/wine_desktop.reg)
+  set_tests_properties(wine_desktop PROPERTIES FIXTURES_SETUP wine_desktop FIXTURES_REQUIRED wine
+                       ENVIRONMENT "${WINE_ENVIRONMENT}")
+  set_property(TEST desktop_tests APPEND PROPERTY FIXTURES_REQUIRED wine_desktop)
+
+  # The library gives Wine's programs another date and leaves the clock that timers go by alone.
+  find_file(FAKETIME libfaketimeMT.so.1 PATHS /usr/lib PATH_SUFFIXES x86_64-linux-gnu/faketime faketime
+            NO_CMAKE_FIND_ROOT_PATH)
+  if(FAKETIME)
+    set(faked_clock ${CMAKE_BINARY_DIR}/faked_clock)
+    file(WRITE ${faked_clock} "+0\n")
+    add_test(NAME desktop_tests_on_other_dates
+             COMMAND desktop_tests --gtest_brief=1 --gtest_filter=FakedDate.*)
+    set_tests_properties(
+      desktop_tests_on_other_dates
+      PROPERTIES WORKING_DIRECTORY ${TESTED_FOLDER} RUN_SERIAL ON TIMEOUT 600
+                 FIXTURES_REQUIRED "wine;wine_desktop;program_folder"
+                 ENVIRONMENT "${WINE_ENVIRONMENT};LD_PRELOAD=${FAKETIME};NO_FAKE_STAT=1;\
+FAKETIME_NO_CACHE=1;FAKETIME_DONT_FAKE_MONOTONIC=1;FAKETIME_TIMESTAMP_FILE=${faked_clock};\
+TREMOLUX_FAKED_CLOCK=Z:${faked_clock}")
+  else()
+    message(WARNING "without the package faketime the tests on other dates do not run")
+  endif()
+endif()

@@ -1,0 +1,22 @@
+// The user's hands: mouse and keyboard, as the system takes them from the devices.
+#pragma once
+
+#include "tests/desktop/driver/win.h"
+
+namespace desktop {
+
+// Points are on the screen. All throw std::runtime_error when the system takes no input.
+
+void MoveMouse(POINT to);
+void PressLeft(POINT at);
+void ReleaseLeft(POINT at);
+void Click(POINT at);
+void DoubleClick(POINT at);
+void RightClick(POINT at);
+void PressKey(WORD key);
+
+// Takes a window by `from`, moves the pointer to `to` and lets go; for what follows the mouse as
+// the system's own moving and sizing does.
+void Drag(HWND window, POINT from, POINT to);
+
+}  // namespace desktop

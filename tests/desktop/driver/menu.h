@@ -1,0 +1,65 @@
+// The program's menu, used as a user does.
+#pragma once
+
+#include <initializer_list>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "tests/desktop/driver/win.h"
+
+namespace desktop {
+
+struct MenuItem {
+  std::string text;      // as the menu holds it, ampersands doubled; "-" for a separator
+  std::string shortcut;  // what stands at the right
+  bool enabled = true;
+  bool checked = false;
+  bool radio = false;
+  HMENU submenu = nullptr;
+  RECT area{};  // on the screen
+
+  // For comparing and reading: the text and, in brackets, "radio", "checked" and ">".
+  [[nodiscard]] std::string Description() const;
+};
+
+// A menu that is open. What a method waits for in vain, it throws as std::runtime_error.
+class OpenMenu {
+ public:
+  // Waits until the program has opened a menu. Looks into it for as long as this lives.
+  explicit OpenMenu(DWORD process);
+  ~OpenMenu();
+  OpenMenu(const OpenMenu&) = delete;
+  OpenMenu& operator=(const OpenMenu&) = delete;
+
+  // What stands in it, or in the submenu that `path` leads to, which is opened with the mouse.
+  [[nodiscard]] std::vector<MenuItem> Items(std::initializer_list<std::string_view> path = {});
+  [[nodiscard]] std::vector<std::string> Descriptions(
+      std::initializer_list<std::string_view> path = {});
+  // The item at the end of `path`; its submenus are opened with the mouse.
+  [[nodiscard]] MenuItem Find(std::initializer_list<std::string_view> path);
+  // Clicks the item at the end of `path` and waits until the menu is gone.
+  void Choose(std::initializer_list<std::string_view> path);
+  // Leaves it with Esc.
+  void Leave();
+
+  // Whether a menu of the process is open.
+  [[nodiscard]] static bool Any(DWORD process);
+
+ private:
+  class Spy;
+
+  [[nodiscard]] std::vector<MenuItem> Read(HWND menu_window);
+  // The window of the submenu behind `item`; opened when it is not open.
+  HWND OpenSubmenu(const MenuItem& item);
+  // The window of the menu that the steps lead to.
+  template <class Step>
+  HWND Follow(Step begin, Step end);
+
+  DWORD process_;
+  HWND root_ = nullptr;
+  std::unique_ptr<Spy> spy_;
+};
+
+}  // namespace desktop

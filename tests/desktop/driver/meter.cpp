@@ -1,0 +1,77 @@
+#include "tests/desktop/driver/meter.h"
+
+#include <optional>
+
+#include "tests/desktop/driver/input.h"
+#include "tests/desktop/driver/registry.h"
+#include "tests/desktop/driver/wait.h"
+#include "tests/desktop/driver/windows_of.h"
+// Behind the system's own header, which it needs.
+#include <shellapi.h>
+
+namespace desktop {
+namespace {
+
+// Looked up: Wine does not have it.
+std::optional<RECT> SystemsTrayArea(HWND tray) {
+  using GetArea = HRESULT(WINAPI*)(const NOTIFYICONIDENTIFIER*, RECT*);
+  const auto get = reinterpret_cast<GetArea>(reinterpret_cast<void (*)()>(
+      ::GetProcAddress(::GetModuleHandleW(L"shell32.dll"), "Shell_NotifyIconGetRect")));
+  NOTIFYICONIDENTIFIER icon{};
+  icon.cbSize = sizeof(icon);
+  icon.hWnd = tray;
+  icon.uID = 1;
+  RECT area{};
+  if (get == nullptr || FAILED(get(&icon, &area))) return std::nullopt;
+  return area;
+}
+
+}  // namespace
+
+Meter::Meter(const std::wstring& path) : program_(path) {
+  Await("the meter window", [this] {
+    window_ = FindTop(program_.id(), L"T_frmBrisanto");
+    return window_ != nullptr && Visible();
+  });
+  ::WaitForInputIdle(program_.process(), kAmpleMs);
+}
+
+bool Meter::OnTop() const {
+  return (::GetWindowLongPtrW(window_, GWL_EXSTYLE) & WS_EX_TOPMOST) != 0;
+}
+
+HWND Meter::graph() const { return FindControl(window_, L"_tlkInterMeter"); }
+HWND Meter::line() const { return FindControl(window_, L"_tlkDLULMeter"); }
+HWND Meter::panel() const { return FindControl(window_, L"pnlContain"); }
+std::string Meter::LineText() const { return TextOf(line()); }
+
+POINT Meter::Inside() const { return MiddleOf(AreaOf(window_)); }
+
+LONG Meter::Scaled(LONG design) const {
+  return ::MulDiv(design, static_cast<int>(::GetDpiForWindow(window_)), 96);
+}
+
+OpenMenu Meter::Menu() {
+  RightClick(Inside());
+  return OpenMenu(program_.id());
+}
+
+HWND Meter::tray() const { return FindTop(program_.id(), L"TremoluxTray"); }
+
+RECT Meter::TrayArea() const {
+  if (const auto area = SystemsTrayArea(tray())) return *area;
+  // Under Wine the only icon stands at the right end of the taskbar.
+  RECT area = AreaOf(::FindWindowW(L"Shell_TrayWnd", nullptr));
+  area.left = area.right - HeightOf(area);
+  return area;
+}
+
+void AwaitScans(int scans) {
+  // Each scan writes this value once, whatever its traffic.
+  for (int scan = 0; scan < scans; ++scan) {
+    Remove(kSettingsKey, "InfoMaxDL");
+    Await("a scan", [] { return Stored(kSettingsKey, "InfoMaxDL").has_value(); });
+  }
+}
+
+}  // namespace desktop
