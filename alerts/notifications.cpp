@@ -101,7 +101,7 @@ void Notifications::Execute(const Rule& rule) {
   const std::int64_t action = store_.Read(rule.action);
   if (action == kDisplayMessage) {
     const std::string title =
-        std::string(engine::kProductTitle) + " " + language_.Text("MainForm", "S3", "Notification");
+        std::string(engine::kProductTitle) + " " + language_.Text(settings::text::MainForm::S3);
     reactions_.Warn(title, store_.Read(rule.message), kBalloonSeconds);
   } else if (action == kShutdownComputer) {
     reactions_.ShutDownComputer();

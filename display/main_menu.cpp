@@ -1,11 +1,11 @@
 #include "display/main_menu.h"
 
-#include <string_view>
-
 #include "display/menu_images.h"
 
 namespace display {
 namespace {
+
+namespace text = settings::text;
 
 using Item = toolkit::MenuItem* MainMenu::*;
 
@@ -13,43 +13,39 @@ constexpr Item kMainLevel = nullptr;
 constexpr int kNoImage = -1;
 constexpr bool kSeparatorBefore = true;
 
-// The menu from top to bottom. An item's name is also the key of its text.
+// The menu from top to bottom.
 struct Row {
   Item item;
   Item parent;
-  std::string_view name;
-  std::string_view caption;
+  settings::TextEntry text;
   int image = kNoImage;
   bool separator_before = false;
 };
 
 constexpr Row kRows[] = {
-    {&MainMenu::ConnectionInformations1, kMainLevel, "ConnectionInformations1", "DL-UL Statistics",
+    {&MainMenu::ConnectionInformations1, kMainLevel, text::MainForm::ConnectionInformations1,
      kStatisticsImage},
-    {&MainMenu::conenctionMonitor1, kMainLevel, "conenctionMonitor1", "Connection Statistics",
-     kAdapterImage},
-    {&MainMenu::ConnectionSources1, kMainLevel, "ConnectionSources1", "Connection Sources",
-     kSourcesImage},
-    {&MainMenu::GraphDisplayOptions1, kMainLevel, "GraphDisplayOptions1", "Graph Options",
-     kGraphImage, kSeparatorBefore},
-    {&MainMenu::mnuAlwaysTopOn, &MainMenu::GraphDisplayOptions1, "mnuAlwaysTopOn", "Always on Top"},
-    {&MainMenu::ShowHide1, &MainMenu::GraphDisplayOptions1, "ShowHide1", "Show / Hide Graph"},
-    {&MainMenu::mnuGraphMode, &MainMenu::GraphDisplayOptions1, "mnuGraphMode", "Graphic", kNoImage,
+    {&MainMenu::conenctionMonitor1, kMainLevel, text::MainForm::conenctionMonitor1, kAdapterImage},
+    {&MainMenu::ConnectionSources1, kMainLevel, text::MainForm::ConnectionSources1, kSourcesImage},
+    {&MainMenu::GraphDisplayOptions1, kMainLevel, text::MainForm::GraphDisplayOptions1, kGraphImage,
      kSeparatorBefore},
-    {&MainMenu::mnuTextMode, &MainMenu::GraphDisplayOptions1, "mnuTextMode", "Numeric"},
-    {&MainMenu::mnuTextandGraph, &MainMenu::GraphDisplayOptions1, "mnuTextandGraph",
-     "Graph&&Numeric"},
-    {&MainMenu::Clear1, &MainMenu::GraphDisplayOptions1, "Clear1", "Clear Graph", kNoImage,
+    {&MainMenu::mnuAlwaysTopOn, &MainMenu::GraphDisplayOptions1, text::MainForm::mnuAlwaysTopOn},
+    {&MainMenu::ShowHide1, &MainMenu::GraphDisplayOptions1, text::MainForm::ShowHide1},
+    {&MainMenu::mnuGraphMode, &MainMenu::GraphDisplayOptions1, text::MainForm::mnuGraphMode,
+     kNoImage, kSeparatorBefore},
+    {&MainMenu::mnuTextMode, &MainMenu::GraphDisplayOptions1, text::MainForm::mnuTextMode},
+    {&MainMenu::mnuTextandGraph, &MainMenu::GraphDisplayOptions1, text::MainForm::mnuTextandGraph},
+    {&MainMenu::Clear1, &MainMenu::GraphDisplayOptions1, text::MainForm::Clear1, kNoImage,
      kSeparatorBefore},
-    {&MainMenu::Transparent1, &MainMenu::GraphDisplayOptions1, "Transparent1",
-     "Graph Transparency Options"},
-    {&MainMenu::mnuTransparent2k, &MainMenu::Transparent1, "mnuTransparent2k", "Windows XP Style"},
-    {&MainMenu::mnuTransparent, &MainMenu::Transparent1, "mnuTransparent", "Custom Transparency"},
-    {&MainMenu::Settings1, kMainLevel, "Settings1", "Settings...", kSettingsImage},
-    {&MainMenu::HElp1, kMainLevel, "HElp1", "Help", kHelpImage, kSeparatorBefore},
-    {&MainMenu::HelpContents1, &MainMenu::HElp1, "HelpContents1", "Help Contents"},
-    {&MainMenu::AboutBrisantoXP1, &MainMenu::HElp1, "AboutBrisantoXP1", "About Korvane Tremolux"},
-    {&MainMenu::Close1, kMainLevel, "Close1", "Exit", kExitImage, kSeparatorBefore},
+    {&MainMenu::Transparent1, &MainMenu::GraphDisplayOptions1, text::MainForm::Transparent1},
+    {&MainMenu::mnuTransparent2k, &MainMenu::Transparent1, text::MainForm::mnuTransparent2k},
+    {&MainMenu::mnuTransparent, &MainMenu::Transparent1, text::MainForm::mnuTransparent},
+    {&MainMenu::Settings1, kMainLevel, text::MainForm::Settings1, kSettingsImage},
+    {&MainMenu::Language1, kMainLevel, text::MainForm::Language1},
+    {&MainMenu::HElp1, kMainLevel, text::MainForm::HElp1, kHelpImage, kSeparatorBefore},
+    {&MainMenu::HelpContents1, &MainMenu::HElp1, text::MainForm::HelpContents1},
+    {&MainMenu::AboutBrisantoXP1, &MainMenu::HElp1, text::MainForm::AboutBrisantoXP1},
+    {&MainMenu::Close1, kMainLevel, text::MainForm::Close1, kExitImage, kSeparatorBefore},
 };
 
 }  // namespace
@@ -58,7 +54,7 @@ MainMenu::MainMenu(toolkit::Application& app) : popup(app, kMenuImages) {
   for (const Row& row : kRows) {
     toolkit::MenuItem& parent = row.parent == kMainLevel ? popup.Items : *(this->*row.parent);
     if (row.separator_before) parent.AddSeparator();
-    toolkit::MenuItem& item = parent.Add(row.caption);
+    toolkit::MenuItem& item = parent.Add(row.text.english);
     item.ImageIndex = row.image;
     this->*row.item = &item;
   }
@@ -70,13 +66,13 @@ MainMenu::MainMenu(toolkit::Application& app) : popup(app, kMenuImages) {
   mnuTransparent2k->ShortCut = toolkit::kCtrl | toolkit::kAlt | 'D';
   mnuTransparent->ShortCut = toolkit::kCtrl | toolkit::kAlt | 'F';
   // No such key is registered; users know the hint as it is.
-  Transparent1->Hint = "ShortCut [ Ctrl+Alt+S ]";
+  Transparent1->Hint = text::MainForm::Transparent1Hint.english;
 }
 
 void MainMenu::Localise(const settings::Language& language) {
-  for (const Row& row : kRows) {
-    (this->*row.item)->Caption = language.Text("MainForm", row.name, row.caption);
-  }
+  const settings::Translation say = language.Chosen();
+  for (const Row& row : kRows) (this->*row.item)->Caption = say(row.text);
+  Transparent1->Hint = say(text::MainForm::Transparent1Hint);
 }
 
 }  // namespace display

@@ -6,7 +6,7 @@
 namespace display {
 namespace {
 
-constexpr std::string_view kSection = "MainForm";
+namespace text = settings::text;
 
 }  // namespace
 
@@ -36,16 +36,30 @@ void NumericLine::Reset() {
     current_ = bits ? "[ DL:0,0 kbit UL:0,0 kbit ]" : "[ DL:0,0 kB UL:0,0 kB ]";
   }
   if (store_.Read(settings::setting::SOM2)) {
-    average_ =
-        "[ " + language_.Text(kSection, "S1", "Average") + " DL:" + zero + " UL:" + zero + " ]";
+    average_ = AverageStart() + zero + " UL:" + zero + " ]";
   }
   if (store_.Read(settings::setting::SOM3)) {
-    maximum_ =
-        "[ " + language_.Text(kSection, "S2", "Max") + " DL:" + zero + " Max UL:" + zero + " ]";
+    maximum_ = "[ " + language_.Text(text::MainForm::S2) + " DL:" + zero + " Max UL:" + zero + " ]";
+  }
+  idle_ = true;
+}
+
+void NumericLine::Localise() {
+  if (idle_) {
+    Reset();
+  } else if (!average_start_.empty() && average_.starts_with(average_start_)) {
+    const std::string rest = average_.substr(average_start_.size());
+    average_ = AverageStart() + rest;
   }
 }
 
+std::string NumericLine::AverageStart() {
+  average_start_ = "[ " + language_.Text(text::MainForm::S1) + " DL:";
+  return average_start_;
+}
+
 void NumericLine::Update(const engine::ScanAmounts& scan) {
+  idle_ = false;
   current_.clear();
   if (store_.Read(settings::setting::SOM1)) {
     current_ = "[ DL:" + Amount(scan.ScanSumDL) + " UL:" + Amount(scan.ScanSumUL) + " ]";
@@ -72,8 +86,7 @@ void NumericLine::UpdateAverage(const engine::ScanAmounts& scan) {
     return;
   }
   const std::int64_t divisor = AvarageTime == 0 ? 1 : AvarageTime;
-  average_ = "[ " + language_.Text(kSection, "S1", "Average") + " DL:" + Amount(sum_dl_ / divisor) +
-             " UL:" + Amount(sum_ul_ / divisor) + " ]";
+  average_ = AverageStart() + Amount(sum_dl_ / divisor) + " UL:" + Amount(sum_ul_ / divisor) + " ]";
   scans_summed_ = 0;
   ClearSums();
 }

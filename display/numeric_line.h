@@ -23,6 +23,9 @@ class NumericLine {
   // The texts of an idle line, each only if its mode is on.
   void Reset();
 
+  // Takes over another language's words, in texts that stay until an average is next due too.
+  void Localise();
+
   // Takes the amounts of one scan and makes the texts of the modes that are on.
   void Update(const engine::ScanAmounts& scan);
 
@@ -47,9 +50,14 @@ class NumericLine {
   Quantity& quantity_;
   const settings::Language& language_;
 
+  // Looked up anew, and remembered.
+  std::string AverageStart();
+
   std::string current_;
   std::string average_;
   std::string maximum_;
+  std::string average_start_;  // the part of the average's text that depends on the language
+  bool idle_ = true;           // no scan since Reset
 
   std::int64_t AvarageTime = 5;  // scans
   std::int64_t scans_summed_ = 0;

@@ -47,12 +47,14 @@ T_frmBrisanto::T_frmBrisanto(toolkit::Application& app)
     : Form(app, CreateParams()),
       error_log_(app.Platform().files, CommonMemo),
       RegME(app.Platform().registry, app.Platform().files),
+      _ReadLangauge(RegME, app.Platform().files, app.Platform().locale),
       quantity_(RegME, app.Platform().locale),
       statistics_(RegME),
       sampler_(app.Platform().interface_table, app.Platform().locale, RegME, statistics_, traffic_),
       scan_cycle_(app.Platform().clock, sampler_, statistics_, traffic_, *this),
       _MainMenu(app),
       adapter_menus_(RegME, *_MainMenu.conenctionMonitor1, *_MainMenu.ConnectionSources1),
+      language_menu_(_ReadLangauge, *_MainMenu.Language1, [&app] { app.LanguageChanged(); }),
       _tlkInterMeter(*this, "_tlkInterMeter"),
       pnlContain(*this, "pnlContain"),
       _tlkDLULMeter(pnlContain, "_tlkDLULMeter"),
@@ -64,6 +66,7 @@ T_frmBrisanto::T_frmBrisanto(toolkit::Application& app)
       ticker_(RegME, reactions_) {
   DesignControls();
   ConnectHandlers();
+  LocaliseControls();
   // A step that fails is logged; the rest of the program starts all the same, and the first scan
   // makes the initialisation again.
   app.Guard([this] { FormCreate(); });
@@ -81,7 +84,6 @@ void T_frmBrisanto::DesignControls() {
                               toolkit::ScaleTo(dpi, kDesignBounds.height)};
   SetWindowBounds(toolkit::BroughtIntoView(bounds, App().Platform().screen));
 
-  _tlkInterMeter.SetCaption("Traffic");
   _tlkInterMeter.SetAlign(toolkit::Align::kClient);
   pnlContain.SetBevels(toolkit::BevelCut::kNone, toolkit::BevelCut::kLowered);
   pnlContain.SetBounds({0, 0, 0, kPanelHeight});
@@ -105,6 +107,7 @@ void T_frmBrisanto::ConnectHandlers() {
 
   _TrayIcon.OnClick = [this] { _TrayIconClick(); };
   _TrayIcon.OnMenu = [this](platform::Point screen) { _MainMenu.popup.Popup(screen, *this); };
+  _MainMenu.popup.OnPopup = [this] { language_menu_.Refresh(); };
   _MainMenu.mnuAlwaysTopOn->OnClick = [this] { mnuAlwaysTopOnClick(); };
   _MainMenu.ShowHide1->OnClick = [this] { _TrayIconClick(); };
   _MainMenu.mnuGraphMode->OnClick = [this] { mnuGraphModeClick(); };
@@ -131,6 +134,17 @@ void T_frmBrisanto::FormCreate() {
 }
 
 void T_frmBrisanto::InitAdapters() { adapter_menus_.Add(sampler_.InitAdapters()); }
+
+void T_frmBrisanto::LocaliseControls() {
+  _MainMenu.Localise(_ReadLangauge);
+  _tlkInterMeter.SetCaption(_ReadLangauge.Text(settings::text::MainForm::_tlkInterMeter));
+}
+
+void T_frmBrisanto::Localise() {
+  LocaliseControls();
+  numeric_line_.Localise();
+  ShowLine();
+}
 
 void T_frmBrisanto::ApplyDisplaySettings() {
   if (RegME.Read(setting::StartIconMode)) _TrayIcon.LoadPictures();

@@ -11,6 +11,7 @@
 #include "alerts/ticker.h"
 #include "display/adapter_menus.h"
 #include "display/kxintermeter.h"
+#include "display/language_menu.h"
 #include "display/main_menu.h"
 #include "display/numeric_line.h"
 #include "display/quantity/quantity.h"
@@ -43,6 +44,8 @@ class T_frmBrisanto final : public toolkit::Form,
   // and after a reset of the settings.
   void ApplyDisplaySettings();
 
+  void Localise() override;
+
  private:
   // The initialisation; run again by the scan when the number of adapters changed, and then it
   // leaves run totals, counts, sums, visibility, focus, place and the scan's phase alone.
@@ -50,6 +53,7 @@ class T_frmBrisanto final : public toolkit::Form,
   void DesignControls();
   void ConnectHandlers();
   void InitAdapters();
+  void LocaliseControls();
 
   // Handlers.
   void _tlkInterMeterScan();
@@ -101,6 +105,7 @@ class T_frmBrisanto final : public toolkit::Form,
 
   MainMenu _MainMenu;
   AdapterMenus adapter_menus_;
+  LanguageMenu language_menu_;
   TKxInterMeter _tlkInterMeter;
   toolkit::Panel pnlContain;
   toolkit::Label _tlkDLULMeter;

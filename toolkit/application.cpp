@@ -1,5 +1,7 @@
 #include "toolkit/application.h"
 
+#include "toolkit/form.h"
+
 namespace toolkit {
 
 Application::Application(platform::Platform& platform)
@@ -25,6 +27,10 @@ void Application::Terminate() {
 
 bool Application::ProcessMessages() {
   return platform_.message_loop.ProcessPending() && !terminated_;
+}
+
+void Application::LanguageChanged() {
+  for (Form* form : forms_) Guard([form] { form->Localise(); });
 }
 
 void Application::Report(std::string_view message) noexcept {

@@ -60,6 +60,9 @@ class Application {
   // Whether the main form is meant to be seen.
   bool ShowMainForm = true;
 
+  // Lets all forms take their texts anew, each inside the guard.
+  void LanguageChanged();
+
   // All forms that exist, in order of creation; kept by Form.
   [[nodiscard]] const std::vector<Form*>& Forms() const { return forms_; }
 

@@ -30,7 +30,7 @@ class AlertsTest : public testing::Test, private alerts::Balloons {
   platform::memory::Machine machine;
   toolkit::Application app{machine.Platform()};
   settings::Store store{machine.registry, machine.files};
-  settings::Language language;
+  settings::Language language{store, machine.files, machine.locale};
   alerts::SystemManager manager{app};
   alerts::Reactions reactions{machine.sound, *this, manager.shutdown};
   std::vector<platform::memory::Balloon> balloons;

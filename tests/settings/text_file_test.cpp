@@ -1,0 +1,44 @@
+#include "settings/text_file.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "platform/memory/locale.h"
+#include "platform/text.h"
+
+namespace {
+
+using namespace std::string_literals;
+
+TEST(TextFile, IsReadInEveryEncodingThatAnEditorWrites) {
+  struct Row {
+    const char* why;
+    std::string bytes;
+    std::string text;
+  };
+  const Row rows[] = {
+      {"empty", "", ""},
+      {"UTF-8", "Größe 日本", "Größe 日本"},
+      {"UTF-8 with mark", "\xEF\xBB\xBFGröße", "Größe"},
+      {"a mark alone", "\xEF\xBB\xBF", ""},
+      {"UTF-16, low byte first", "\xFF\xFEG\0\xF6\0\xE5\x65"s, "Gö日"},
+      {"UTF-16, high byte first", "\xFE\xFF\0G\0\xF6\x65\xE5"s, "Gö日"},
+      {"UTF-16 beyond the first plane", "\xFF\xFE\x3D\xD8\x00\xDE"s, "😀"},
+      {"UTF-16 cut in the middle of a unit", "\xFF\xFEG\0\xF6"s, "G"},
+      {"UTF-16 cut between two halves", "\xFF\xFEG\0\x3D\xD8"s, "G\xEF\xBF\xBD"},
+      {"the code page, which is Latin-1 here", "Gr\xF6\xDF"s + "e", "Größe"},
+      {"the code page with such a character last", "Caf\xE9", "Café"},
+      {"UTF-8 cut in the middle of a character", "Größe 日\xE6\x97", "Größe 日\xEF\xBF\xBD"},
+      {"UTF-8 with a wrong byte inside is the code page", "\xC3\xB6\xFF-", "Ã¶ÿ-"},
+  };
+  platform::memory::Locale locale;
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.why);
+    const std::string text = settings::DecodeTextFile(row.bytes, locale);
+    EXPECT_EQ(text, row.text);
+    EXPECT_EQ(platform::ValidUtf8(text), text);
+  }
+}
+
+}  // namespace
