@@ -79,7 +79,8 @@ void Notifications::CheckNotifications(const engine::ScanAmounts& scan) {
   CountIf(scan.ScanSumDL >= more, more_downloaded, MoreDownloadedTicks);
 }
 
-// With both directions due the reaction runs twice in the same second, as it always has.
+// With both directions due the reaction runs twice in the same second: each
+// direction is told of by itself.
 void Notifications::TimeOutTimerTimer() {
   FireWhenDue(LessUploadedTicks, setting::LessNotSecs, LessNotification);
   FireWhenDue(LessDownloadedTicks, setting::LessNotSecs, LessNotification);

@@ -32,13 +32,14 @@ void NumericLine::Reset() {
   current_.clear();
   average_.clear();
   maximum_.clear();
-  if (store_.Read(settings::setting::SOM1)) {
+  any_mode_ = false;
+  if (ReadMode(settings::setting::SOM1)) {
     current_ = bits ? "[ DL:0,0 kbit UL:0,0 kbit ]" : "[ DL:0,0 kB UL:0,0 kB ]";
   }
-  if (store_.Read(settings::setting::SOM2)) {
+  if (ReadMode(settings::setting::SOM2)) {
     average_ = AverageStart() + zero + " UL:" + zero + " ]";
   }
-  if (store_.Read(settings::setting::SOM3)) {
+  if (ReadMode(settings::setting::SOM3)) {
     maximum_ = "[ " + language_.Text(text::MainForm::S2) + " DL:" + zero + " Max UL:" + zero + " ]";
   }
   idle_ = true;
@@ -60,17 +61,18 @@ std::string NumericLine::AverageStart() {
 
 void NumericLine::Update(const engine::ScanAmounts& scan) {
   idle_ = false;
+  any_mode_ = false;
   current_.clear();
-  if (store_.Read(settings::setting::SOM1)) {
+  if (ReadMode(settings::setting::SOM1)) {
     current_ = "[ DL:" + Amount(scan.ScanSumDL) + " UL:" + Amount(scan.ScanSumUL) + " ]";
   }
-  if (store_.Read(settings::setting::SOM2)) {
+  if (ReadMode(settings::setting::SOM2)) {
     UpdateAverage(scan);
   } else {
     average_.clear();
   }
   maximum_.clear();
-  if (store_.Read(settings::setting::SOM3)) {
+  if (ReadMode(settings::setting::SOM3)) {
     // The literal word here, the language's in the initial text.
     maximum_ = "[ Max DL:" + Amount(scan.ScanMaxDL) + " Max UL:" + Amount(scan.ScanMaxUL) + " ]";
   }
@@ -95,9 +97,14 @@ std::string NumericLine::Amount(std::int64_t bytes) {
   return NumberAndUnit(quantity_.FormatQuantity(bytes));
 }
 
+bool NumericLine::ReadMode(const settings::BooleanSetting& mode) {
+  const bool on = store_.Read(mode);
+  any_mode_ = any_mode_ || on;
+  return on;
+}
+
 std::string NumericLine::Label() const {
-  std::string joined = Joined();
-  return joined.empty() ? std::string(engine::kProductTitle) : joined;
+  return any_mode_ ? Joined() : std::string(engine::kProductTitle);
 }
 
 std::string NumericLine::TrayHint() const {

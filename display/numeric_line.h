@@ -45,6 +45,7 @@ class NumericLine {
  private:
   void UpdateAverage(const engine::ScanAmounts& scan);
   [[nodiscard]] std::string Amount(std::int64_t bytes);
+  [[nodiscard]] bool ReadMode(const settings::BooleanSetting& mode);
 
   settings::Store& store_;
   Quantity& quantity_;
@@ -58,6 +59,7 @@ class NumericLine {
   std::string maximum_;
   std::string average_start_;  // the part of the average's text that depends on the language
   bool idle_ = true;           // no scan since Reset
+  bool any_mode_ = false;      // at the latest Reset or Update
 
   std::int64_t AvarageTime = 5;  // scans
   std::int64_t scans_summed_ = 0;

@@ -1,15 +1,36 @@
 // The entry point: makes the platform and the meter window and lets the program run.
+#include <exception>
 #include <memory>
+#include <string>
+#include <vector>
 
 #include "display/unit_BrisantoMain.h"
+#include "engine/error_log.h"
 #include "engine/program.h"
 #include "platform/windows/entry.h"
+#include "platform/windows/files.h"
 #include "platform/windows/machine.h"
 #include "toolkit/application.h"
 
-int platform::windows::Main() {
-  Machine machine;
+namespace {
+
+int Run() {
+  platform::windows::Machine machine;
   toolkit::Application app(machine.platform());
   return engine::RunProgram(machine.platform(),
                             [&app] { return std::make_unique<display::T_frmBrisanto>(app); });
+}
+
+}  // namespace
+
+int platform::windows::Main() {
+  try {
+    return Run();
+  } catch (const std::exception& error) {
+    // The system gave no window to start with; the log is all that can tell.
+    Files files;
+    std::vector<std::string> lines;
+    engine::ErrorLog(files, lines).Append(error.what());
+    return 1;
+  }
 }

@@ -9,15 +9,6 @@ Application::Application(platform::Platform& platform)
 
 Application::~Application() = default;
 
-void Application::SetTitle(std::string_view title) {
-  title_ = title;
-  platform_.windowing.SetApplicationTitle(title);
-}
-
-void Application::Run() {
-  platform_.message_loop.RunUntil([this] { return terminated_; });
-}
-
 void Application::Terminate() {
   terminated_ = true;
   platform_.menus.Cancel();

@@ -29,9 +29,6 @@ class Application {
   [[nodiscard]] ModalStack& Modals() { return modals_; }
   [[nodiscard]] HintWindow& Hints() { return hints_; }
 
-  void SetTitle(std::string_view title);
-  [[nodiscard]] const std::string& Title() const { return title_; }
-
   // Gets the message of every exception that leaves a handler; what it throws itself is dropped.
   void SetExceptionHandler(std::function<void(std::string_view message)> handler) {
     exception_handler_ = std::move(handler);
@@ -49,8 +46,6 @@ class Application {
     }
   }
 
-  // Runs the message loop until Terminate.
-  void Run();
   // Ends every modal window with Cancel and then the message loop.
   void Terminate();
   [[nodiscard]] bool Terminated() const { return terminated_; }
@@ -72,7 +67,6 @@ class Application {
   void Report(std::string_view message) noexcept;
 
   platform::Platform& platform_;
-  std::string title_;
   std::function<void(std::string_view)> exception_handler_;
   std::vector<Form*> forms_;
   ModalStack modals_;
