@@ -33,6 +33,18 @@ class Desk {
   virtual void ClickTray() = 0;
   virtual void RightClickTray(platform::Point at) = 0;
 
+  // Puts the pointer onto a visible widget, or away from all.
+  virtual void PointAt(std::string_view name) = 0;
+  virtual void PointAway() = 0;
+  // Drags a top window by so many pixels, and lets go.
+  virtual void Drag(std::string_view name, platform::Point by) = 0;
+  virtual void PressKeys(const platform::KeyCombination& keys) = 0;
+
+  // The doings of another program. It opens a window, hangs or answers again, and takes keys.
+  virtual platform::WindowId OpenOther(std::string_view title) = 0;
+  virtual void LetOtherHang(bool hang) = 0;
+  virtual void LetOtherTake(const platform::KeyCombination& keys) = 0;
+
   // Runs `step` once, from the message loop that runs next or goes on.
   virtual void Later(std::function<void()> step) = 0;
   // Lets time pass and messages be delivered until `condition` is true; false when it does not come

@@ -26,6 +26,26 @@ class MemoryDesk final : public Desk {
   void ClickTray() override { machine_.notification_area.Click(); }
   void RightClickTray(platform::Point at) override { machine_.notification_area.RightClick(at); }
 
+  void PointAt(std::string_view name) override { machine_.windowing.PointAt(name); }
+  void PointAway() override { machine_.windowing.PointAway(); }
+  void Drag(std::string_view name, platform::Point by) override {
+    const platform::Rect& bounds = machine_.windowing.Find(name).bounds;
+    machine_.windowing.Drag(name, {bounds.left + by.x, bounds.top + by.y});
+  }
+  void PressKeys(const platform::KeyCombination& keys) override { machine_.hot_keys.Press(keys); }
+
+  platform::WindowId OpenOther(std::string_view title) override {
+    others_.push_back(machine_.other_windows.Add(title));
+    return others_.back();
+  }
+  void LetOtherHang(bool hang) override {
+    for (const platform::WindowId window : others_)
+      machine_.other_windows.Find(window).hangs = hang;
+  }
+  void LetOtherTake(const platform::KeyCombination& keys) override {
+    machine_.hot_keys.taken.push_back(keys);
+  }
+
   void Later(std::function<void()> step) override { machine_.message_loop.Then(std::move(step)); }
   bool LetHappen(const std::function<bool()>& condition) override {
     constexpr int kRounds = 1000;
@@ -38,6 +58,7 @@ class MemoryDesk final : public Desk {
 
  private:
   platform::memory::Machine machine_;
+  std::vector<platform::WindowId> others_;
 };
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include "platform/windows/machine.h"
 #include "platform/windows/wide.h"
 #include "tests/contract/desk.h"
+#include "tests/contract/other_program_windows.h"
 // After the system's header, which it needs.
 #include <shellapi.h>
 
@@ -113,7 +114,7 @@ class WindowsDesk final : public Desk {
   void WillChoose(std::string_view text) override {
     ::SetCursorPos(0, 0);  // a pointer on the menu would choose too
     choosing_ = Platform().timers.Start(20, [this, text = std::string(text)] {
-      if (OpenMenu() != nullptr) PressKeys(text);
+      if (OpenMenu() != nullptr) PressMenuKeys(text);
     });
   }
 
@@ -124,6 +125,51 @@ class WindowsDesk final : public Desk {
   void RightClickTray(platform::Point at) override {
     ::SendMessageW(Find("TremoluxTray"), kTrayMessage, static_cast<WPARAM>(MAKELPARAM(at.x, at.y)),
                    MAKELPARAM(WM_CONTEXTMENU, 1));
+  }
+
+  void PointAt(std::string_view name) override {
+    const HWND hwnd = Find(name);
+    RECT area{};
+    ::GetWindowRect(hwnd, &area);
+    ::SetCursorPos((area.left + area.right) / 2, (area.top + area.bottom) / 2);
+    ::SendMessageW(hwnd, WM_MOUSEMOVE, 0, MAKELPARAM(5, 5));
+  }
+  void PointAway() override { ::SetCursorPos(0, 0); }
+
+  // What the system says while the user drags a window.
+  void Drag(std::string_view name, platform::Point by) override {
+    const HWND hwnd = Find(name);
+    RECT bounds{};
+    ::GetWindowRect(hwnd, &bounds);
+    ::SetCursorPos(bounds.left + 50, bounds.top + 20);
+    ::SendMessageW(hwnd, WM_ENTERSIZEMOVE, 0, 0);
+    ::SetCursorPos(bounds.left + 50 + by.x, bounds.top + 20 + by.y);
+    ::OffsetRect(&bounds, by.x, by.y);
+    ::SendMessageW(hwnd, WM_MOVING, 0, reinterpret_cast<LPARAM>(&bounds));
+    ::SetWindowPos(hwnd, nullptr, bounds.left, bounds.top, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    ::SendMessageW(hwnd, WM_EXITSIZEMOVE, 0, 0);
+  }
+
+  void PressKeys(const platform::KeyCombination& keys) override {
+    std::vector<WORD> down;
+    if (keys.ctrl) down.push_back(VK_CONTROL);
+    if (keys.alt) down.push_back(VK_MENU);
+    if (keys.shift) down.push_back(VK_SHIFT);
+    down.push_back(keys.virtual_key);
+    for (const WORD key : down) SendKey(key, 0);
+    for (const WORD key : down) SendKey(key, KEYEVENTF_KEYUP);
+  }
+
+  platform::WindowId OpenOther(std::string_view title) override {
+    return reinterpret_cast<platform::WindowId>(other_.Open(ToWide(title).c_str()));
+  }
+  void LetOtherHang(bool hang) override { hang ? other_.Hang() : other_.Recover(); }
+  void LetOtherTake(const platform::KeyCombination& keys) override {
+    other_.Do([&keys] {
+      const UINT modifiers = (keys.ctrl ? MOD_CONTROL : 0U) | (keys.alt ? MOD_ALT : 0U) |
+                             (keys.shift ? MOD_SHIFT : 0U);
+      ::RegisterHotKey(nullptr, 1, modifiers, keys.virtual_key);  // ends with its thread
+    });
   }
 
   void Later(std::function<void()> step) override {
@@ -139,6 +185,14 @@ class WindowsDesk final : public Desk {
   }
 
  private:
+  static void SendKey(WORD key, DWORD flags) {
+    INPUT input{};
+    input.type = INPUT_KEYBOARD;
+    input.ki.wVk = key;
+    input.ki.dwFlags = flags;
+    ::SendInput(1, &input, sizeof(input));
+  }
+
   void Mouse(std::string_view name, UINT message, WPARAM buttons, platform::Point at) {
     ::SendMessageW(Find(name), message, buttons, MAKELPARAM(at.x, at.y));
   }
@@ -149,7 +203,7 @@ class WindowsDesk final : public Desk {
   }
 
   // Then leaves whatever menu is still open, because the entry was disabled.
-  void PressKeys(const std::string& text) {
+  void PressMenuKeys(const std::string& text) {
     constexpr UINT kGetMenu = 0x01E1;  // MN_GETHMENU
     const HWND menu = OpenMenu();
     MenuKeys keys(text);
@@ -175,6 +229,7 @@ class WindowsDesk final : public Desk {
   }
 
   platform::windows::Machine machine_;
+  OtherProgram other_;
   std::deque<std::function<void()>> steps_;
   std::unique_ptr<platform::Timer> stepping_;
   std::unique_ptr<platform::Timer> choosing_;

@@ -4,6 +4,7 @@
 #include <stdexcept>
 #include <vector>
 
+#include "platform/windows/layered.h"
 #include "platform/windows/machine.h"
 #include "platform/windows/widget_window.h"
 
@@ -19,6 +20,11 @@ struct Heard : platform::TopWindowEvents {
   void OnResume() override { ++resumes; }
   void OnEndSession() override { ++session_ends; }
   void OnMouseMove(const platform::MouseEvent&) override { throw std::runtime_error("a fault"); }
+  void OnMoving(Rect& bounds) override {
+    asked.push_back(bounds);
+    if (bounds.left < 15) bounds.left = 0;
+  }
+  std::vector<Rect> asked;
   int resumes = 0;
   int session_ends = 0;
 };
@@ -126,6 +132,61 @@ TEST_F(RealTopWindow, AWidgetWhoseWindowWentWithItsParentDoesNothing) {
   EXPECT_EQ(surface_->Bounds(), Rect{});
   EXPECT_EQ(surface_->Text(), "");
   EXPECT_FALSE(surface_->Visible());
+}
+
+TEST_F(RealTopWindow, OpacityAddsTheBitsOfTheMaskThatTheSystemTakes) {
+  EXPECT_EQ(::GetWindowLongPtrW(Window(), GWL_EXSTYLE) & WS_EX_LAYERED, 0);
+  for (const int alpha : {190, 255, 0}) {
+    SCOPED_TRACE(alpha);
+    window_->SetAlpha(static_cast<std::uint8_t>(alpha));
+    constexpr LONG_PTR kTaken = 0x888888 & ~LONG_PTR{WS_EX_TOPMOST};
+    EXPECT_EQ(::GetWindowLongPtrW(Window(), GWL_EXSTYLE) & kTaken, kTaken);
+    EXPECT_FALSE(window_->Topmost());
+    COLORREF key = 0;
+    BYTE set = 0;
+    DWORD flags = 0;
+    ASSERT_TRUE(::GetLayeredWindowAttributes(Window(), &key, &set, &flags));
+    EXPECT_EQ(set, alpha);
+    EXPECT_EQ(flags, DWORD{2});
+  }
+}
+
+TEST_F(RealTopWindow, LayeredWindowsCameWithVersionFiveOfTheFamily) {
+  using platform::windows::HasLayeredWindows;
+  EXPECT_TRUE(HasLayeredWindows(VER_PLATFORM_WIN32_NT, 5));
+  EXPECT_TRUE(HasLayeredWindows(VER_PLATFORM_WIN32_NT, 10));
+  EXPECT_FALSE(HasLayeredWindows(VER_PLATFORM_WIN32_NT, 4));
+  EXPECT_FALSE(HasLayeredWindows(VER_PLATFORM_WIN32_WINDOWS, 5));
+}
+
+TEST_F(RealTopWindow, OnlyTheShapeIsThereForTheMouse) {
+  window_->Show(platform::Activation::kLeaveFocus);
+  const Rect parts[] = {{0, 0, 274, 1}, {50, 40, 100, 50}};
+  window_->SetShape(parts);
+  EXPECT_EQ(::WindowFromPoint({160, 150}), WidgetWindow::Of(*surface_));
+  EXPECT_NE(::WindowFromPoint({120, 120}), WidgetWindow::Of(*surface_));
+  const DWORD objects = ::GetGuiResources(::GetCurrentProcess(), GR_GDIOBJECTS);
+  for (int width = 1; width < 100; ++width) {
+    const Rect part[] = {{0, 0, width, 10}};
+    window_->SetShape(part);
+  }
+  EXPECT_LE(::GetGuiResources(::GetCurrentProcess(), GR_GDIOBJECTS), objects + 1);
+  window_->ResetShape();
+  EXPECT_EQ(::WindowFromPoint({120, 120}), WidgetWindow::Of(*surface_));
+}
+
+TEST_F(RealTopWindow, WhereAnotherProgramMovesTheWindowItIsAskedOnceAtTheEnd) {
+  ::SendMessageW(Window(), WM_ENTERSIZEMOVE, 0, 0);
+  ::SetWindowPos(Window(), nullptr, 9, 300, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+  EXPECT_TRUE(heard_.asked.empty());
+  ::SendMessageW(Window(), WM_EXITSIZEMOVE, 0, 0);
+  EXPECT_EQ(heard_.asked, (std::vector<Rect>{{9, 300, 274, 135}}));
+  EXPECT_EQ(window_->Bounds(), (Rect{0, 300, 274, 135}));
+
+  ::SendMessageW(Window(), WM_ENTERSIZEMOVE, 0, 0);
+  ::SetWindowPos(Window(), nullptr, 0, 0, 300, 135, SWP_NOMOVE | SWP_NOZORDER);
+  ::SendMessageW(Window(), WM_EXITSIZEMOVE, 0, 0);
+  EXPECT_EQ(heard_.asked.size(), 1U) << "sized, not moved";
 }
 
 // Fills its surface with a colour and, inside, asks for another painting.
