@@ -21,6 +21,8 @@ constexpr platform::Size kSmallest{150, 25};
 constexpr platform::Size kLargest{350, 200};
 constexpr int kPanelHeight = 17;
 
+constexpr std::string_view kPlacementKey = "\\Software\\BrisantoNET\\Settings\\MainScreen";
+
 // Display modes as stored in "WindowMode".
 constexpr std::int64_t kGraphMode = 0;
 constexpr std::int64_t kTextMode = 1;
@@ -58,23 +60,41 @@ T_frmBrisanto::T_frmBrisanto(toolkit::Application& app)
       _tlkInterMeter(*this, "_tlkInterMeter"),
       pnlContain(*this, "pnlContain"),
       _tlkDLULMeter(pnlContain, "_tlkDLULMeter"),
+      _FormMagnet(*this),
+      _tlkFormSaver(*this, kPlacementKey),
+      transparency_(*this, RegME, _MainMenu, _tlkInterMeter, pnlContain),
+      title_posting_(app, RegME),
       numeric_line_(RegME, quantity_, _ReadLangauge),
       _TrayIcon(app, RegME),
       _WindowsManager(app),
       reactions_(app.Platform().sound, _TrayIcon, _WindowsManager.shutdown),
       notifications_(app, RegME, _ReadLangauge, reactions_),
-      ticker_(RegME, reactions_) {
+      ticker_(RegME, reactions_),
+      GlobalAtomKey(
+          app,
+          {{toolkit::kCtrl | toolkit::kAlt | 'F', [this] { GlobalAtomKeyGlobalKeys0KeyDown(); }},
+           {toolkit::kCtrl | toolkit::kAlt | 'D', [this] { GlobalAtomKeyGlobalKeys1KeyDown(); }},
+           {toolkit::kCtrl | toolkit::kShift | 'Q',
+            [this] { GlobalAtomKeyGlobalKeys2KeyDown(); }}}) {
   DesignControls();
   ConnectHandlers();
   LocaliseControls();
   // A step that fails is logged; the rest of the program starts all the same, and the first scan
-  // makes the initialisation again.
-  app.Guard([this] { FormCreate(); });
+  // makes the whole initialisation again.
+  bool created = false;
+  app.Guard([this, &created] {
+    FormCreate();
+    created = true;
+  });
+  if (!created) traffic_.AdapterHigh = engine::kNotInitialised;
   Show(platform::Activation::kLeaveFocus);
   _tlkInterMeter.Activate(true);
 }
 
-T_frmBrisanto::~T_frmBrisanto() { App().SetExceptionHandler(nullptr); }
+T_frmBrisanto::~T_frmBrisanto() {
+  App().Guard([this] { FormDestroy(); });
+  App().SetExceptionHandler(nullptr);
+}
 
 void T_frmBrisanto::DesignControls() {
   RestrictSize();
@@ -83,6 +103,7 @@ void T_frmBrisanto::DesignControls() {
                               toolkit::ScaleTo(dpi, kDesignBounds.width),
                               toolkit::ScaleTo(dpi, kDesignBounds.height)};
   SetWindowBounds(toolkit::BroughtIntoView(bounds, App().Platform().screen));
+  _tlkFormSaver.Restore();
 
   _tlkInterMeter.SetAlign(toolkit::Align::kClient);
   pnlContain.SetBevels(toolkit::BevelCut::kNone, toolkit::BevelCut::kLowered);
@@ -104,6 +125,11 @@ void T_frmBrisanto::ConnectHandlers() {
        std::initializer_list<toolkit::Control*>{&_tlkInterMeter, &pnlContain, &_tlkDLULMeter}) {
     control->OnDblClick = [this] { _TrayIconClick(); };
   }
+  for (toolkit::Control* control : std::initializer_list<toolkit::Control*>{
+           this, &_tlkInterMeter, &pnlContain, &_tlkDLULMeter}) {
+    control->OnMouseEntered = [this] { CMMouseEnter(); };
+    control->OnMouseLeft = [this] { CMMouseLeave(); };
+  }
 
   _TrayIcon.OnClick = [this] { _TrayIconClick(); };
   _TrayIcon.OnMenu = [this](platform::Point screen) { _MainMenu.popup.Popup(screen, *this); };
@@ -113,12 +139,14 @@ void T_frmBrisanto::ConnectHandlers() {
   _MainMenu.mnuGraphMode->OnClick = [this] { mnuGraphModeClick(); };
   _MainMenu.mnuTextMode->OnClick = [this] { mnuTextModeClick(); };
   _MainMenu.mnuTextandGraph->OnClick = [this] { mnuTextandGraphClick(); };
+  _MainMenu.mnuTransparent2k->OnClick = [this] { mnuTransparent2kClick(); };
+  _MainMenu.mnuTransparent->OnClick = [this] { mnuTransparentClick(); };
+  _MainMenu.HelpContents1->OnClick = [this] { HelpContents1Click(); };
   _MainMenu.Clear1->OnClick = [this] { Clear1Click(); };
   _MainMenu.Close1->OnClick = [this] { Close1Click(); };
   // What they open is not there yet.
   for (toolkit::MenuItem* item :
-       {_MainMenu.ConnectionInformations1, _MainMenu.Transparent1, _MainMenu.mnuTransparent2k,
-        _MainMenu.Settings1, _MainMenu.HelpContents1, _MainMenu.AboutBrisantoXP1}) {
+       {_MainMenu.ConnectionInformations1, _MainMenu.Settings1, _MainMenu.AboutBrisantoXP1}) {
     item->Enabled = false;
   }
 }
@@ -126,6 +154,7 @@ void T_frmBrisanto::ConnectHandlers() {
 void T_frmBrisanto::FormCreate() {
   App().SetExceptionHandler([this](std::string_view message) { error_log_.Append(message); });
   traffic_.AdapterHigh = engine::kNotInitialised;
+  transparency_.ApplyStored();
   ApplyDisplaySettings();
   InitAdapters();
   statistics_.InitStatistics(sampler_.Descriptions(), App().Platform().clock.Now());
@@ -149,6 +178,7 @@ void T_frmBrisanto::Localise() {
 void T_frmBrisanto::ApplyDisplaySettings() {
   if (RegME.Read(setting::StartIconMode)) _TrayIcon.LoadPictures();
   ApplyGraphAppearance(RegME, _tlkInterMeter);
+  _FormMagnet.Active = RegME.Read(setting::FormMagnet);
   ApplyHints(RegME, App().Hints());
   ApplyScale(RegME, _tlkInterMeter, traffic_.SpeedCap);
   ApplyLabelAppearance(RegME, _tlkDLULMeter);
@@ -157,7 +187,9 @@ void T_frmBrisanto::ApplyDisplaySettings() {
   ShowLine();
   ApplyAlwaysOnTop();
   ApplyWindowMode();
+  title_posting_.SetLines(LoadTitleLines(App().Platform().files, App().Platform().locale));
   _TrayIcon.ShowStart();
+  transparency_.ApplyShape();
 }
 
 void T_frmBrisanto::ApplyAlwaysOnTop() {
@@ -180,6 +212,7 @@ void T_frmBrisanto::ApplyWindowMode() {
 
 void T_frmBrisanto::_tlkInterMeterScan() {
   StayOnTop();
+  transparency_.Check();
   scan_cycle_.Run();
 }
 
@@ -228,6 +261,26 @@ void T_frmBrisanto::mnuAlwaysTopOnClick() {
   Window().SetTopmost(on_top);
 }
 
+void T_frmBrisanto::mnuTransparent2kClick() { transparency_.mnuTransparent2kClick(); }
+
+void T_frmBrisanto::mnuTransparentClick() { transparency_.mnuTransparentClick(); }
+
+void T_frmBrisanto::HelpContents1Click() {
+  App().Platform().shell.Open(RegME.ProgramFile("Help\\index.html"));
+}
+
+void T_frmBrisanto::GlobalAtomKeyGlobalKeys0KeyDown() { mnuTransparentClick(); }
+
+void T_frmBrisanto::GlobalAtomKeyGlobalKeys1KeyDown() { mnuTransparent2kClick(); }
+
+void T_frmBrisanto::GlobalAtomKeyGlobalKeys2KeyDown() {
+  engine::CopyText(App().Platform().clipboard, engine::GetLocalIP(App().Platform().sockets));
+}
+
+void T_frmBrisanto::CMMouseEnter() { transparency_.PointerChanged(); }
+
+void T_frmBrisanto::CMMouseLeave() { transparency_.PointerChanged(); }
+
 void T_frmBrisanto::_TrayIconClick() {
   if (Showing()) {
     Hide();
@@ -239,6 +292,7 @@ void T_frmBrisanto::_TrayIconClick() {
 
 void T_frmBrisanto::Clear1Click() {
   _tlkInterMeter.Clear();
+  transparency_.ApplyShape();
   numeric_line_.ClearSums();
   _TrayIcon.Clear();
 }
@@ -247,14 +301,27 @@ void T_frmBrisanto::Close1Click() { FormClose(); }
 
 void T_frmBrisanto::FormClose() { App().Terminate(); }
 
+void T_frmBrisanto::FormDestroy() { title_posting_.RestoreTitles(); }
+
+// The end of the session asks nothing. No scan may follow that posts titles again.
+void T_frmBrisanto::FormEndSession() {
+  FormDestroy();
+  _tlkInterMeter.Activate(false);
+  App().Terminate();
+}
+
 void T_frmBrisanto::FormResize() {
   platform::FontSpec font = _tlkDLULMeter.Font();
   font.height = toolkit::PointsToDesignPixels(LabelPoints(Unscale(WindowBounds().width)));
   _tlkDLULMeter.SetFont(font);
   _tlkDLULMeter.Invalidate();
+  transparency_.ApplyShape();
 }
 
-void T_frmBrisanto::FormShow() { _tlkDLULMeter.Invalidate(); }
+void T_frmBrisanto::FormShow() {
+  _tlkDLULMeter.Invalidate();
+  transparency_.PointerChanged();
+}
 
 void T_frmBrisanto::FormDpiChanged() { RestrictSize(); }
 
@@ -262,7 +329,10 @@ void T_frmBrisanto::FormDisplayChange() { StayOnTop(); }
 
 void T_frmBrisanto::FormResumed() { sampler_.TakePresentCounters(); }
 
-void T_frmBrisanto::FormSettingChange() { _tlkInterMeter.Refresh(); }
+void T_frmBrisanto::FormSettingChange() {
+  _tlkInterMeter.Refresh();
+  transparency_.ApplyShape();
+}
 
 void T_frmBrisanto::RestrictSize() {
   Window().SetSizeLimits({Scale(kSmallest.width), Scale(kSmallest.height)},
@@ -279,6 +349,7 @@ void T_frmBrisanto::Reinitialise() {
 void T_frmBrisanto::FeedGraph(std::int32_t TestRead, std::int32_t TestWrite) {
   _tlkInterMeter.SetTestRead(TestRead);
   _tlkInterMeter.SetTestWrite(TestWrite);
+  transparency_.ApplyShape();
 }
 
 void T_frmBrisanto::ShowIcon(const engine::ScanAmounts& scan) { _TrayIcon.ShowScan(scan); }
@@ -295,6 +366,7 @@ void T_frmBrisanto::ShowNumericLine(const engine::ScanAmounts& scan) {
   numeric_line_.Update(scan);
   ShowLine();
   _TrayIcon.SetHint(numeric_line_.TrayHint());
+  title_posting_.PostTitles(numeric_line_.Joined());
 }
 
 void T_frmBrisanto::Tick(const engine::ScanAmounts& scan) { ticker_.Update(scan); }

@@ -10,11 +10,14 @@
 #include "alerts/system_manager.h"
 #include "alerts/ticker.h"
 #include "display/adapter_menus.h"
+#include "display/hot_keys.h"
 #include "display/kxintermeter.h"
 #include "display/language_menu.h"
 #include "display/main_menu.h"
 #include "display/numeric_line.h"
 #include "display/quantity/quantity.h"
+#include "display/title_posting.h"
+#include "display/transparency.h"
 #include "display/tray_icon.h"
 #include "engine/error_log.h"
 #include "engine/interface_sampler.h"
@@ -24,9 +27,11 @@
 #include "engine/traffic_state.h"
 #include "settings/language.h"
 #include "settings/store.h"
+#include "toolkit/docking_magnet.h"
 #include "toolkit/form.h"
 #include "toolkit/label.h"
 #include "toolkit/panel.h"
+#include "toolkit/placement_saver.h"
 
 namespace display {
 
@@ -64,15 +69,25 @@ class T_frmBrisanto final : public toolkit::Form,
   void mnuTextModeClick();
   void mnuTextandGraphClick();
   void mnuAlwaysTopOnClick();
+  void mnuTransparent2kClick();
+  void mnuTransparentClick();
+  void HelpContents1Click();
+  void GlobalAtomKeyGlobalKeys0KeyDown();
+  void GlobalAtomKeyGlobalKeys1KeyDown();
+  void GlobalAtomKeyGlobalKeys2KeyDown();
+  void CMMouseEnter();
+  void CMMouseLeave();
   void _TrayIconClick();
   void Clear1Click();
   void Close1Click();
   void FormClose() override;
+  void FormDestroy();
   void FormResize() override;
   void FormShow() override;
   void FormDpiChanged() override;
   void FormDisplayChange() override;
   void FormResumed() override;
+  void FormEndSession() override;
   void FormSettingChange() override;
   void RestrictSize();
 
@@ -109,13 +124,20 @@ class T_frmBrisanto final : public toolkit::Form,
   TKxInterMeter _tlkInterMeter;
   toolkit::Panel pnlContain;
   toolkit::Label _tlkDLULMeter;
+  toolkit::DockingMagnet _FormMagnet;
+  toolkit::PlacementSaver _tlkFormSaver;
+  Transparency transparency_;
+  TitlePosting title_posting_;
   NumericLine numeric_line_;
   TrayIcon _TrayIcon;
 
+  toolkit::Action ResetVars{"ResetVars"};  // nothing is bound to it
   alerts::SystemManager _WindowsManager;
   alerts::Reactions reactions_;
   alerts::Notifications notifications_;
   alerts::Ticker ticker_;
+
+  HotKeyHolder GlobalAtomKey;
 };
 
 }  // namespace display
