@@ -2,6 +2,8 @@
 
 #include <cstddef>
 
+#include "platform/windows/library.h"
+
 namespace platform::windows {
 
 static_assert(sizeof(InterfaceRow) == sizeof(MIB_IFROW));
@@ -12,13 +14,9 @@ static_assert(offsetof(InterfaceRow, bDescr) == offsetof(MIB_IFROW, bDescr));
 static_assert(kInterfaceTableHead == offsetof(MIB_IFTABLE, table));
 static_assert(kInsufficientBuffer == ERROR_INSUFFICIENT_BUFFER);
 
-InterfaceTable::InterfaceTable() : get_entry_(nullptr) {
-  // This program links to the library, so it is loaded already.
-  if (const HMODULE library = ::GetModuleHandleW(L"iphlpapi.dll")) {
-    get_entry_ = reinterpret_cast<GetEntry>(
-        reinterpret_cast<void (*)()>(::GetProcAddress(library, "GetIfEntry2")));
-  }
-}
+// This program links to the library, so it is loaded already.
+InterfaceTable::InterfaceTable()
+    : get_entry_(Function<GetEntry>(::GetModuleHandleW(L"iphlpapi.dll"), "GetIfEntry2")) {}
 
 std::uint32_t InterfaceTable::Read(std::span<std::byte> buffer, std::uint32_t& size) {
   auto needed = static_cast<ULONG>(buffer.size());
