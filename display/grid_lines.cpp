@@ -7,6 +7,8 @@
 namespace display {
 namespace {
 
+namespace setting = settings::setting;
+
 struct GridSettings {
   const settings::BooleanSetting& visible;
   const settings::IntegerSetting& space;
@@ -52,7 +54,6 @@ void WalkLines(settings::Store& store, const GridSettings& grid, int length, int
 }  // namespace
 
 void DrawGridLines(platform::Canvas& canvas, settings::Store& store, int frame, int dpi) {
-  using namespace settings;
   const platform::Size size = canvas.Extent();
   WalkLines(
       store,

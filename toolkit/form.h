@@ -70,7 +70,7 @@ class Form : public Control {
 
   std::unique_ptr<Events> events_;
   std::vector<FormComponent*> components_;  // each takes itself out
-  platform::TopWindow* window_ = nullptr;  // the peer, owned by Control
+  platform::TopWindow* window_ = nullptr;   // the peer, owned by Control
 };
 
 }  // namespace toolkit

@@ -8,7 +8,6 @@
 namespace {
 
 using engine::AdapterCounters;
-using engine::ScanAmounts;
 using platform::EncodeDate;
 namespace setting = settings::setting;
 
