@@ -26,6 +26,9 @@ class ConversionError : public std::runtime_error {
 [[nodiscard]] constexpr std::int64_t WrappingAdd(std::int64_t a, std::int64_t b) {
   return static_cast<std::int64_t>(static_cast<std::uint64_t>(a) + static_cast<std::uint64_t>(b));
 }
+[[nodiscard]] constexpr std::int64_t WrappingSubtract(std::int64_t a, std::int64_t b) {
+  return static_cast<std::int64_t>(static_cast<std::uint64_t>(a) - static_cast<std::uint64_t>(b));
+}
 [[nodiscard]] constexpr std::int64_t WrappingAbs(std::int64_t value) {
   return value < 0 ? static_cast<std::int64_t>(0 - static_cast<std::uint64_t>(value)) : value;
 }
