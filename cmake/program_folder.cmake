@@ -3,7 +3,7 @@
 if(TARGET Tremolux)
   install(TARGETS Tremolux RUNTIME DESTINATION .)
 endif()
-foreach(folder Icons Languages)
+foreach(folder Icons Languages Help)
   install(DIRECTORY ${CMAKE_SOURCE_DIR}/assets/${folder} DESTINATION . OPTIONAL)
 endforeach()
 foreach(sound warning.wav ticking.wav)

@@ -19,7 +19,7 @@ constexpr std::int64_t kPostToListed = 2;
 constexpr std::int64_t kPostToForeground = 3;
 
 // Milliseconds.
-constexpr std::int64_t kBudget = 250;           // of one posting
+constexpr std::int64_t kBudget = 200;           // of one posting; a wait ends some ms late
 constexpr std::int64_t kBudgetAtTheEnd = 2000;  // the last chance, and no scan waits any more
 constexpr std::int64_t kPatience = 50;          // with one window
 constexpr std::int64_t kLeftAlone = 60000;      // a window that did not answer
