@@ -57,7 +57,8 @@ enum class Activation { kActivate, kLeaveFocus };
 
 class TopWindow : public Widget {
  public:
-  // Shows it; kLeaveFocus never takes the keyboard from the program that the user works in.
+  // Shows it; kLeaveFocus never takes the keyboard from the program that the user works in. A
+  // dialog that was hidden and is activated has the keyboard in its first control.
   virtual void Show(Activation activation) = 0;
 
   // Above all windows that are not topmost, without moving, sizing or activating it.
@@ -65,8 +66,12 @@ class TopWindow : public Widget {
   // What the system says; a program that ran on the full screen may have taken it away.
   [[nodiscard]] virtual bool Topmost() const = 0;
 
-  // The smallest and largest outer size that the user can give it.
+  // The smallest and largest outer size, from the next SetBounds on as well as for the user; a
+  // largest size of zero lifts the limits. Sizeable windows only.
   virtual void SetSizeLimits(Size smallest, Size largest) = 0;
+
+  // Sizes it so that its client area has this size, in pixels; its place stays.
+  virtual void SetClientSize(Size client) = 0;
 
   // While the left button is down: lets the user drag the window as if by its caption. Returns when
   // the drag is over, on systems where that is a loop of its own.

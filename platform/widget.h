@@ -12,7 +12,8 @@ namespace platform {
 
 enum class MouseButton { kNone, kLeft, kRight, kMiddle };
 
-enum class Key { kUp, kDown, kPageUp, kPageDown, kEnter, kOther };
+// The keys that an edit reports.
+enum class Key { kUp, kDown, kPageUp, kPageDown, kEnter };
 
 struct MouseEvent {
   Point at;                                 // client pixels of the widget
@@ -28,7 +29,7 @@ class WidgetEvents {
   virtual ~WidgetEvents() = default;
 
   // The whole client area is to be painted; the canvas is a back buffer that the platform shows in
-  // one piece afterwards. Surfaces and top windows only.
+  // one piece afterwards. Surfaces, top windows and painted buttons only.
   virtual void OnPaint(Canvas&) {}
   virtual void OnMouseMove(const MouseEvent&) {}
   virtual void OnMouseDown(const MouseEvent&) {}
@@ -42,17 +43,23 @@ class WidgetEvents {
   // The client area has this size now, whoever changed it.
   virtual void OnResize(Size) {}
 
-  // Native controls (platform/controls.h), only for what the user does:
-  // a button was pressed, a box ticked, a text clicked;
-  virtual void OnClick() {}
+  // Controls, only for what the user does:
+  // a button was pressed, a box ticked; a text or a surface was clicked, which is the left button
+  // pressed and released on it;
+  virtual void OnClicked() {}
   // the text, the selection or the position changed;
-  virtual void OnChange() {}
+  virtual void OnChanged() {}
   // a row of a check list was ticked or unticked;
-  virtual void OnCheck(int /*row*/) {}
-  // a key went down in an edit; true keeps it from the control.
+  virtual void OnRowChecked(int /*row*/) {}
+  // a key went down in an edit; true keeps it from the control, and Enter from the window;
   virtual bool OnKey(Key) { return false; }
-  // the wheel turned over it, in notches away from the user.
+  // a letter (a UTF-16 unit, no control character) is typed into an edit; true keeps it out;
+  virtual bool OnCharacter(char16_t) { return false; }
+  // the wheel turned over an edit of one line, in notches away from the user.
   virtual void OnWheel(int /*notches*/) {}
+
+  // The keyboard left an edit, whoever moved it.
+  virtual void OnFocusLost() {}
 };
 
 // A native control. Destroying it removes it from the screen. Calls after the window system took it
@@ -73,14 +80,21 @@ class Widget {
   virtual void SetVisible(bool visible) = 0;
   // Its own flag, whatever its parents are.
   [[nodiscard]] virtual bool Visible() const = 0;
+  // Hiding or disabling what has the keyboard passes it on to the control that follows in the order
+  // of Tab (platform/windowing.h).
   virtual void SetEnabled(bool enabled) = 0;
   [[nodiscard]] virtual bool Enabled() const = 0;
 
   virtual void SetFont(const FontSpec& font) = 0;
+  // A disabled one shows its text in the system's grey. Lists in columns, trees, tabs and progress
+  // bars keep the system's colours; so do push buttons, but for what shows around them.
   virtual void SetColours(Colour text, Colour background) = 0;
 
-  // Puts the keyboard into it.
+  // Puts the keyboard into it; nothing happens while it, or something that it lies on, is hidden or
+  // disabled.
   virtual void Focus() = 0;
+  // Whether the keyboard is in it or in something that lies on it.
+  [[nodiscard]] virtual bool HasFocus() const = 0;
   // Asks for a repaint of the whole client area soon.
   virtual void Invalidate() = 0;
   // The place of a client point on the screen.

@@ -4,13 +4,21 @@
 #include <memory>
 #include <string_view>
 
+#include "platform/controls.h"
 #include "platform/top_window.h"
 #include "platform/widget.h"
 
 namespace platform {
 
 // Every `events` must outlive its widget. Widgets are made hidden with bounds of zero; a failure of
-// the system throws std::runtime_error.
+// the system throws std::runtime_error. `name` lets tests and screen readers of other programs find
+// the widget; it may be empty.
+//
+// The keyboard in a window with a caption: Tab goes through its controls in the order in which they
+// were made, those on a surface in the place of the surface; of radio buttons that exclude each
+// other it takes the chosen one, and the arrow keys move among them. Alt with the marked letter
+// reaches a control; Enter presses the default button; Esc is OnCancelKey; Ctrl+Tab goes to the
+// next of the tabs that the keyboard is in, or of the first ones.
 class Windowing {
  public:
   virtual ~Windowing() = default;
@@ -25,13 +33,36 @@ class Windowing {
                                                                    TopWindow* owner,
                                                                    TopWindowEvents& events) = 0;
 
-  // An area that the program paints (OnPaint) and that may hold other widgets. `name` is for tests.
+  // An area that the program paints (OnPaint) and that may hold other widgets; never has the
+  // keyboard itself.
   [[nodiscard]] virtual std::unique_ptr<Widget> CreateSurface(Widget& parent, std::string_view name,
                                                               WidgetEvents& events) = 0;
 
-  // One line of text, centred both ways; "&" has no meaning in it. Reports the mouse.
+  // A text; reports the mouse. Never has the keyboard.
   [[nodiscard]] virtual std::unique_ptr<Widget> CreateText(Widget& parent, std::string_view name,
+                                                           const TextStyle& style,
                                                            WidgetEvents& events) = 0;
+
+  // The system's controls.
+  [[nodiscard]] virtual std::unique_ptr<Button> CreateButton(Widget& parent, std::string_view name,
+                                                             ButtonKind kind,
+                                                             WidgetEvents& events) = 0;
+  [[nodiscard]] virtual std::unique_ptr<Edit> CreateEdit(Widget& parent, std::string_view name,
+                                                         const EditStyle& style,
+                                                         WidgetEvents& events) = 0;
+  [[nodiscard]] virtual std::unique_ptr<ItemList> CreateList(Widget& parent, std::string_view name,
+                                                             ListKind kind,
+                                                             WidgetEvents& events) = 0;
+  [[nodiscard]] virtual std::unique_ptr<Tree> CreateTree(Widget& parent, std::string_view name,
+                                                         WidgetEvents& events) = 0;
+  [[nodiscard]] virtual std::unique_ptr<Tabs> CreateTabs(Widget& parent, std::string_view name,
+                                                         WidgetEvents& events) = 0;
+  [[nodiscard]] virtual std::unique_ptr<TrackBar> CreateTrackBar(Widget& parent,
+                                                                 std::string_view name,
+                                                                 WidgetEvents& events) = 0;
+  [[nodiscard]] virtual std::unique_ptr<ProgressBar> CreateProgressBar(Widget& parent,
+                                                                       std::string_view name,
+                                                                       WidgetEvents& events) = 0;
 };
 
 }  // namespace platform

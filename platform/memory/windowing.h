@@ -1,74 +1,23 @@
 // Windows and controls that record what is done to them and let tests play the user.
 #pragma once
 
+#include <functional>
 #include <memory>
-#include <optional>
 #include <string>
 #include <vector>
 
-#include "platform/memory/canvas.h"
+#include "platform/memory/desktop.h"
+#include "platform/memory/widget_state.h"
 #include "platform/other_windows.h"
 #include "platform/windowing.h"
 
 namespace platform::memory {
 
-class Windowing;
-
-// The state of a native control. Tests hold it through a reference that is good as long as the
-// control lives.
-struct WidgetState {
-  enum class Kind { kTopWindow, kSurface, kText };
-
-  Kind kind = Kind::kSurface;
-  std::string name;
-  std::string text;
-  Rect bounds;
-  Point client_origin;  // within the bounds: what the frame and caption take at left and top
-  Size frame;           // what they take in all
-  bool visible = false;
-  bool enabled = true;
-  bool focused = false;
-  FontSpec font;
-  Colour text_colour = colour::kWindowText;
-  Colour background = colour::kButtonFace;
-  WidgetEvents* events = nullptr;
-  WidgetState* parent = nullptr;  // null for a top window
-  // How often each was asked for or changed since the test last looked.
-  int invalidated = 0;
-  int text_changes = 0;
-
-  // Top windows only.
-  TopWindowParams params;
-  TopWindowEvents* top_events = nullptr;
-  TopWindow* window = nullptr;
-  WidgetState* owner = nullptr;  // null for the application
-  bool topmost = false;
-  Size smallest;
-  Size largest;
-  Activation shown_with = Activation::kActivate;
-  int dpi = 96;
-  int drags = 0;
-  bool dragging = false;
-  std::optional<std::uint8_t> alpha;       // nothing: not a layered window
-  std::vector<std::uint8_t> alphas;        // every one that was set
-  std::optional<std::vector<Rect>> shape;  // nothing: the whole window
-  int shape_changes = 0;
-  int raised = 0;
-
-  [[nodiscard]] Size ClientSize() const {
-    return {bounds.width - frame.width, bounds.height - frame.height};
-  }
-  // The place on the screen of a point of its client area.
-  [[nodiscard]] Point ToScreen(Point client) const;
-  // Whether it and all its parents are visible.
-  [[nodiscard]] bool OnScreen() const;
-  // Its client area as the user sees it, children not included.
-  [[nodiscard]] std::unique_ptr<Raster> Paint(Screen& screen) const;
-};
-
 class Windowing final : public platform::Windowing {
+  Desktop desktop_;  // first: what tests set is in it
+
  public:
-  explicit Windowing(Screen& screen) : screen_(screen) {}
+  explicit Windowing(Screen& screen) : desktop_(screen) {}
 
   void SetApplicationTitle(std::string_view title) override { application_title = title; }
   void HideTaskbarButton() override { taskbar_button = false; }
@@ -78,26 +27,84 @@ class Windowing final : public platform::Windowing {
   [[nodiscard]] std::unique_ptr<Widget> CreateSurface(Widget& parent, std::string_view name,
                                                       WidgetEvents& events) override;
   [[nodiscard]] std::unique_ptr<Widget> CreateText(Widget& parent, std::string_view name,
+                                                   const TextStyle& style,
                                                    WidgetEvents& events) override;
+  [[nodiscard]] std::unique_ptr<Button> CreateButton(Widget& parent, std::string_view name,
+                                                     ButtonKind kind,
+                                                     WidgetEvents& events) override;
+  [[nodiscard]] std::unique_ptr<Edit> CreateEdit(Widget& parent, std::string_view name,
+                                                 const EditStyle& style,
+                                                 WidgetEvents& events) override;
+  [[nodiscard]] std::unique_ptr<ItemList> CreateList(Widget& parent, std::string_view name,
+                                                     ListKind kind, WidgetEvents& events) override;
+  [[nodiscard]] std::unique_ptr<Tree> CreateTree(Widget& parent, std::string_view name,
+                                                 WidgetEvents& events) override;
+  [[nodiscard]] std::unique_ptr<Tabs> CreateTabs(Widget& parent, std::string_view name,
+                                                 WidgetEvents& events) override;
+  [[nodiscard]] std::unique_ptr<TrackBar> CreateTrackBar(Widget& parent, std::string_view name,
+                                                         WidgetEvents& events) override;
+  [[nodiscard]] std::unique_ptr<ProgressBar> CreateProgressBar(Widget& parent,
+                                                               std::string_view name,
+                                                               WidgetEvents& events) override;
 
   // The control with this name, in any window; throws std::out_of_range when there is none.
   [[nodiscard]] WidgetState& Find(std::string_view name);
   [[nodiscard]] bool Exists(std::string_view name) const;
+  // The name of the control with the keyboard; empty for none.
+  [[nodiscard]] std::string Focused() const;
+  // The controls of a window that Tab stops at now, in its order.
+  [[nodiscard]] std::vector<std::string> TabOrder(std::string_view window);
 
   // The user's doings. Controls that are hidden or disabled, also through a parent, do not hear
-  // them.
+  // them. One that makes no sense for a control of its kind throws std::logic_error.
+
   void MoveMouse(std::string_view name, Point at, bool left_down = false);
-  void DoubleClick(std::string_view name, Point at = {});
-  void RightClick(std::string_view name, Point at = {});
   // The pointer comes onto a control, or away from all. As on the real system the control that it
   // comes onto may hear of it before the one that it left.
   void PointAt(std::string_view name);
   void PointAway();
+  void PressMouse(std::string_view name, Point at = {}, MouseButton button = MouseButton::kLeft);
+  void ReleaseMouse(std::string_view name, Point at = {}, MouseButton button = MouseButton::kLeft);
+  void DoubleClick(std::string_view name, Point at = {});
+  void RightClick(std::string_view name, Point at = {});
+
+  // A click on a button, a box, a text or a surface.
+  void Press(std::string_view name);
+  // Letter by letter, behind the text or in the place of what is selected.
+  void Type(std::string_view name, std::string_view text);
+  void PressKey(std::string_view name, Key key);
+  void Wheel(std::string_view name, int notches);
+  // A row of a list, an item of a tree, a tab.
+  void Choose(std::string_view name, int index);
+  // Ticks a row of a check list, or takes the tick away.
+  void Tick(std::string_view name, int row);
+  // The slider of a track bar, as far as it goes.
+  void Drag(std::string_view name, int position);
+
+  // Keys in the window, wherever the keyboard is in it.
+  void PressEnter(std::string_view window);
+  void PressEsc(std::string_view window);
+  void PressTab(std::string_view window, bool backwards = false);
+  void PressCtrlTab(std::string_view window, bool backwards = false);
+  // Alt and the letter that a control is marked with.
+  void PressAlt(std::string_view window, char letter);
+  // An arrow key, among radio buttons.
+  void PressArrow(std::string_view window, bool backwards = false);
+
   // Moves a top window by dragging, in one go from where it is.
-  void Drag(std::string_view name, Point to);
-  // Moves or sizes a top window as the user would, within its limits.
-  void Place(std::string_view name, const Rect& bounds);
-  void ClickCloseBox(std::string_view name);
+  void Drag(std::string_view window, Point to);
+  // Moves or sizes a top window, within its limits.
+  void Place(std::string_view window, const Rect& bounds);
+  void ClickCloseBox(std::string_view window);
+
+  // The system's doings.
+  void Activate(std::string_view window, bool active);
+  void ChangeDpi(std::string_view window, int dpi, const Rect& bounds);
+  // For all windows.
+  void ChangeDisplay();
+  void ChangeSettings();
+  void Resume();
+  void EndSession();
 
   // Visible or not, in order of creation.
   [[nodiscard]] std::vector<const WidgetState*> TopWindows() const;
@@ -105,19 +112,19 @@ class Windowing final : public platform::Windowing {
   [[nodiscard]] WidgetState* OwnTopWindow(WindowId id);
 
   // Whether the system has layered windows.
-  bool layered_windows = true;
+  bool& layered_windows = desktop_.layered_windows;
   std::string application_title;
   bool taskbar_button = true;
 
  private:
-  friend class WidgetPeer;
-  friend class TopWindowPeer;
-
-  [[nodiscard]] bool Reachable(const WidgetState& state) const;
-
-  Screen& screen_;
-  WidgetState* pointed_at_ = nullptr;
-  std::vector<WidgetState*> widgets_;  // in order of creation
+  // The control, when the user can reach it and it is of this kind; else null.
+  [[nodiscard]] WidgetState* Reach(std::string_view name);
+  [[nodiscard]] WidgetState* Reach(std::string_view name, WidgetState::Kind kind);
+  [[nodiscard]] WidgetState* ReachDialog(std::string_view window);
+  void Click(WidgetState& state);
+  void EnterLetter(WidgetState& edit, std::string_view letter);
+  void ChooseTab(WidgetState& tabs, int by);
+  void ForAllWindows(const std::function<void(TopWindowEvents&)>& report);
 };
 
 }  // namespace platform::memory

@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "platform/windows/gdi_canvas.h"
-
 namespace platform::windows {
 namespace {
 
@@ -17,7 +15,7 @@ int Pixels(const Dib& dib) { return dib.size().width * dib.size().height; }
 }  // namespace
 
 void BackBuffer::Compose(HDC target, Point at, Size size, const RECT& shown, Colour background,
-                         const std::function<void(Canvas&)>& paint) {
+                         const std::function<void(GdiCanvas&)>& paint) {
   if (size.width <= 0 || size.height <= 0 || ::IsRectEmpty(&shown)) return;
   std::unique_ptr<Dib> dib = Take(size);
   if (!dib) return;

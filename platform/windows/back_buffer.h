@@ -4,9 +4,9 @@
 #include <functional>
 #include <memory>
 
-#include "platform/canvas.h"
 #include "platform/windows/dib.h"
 #include "platform/windows/font_cache.h"
+#include "platform/windows/gdi_canvas.h"
 
 namespace platform::windows {
 
@@ -19,7 +19,7 @@ class BackBuffer {
   // it to `target`, where the canvas has its top left corner at `at`. Does nothing when memory is
   // short.
   void Compose(HDC target, Point at, Size size, const RECT& shown, Colour background,
-               const std::function<void(Canvas&)>& paint);
+               const std::function<void(GdiCanvas&)>& paint);
 
  private:
   // The kept picture, or a new one when it is too small or in use.

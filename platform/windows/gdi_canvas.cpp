@@ -24,6 +24,14 @@ int GdiStyle(PenStyle style) {
   return PS_SOLID;
 }
 
+void DrawLine(HDC dc, Point from, Point to, HGDIOBJ pen) {
+  const Selection selected(dc, pen);
+  ::MoveToEx(dc, from.x, from.y, nullptr);
+  ::LineTo(dc, to.x, to.y);
+}
+
+}  // namespace
+
 UINT GdiAlign(TextAlign align) {
   switch (align) {
     case TextAlign::kCentre:
@@ -35,14 +43,6 @@ UINT GdiAlign(TextAlign align) {
   }
   return DT_LEFT;
 }
-
-void DrawLine(HDC dc, Point from, Point to, HGDIOBJ pen) {
-  const Selection selected(dc, pen);
-  ::MoveToEx(dc, from.x, from.y, nullptr);
-  ::LineTo(dc, to.x, to.y);
-}
-
-}  // namespace
 
 void GdiCanvas::Fill(const Rect& area, Colour colour) {
   if (!area.Empty()) FillArea(dc_, ToRect(area), colour);
@@ -61,6 +61,12 @@ void GdiCanvas::Line(Point from, Point to, Colour colour, PenStyle style) {
 
 void GdiCanvas::Text(const Rect& box, std::string_view text, const FontSpec& font, Colour colour,
                      TextAlign align) {
+  FormattedText(box, text, font, colour,
+                DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | GdiAlign(align));
+}
+
+void GdiCanvas::FormattedText(const Rect& box, std::string_view text, const FontSpec& font,
+                              Colour colour, UINT format) {
   if (box.Empty() || text.empty()) return;
   const SharedFont shared = fonts_.Get(font);
   if (!shared) return;
@@ -69,8 +75,7 @@ void GdiCanvas::Text(const Rect& box, std::string_view text, const FontSpec& fon
   ::SetBkMode(dc_, TRANSPARENT);
   const std::wstring wide = ToWide(text);
   RECT area = ToRect(box);
-  ::DrawTextW(dc_, wide.c_str(), static_cast<int>(wide.size()), &area,
-              DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | GdiAlign(align));
+  ::DrawTextW(dc_, wide.c_str(), static_cast<int>(wide.size()), &area, format);
 }
 
 Size GdiCanvas::TextSize(std::string_view text, const FontSpec& font) {

@@ -7,6 +7,9 @@
 
 namespace platform::windows {
 
+// The flag of DrawText for an alignment.
+[[nodiscard]] UINT GdiAlign(TextAlign align);
+
 // Draws on a device context, which is lent; so are the fonts.
 class GdiCanvas final : public Canvas {
  public:
@@ -18,6 +21,10 @@ class GdiCanvas final : public Canvas {
   void Text(const Rect& box, std::string_view text, const FontSpec& font, Colour colour,
             TextAlign align) override;
   [[nodiscard]] Size TextSize(std::string_view text, const FontSpec& font) override;
+  // As Text, but placed and marked as DrawText's `format` says.
+  void FormattedText(const Rect& box, std::string_view text, const FontSpec& font, Colour colour,
+                     UINT format);
+  [[nodiscard]] HDC dc() const { return dc_; }
   // The bitmap must come from this folder's Graphics.
   void Draw(const Bitmap& bitmap, Point at) override;
 

@@ -131,7 +131,7 @@ void MenuWindow::Draw(const DRAWITEMSTRUCT& item) {
   const Rect area{0, 0, place.width, place.height};
   const MenuEntryState state{(item.itemState & ODS_SELECTED) != 0, session_->dpi};
   drawing_.back_buffer.Compose(item.hDC, {place.left, place.top}, {place.width, place.height},
-                               ToRect(area), colour::kMenu, [&](Canvas& canvas) {
+                               ToRect(area), colour::kMenu, [&](GdiCanvas& canvas) {
                                  session_->painter.Paint(MenuTree::EntryOf(item.itemData), state,
                                                          canvas, area);
                                });

@@ -1,5 +1,7 @@
 #include "platform/windows/message_loop.h"
 
+#include "platform/windows/dialog_keys.h"
+
 namespace platform::windows {
 namespace {
 
@@ -68,6 +70,7 @@ bool MessageLoop::DeliverOne() {
     if (depth_ > 0) ::PostQuitMessage(static_cast<int>(message.wParam));
     return true;
   }
+  if (HandledAsDialogKey(message)) return true;
   ::TranslateMessage(&message);
   ::DispatchMessageW(&message);
   return true;

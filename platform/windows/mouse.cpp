@@ -25,8 +25,6 @@ void TrackLeave(HWND hwnd, bool on_frame) {
   ::TrackMouseEvent(&track);
 }
 
-// The left button holds the mouse until it comes up, so that its release is heard wherever it is.
-void Hold(HWND hwnd) { ::SetCapture(hwnd); }
 void LetGo(HWND hwnd) {
   if (::GetCapture() == hwnd) ::ReleaseCapture();
 }
@@ -46,16 +44,16 @@ void Mouse::Report(HWND hwnd, const Message& message, WidgetEvents& events, Life
       if (Leave(hwnd)) events.OnMouseLeave();
       break;
     case WM_LBUTTONDOWN:
-      Hold(hwnd);
+      if (capture_ == Capture::kHere) ::SetCapture(hwnd);
+      pressed_ = true;
       events.OnMouseDown(EventOf(message, MouseButton::kLeft));
       break;
     case WM_LBUTTONDBLCLK:
-      Hold(hwnd);
+      if (capture_ == Capture::kHere) ::SetCapture(hwnd);
       events.OnDoubleClick(EventOf(message, MouseButton::kLeft));
       break;
     case WM_LBUTTONUP:
-      LetGo(hwnd);
-      events.OnMouseUp(EventOf(message, MouseButton::kLeft));
+      ReportLeftUp(hwnd, message, events, lifetime);
       break;
     // Only the left button has a double click of its own.
     case WM_RBUTTONDOWN:
@@ -77,9 +75,23 @@ void Mouse::Report(HWND hwnd, const Message& message, WidgetEvents& events, Life
   }
 }
 
+void Mouse::ReportLeftUp(HWND hwnd, const Message& message, WidgetEvents& events,
+                         Lifetime& lifetime) {
+  const MouseEvent event = EventOf(message, MouseButton::kLeft);
+  const bool clicked = std::exchange(pressed_, false) && InsideClient(hwnd, event.at);
+  if (capture_ == Capture::kHere) {
+    LetGo(hwnd);
+    const Lifetime::Watch watch(lifetime);
+    if (clicked) events.OnClicked();
+    if (watch.Gone()) return;
+  }
+  events.OnMouseUp(event);
+}
+
 void Mouse::ReportMove(HWND hwnd, const Message& message, WidgetEvents& events,
                        Lifetime& lifetime) {
   const MouseEvent event = EventOf(message, MouseButton::kNone);
+  if (!event.left_down) pressed_ = false;  // its release went elsewhere
   // While the button is held, moves come from outside as well.
   if (InsideClient(hwnd, event.at) && Enter(hwnd, false)) {
     const Lifetime::Watch watch(lifetime);

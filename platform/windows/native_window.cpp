@@ -39,6 +39,14 @@ void NativeWindow::CreateControl(const wchar_t* control, const WindowStyle& styl
       ::SetWindowLongPtrW(hwnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&Procedure)));
 }
 
+NativeWindow* NativeWindow::Of(HWND hwnd) {
+  // Only of such a window is known what the system keeps for its owner. (The parts of a combo box,
+  // for example, are the system's own.)
+  const auto procedure = reinterpret_cast<LONG_PTR>(&Procedure);
+  if (hwnd == nullptr || ::GetWindowLongPtrW(hwnd, GWLP_WNDPROC) != procedure) return nullptr;
+  return ObjectOf(hwnd);
+}
+
 void NativeWindow::Attach(HWND hwnd) {
   hwnd_ = hwnd;
   ::SetWindowLongPtrW(hwnd, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));

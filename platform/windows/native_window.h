@@ -34,6 +34,9 @@ class NativeWindow {
   // Null before it is created and after the system took it away.
   [[nodiscard]] HWND hwnd() const { return hwnd_; }
 
+  // The object that owns `hwnd`; null when none of this program does.
+  [[nodiscard]] static NativeWindow* Of(HWND hwnd);
+
   static LRESULT CALLBACK Procedure(HWND hwnd, UINT id, WPARAM w, LPARAM l) noexcept;
 
  protected:

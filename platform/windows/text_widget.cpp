@@ -3,13 +3,34 @@
 #include "platform/windows/bare_frame.h"
 
 namespace platform::windows {
+namespace {
 
-TextWidget::TextWidget(HWND parent, std::string_view name, Drawing& drawing, WidgetEvents& events)
-    : WidgetOf(drawing, events) {
-  CreateControl(
-      L"STATIC",
-      {WS_CHILD | WS_CLIPSIBLINGS | SS_CENTER | SS_CENTERIMAGE | SS_NOPREFIX | SS_NOTIFY, 0},
-      parent);
+WindowStyle StyleOf(const TextStyle& text) {
+  WindowStyle style{WS_CHILD | WS_CLIPSIBLINGS | WS_GROUP | SS_NOTIFY, 0};
+  if (text.align == TextAlign::kCentre) style.style |= SS_CENTER;
+  if (text.align == TextAlign::kRight) style.style |= SS_RIGHT;
+  if (!text.wraps) style.style |= SS_CENTERIMAGE;
+  if (!text.mnemonic) style.style |= SS_NOPREFIX;
+  if (text.border == Border::kSunken) style.extended = WS_EX_STATICEDGE;
+  return style;
+}
+
+// As DrawText takes it.
+UINT FormatOf(const TextStyle& text, HWND hwnd) {
+  UINT format = GdiAlign(text.align);
+  format |= text.wraps ? DT_WORDBREAK : DT_SINGLELINE | DT_VCENTER;
+  if (!text.mnemonic) return format | DT_NOPREFIX;
+  // The user may want the marks only once a key was pressed.
+  const LRESULT hidden = ::SendMessageW(hwnd, WM_QUERYUISTATE, 0, 0) & UISF_HIDEACCEL;
+  return hidden != 0 ? format | DT_HIDEPREFIX : format;
+}
+
+}  // namespace
+
+TextWidget::TextWidget(HWND parent, std::string_view name, const TextStyle& style, Drawing& drawing,
+                       WidgetEvents& events)
+    : WidgetOf(drawing, events), style_(style) {
+  CreateControl(L"STATIC", StyleOf(style), parent);
   PublishName(name);
   StartReporting();
 }
@@ -21,6 +42,7 @@ std::optional<LRESULT> TextWidget::Handle(const Message& message) {
       return OnSizingEdge(hwnd(), message.l) ? HTTRANSPARENT : HTCLIENT;
     case WM_SETTEXT:
     case WM_ENABLE:
+    case WM_UPDATEUISTATE:
       return WithoutControl(message);
     default:
       return WidgetOf::Handle(message);
@@ -33,10 +55,10 @@ LRESULT TextWidget::WithoutControl(const Message& message) {
   return answer;
 }
 
-void TextWidget::PaintContent(Canvas& canvas) {
+void TextWidget::PaintContent(GdiCanvas& canvas) {
   const Size size = canvas.Extent();
-  canvas.Text({0, 0, size.width, size.height}, Text(), font(),
-              Enabled() ? text_colour() : colour::kGrayText, TextAlign::kCentre);
+  canvas.FormattedText({0, 0, size.width, size.height}, Text(), font(),
+                       Enabled() ? text_colour() : colour::kGrayText, FormatOf(style_, hwnd()));
 }
 
 }  // namespace platform::windows

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "platform/windows/dialog_keys.h"
 #include "platform/windows/dpi.h"
 #include "platform/windows/layered.h"
 #include "platform/windows/wide.h"
@@ -48,7 +49,8 @@ TopWindow::TopWindow(const WindowClass& window_class, const TopWindowParams& par
     : WidgetOf(drawing, events),
       events_(events),
       frame_(params.frame),
-      bare_frame_(params.frame == Frame::kSizeableTool && params.bare_popup) {
+      bare_frame_(params.frame == Frame::kSizeableTool && params.bare_popup),
+      takes_dialog_keys_(params.frame != Frame::kHint && !params.bare_popup) {
   Create(window_class, StyleOf(params), owner, ToWide(params.caption));
   if (bare_frame_) BareFrame::TakeOver(hwnd());
   if (frame_ == Frame::kHint) ::SetLayeredWindowAttributes(hwnd(), 0, 255, LWA_ALPHA);
@@ -75,6 +77,11 @@ void TopWindow::Show(Activation activation) {
     ::ShowWindow(hwnd(), SW_SHOWNOACTIVATE);
     return;
   }
+  if (!Visible()) {
+    last_focus_ = nullptr;
+    // Marks of keys and of the keyboard's place are shown as the user likes it.
+    ::SendMessageW(hwnd(), WM_CHANGEUISTATE, MAKEWPARAM(UIS_INITIALIZE, 0), 0);
+  }
   ::SetWindowPos(hwnd(), nullptr, 0, 0, 0, 0,
                  SWP_SHOWWINDOW | SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER);
   Raise();
@@ -91,6 +98,16 @@ bool TopWindow::Topmost() const {
 }
 
 void TopWindow::SetSizeLimits(Size smallest, Size largest) { limits_ = {smallest, largest}; }
+
+void TopWindow::SetClientSize(Size client) {
+  // By what it has too much or too little; of a window without an inside nothing can be learned.
+  for (int attempt = 0; attempt < 2 && ClientSize() != client; ++attempt) {
+    const Rect outer = Bounds();
+    const Size inner = ClientSize();
+    SetBounds({outer.left, outer.top, outer.width + client.width - inner.width,
+               outer.height + client.height - inner.height});
+  }
+}
 
 void TopWindow::BeginDrag() {
   // Moves of the mouse may be delivered while the drag goes on, and each of them asks again.
@@ -152,8 +169,12 @@ std::optional<LRESULT> TopWindow::HandleWindow(const Message& message) {
       events_.OnClose();  // the system would destroy the window
       return 0;
     case WM_ACTIVATE:
+      if (LOWORD(message.w) == WA_INACTIVE) RememberFocus();
       events_.OnActivate(LOWORD(message.w) != WA_INACTIVE);
       return std::nullopt;
+    case WM_SETFOCUS:
+      RestoreFocus();
+      return 0;
     case WM_WINDOWPOSCHANGED:
       return HandlePlaced(message);
     case WM_DPICHANGED:
@@ -220,6 +241,20 @@ void TopWindow::EndDrag() {
   }
   drag_.End();
   events_.OnDragEnded();
+}
+
+void TopWindow::RememberFocus() {
+  const HWND focus = ::GetFocus();
+  if (focus != nullptr && ::IsChild(hwnd(), focus)) last_focus_ = focus;
+}
+
+void TopWindow::RestoreFocus() {
+  if (!takes_dialog_keys_) return;
+  if (::IsChild(hwnd(), last_focus_) && IsUsable(last_focus_)) {
+    ::SetFocus(last_focus_);
+  } else {
+    FocusFirst(hwnd());
+  }
 }
 
 LRESULT TopWindow::HandlePlaced(const Message& message) {

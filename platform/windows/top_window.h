@@ -20,6 +20,7 @@ class TopWindow final : public WidgetOf<platform::TopWindow> {
   void SetTopmost(bool topmost) override;
   [[nodiscard]] bool Topmost() const override;
   void SetSizeLimits(Size smallest, Size largest) override;
+  void SetClientSize(Size client) override;
   void BeginDrag() override;
   [[nodiscard]] bool Dragging() const override { return drag_.Active(); }
   void SetAlpha(std::uint8_t alpha) override;
@@ -28,6 +29,10 @@ class TopWindow final : public WidgetOf<platform::TopWindow> {
   [[nodiscard]] bool UnderPointer() const override;
   void Raise() override;
   [[nodiscard]] int Dpi() const override;
+
+  // Whether it has the keys of a dialog: with a caption, and when the program wants the keyboard.
+  [[nodiscard]] bool TakesDialogKeys() const { return takes_dialog_keys_; }
+  void CancelKey() { events_.OnCancelKey(); }
 
  protected:
   std::optional<LRESULT> Handle(const Message& message) override;
@@ -38,6 +43,9 @@ class TopWindow final : public WidgetOf<platform::TopWindow> {
   [[nodiscard]] std::optional<LRESULT> HandleWindow(const Message& message);
   [[nodiscard]] std::optional<LRESULT> HandleSystem(const Message& message);
   [[nodiscard]] std::optional<LRESULT> HandleDrag(const Message& message);
+  // Keeps in mind where the keyboard was, and puts it there again.
+  void RememberFocus();
+  void RestoreFocus();
   LRESULT HandlePlaced(const Message& message);
   void EndDrag();
   LRESULT HandleDpi(const Message& message);
@@ -48,6 +56,8 @@ class TopWindow final : public WidgetOf<platform::TopWindow> {
   TopWindowEvents& events_;
   const Frame frame_;
   const bool bare_frame_;  // sizeable and without a caption: draws its own frame
+  const bool takes_dialog_keys_;
+  HWND last_focus_ = nullptr;  // the child that had the keyboard when the window was last active
   SizeLimits limits_;
   Rect reported_bounds_;
   ULONGLONG declines_focus_until_ = 0;  // in ticks of the system

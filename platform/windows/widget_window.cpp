@@ -1,5 +1,7 @@
 #include "platform/windows/widget_window.h"
 
+#include "platform/windows/dialog_keys.h"
+#include "platform/windows/native_control.h"
 #include "platform/windows/wide.h"
 
 namespace platform::windows {
@@ -21,6 +23,27 @@ class Painting {
   PAINTSTRUCT painting_{};
   HDC dc_;
 };
+
+// The control that a message to its parent is about; null for a message of another kind.
+HWND ControlOf(const Message& message) {
+  switch (message.id) {
+    case WM_COMMAND:
+    case WM_HSCROLL:
+    case WM_VSCROLL:
+    case WM_CTLCOLOREDIT:
+    case WM_CTLCOLORLISTBOX:
+    case WM_CTLCOLORBTN:
+    case WM_CTLCOLORSCROLLBAR:
+    case WM_CTLCOLORSTATIC:
+      return reinterpret_cast<HWND>(message.l);
+    case WM_NOTIFY:
+      return reinterpret_cast<const NMHDR*>(message.l)->hwndFrom;
+    case WM_DRAWITEM:
+      return reinterpret_cast<const DRAWITEMSTRUCT*>(message.l)->hwndItem;
+    default:
+      return nullptr;
+  }
+}
 
 }  // namespace
 
@@ -59,13 +82,19 @@ Size WidgetWindow::ClientSize() const {
   return {static_cast<int>(area.right), static_cast<int>(area.bottom)};
 }
 
-void WidgetWindow::SetVisible(bool visible) { ::ShowWindow(hwnd(), visible ? SW_SHOWNA : SW_HIDE); }
+void WidgetWindow::SetVisible(bool visible) {
+  if (!visible) PassFocusOn(hwnd());
+  ::ShowWindow(hwnd(), visible ? SW_SHOWNA : SW_HIDE);
+}
 
 bool WidgetWindow::Visible() const {
   return (::GetWindowLongPtrW(hwnd(), GWL_STYLE) & WS_VISIBLE) != 0;
 }
 
-void WidgetWindow::SetEnabled(bool enabled) { ::EnableWindow(hwnd(), enabled); }
+void WidgetWindow::SetEnabled(bool enabled) {
+  if (!enabled) PassFocusOn(hwnd());
+  ::EnableWindow(hwnd(), enabled);
+}
 
 bool WidgetWindow::Enabled() const { return ::IsWindowEnabled(hwnd()) != 0; }
 
@@ -86,11 +115,18 @@ void WidgetWindow::SetColours(Colour text, Colour background) {
   Invalidate();
 }
 
-void WidgetWindow::Focus() { ::SetFocus(hwnd()); }
+void WidgetWindow::Focus() {
+  if (IsUsable(hwnd())) ::SetFocus(hwnd());
+}
+
+bool WidgetWindow::HasFocus() const {
+  const HWND focus = ::GetFocus();
+  return focus != nullptr && (focus == hwnd() || ::IsChild(hwnd(), focus));
+}
 
 void WidgetWindow::Invalidate() {
   // Without a window the call would repaint the whole desktop.
-  if (hwnd() != nullptr) ::InvalidateRect(hwnd(), nullptr, FALSE);
+  if (hwnd() != nullptr) ::InvalidateRect(hwnd(), nullptr, TRUE);
 }
 
 Point WidgetWindow::ToScreen(Point client) const {
@@ -114,6 +150,13 @@ void WidgetWindow::ForgetName() {
   ::RemovePropW(hwnd(), published_name_.c_str());
 }
 
+std::optional<LRESULT> WidgetWindow::ToControl(const Message& message) {
+  if (auto* control = dynamic_cast<NativeControl*>(NativeWindow::Of(ControlOf(message)))) {
+    return control->HandleNotification(message);
+  }
+  return std::nullopt;
+}
+
 std::optional<LRESULT> WidgetWindow::Handle(const Message& message) {
   switch (message.id) {
     case WM_ERASEBKGND:
@@ -130,6 +173,7 @@ std::optional<LRESULT> WidgetWindow::Handle(const Message& message) {
       ForgetName();
       return std::nullopt;
     default:
+      if (const auto answer = ToControl(message)) return answer;
       return reporting_ ? HandleReports(message) : std::nullopt;
   }
 }
@@ -146,7 +190,7 @@ std::optional<LRESULT> WidgetWindow::HandleReports(const Message& message) {
     case WM_RBUTTONUP:  // the system makes the wish for a context menu of it
     case WM_NCMOUSEMOVE:
     case WM_NCMOUSELEAVE:
-      mouse_.Report(hwnd(), message, events_, lifetime());
+      ReportMouse(message);
       return std::nullopt;
     case WM_MOUSEMOVE:
     case WM_MOUSELEAVE:
@@ -158,7 +202,7 @@ std::optional<LRESULT> WidgetWindow::HandleReports(const Message& message) {
     case WM_MBUTTONDOWN:
     case WM_MBUTTONDBLCLK:
     case WM_MBUTTONUP:
-      mouse_.Report(hwnd(), message, events_, lifetime());
+      ReportMouse(message);
       return 0;
     default:
       return std::nullopt;
@@ -179,7 +223,7 @@ void WidgetWindow::Paint() {
 
 void WidgetWindow::PaintOn(HDC target, const RECT& shown) {
   drawing_.back_buffer.Compose(target, {}, ClientSize(), shown, background_,
-                               [this](Canvas& canvas) { PaintContent(canvas); });
+                               [this](GdiCanvas& canvas) { PaintContent(canvas); });
 }
 
 }  // namespace platform::windows

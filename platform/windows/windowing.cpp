@@ -1,11 +1,25 @@
 #include "platform/windows/windowing.h"
 
+#include "platform/windows/bar_widgets.h"
+#include "platform/windows/button_widget.h"
+#include "platform/windows/common_controls.h"
+#include "platform/windows/edit_widget.h"
+#include "platform/windows/list_widgets.h"
 #include "platform/windows/surface.h"
+#include "platform/windows/tabs_widget.h"
 #include "platform/windows/text_widget.h"
 #include "platform/windows/top_window.h"
+#include "platform/windows/tree_widget.h"
 #include "platform/windows/wide.h"
 
 namespace platform::windows {
+
+Windowing::Windowing(Drawing& drawing) : drawing_(drawing) {
+  INITCOMMONCONTROLSEX classes{};
+  classes.dwSize = sizeof(classes);
+  classes.dwICC = ICC_WIN95_CLASSES | ICC_STANDARD_CLASSES;
+  ::InitCommonControlsEx(&classes);
+}
 
 void Windowing::SetApplicationTitle(std::string_view title) {
   ::SetWindowTextW(application_.hwnd(), ToWide(title).c_str());
@@ -31,8 +45,51 @@ std::unique_ptr<Widget> Windowing::CreateSurface(Widget& parent, std::string_vie
 }
 
 std::unique_ptr<Widget> Windowing::CreateText(Widget& parent, std::string_view name,
-                                              WidgetEvents& events) {
-  return std::make_unique<TextWidget>(WidgetWindow::Of(parent), name, drawing_, events);
+                                              const TextStyle& style, WidgetEvents& events) {
+  return std::make_unique<TextWidget>(WidgetWindow::Of(parent), name, style, drawing_, events);
+}
+
+std::unique_ptr<Button> Windowing::CreateButton(Widget& parent, std::string_view name,
+                                                ButtonKind kind, WidgetEvents& events) {
+  return std::make_unique<ButtonWidget>(WidgetWindow::Of(parent), name, kind, drawing_, events);
+}
+
+std::unique_ptr<Edit> Windowing::CreateEdit(Widget& parent, std::string_view name,
+                                            const EditStyle& style, WidgetEvents& events) {
+  return std::make_unique<EditWidget>(WidgetWindow::Of(parent), name, style, drawing_, events);
+}
+
+std::unique_ptr<ItemList> Windowing::CreateList(Widget& parent, std::string_view name,
+                                                ListKind kind, WidgetEvents& events) {
+  const HWND hwnd = WidgetWindow::Of(parent);
+  switch (kind) {
+    case ListKind::kBox:
+      return std::make_unique<ListBoxWidget>(hwnd, name, drawing_, events);
+    case ListKind::kCheckBox:
+      return std::make_unique<CheckListWidget>(hwnd, name, drawing_, events);
+    default:
+      return std::make_unique<ComboWidget>(hwnd, name, kind, drawing_, events);
+  }
+}
+
+std::unique_ptr<Tree> Windowing::CreateTree(Widget& parent, std::string_view name,
+                                            WidgetEvents& events) {
+  return std::make_unique<TreeWidget>(WidgetWindow::Of(parent), name, drawing_, events);
+}
+
+std::unique_ptr<Tabs> Windowing::CreateTabs(Widget& parent, std::string_view name,
+                                            WidgetEvents& events) {
+  return std::make_unique<TabsWidget>(WidgetWindow::Of(parent), name, drawing_, events);
+}
+
+std::unique_ptr<TrackBar> Windowing::CreateTrackBar(Widget& parent, std::string_view name,
+                                                    WidgetEvents& events) {
+  return std::make_unique<TrackBarWidget>(WidgetWindow::Of(parent), name, drawing_, events);
+}
+
+std::unique_ptr<ProgressBar> Windowing::CreateProgressBar(Widget& parent, std::string_view name,
+                                                          WidgetEvents& events) {
+  return std::make_unique<ProgressBarWidget>(WidgetWindow::Of(parent), name, drawing_, events);
 }
 
 }  // namespace platform::windows

@@ -13,7 +13,7 @@ namespace platform::windows {
 class Windowing final : public platform::Windowing {
  public:
   // `drawing` outlives this; this outlives every widget.
-  explicit Windowing(Drawing& drawing) : drawing_(drawing) {}
+  explicit Windowing(Drawing& drawing);
 
   void SetApplicationTitle(std::string_view title) override;
   void HideTaskbarButton() override;
@@ -22,7 +22,25 @@ class Windowing final : public platform::Windowing {
   [[nodiscard]] std::unique_ptr<Widget> CreateSurface(Widget& parent, std::string_view name,
                                                       WidgetEvents& events) override;
   [[nodiscard]] std::unique_ptr<Widget> CreateText(Widget& parent, std::string_view name,
+                                                   const TextStyle& style,
                                                    WidgetEvents& events) override;
+  [[nodiscard]] std::unique_ptr<Button> CreateButton(Widget& parent, std::string_view name,
+                                                     ButtonKind kind,
+                                                     WidgetEvents& events) override;
+  [[nodiscard]] std::unique_ptr<Edit> CreateEdit(Widget& parent, std::string_view name,
+                                                 const EditStyle& style,
+                                                 WidgetEvents& events) override;
+  [[nodiscard]] std::unique_ptr<ItemList> CreateList(Widget& parent, std::string_view name,
+                                                     ListKind kind, WidgetEvents& events) override;
+  [[nodiscard]] std::unique_ptr<Tree> CreateTree(Widget& parent, std::string_view name,
+                                                 WidgetEvents& events) override;
+  [[nodiscard]] std::unique_ptr<Tabs> CreateTabs(Widget& parent, std::string_view name,
+                                                 WidgetEvents& events) override;
+  [[nodiscard]] std::unique_ptr<TrackBar> CreateTrackBar(Widget& parent, std::string_view name,
+                                                         WidgetEvents& events) override;
+  [[nodiscard]] std::unique_ptr<ProgressBar> CreateProgressBar(Widget& parent,
+                                                               std::string_view name,
+                                                               WidgetEvents& events) override;
 
  private:
   Drawing& drawing_;

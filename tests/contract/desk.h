@@ -45,6 +45,23 @@ class Desk {
   virtual void LetOtherHang(bool hang) = 0;
   virtual void LetOtherTake(const platform::KeyCombination& keys) = 0;
 
+  // With controls. One that is hidden or disabled, also through what it lies on, does not hear it.
+  virtual void Press(std::string_view name) = 0;
+  virtual void Type(std::string_view name, std::string_view text) = 0;
+  virtual void PressKey(std::string_view name, platform::Key key) = 0;
+  virtual void Wheel(std::string_view name, int notches) = 0;
+  virtual void Choose(std::string_view name, int index) = 0;
+  virtual void Tick(std::string_view name, int row) = 0;
+  virtual void Drag(std::string_view name, int position) = 0;
+
+  // Keys in a top window, wherever the keyboard is in it.
+  virtual void PressEnter(std::string_view window) = 0;
+  virtual void PressEsc(std::string_view window) = 0;
+  virtual void PressTab(std::string_view window, bool backwards) = 0;
+  virtual void PressCtrlTab(std::string_view window, bool backwards) = 0;
+  virtual void PressAlt(std::string_view window, char letter) = 0;
+  virtual void PressArrow(std::string_view window, bool backwards) = 0;
+
   // Runs `step` once, from the message loop that runs next or goes on.
   virtual void Later(std::function<void()> step) = 0;
   // Lets time pass and messages be delivered until `condition` is true; false when it does not come

@@ -46,6 +46,31 @@ class MemoryDesk final : public Desk {
     machine_.hot_keys.taken.push_back(keys);
   }
 
+  void Press(std::string_view name) override { Windows().Press(name); }
+  void Type(std::string_view name, std::string_view text) override { Windows().Type(name, text); }
+  void PressKey(std::string_view name, platform::Key key) override {
+    Windows().PressKey(name, key);
+  }
+  void Wheel(std::string_view name, int notches) override { Windows().Wheel(name, notches); }
+  void Choose(std::string_view name, int index) override { Windows().Choose(name, index); }
+  void Tick(std::string_view name, int row) override { Windows().Tick(name, row); }
+  void Drag(std::string_view name, int position) override { Windows().Drag(name, position); }
+
+  void PressEnter(std::string_view window) override { Windows().PressEnter(window); }
+  void PressEsc(std::string_view window) override { Windows().PressEsc(window); }
+  void PressTab(std::string_view window, bool backwards) override {
+    Windows().PressTab(window, backwards);
+  }
+  void PressCtrlTab(std::string_view window, bool backwards) override {
+    Windows().PressCtrlTab(window, backwards);
+  }
+  void PressAlt(std::string_view window, char letter) override {
+    Windows().PressAlt(window, letter);
+  }
+  void PressArrow(std::string_view window, bool backwards) override {
+    Windows().PressArrow(window, backwards);
+  }
+
   void Later(std::function<void()> step) override { machine_.message_loop.Then(std::move(step)); }
   bool LetHappen(const std::function<bool()>& condition) override {
     constexpr int kRounds = 1000;
@@ -57,6 +82,8 @@ class MemoryDesk final : public Desk {
   }
 
  private:
+  platform::memory::Windowing& Windows() { return machine_.windowing; }
+
   platform::memory::Machine machine_;
   std::vector<platform::WindowId> others_;
 };

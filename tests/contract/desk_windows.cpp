@@ -5,6 +5,7 @@
 #include "platform/windows/machine.h"
 #include "platform/windows/wide.h"
 #include "tests/contract/desk.h"
+#include "tests/contract/hands_windows.h"
 #include "tests/contract/other_program_windows.h"
 // After the system's header, which it needs.
 #include <shellapi.h>
@@ -16,31 +17,6 @@ using platform::windows::ToWide;
 
 constexpr ULONGLONG kAmple = 10000;  // milliseconds
 constexpr UINT kTrayMessage = WM_APP + 1;
-
-struct Search {
-  std::wstring name;
-  HWND found = nullptr;
-};
-
-BOOL CALLBACK LookAt(HWND hwnd, LPARAM search_pointer) {
-  auto& search = *reinterpret_cast<Search*>(search_pointer);
-  wchar_t window_class[256] = {};
-  ::GetClassNameW(hwnd, window_class, 256);
-  if (search.name == window_class || ::GetPropW(hwnd, search.name.c_str()) != nullptr) {
-    search.found = hwnd;
-  } else {
-    ::EnumChildWindows(hwnd, &LookAt, search_pointer);
-  }
-  return search.found == nullptr;
-}
-
-// The window of this thread that is of the class `name`, or is a widget of that name.
-HWND Find(std::string_view name) {
-  Search search{ToWide(name)};
-  ::EnumThreadWindows(::GetCurrentThreadId(), &LookAt, reinterpret_cast<LPARAM>(&search));
-  if (search.found == nullptr) throw std::out_of_range("no window is " + std::string(name));
-  return search.found;
-}
 
 // What the keyboard does to choose the entry with a text.
 class MenuKeys {
@@ -91,17 +67,16 @@ class WindowsDesk final : public Desk {
   platform::Platform& Platform() override { return machine_.platform(); }
 
   void MoveMouse(std::string_view name, platform::Point at, bool left_down) override {
-    Mouse(name, WM_MOUSEMOVE, left_down ? MK_LBUTTON : 0, at);
+    ::SendMessageW(Find(name), WM_MOUSEMOVE, left_down ? MK_LBUTTON : 0, MAKELPARAM(at.x, at.y));
   }
   void DoubleClick(std::string_view name, platform::Point at) override {
-    Mouse(name, WM_LBUTTONDOWN, MK_LBUTTON, at);
-    Mouse(name, WM_LBUTTONUP, 0, at);
-    Mouse(name, WM_LBUTTONDBLCLK, MK_LBUTTON, at);
-    Mouse(name, WM_LBUTTONUP, 0, at);
+    hands_.Click(Find(name), at);
+    ::SendMessageW(Find(name), WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(at.x, at.y));
+    ::SendMessageW(Find(name), WM_LBUTTONUP, 0, MAKELPARAM(at.x, at.y));
   }
   void RightClick(std::string_view name, platform::Point at) override {
-    Mouse(name, WM_RBUTTONDOWN, MK_RBUTTON, at);
-    Mouse(name, WM_RBUTTONUP, 0, at);
+    ::SendMessageW(Find(name), WM_RBUTTONDOWN, MK_RBUTTON, MAKELPARAM(at.x, at.y));
+    ::SendMessageW(Find(name), WM_RBUTTONUP, 0, MAKELPARAM(at.x, at.y));
   }
   void ClickCloseBox(std::string_view name) override {
     ::SendMessageW(Find(name), WM_SYSCOMMAND, SC_CLOSE, 0);
@@ -109,6 +84,27 @@ class WindowsDesk final : public Desk {
   void Place(std::string_view name, const platform::Rect& bounds) override {
     ::SetWindowPos(Find(name), nullptr, bounds.left, bounds.top, bounds.width, bounds.height,
                    SWP_NOZORDER | SWP_NOACTIVATE);
+  }
+
+  void Press(std::string_view name) override { hands_.Press(name); }
+  void Type(std::string_view name, std::string_view text) override { hands_.Type(name, text); }
+  void PressKey(std::string_view name, platform::Key key) override { hands_.PressKey(name, key); }
+  void Wheel(std::string_view name, int notches) override { hands_.Wheel(name, notches); }
+  void Choose(std::string_view name, int index) override { hands_.Choose(name, index); }
+  void Tick(std::string_view name, int row) override { hands_.Tick(name, row); }
+  void Drag(std::string_view name, int position) override { hands_.Drag(name, position); }
+
+  void PressEnter(std::string_view window) override { hands_.PressIn(window, VK_RETURN); }
+  void PressEsc(std::string_view window) override { hands_.PressIn(window, VK_ESCAPE); }
+  void PressTab(std::string_view window, bool backwards) override {
+    hands_.PressIn(window, VK_TAB, backwards);
+  }
+  void PressCtrlTab(std::string_view window, bool backwards) override {
+    hands_.PressIn(window, VK_TAB, backwards, true);
+  }
+  void PressAlt(std::string_view window, char letter) override { hands_.PressAlt(window, letter); }
+  void PressArrow(std::string_view window, bool backwards) override {
+    hands_.PressIn(window, backwards ? VK_UP : VK_DOWN);
   }
 
   void WillChoose(std::string_view text) override {
@@ -193,10 +189,6 @@ class WindowsDesk final : public Desk {
     ::SendInput(1, &input, sizeof(input));
   }
 
-  void Mouse(std::string_view name, UINT message, WPARAM buttons, platform::Point at) {
-    ::SendMessageW(Find(name), message, buttons, MAKELPARAM(at.x, at.y));
-  }
-
   static HWND OpenMenu() {
     const HWND menu = ::FindWindowW(L"#32768", nullptr);
     return menu != nullptr && ::IsWindowVisible(menu) ? menu : nullptr;
@@ -230,6 +222,7 @@ class WindowsDesk final : public Desk {
 
   platform::windows::Machine machine_;
   OtherProgram other_;
+  Hands hands_{machine_.platform().message_loop};
   std::deque<std::function<void()>> steps_;
   std::unique_ptr<platform::Timer> stepping_;
   std::unique_ptr<platform::Timer> choosing_;

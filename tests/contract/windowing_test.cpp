@@ -45,7 +45,7 @@ class WindowingTest : public testing::Test {
                                           nullptr, heard_);
     window_->SetSizeLimits({100, 40}, {400, 300});
     surface_ = Windowing().CreateSurface(*window_, "surface", surface_heard_);
-    text_ = Windowing().CreateText(*surface_, "text", text_heard_);
+    text_ = Windowing().CreateText(*surface_, "text", {}, text_heard_);
   }
 
   platform::Windowing& Windowing() { return desk_->Platform().windowing; }

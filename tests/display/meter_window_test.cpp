@@ -40,6 +40,7 @@ TEST_F(Meter, CannotBeSizedBeyondItsLimits) {
 
 TEST_F(Meter, TheFontOfTheLineFollowsTheWidth) {
   Run([&] {
+    Window().Window().SetSizeLimits({}, {});  // the narrow widths are those of other resolutions
     struct Row {
       int width;
       int points;
