@@ -16,6 +16,8 @@ Control::Control(Application& app, Control* parent, std::string_view name)
     return;
   }
   parent_->children_.push_back(this);
+  font_ = parent_->font_;
+  colour_ = parent_->colour_;
 }
 
 Control::~Control() {
@@ -53,6 +55,7 @@ void Control::SetCaption(std::string_view caption) {
   if (caption == caption_) return;
   caption_ = caption;
   peer_->SetText(caption_);
+  CaptionChanged();
 }
 
 void Control::SetVisible(bool visible) {
@@ -66,6 +69,7 @@ void Control::SetEnabled(bool enabled) {
   if (enabled == enabled_) return;
   enabled_ = enabled;
   peer_->SetEnabled(enabled_);
+  EnabledChanged();
 }
 
 void Control::SetColour(platform::Colour colour) {
@@ -90,6 +94,13 @@ void Control::SetHint(std::string_view hint) {
   if (hint == hint_) return;
   hint_ = hint;
   app_.Hints().TextChanged(*this);
+  HintChanged();
+}
+
+void Control::Fire(const std::function<void()>& handler) {
+  if (!handler) return;
+  const std::function<void()> kept = handler;  // it may go with the control
+  app_.Guard(kept);
 }
 
 void Control::Invalidate() { peer_->Invalidate(); }
@@ -180,6 +191,10 @@ void Control::OnContextMenu(platform::Point screen) {
       return;
     }
   });
+}
+
+void Control::OnClicked() {
+  app_.Guard([&] { Clicked(); });
 }
 
 void Control::OnResize(platform::Size /*size*/) {

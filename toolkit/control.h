@@ -22,7 +22,12 @@ enum class Align {
   kClient,  // all that is left
 };
 
-// Setting a property to the value that it has does nothing.
+// Setting a property to the value that it has does nothing. A changed value fires the change
+// handler (OnClick of boxes, OnChange of the others), whether the user or the code changed it; a
+// form gives its controls the values of their design before it connects the handlers.
+//
+// The keyboard goes through the controls of a form in the order in which they were made: members of
+// a form are declared in that order.
 class Control : protected platform::WidgetEvents {
  public:
   ~Control() override;
@@ -33,6 +38,12 @@ class Control : protected platform::WidgetEvents {
   [[nodiscard]] Application& App() const { return app_; }
   // The form it lies on; itself for a form.
   [[nodiscard]] virtual Form& ParentForm();
+  // Null for a form.
+  [[nodiscard]] Control* Parent() const { return parent_; }
+  // What lies on it, in order of creation.
+  [[nodiscard]] const std::vector<Control*>& Children() const { return children_; }
+  // Made of controls that it places by itself.
+  [[nodiscard]] virtual bool IsComposite() const { return false; }
 
   [[nodiscard]] const platform::Rect& Bounds() const { return bounds_; }
   void SetBounds(const platform::Rect& bounds);
@@ -48,12 +59,17 @@ class Control : protected platform::WidgetEvents {
   [[nodiscard]] bool Enabled() const { return enabled_; }
   void SetEnabled(bool enabled);
 
-  // Background.
+  // Puts the keyboard into it; not while it, or what it lies on, is hidden or disabled.
+  virtual void SetFocus() { peer_->Focus(); }
+  // Whether the keyboard is in it or in something that lies on it.
+  [[nodiscard]] bool Focused() const { return peer_->HasFocus(); }
+
+  // Background; at first that of its parent, for what shows its parent's.
   [[nodiscard]] platform::Colour Colour() const { return colour_; }
   void SetColour(platform::Colour colour);
   [[nodiscard]] platform::Colour FontColour() const { return font_colour_; }
   void SetFontColour(platform::Colour colour);
-  // `height` is in design pixels.
+  // `height` is in design pixels. At first that of its parent.
   [[nodiscard]] const platform::FontSpec& Font() const { return font_; }
   void SetFont(const platform::FontSpec& font);
 
@@ -77,6 +93,7 @@ class Control : protected platform::WidgetEvents {
   int Tag = 0;
 
   // Every one runs inside the application's guard.
+  std::function<void()> OnClick;
   std::function<void()> OnDblClick;
   std::function<void(const platform::MouseEvent&)> OnMouseMoved;
   std::function<void(const platform::MouseEvent&)> OnMouseReleased;
@@ -94,6 +111,9 @@ class Control : protected platform::WidgetEvents {
   [[nodiscard]] platform::Widget& Peer() const { return *peer_; }
   [[nodiscard]] static platform::Widget& PeerOf(const Control& control) { return *control.peer_; }
 
+  // Runs a handler, if there is one, inside the guard. The handler may destroy the control.
+  void Fire(const std::function<void()>& handler);
+
   // Places the children with an Align in `area` (real pixels), in order of creation, the client one
   // last.
   void ArrangeChildren(const platform::Rect& area);
@@ -103,6 +123,12 @@ class Control : protected platform::WidgetEvents {
   virtual void Rescale();
   // The pixels of the client area changed.
   virtual void Resized() {}
+  // The user has clicked it.
+  virtual void Clicked() { Fire(OnClick); }
+  // A property was changed.
+  virtual void CaptionChanged() {}
+  virtual void EnabledChanged() {}
+  virtual void HintChanged() {}
 
   // platform::WidgetEvents
   void OnMouseMove(const platform::MouseEvent& event) override;
@@ -112,6 +138,7 @@ class Control : protected platform::WidgetEvents {
   void OnMouseLeave() override;
   void OnContextMenu(platform::Point screen) override;
   void OnResize(platform::Size size) override;
+  void OnClicked() override;
 
  private:
   void ApplyBounds();

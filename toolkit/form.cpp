@@ -14,6 +14,7 @@ class Form::Events final : public platform::TopWindowEvents {
   void OnMouseMove(const platform::MouseEvent& event) override { form_.OnMouseMove(event); }
   void OnMouseUp(const platform::MouseEvent& event) override { form_.OnMouseUp(event); }
   void OnDoubleClick(const platform::MouseEvent& event) override { form_.OnDoubleClick(event); }
+  void OnClicked() override { form_.OnClicked(); }
   void OnMouseEnter() override { form_.OnMouseEnter(); }
   void OnMouseLeave() override { form_.OnMouseLeave(); }
   void OnContextMenu(platform::Point screen) override { form_.OnContextMenu(screen); }
@@ -22,6 +23,7 @@ class Form::Events final : public platform::TopWindowEvents {
     Tell([](FormComponent& part) { part.FormClosing(); });
     Guarded([&] { form_.FormClose(); });
   }
+  void OnCancelKey() override { OnClose(); }
   void OnMoving(platform::Rect& bounds) override {
     Tell([&bounds](FormComponent& part) { part.FormMoving(bounds); });
   }
@@ -65,7 +67,7 @@ class Form::Events final : public platform::TopWindowEvents {
 };
 
 Form::Form(Application& app, const platform::TopWindowParams& params, Form* owner)
-    : Control(app, nullptr, params.name), events_(std::make_unique<Events>(*this)) {
+    : Control(app, nullptr, params.name), owner_(owner), events_(std::make_unique<Events>(*this)) {
   auto window = app.Platform().windowing.CreateTopWindow(
       params, owner != nullptr ? &owner->Window() : nullptr, *events_);
   window_ = window.get();
@@ -83,6 +85,23 @@ Form::~Form() {
 void Form::Show(platform::Activation activation) {
   Window().Show(activation);
   FormShow();
+}
+
+void Form::Close() { events_->OnClose(); }
+
+void Form::SetClientSize(platform::Size design) {
+  client_size_ = design;
+  Window().SetClientSize({Scale(design.width), Scale(design.height)});
+}
+
+void Form::CentreOnScreen() {
+  platform::Screen& screen = App().Platform().screen;
+  const platform::Monitor monitor =
+      owner_ != nullptr ? screen.MonitorOf(owner_->WindowBounds()) : screen.Monitors().front();
+  const platform::Rect& work = monitor.work_area;
+  const platform::Rect own = WindowBounds();
+  SetWindowBounds({work.left + (work.width - own.width) / 2,
+                   work.top + (work.height - own.height) / 2, own.width, own.height});
 }
 
 void Form::Hide() { Window().SetVisible(false); }
@@ -106,6 +125,7 @@ void Form::Resized() { FormResize(); }
 
 void Form::ChangeDpi(const platform::Rect& bounds) {
   SetWindowBounds(bounds);
+  if (client_size_) SetClientSize(*client_size_);  // that of the frame is not in proportion
   Rescale();
   FormDpiChanged();
 }

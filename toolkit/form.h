@@ -3,6 +3,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -21,10 +22,13 @@ class Form : public Control {
 
   [[nodiscard]] Form& ParentForm() override { return *this; }
 
+  // An activated form has the keyboard in its first control.
   void Show(platform::Activation activation = platform::Activation::kActivate);
   void Hide();
   [[nodiscard]] bool Showing() const { return Window().Visible(); }
   void Raise() { Window().Raise(); }
+  // As by its close box.
+  void Close();
 
   // Ends the modal loop that shows this form; without one nothing happens.
   void EndModal(ModalResult result);
@@ -32,6 +36,10 @@ class Form : public Control {
   // Position and size on the screen, frame included, in real pixels.
   [[nodiscard]] platform::Rect WindowBounds() const { return Window().Bounds(); }
   void SetWindowBounds(const platform::Rect& bounds) { Window().SetBounds(bounds); }
+  // The size inside the frame, in design pixels; kept when the resolution changes.
+  void SetClientSize(platform::Size design);
+  // Into the middle of the work area: of the monitor that its owner is on, or else of the first.
+  void CentreOnScreen();
 
   [[nodiscard]] int Dpi() const { return Window().Dpi(); }
   [[nodiscard]] platform::TopWindow& Window() const { return *window_; }
@@ -44,8 +52,8 @@ class Form : public Control {
   virtual void Localise() {}
 
  protected:
-  // The user or the system asks to close the form. As it stands: a modal form ends with kCancel,
-  // another one hides.
+  // The user or the system asks to close the form; so does Esc. As it stands: a modal form ends
+  // with kCancel, another one hides.
   virtual void FormClose();
   virtual void FormResize() {}
   // Moved or sized, by whomever.
@@ -68,6 +76,8 @@ class Form : public Control {
   void Resized() override;
   void ChangeDpi(const platform::Rect& bounds);
 
+  Form* owner_;                                // not owned; null for the application
+  std::optional<platform::Size> client_size_;  // design pixels; none for one that the user sizes
   std::unique_ptr<Events> events_;
   std::vector<FormComponent*> components_;  // each takes itself out
   platform::TopWindow* window_ = nullptr;   // the peer, owned by Control

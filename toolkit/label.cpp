@@ -4,8 +4,9 @@
 
 namespace toolkit {
 
-Label::Label(Control& parent, std::string_view name) : Control(parent.App(), &parent, name) {
-  Attach(App().Platform().windowing.CreateText(PeerOf(parent), name, {platform::TextAlign::kCentre}, *this));
+Label::Label(Control& parent, std::string_view name, const platform::TextStyle& style)
+    : Control(parent.App(), &parent, name) {
+  Attach(App().Platform().windowing.CreateText(PeerOf(parent), name, style, *this));
 }
 
 }  // namespace toolkit
