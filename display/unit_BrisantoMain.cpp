@@ -1,6 +1,5 @@
 #include "display/unit_BrisantoMain.h"
 
-#include "alerts/bandwidth_limit.h"
 #include "alerts/keyboard_leds.h"
 #include "display/display_settings.h"
 #include "display/grid_lines.h"
@@ -70,6 +69,7 @@ T_frmBrisanto::T_frmBrisanto(toolkit::Application& app)
       reactions_(app.Platform().sound, _TrayIcon, _WindowsManager.shutdown),
       notifications_(app, RegME, _ReadLangauge, reactions_),
       ticker_(RegME, reactions_),
+      bandwidth_alert_(app, RegME, quantity_, _ReadLangauge, reactions_),
       GlobalAtomKey(
           app,
           {{toolkit::kCtrl | toolkit::kAlt | 'F', [this] { GlobalAtomKeyGlobalKeys0KeyDown(); }},
@@ -318,10 +318,7 @@ void T_frmBrisanto::FormResize() {
   transparency_.ApplyShape();
 }
 
-void T_frmBrisanto::FormShow() {
-  _tlkDLULMeter.Invalidate();
-  transparency_.PointerChanged();
-}
+void T_frmBrisanto::FormShow() { _tlkDLULMeter.Invalidate(); }
 
 void T_frmBrisanto::FormDpiChanged() { RestrictSize(); }
 
@@ -371,6 +368,6 @@ void T_frmBrisanto::ShowNumericLine(const engine::ScanAmounts& scan) {
 
 void T_frmBrisanto::Tick(const engine::ScanAmounts& scan) { ticker_.Update(scan); }
 
-void T_frmBrisanto::CheckBandwidthAlert() {}
+void T_frmBrisanto::CheckBandwidthAlert() { bandwidth_alert_.Check(); }
 
 }  // namespace display

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "alerts/bandwidth_alert.h"
 #include "alerts/notifications.h"
 #include "alerts/reactions.h"
 #include "alerts/system_manager.h"
@@ -136,6 +137,7 @@ class T_frmBrisanto final : public toolkit::Form,
   alerts::Reactions reactions_;
   alerts::Notifications notifications_;
   alerts::Ticker ticker_;
+  alerts::BandwidthAlert bandwidth_alert_;
 
   HotKeyHolder GlobalAtomKey;
 };

@@ -124,10 +124,10 @@ void Form::FormPaint(platform::Canvas& canvas) {
 void Form::Resized() { FormResize(); }
 
 void Form::ChangeDpi(const platform::Rect& bounds) {
+  FormDpiChanged();  // sets the limits that the new size has to keep to
   SetWindowBounds(bounds);
   if (client_size_) SetClientSize(*client_size_);  // that of the frame is not in proportion
   Rescale();
-  FormDpiChanged();
 }
 
 }  // namespace toolkit

@@ -38,6 +38,15 @@ TEST_F(Meter, CannotBeSizedBeyondItsLimits) {
   });
 }
 
+TEST_F(Meter, KeepsItsLookOnAMonitorOfAnotherResolution) {
+  Run([&] {
+    machine.windowing.ChangeDpi("T_frmBrisanto", 192, {761, 128, 548, 270});
+    EXPECT_EQ(Widget("T_frmBrisanto").bounds, (platform::Rect{761, 128, 548, 270}));
+    machine.windowing.ChangeDpi("T_frmBrisanto", 96, {761, 128, 274, 135});
+    EXPECT_EQ(Widget("T_frmBrisanto").bounds, (platform::Rect{761, 128, 274, 135}));
+  });
+}
+
 TEST_F(Meter, TheFontOfTheLineFollowsTheWidth) {
   Run([&] {
     Window().Window().SetSizeLimits({}, {});  // the narrow widths are those of other resolutions

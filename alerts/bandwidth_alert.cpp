@@ -1,0 +1,56 @@
+#include "alerts/bandwidth_alert.h"
+
+#include <string>
+
+#include "alerts/bandwidth_limit.h"
+#include "alerts/unit_BandWidthAlert.h"
+#include "engine/product.h"
+#include "settings/texts.h"
+#include "toolkit/application.h"
+
+namespace alerts {
+namespace {
+
+namespace setting = settings::setting;
+
+constexpr int kBalloonSeconds = 15;
+
+}  // namespace
+
+BandwidthAlert::BandwidthAlert(toolkit::Application& app, settings::Store& store,
+                               display::Quantity& quantity, const settings::Language& language,
+                               Reactions& reactions)
+    : app_(app), store_(store), quantity_(quantity), language_(language), reactions_(reactions) {
+  Action.OnExecute = [this] { BandwidthAlertExecute(); };
+}
+
+void BandwidthAlert::Check() {
+  CheckBandwidthAlert(store_, [this] { Action.Execute(); });
+}
+
+void BandwidthAlert::BandwidthAlertExecute() {
+  if (store_.Read(setting::chkBAPlay)) reactions_.PlayWave(store_.Read(setting::BaPlayFile));
+  const std::int64_t action = store_.Read(setting::BAAction);
+  if (action == kDisplayMessage) {
+    ShowMessage();
+  } else if (action == kShutdownComputer) {
+    reactions_.ShutDownComputer();
+  }
+}
+
+void BandwidthAlert::ShowMessage() {
+  // No blank between the two parts, unlike the titles of the notifications.
+  const std::string title =
+      std::string(engine::kProductTitle) + language_.Text(settings::text::MainForm::S4);
+  reactions_.Warn(title, store_.Read(setting::BAMessage), kBalloonSeconds);
+  if (app_.Modals().Raise(kBandWidthAlertForm)) return;
+  try {
+    T_frmBandWidthAlert window(app_, store_, quantity_, language_);
+    app_.Modals().Show(window);
+  } catch (const std::exception&) {
+    // The balloon has told already; the scan goes on.
+    return;
+  }
+}
+
+}  // namespace alerts

@@ -1,0 +1,116 @@
+#include "alerts/unit_BandWidthAlert.h"
+
+#include <array>
+
+#include "settings/texts.h"
+#include "toolkit/application.h"
+#include "toolkit/image_list.h"
+
+namespace alerts {
+namespace {
+
+namespace text = settings::text::BandwidthAlert;
+
+// Design pixels of the client area.
+constexpr int kWidth = 337;
+constexpr int kHeight = 110;
+constexpr int kHeightWithDetails = 255;
+constexpr int kRefreshMs = 500;
+
+constexpr std::array<toolkit::PaletteColour, 2> kPalette = {{{'y', 0x20C8FF}, {'#', 0x202020}}};
+constexpr std::array<toolkit::Image, 1> kWarning = {{{
+    "................",
+    ".......##.......",
+    "......#yy#......",
+    "......#yy#......",
+    ".....#yyyy#.....",
+    ".....#y##y#.....",
+    "....#yy##yy#....",
+    "....#yy##yy#....",
+    "...#yyy##yyy#...",
+    "...#yyy##yyy#...",
+    "..#yyyyyyyyyy#..",
+    "..#yyyy##yyyy#..",
+    ".#yyyyy##yyyyy#.",
+    ".#yyyyyyyyyyyy#.",
+    ".##############.",
+    "................",
+}}};
+constexpr toolkit::ImageList kImages(kWarning, kPalette);
+
+platform::TopWindowParams CreateParams() {
+  platform::TopWindowParams params;
+  params.name = kBandWidthAlertForm;
+  params.frame = platform::Frame::kTool;
+  return params;
+}
+
+}  // namespace
+
+void T_frmBandWidthAlert::Sign::OnPaint(platform::Canvas& canvas) {
+  Panel::OnPaint(canvas);
+  const platform::Size size = canvas.Extent();
+  const int side = Scale(toolkit::kImageSize);
+  kImages.Draw(0, canvas, {(size.width - side) / 2, (size.height - side) / 2}, ParentForm().Dpi());
+}
+
+T_frmBandWidthAlert::T_frmBandWidthAlert(toolkit::Application& app, settings::Store& store,
+                                         display::Quantity& quantity,
+                                         const settings::Language& language)
+    : Form(app, CreateParams()),
+      language_(language),
+      Image1(*this, "Image1"),
+      MessagePanel(*this, "MessagePanel"),
+      Memo1(MessagePanel, "Memo1", platform::Border::kNone),
+      btnDetails(*this, "btnDetails"),
+      OkBtn(*this, "OkBtn"),
+      details_(*this, store, quantity, language),
+      Timer1(app, kRefreshMs, [this] { Timer1Timer(); }) {
+  Image1.SetBounds({8, 8, 40, 60});
+  Image1.SetBevels(toolkit::BevelCut::kRaised, toolkit::BevelCut::kNone);
+  MessagePanel.SetBounds({54, 8, kWidth - 62, 60});
+  MessagePanel.SetBevels(toolkit::BevelCut::kRaised, toolkit::BevelCut::kNone);
+  Memo1.SetReadOnly(true);
+  Memo1.SetEnabled(false);
+  Memo1.SetAlign(toolkit::Align::kClient);
+  btnDetails.SetBounds({8, 77, 90, 25});
+  OkBtn.SetBounds({kWidth - 83, 77, 75, 25});
+  OkBtn.SetDefault(true);
+  OkBtn.ModalResult = toolkit::ModalResult::kOk;
+  details_.SetBounds({8, kHeight, kWidth - 16, kHeightWithDetails - kHeight - 8});
+  FormCreate();
+}
+
+void T_frmBandWidthAlert::FormCreate() {
+  Localise();
+  SetDetailsShown(false);
+  CentreOnScreen();
+  btnDetails.OnClick = [this] { btnDetailsClick(); };
+  Timer1.SetEnabled(true);
+}
+
+void T_frmBandWidthAlert::Localise() {
+  SetCaption(language_.Text(text::Title));
+  OkBtn.SetCaption(language_.Text(text::OkButton));
+  LocaliseDetailsButton();
+  details_.Localise();
+}
+
+void T_frmBandWidthAlert::Timer1Timer() { details_.Refresh(); }
+
+void T_frmBandWidthAlert::btnDetailsClick() {
+  SetDetailsShown(!details_shown_);
+  LocaliseDetailsButton();
+}
+
+void T_frmBandWidthAlert::SetDetailsShown(bool shown) {
+  details_shown_ = shown;
+  SetClientSize({kWidth, shown ? kHeightWithDetails : kHeight});
+}
+
+void T_frmBandWidthAlert::LocaliseDetailsButton() {
+  btnDetails.SetCaption(
+      language_.Text(details_shown_ ? text::DetailsButton2 : text::DetailsButton1));
+}
+
+}  // namespace alerts

@@ -1,0 +1,126 @@
+#include "alerts/bandwidth_alert.h"
+
+#include <gtest/gtest.h>
+
+#include "alerts/unit_BandWidthAlert.h"
+#include "tests/alerts/alerts_world.h"
+
+namespace {
+
+class BandwidthAlert : public test::AlertsTest {
+ protected:
+  BandwidthAlert() {
+    Set("BAAlerts", 1);
+    Set("MoreThan", 1);
+    Set("baDownload", 1);
+    Set("BAAction", 1);
+    SetText("BAMessage", "stop");
+    SetText("CurrentDayTotalDL", "1024");
+  }
+
+  // Runs the scan's step; `user` is what happens while the window is open.
+  void Check(std::function<void()> user) {
+    machine.message_loop.Then(std::move(user));
+    alert.Check();
+  }
+  platform::memory::WidgetState& Widget(std::string_view name) {
+    return machine.windowing.Find(name);
+  }
+
+  display::Quantity quantity{store, machine.locale};
+  alerts::BandwidthAlert alert{app, store, quantity, language, reactions};
+};
+
+TEST_F(BandwidthAlert, ShowsABalloonAndItsWindowOnce) {
+  bool shown = false;
+  Check([&] {
+    shown = Widget("T_frmBandWidthAlert").visible;
+    EXPECT_EQ(Widget("T_frmBandWidthAlert").text, "Brisanto .NET Bandwidth Alert");
+    alert.Check();  // a scan while the window is open
+    machine.windowing.Press("OkBtn");
+  });
+  EXPECT_TRUE(shown);
+  EXPECT_FALSE(machine.windowing.Exists("T_frmBandWidthAlert"));
+  ASSERT_EQ(balloons.size(), 1U);
+  EXPECT_EQ(balloons[0].title, "Korvane TremoluxBandwidth Alert") << "no blank between the parts";
+  EXPECT_EQ(balloons[0].text, "stop");
+  EXPECT_EQ(balloons[0].seconds, 15);
+  EXPECT_TRUE(store.ReadBool("BAShow", false));
+}
+
+TEST_F(BandwidthAlert, ASecondOneWhileTheFirstIsOpenRaisesIt) {
+  Check([&] {
+    store.WriteBool("BAShow", false);  // midnight
+    alert.Check();
+    EXPECT_EQ(Widget("T_frmBandWidthAlert").raised, 1);
+    EXPECT_EQ(balloons.size(), 2U);
+    machine.windowing.ClickCloseBox("T_frmBandWidthAlert");
+  });
+}
+
+TEST_F(BandwidthAlert, OtherActionsShowNothing) {
+  struct Row {
+    int action;
+    std::size_t session_calls;
+  };
+  Set("chkBAPlay", 1);
+  SetText("BaPlayFile", "C:\\alarm.wav");
+  for (const Row& row : {Row{0, 0}, Row{3, 0}, Row{9, 0}, Row{2, 3}}) {
+    SCOPED_TRACE(row.action);
+    Set("BAAction", row.action);
+    store.WriteBool("BAShow", false);
+    machine.sound.played.clear();
+    alert.Check();
+    EXPECT_TRUE(balloons.empty());
+    EXPECT_EQ(machine.sound.played, (std::vector<std::string>{"C:\\alarm.wav"}));
+    EXPECT_EQ(machine.session.calls.size(), row.session_calls);
+  }
+}
+
+TEST_F(BandwidthAlert, TheDetailsOpenAndCloseAndRefreshTwiceASecond) {
+  constexpr platform::Colour kLime = 0x00FF00;
+  constexpr platform::Colour kSilver = 0xC0C0C0;
+  constexpr platform::Colour kLightRed = 0x9999FF;
+  Check([&] {
+    const int closed = Widget("T_frmBandWidthAlert").ClientSize().height;
+    EXPECT_EQ(closed, 110);
+    machine.windowing.Press("btnDetails");
+    EXPECT_EQ(Widget("T_frmBandWidthAlert").ClientSize().height, 255);
+    EXPECT_EQ(Widget("btnDetails").text, "<< Details");
+
+    EXPECT_EQ(Widget("lblBandwidthLimit").text, "0,0") << "nothing before the first tick";
+    machine.timers.Advance(500);
+    EXPECT_EQ(Widget("lblBandwidthLimit").text, "1");
+    EXPECT_EQ(Widget("lblBandwidthType").text, "Daily");
+    EXPECT_EQ(Widget("lblBandwidthCurrDLTotal").text, "1");
+    EXPECT_EQ(Widget("lblBandwidthCurrDLTotal").text_colour, kLime);
+    EXPECT_EQ(Widget("lblBandwidthCurrULTotal").text_colour, kSilver);
+    EXPECT_EQ(Widget("lblBandwidthLeft").text, "0");
+    EXPECT_EQ(Widget("lblBandwidthLeft").text_colour, kLime);
+
+    SetText("CurrentDayTotalDL", "2560");
+    machine.timers.Advance(500);
+    EXPECT_EQ(Widget("lblBandwidthLeft").text, "-1,5");
+    EXPECT_EQ(Widget("lblBandwidthLeft").text_colour, kLightRed);
+    SetText("CurrentDayTotalDL", "0");
+    machine.timers.Advance(500);
+    EXPECT_EQ(Widget("lblBandwidthLeft").text_colour, kLightRed) << "the red is never set back";
+
+    Set("baDownload", 0);
+    Set("AlertsMoreThan", 7);
+    Set("BADayWeekMonth", 2);
+    SetText("CurrentMonthTotalUL", "1536");
+    machine.timers.Advance(500);
+    EXPECT_EQ(Widget("lblBandwidthLimit").text, "1") << "a unit that does not exist leaves its row";
+    EXPECT_EQ(Widget("lblBandwidthType").text, "Monthly");
+    EXPECT_EQ(Widget("lblBandwidthCurrULTotal").text, "1,5");
+    EXPECT_EQ(Widget("lblBandwidthCurrDLTotal").text_colour, kSilver);
+    machine.windowing.Press("btnDetails");
+    EXPECT_EQ(Widget("T_frmBandWidthAlert").ClientSize().height, 110);
+    EXPECT_EQ(Widget("btnDetails").text, "Details >>");
+    machine.windowing.PressEsc("T_frmBandWidthAlert");
+  });
+  EXPECT_FALSE(machine.windowing.Exists("T_frmBandWidthAlert"));
+}
+
+}  // namespace
