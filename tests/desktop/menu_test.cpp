@@ -88,10 +88,13 @@ TEST_F(Menu, TheThreeModesShowWhatTheySayAndSurviveTheProgram) {
       ::GetClientRect(meter->window(), &client);
       const LONG panel = row.graph ? meter->Scaled(17) : HeightOf(client);
       if (row.line) {
-        EXPECT_EQ(HeightOf(AreaOf(meter->panel())), panel);
+        Await("the line in its room", [&] { return HeightOf(AreaOf(meter->panel())) == panel; });
       }
       if (row.graph) {
-        EXPECT_EQ(HeightOf(AreaOf(meter->graph())), HeightOf(client) - (row.line ? panel : 0));
+        // The program hides the line first and then gives its room to the graph.
+        Await("the graph in all the room that is left", [&] {
+          return HeightOf(AreaOf(meter->graph())) == HeightOf(client) - (row.line ? panel : 0);
+        });
       }
       OpenMenu menu = meter->Menu();
       for (const Row& other : kRows) {
