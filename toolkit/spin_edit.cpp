@@ -221,6 +221,7 @@ void SpinEdit::Take(std::int64_t value) {
 void SpinEdit::Show() {
   typed_ = false;
   field_->SetText(std::to_string(value_));
+  if (field_->Focused()) field_->SelectAll();  // what is typed next is another number
 }
 
 void SpinEdit::Resized() {
