@@ -1,0 +1,69 @@
+#include "settings/unit_SecurityForm.h"
+
+#include "settings/administrator_lock.h"
+#include "settings/texts.h"
+#include "toolkit/application.h"
+#include "toolkit/layout.h"
+
+namespace settings {
+namespace {
+
+constexpr platform::Size kClientSize{300, 133};  // design pixels
+
+platform::TopWindowParams CreateParams() {
+  platform::TopWindowParams params;
+  params.name = kSecurityForm;
+  params.frame = platform::Frame::kDialog;
+  return params;
+}
+
+}  // namespace
+
+T_frmSecurity::T_frmSecurity(toolkit::Application& app, Store& store, const Language& language)
+    : Form(app, CreateParams()),
+      store_(store),
+      language_(language),
+      St1(*this, "St1", toolkit::kWrappedText),
+      St2(*this, "St2", toolkit::kWrappedText),
+      St3(*this, "St3", toolkit::kCaptionText),
+      PassEdit(*this, "PassEdit"),
+      CancelButton(*this, "CancelButton") {
+  SetClientSize(kClientSize);
+  toolkit::ApplyLayout({
+      {St1, {12, 12, 276, 27}},
+      {St2, {12, 41, 276, 27}},
+      {St3, {12, 71, 84, 21}},
+      {PassEdit, {100, 71, 188, 21}},
+      {CancelButton, {213, 100, 75, 25}},
+  });
+  CancelButton.ModalResult = toolkit::ModalResult::kCancel;
+  FormCreate();
+}
+
+void T_frmSecurity::FormCreate() {
+  Localise();
+  CentreOnScreen();
+  // On a change alone: where no password is stored, the empty edit of a new prompt opens nothing.
+  PassEdit.OnChange = [this] { PassEditChange(); };
+}
+
+void T_frmSecurity::Localise() {
+  const Translation say = language_.Chosen();
+  SetCaption(say(text::Security::Title));
+  St1.SetCaption(say(text::Security::St1));
+  St2.SetCaption(say(text::Security::St2));
+  St3.SetCaption(say(text::Security::St3));
+  CancelButton.SetCaption(say(text::Security::CancelButton));
+}
+
+void T_frmSecurity::PassEditChange() {
+  if (PasswordMatches(store_, PassEdit.Text())) EndModal(toolkit::ModalResult::kOk);
+}
+
+bool AskForPassword(toolkit::Application& app, Store& store, const Language& language) {
+  if (app.Modals().Raise(kSecurityForm)) return false;
+  T_frmSecurity prompt(app, store, language);
+  return app.Modals().Show(prompt) == toolkit::ModalResult::kOk;
+}
+
+}  // namespace settings

@@ -1,0 +1,44 @@
+// The password prompt of the administrator lock.
+#pragma once
+
+#include <string_view>
+
+#include "settings/language.h"
+#include "settings/store.h"
+#include "toolkit/button.h"
+#include "toolkit/edit.h"
+#include "toolkit/form.h"
+#include "toolkit/label.h"
+
+namespace settings {
+
+inline constexpr std::string_view kSecurityForm = "T_frmSecurity";
+
+// Closes with kOk the moment the right password stands in its edit; a wrong one gets no answer.
+class T_frmSecurity final : public toolkit::Form {
+ public:
+  // Made hidden; shown by the modal stack. All outlive the prompt.
+  T_frmSecurity(toolkit::Application& app, Store& store, const Language& language);
+
+  void Localise() override;
+
+ private:
+  void FormCreate();
+  void PassEditChange();
+
+  Store& store_;
+  const Language& language_;
+
+  toolkit::Label St1;
+  toolkit::Label St2;
+  toolkit::Label St3;
+  toolkit::PasswordEdit PassEdit;
+  toolkit::Button CancelButton;
+};
+
+// Asks for the administrator's password and returns whether it was given; scans go on meanwhile.
+// There is one prompt at a time: while it is open, a second request raises it and is refused.
+[[nodiscard]] bool AskForPassword(toolkit::Application& app, Store& store,
+                                  const Language& language);
+
+}  // namespace settings
