@@ -35,6 +35,19 @@ if(WIN32)
   set_tests_properties(program_folder PROPERTIES FIXTURES_SETUP program_folder)
 endif()
 
+# read_headers_once(<target>): GoogleTest costs each file of a test more than the file itself, so the
+# first target that asks for it compiles it, and the others take it over.
+function(read_headers_once target)
+  get_property(owner GLOBAL PROPERTY OWNER_OF_COMPILED_HEADERS)
+  if(owner)
+    target_precompile_headers(${target} REUSE_FROM ${owner})
+  else()
+    target_precompile_headers(${target} PRIVATE <gtest/gtest.h> <algorithm> <functional> <optional>
+                              <string> <vector>)
+    set_property(GLOBAL PROPERTY OWNER_OF_COMPILED_HEADERS ${target})
+  endif()
+endfunction()
+
 # test_program(<name> <folder> [<libraries>...]): one executable of all tests of a folder, so that
 # every test file runs by being there.
 function(test_program name folder)
@@ -52,6 +65,7 @@ function(test_program name folder)
   target_link_libraries(${name} PRIVATE tremolux_options ${ARGN} gtest_main)
   # For tests that compare what is shipped or written with what the code says.
   target_compile_definitions(${name} PRIVATE SOURCE_FOLDER="${CMAKE_SOURCE_DIR}")
+  read_headers_once(${name})
   add_test(NAME ${name} COMMAND ${name} --gtest_brief=1)
   if(CMAKE_CROSSCOMPILING)
     # Alone: there is one desktop, one clipboard and one registry.
