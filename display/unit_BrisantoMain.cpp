@@ -70,6 +70,7 @@ T_frmBrisanto::T_frmBrisanto(toolkit::Application& app)
       notifications_(app, RegME, _ReadLangauge, reactions_),
       ticker_(RegME, reactions_),
       bandwidth_alert_(app, RegME, quantity_, _ReadLangauge, reactions_),
+      statistics_windows_({app, RegME, quantity_, _ReadLangauge, traffic_}, [] {}),
       GlobalAtomKey(
           app,
           {{toolkit::kCtrl | toolkit::kAlt | 'F', [this] { GlobalAtomKeyGlobalKeys0KeyDown(); }},
@@ -134,6 +135,10 @@ void T_frmBrisanto::ConnectHandlers() {
   _TrayIcon.OnClick = [this] { _TrayIconClick(); };
   _TrayIcon.OnMenu = [this](platform::Point screen) { _MainMenu.popup.Popup(screen, *this); };
   _MainMenu.popup.OnPopup = [this] { language_menu_.Refresh(); };
+  _MainMenu.ConnectionInformations1->OnClick = [this] { statistics_windows_.OpenMachine(); };
+  adapter_menus_.OpenStatistics = [this](const std::string& description) {
+    statistics_windows_.OpenAdapter(description);
+  };
   _MainMenu.mnuAlwaysTopOn->OnClick = [this] { mnuAlwaysTopOnClick(); };
   _MainMenu.ShowHide1->OnClick = [this] { _TrayIconClick(); };
   _MainMenu.mnuGraphMode->OnClick = [this] { mnuGraphModeClick(); };
@@ -145,8 +150,7 @@ void T_frmBrisanto::ConnectHandlers() {
   _MainMenu.Clear1->OnClick = [this] { Clear1Click(); };
   _MainMenu.Close1->OnClick = [this] { Close1Click(); };
   // What they open is not there yet.
-  for (toolkit::MenuItem* item :
-       {_MainMenu.ConnectionInformations1, _MainMenu.Settings1, _MainMenu.AboutBrisantoXP1}) {
+  for (toolkit::MenuItem* item : {_MainMenu.Settings1, _MainMenu.AboutBrisantoXP1}) {
     item->Enabled = false;
   }
 }

@@ -17,6 +17,7 @@
 #include "display/main_menu.h"
 #include "display/numeric_line.h"
 #include "display/quantity/quantity.h"
+#include "display/statistics_windows.h"
 #include "display/title_posting.h"
 #include "display/transparency.h"
 #include "display/tray_icon.h"
@@ -138,6 +139,8 @@ class T_frmBrisanto final : public toolkit::Form,
   alerts::Notifications notifications_;
   alerts::Ticker ticker_;
   alerts::BandwidthAlert bandwidth_alert_;
+
+  StatisticsWindows statistics_windows_;
 
   HotKeyHolder GlobalAtomKey;
 };

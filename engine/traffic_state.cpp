@@ -12,9 +12,13 @@ void TrafficState::AddToRunTotals(const ScanAmounts& scan) {
   RunTotalUL = WrappingAbs(WrappingAdd(RunTotalUL, scan.ScanSumUL));
 }
 
-void TrafficState::RestartRun(platform::DateTime now) {
+void TrafficState::RestartSince(platform::DateTime now) {
   RunStartDate = platform::DateOf(now);
   RunStartTime = platform::TimeOf(now);
+}
+
+void TrafficState::RestartRun(platform::DateTime now) {
+  RestartSince(now);
   RunTotalDL = 0;
   RunTotalUL = 0;
 }

@@ -57,6 +57,8 @@ struct TrafficState {
   platform::DateTime RunStartTime = 0;  // time of day
 
   void AddToRunTotals(const ScanAmounts& scan);
+  // The start is now; the totals stay.
+  void RestartSince(platform::DateTime now);
   // The run begins anew: totals zero, start now.
   void RestartRun(platform::DateTime now);
 };

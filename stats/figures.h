@@ -2,20 +2,25 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
 #include "engine/counter_group.h"
 #include "settings/store.h"
+#include "stats/refresh_faults.h"
 
 namespace stats {
 
-// Bytes.
+// Bytes; nothing where what is stored is no number.
 struct Figures {
-  std::int64_t max_dl = 0;
-  std::int64_t max_ul = 0;
-  std::int64_t total_dl = 0;
-  std::int64_t total_ul = 0;
+  std::optional<std::int64_t> max_dl;
+  std::optional<std::int64_t> max_ul;
+  std::optional<std::int64_t> total_dl;
+  std::optional<std::int64_t> total_ul;
+
+  // Both directions together; nothing unless both are known.
+  [[nodiscard]] std::optional<std::int64_t> Total() const;
 };
 
 // Where the figures of a window are stored: the machine's under Settings, an adapter's under
@@ -26,9 +31,11 @@ class FiguresSource {
   // By the caption of its window: in lower case, blanks at the ends kept.
   [[nodiscard]] static FiguresSource Adapter(settings::Store& store, std::string_view caption);
 
-  // Throws settings::ConversionError when a stored value is no number.
-  [[nodiscard]] Figures Read(const engine::CounterGroup& group) const;
-  [[nodiscard]] std::int64_t Read(const settings::CounterSetting& counter) const;
+  // A figure that cannot be read is nothing, and a fault.
+  [[nodiscard]] Figures Read(const engine::CounterGroup& group, RefreshFaults& faults) const;
+  [[nodiscard]] std::optional<std::int64_t> Read(const settings::CounterSetting& counter,
+                                                 RefreshFaults& faults) const;
+  // Throws what the store throws.
   void WriteZero(const settings::CounterSetting& counter) const;
 
  private:

@@ -158,9 +158,9 @@ void Control::OnMouseMove(const platform::MouseEvent& event) {
 }
 
 void Control::OnMouseUp(const platform::MouseEvent& event) {
-  app_.Guard([&] {
-    if (OnMouseReleased) OnMouseReleased(event);
-  });
+  if (!OnMouseReleased) return;
+  const auto kept = OnMouseReleased;  // it may go with the control
+  app_.Guard([&] { kept(event); });
 }
 
 void Control::OnDoubleClick(const platform::MouseEvent& /*event*/) {

@@ -14,6 +14,7 @@ namespace platform::windows {
 TabsWidget::TabsWidget(HWND parent, std::string_view name, Drawing& drawing, WidgetEvents& events)
     : WidgetOf(drawing, events) {
   CreateControl(WC_TABCONTROLW, {kStopChild | WS_CLIPCHILDREN, 0}, parent);
+  Send(TCM_SETMINTABWIDTH, 0, 0);  // as wide as its text, so that more of them are in view
   PublishName(name);
   StartReporting();
 }

@@ -1,0 +1,36 @@
+// Opens the statistics windows.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "stats/statistics_form.h"
+
+namespace stats {
+class T_frmConnInfo;
+}
+
+namespace display {
+
+class StatisticsWindows {
+ public:
+  // What `context` names outlives the windows.
+  //   open_settings  opens the preferences, from a window's own link
+  StatisticsWindows(const stats::StatisticsContext& context, std::function<void()> open_settings);
+  ~StatisticsWindows();
+
+  // Shows "DL-UL Statistics"; one that is open is raised.
+  void OpenMachine();
+
+  // Shows the window of the adapter with this description and returns when it is closed; while one
+  // is open it is raised, whichever adapter's it is.
+  void OpenAdapter(const std::string& description);
+
+ private:
+  stats::StatisticsContext context_;
+  std::function<void()> open_settings_;
+  std::unique_ptr<stats::T_frmConnInfo> machine_;  // null unless it is open
+};
+
+}  // namespace display

@@ -1,0 +1,68 @@
+// A group of five figures: the largest rates, the totals, and both totals together.
+#pragma once
+
+#include <array>
+#include <initializer_list>
+#include <string>
+#include <string_view>
+
+#include "display/quantity/quantity.h"
+#include "settings/language.h"
+#include "stats/figures.h"
+#include "toolkit/group_box.h"
+#include "toolkit/label.h"
+
+namespace stats {
+
+inline constexpr std::size_t kFigureCount = 5;
+
+// The names of a group and of the controls that show its values; each unit has the name of its
+// value with "Unit" behind it, each caption with "Caption".
+struct FigureNames {
+  std::string_view group;
+  std::array<std::string_view, kFigureCount> values;
+};
+
+inline constexpr FigureNames kInfoNames{
+    "InfoGroupBox",
+    {"lblInfoMaxDL", "lblInfoMaxUL", "lblInfoTotalDL", "lblInfoTotalUL", "lblInfoTotalDLUL"}};
+inline constexpr FigureNames kDailyNames{
+    "DailyGroupBox",
+    {"lblDailyMaxDLRate", "lblDailyMaxULRate", "lblDailyDL", "lblDailyUL", "lblDailyDLUL"}};
+inline constexpr FigureNames kWeeklyNames{
+    "WeeklyGroupBox",
+    {"lblWeeklyMaxDLRate", "lblWeeklyMaxULRate", "lblWeeklyDL", "lblWeeklyUL", "lblWeeklyDLUL"}};
+inline constexpr FigureNames kMonthlyNames{"MonthlyGroupBox",
+                                           {"lblMonthlyMaxDLRate", "lblMonthlyMaxULRate",
+                                            "lblMonthlyDL", "lblMonthlyUL", "lblMonthlyDLUL"}};
+
+class FiguresGroup : public toolkit::GroupBox {
+ public:
+  FiguresGroup(toolkit::Control& parent, const FigureNames& names);
+
+  // Places the group and spreads its rows over it, but for `below` at its foot. All in design
+  // pixels; at least 105 + `below` high.
+  void Arrange(const platform::Rect& bounds, int below);
+
+  // Captions and hints of the rows; the title is the owner's.
+  void Localise(const settings::Translation& say);
+
+  // A row whose figure is nothing keeps its text.
+  void Show(const Figures& figures, const display::Quantity& quantity);
+
+  // The values alone, with the comma that a zero is always written with; the units stay.
+  void ShowZeros();
+
+ private:
+  struct Row {
+    Row(toolkit::Control& parent, std::string_view name);
+
+    toolkit::Label caption;
+    toolkit::Label value;
+    toolkit::Label unit;
+  };
+
+  std::array<Row, kFigureCount> rows_;
+};
+
+}  // namespace stats

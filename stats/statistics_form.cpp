@@ -1,0 +1,163 @@
+#include "stats/statistics_form.h"
+
+#include <string>
+
+#include "engine/local_ip.h"
+#include "settings/texts.h"
+#include "toolkit/layout.h"
+
+namespace stats {
+namespace {
+
+namespace text = settings::text::BandwidthStatisticsForm;
+
+constexpr int kRefreshMs = 500;
+
+// Design pixels.
+constexpr int kMargin = 1;
+constexpr int kInfoGroupHeight = 40;
+constexpr int kFootHeight = 29;    // of the form, with the button "Ok"
+constexpr int kButtonHeight = 21;  // within a group
+constexpr int kGroupFoot = 4;      // what a group leaves free below its rows
+
+platform::TopWindowParams ParamsOf(std::string_view name) {
+  platform::TopWindowParams params;
+  params.name = name;
+  params.frame = platform::Frame::kTool;
+  return params;
+}
+
+constexpr platform::TextStyle kAddressText{platform::TextAlign::kLeft, platform::Border::kSunken};
+
+}  // namespace
+
+StatisticsForm::StatisticsForm(const StatisticsContext& context, const Kind& kind,
+                               FiguresSource source)
+    : Form(context.app, ParamsOf(kind.form_name)),
+      context_(context),
+      source_(std::move(source)),
+      PageControl1(*this, "PageControl1"),
+      InfoTab(PageControl1, "InfoTab"),
+      InfoGroup(InfoTab, "InfoGroup"),
+      IpLabel(InfoGroup, "IpLabel", toolkit::kCaptionText),
+      IpAddress(InfoGroup, "IpAddress", kAddressText),
+      Button1(InfoGroup, "Button1"),
+      InfoGroupBox(InfoTab, kInfoNames),
+      Button3(InfoGroupBox, "Button3"),
+      DailyTab(PageControl1, "DailyTab"),
+      DailyGroupBox(DailyTab, kDailyNames),
+      WeeklyTab(PageControl1, "WeeklyTab"),
+      WeeklyGroupBox(WeeklyTab, kWeeklyNames),
+      MonthlyTab(PageControl1, "MonthlyTab"),
+      MonthlyGroupBox(MonthlyTab, kMonthlyNames),
+      Button2(*this, "Button2"),
+      Timer1(context.app, kRefreshMs, [this] { Timer1Timer(); }),
+      _tlkFormSaver(*this, kind.placement_key, toolkit::PlacementSaver::Restores::kPlace),
+      address_caption_(kind.address_caption),
+      since_date_(context.traffic.RunStartDate),
+      since_time_(context.traffic.RunStartTime) {
+  IpAddress.SetCaption(kind.address);
+  Button2.SetDefault(true);
+  // On release, as the right button does the same and more. The click is that of the keyboard; of
+  // the mouse it comes with the release and copies the same once more.
+  Button1.OnMouseReleased = [this](const auto& event) { Button1MouseUp(event); };
+  Button1.OnClick = [this] { CopyAddress(); };
+  Button2.OnClick = [this] { Button2Click(); };
+  Button3.OnClick = [this] { Button3Click(); };
+}
+
+platform::Size StatisticsForm::RoomOf(toolkit::TabSheet& page) {
+  const platform::Size pixels = page.ClientPixels();
+  return {page.Unscale(pixels.width), page.Unscale(pixels.height)};
+}
+
+void StatisticsForm::Arrange() {
+  const platform::Size client = ClientPixels();
+  const int width = Unscale(client.width);
+  const int height = Unscale(client.height);
+  toolkit::ApplyLayout({{PageControl1, {1, 1, width - 2, height - kFootHeight - 1}},
+                        {Button2, {width - 81, height - 26, 75, 23}}});
+
+  const platform::Size room = RoomOf(InfoTab);
+  const int group = room.width - 2 * kMargin;
+  const int since_top = kInfoGroupHeight + 1;
+  const int since_height = room.height - since_top - 1;
+  toolkit::ApplyLayout(
+      {{InfoGroup, {kMargin, 0, group, kInfoGroupHeight}},
+       {IpLabel, {8, 16, 64, 18}},
+       {IpAddress, {74, 16, group - 142, 18}},
+       {Button1, {group - 64, 14, 56, kButtonHeight}},
+       {Button3, {group - 98, since_height - kButtonHeight - kGroupFoot, 90, kButtonHeight}}});
+  InfoGroupBox.Arrange({kMargin, since_top, group, since_height}, kButtonHeight + kGroupFoot + 2);
+  for (FiguresGroup* period : {&DailyGroupBox, &WeeklyGroupBox, &MonthlyGroupBox}) {
+    period->Arrange({kMargin, 0, group, room.height - 1}, kGroupFoot);
+  }
+  CentreOnScreen();
+  _tlkFormSaver.Restore();
+}
+
+void StatisticsForm::Localise() {
+  const settings::Translation say = context_.language.Chosen();
+  InfoTab.SetCaption(say(text::InfoTab));
+  InfoGroup.SetCaption(say(text::InfoGroup));
+  IpLabel.SetCaption(say(address_caption_));
+  Button1.SetCaption(say(text::Button1));
+  Button1.SetHint(say(text::Button1Hint));
+  Button2.SetCaption(say(text::Button2));
+  Button3.SetCaption(say(text::Button3));
+  Button3.SetHint(say(text::Button3Hint));
+  DailyTab.SetCaption(say(text::Daily));
+  WeeklyTab.SetCaption(say(text::Weekly));
+  MonthlyTab.SetCaption(say(text::Monthly));
+  for (FiguresGroup* period : {&DailyGroupBox, &WeeklyGroupBox, &MonthlyGroupBox}) {
+    period->SetCaption(say(text::DataTransferred));
+    period->Localise(say);
+  }
+  InfoGroupBox.Localise(say);
+  LocaliseSince(say);
+}
+
+void StatisticsForm::LocaliseSince(const settings::Translation& say) {
+  if (!since_shown_) {
+    InfoGroupBox.SetCaption(say(text::InfoGroupBox));
+    return;
+  }
+  platform::Locale& locale = App().Platform().locale;
+  const std::string since = locale.ShortDate(since_date_) + ' ' + locale.LongTime(since_time_);
+  InfoGroupBox.SetCaption(say(text::B8, {since}));
+}
+
+void StatisticsForm::ShowSince() {
+  since_date_ = context_.traffic.RunStartDate;
+  since_time_ = context_.traffic.RunStartTime;
+  since_shown_ = true;
+  LocaliseSince(context_.language.Chosen());
+}
+
+void StatisticsForm::RestartSince() {
+  context_.traffic.RestartSince(App().Platform().clock.Now());
+  ShowSince();
+}
+
+void StatisticsForm::ShowFigures(const Figures& info) {
+  // The other window may have reset.
+  const engine::TrafficState& traffic = context_.traffic;
+  if (traffic.RunStartDate != since_date_ || traffic.RunStartTime != since_time_) ShowSince();
+  InfoGroupBox.Show(info, context_.quantity);
+  DailyGroupBox.Show(source_.Read(engine::kDayGroup, faults_), context_.quantity);
+  WeeklyGroupBox.Show(source_.Read(engine::kWeekGroup, faults_), context_.quantity);
+  MonthlyGroupBox.Show(source_.Read(engine::kMonthGroup, faults_), context_.quantity);
+}
+
+void StatisticsForm::Button1MouseUp(const platform::MouseEvent& event) {
+  const bool closes = event.button == platform::MouseButton::kRight;
+  if (!closes && event.button != platform::MouseButton::kLeft) return;
+  CopyAddress();
+  if (closes) Close();
+}
+
+void StatisticsForm::CopyAddress() {
+  engine::CopyText(App().Platform().clipboard, IpAddress.Caption());
+}
+
+}  // namespace stats

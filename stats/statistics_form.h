@@ -1,0 +1,103 @@
+// What the two statistics windows share: the tabs Info, Daily, Weekly and Monthly with their rows,
+// the address and its copy, the "since" caption, refreshing, closing, the place on the screen.
+#pragma once
+
+#include <string_view>
+
+#include "display/quantity/quantity.h"
+#include "engine/traffic_state.h"
+#include "settings/language.h"
+#include "settings/store.h"
+#include "stats/figures.h"
+#include "stats/figures_group.h"
+#include "stats/refresh_faults.h"
+#include "toolkit/application.h"
+#include "toolkit/button.h"
+#include "toolkit/form.h"
+#include "toolkit/group_box.h"
+#include "toolkit/label.h"
+#include "toolkit/page_control.h"
+#include "toolkit/placement_saver.h"
+#include "toolkit/timer.h"
+
+namespace stats {
+
+// What the windows work on; all of it outlives them.
+struct StatisticsContext {
+  toolkit::Application& app;
+  settings::Store& store;
+  display::Quantity& quantity;
+  const settings::Language& language;
+  engine::TrafficState& traffic;
+};
+
+class StatisticsForm : public toolkit::Form {
+ public:
+  void Localise() override;
+
+ protected:
+  // What is a window's own.
+  struct Kind {
+    std::string_view form_name;
+    std::string_view placement_key;
+    settings::TextEntry address_caption;
+    std::string_view address;  // before the first refresh
+  };
+
+  // Made hidden; the window then sets its size and calls Arrange. `context` is copied.
+  StatisticsForm(const StatisticsContext& context, const Kind& kind, FiguresSource source);
+
+  // Lays the controls out for the size that the form has, and restores its place.
+  void Arrange();
+
+  // Takes the rows of all pages anew; `info` are those of the page Info.
+  void ShowFigures(const Figures& info);
+  // Writes the start of the run above the figures of the page Info.
+  void ShowSince();
+  // The run begins now, for both windows.
+  void RestartSince();
+
+  void Button1MouseUp(const platform::MouseEvent& event);
+  void Button2Click() { Close(); }
+  virtual void Button3Click() = 0;
+  // Takes all figures anew; called twice a second once the timer is on.
+  virtual void Timer1Timer() = 0;
+
+  // The inside of a page, in design pixels.
+  [[nodiscard]] static platform::Size RoomOf(toolkit::TabSheet& page);
+
+  StatisticsContext context_;
+  FiguresSource source_;
+  RefreshFaults faults_;
+
+  // In reading order, which is that of Tab.
+  toolkit::PageControl PageControl1;
+  toolkit::TabSheet InfoTab;
+  toolkit::GroupBox InfoGroup;
+  toolkit::Label IpLabel;
+  toolkit::Label IpAddress;
+  toolkit::Button Button1;
+  FiguresGroup InfoGroupBox;
+  toolkit::Button Button3;
+  toolkit::TabSheet DailyTab;
+  FiguresGroup DailyGroupBox;
+  toolkit::TabSheet WeeklyTab;
+  FiguresGroup WeeklyGroupBox;
+  toolkit::TabSheet MonthlyTab;
+  FiguresGroup MonthlyGroupBox;
+  toolkit::Button Button2;
+  toolkit::Timer Timer1;
+  toolkit::PlacementSaver _tlkFormSaver;
+
+ private:
+  void CopyAddress();
+  void LocaliseSince(const settings::Translation& say);
+
+  settings::TextEntry address_caption_;
+  // The start of the run that this window knows.
+  platform::DateTime since_date_;
+  platform::DateTime since_time_;
+  bool since_shown_ = false;  // else the words of the design stand there, without a date
+};
+
+}  // namespace stats

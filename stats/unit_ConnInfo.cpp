@@ -1,0 +1,117 @@
+#include "stats/unit_ConnInfo.h"
+
+#include <algorithm>
+
+#include "settings/texts.h"
+#include "toolkit/layout.h"
+
+namespace stats {
+namespace {
+
+namespace setting = settings::setting;
+namespace text = settings::text::BandwidthStatisticsForm;
+
+// Design pixels: the size on the screen, and what the controls need inside the frame.
+constexpr platform::Size kSize{265, 258};
+constexpr platform::Size kSmallestClient{258, 228};
+
+}  // namespace
+
+T_frmConnInfo::T_frmConnInfo(const StatisticsContext& context)
+    : StatisticsForm(context,
+                     {kConnInfoForm, "\\Software\\BrisantoNET\\Settings\\ConnInfoScreen",
+                      text::IpLabel, "127.0.0.1"},
+                     FiguresSource::Machine(context.store)),
+      host_address_(context.app.Platform().sockets, context.app.Platform().clock),
+      BandwidthTab(PageControl1, "BandwidthTab"),
+      Label1(BandwidthTab, "Label1"),
+      details_(BandwidthTab, context.store, context.quantity, context.language),
+      ISBAShown(BandwidthTab, "ISBAShown") {
+  SetDesignSize();
+  Arrange();
+  ArrangeBandwidthTab();
+  FormCreate();
+  Label1.OnClick = [this] { Label1Click(); };
+  ISBAShown.OnClick = [this] { ISBAShownClick(); };
+  Timer1.SetEnabled(true);
+}
+
+void T_frmConnInfo::SetDesignSize() {
+  const platform::Rect place = WindowBounds();
+  SetWindowBounds({place.left, place.top, Scale(kSize.width), Scale(kSize.height)});
+  // Where the user's scheme has larger frames and captions the window grows around its controls.
+  const platform::Size client = ClientPixels();
+  const platform::Size room{std::max(Unscale(client.width), kSmallestClient.width),
+                            std::max(Unscale(client.height), kSmallestClient.height)};
+  if (Scale(room.width) > client.width || Scale(room.height) > client.height) SetClientSize(room);
+}
+
+void T_frmConnInfo::ArrangeBandwidthTab() {
+  constexpr int kDetailsTop = 18;
+  constexpr int kCheckHeight = 17;
+  const platform::Size room = RoomOf(BandwidthTab);
+  const int check_top = room.height - kCheckHeight - 1;
+  toolkit::ApplyLayout({{Label1, {1, 1, room.width - 2, 16}},
+                        {ISBAShown, {5, check_top, room.width - 10, kCheckHeight}}});
+  details_.SetBounds({1, kDetailsTop, room.width - 2, check_top - kDetailsTop - 1});
+}
+
+void T_frmConnInfo::FormCreate() {
+  ShowSince();
+  Localise();
+  App().Guard([this] { Timer1Timer(); });
+}
+
+void T_frmConnInfo::Localise() {
+  StatisticsForm::Localise();
+  const settings::Translation say = context_.language.Chosen();
+  SetCaption(say(text::Title));
+  BandwidthTab.SetCaption(say(text::BandwidthTab));
+  Label1.SetCaption(say(text::Label1));
+  Label1.SetHint(say(text::Label1Hint));
+  details_.Localise();
+  ISBAShown.SetCaption(say(text::ISBAShown));
+  ISBAShown.SetHint(say(text::ISBAShownHint));
+}
+
+void T_frmConnInfo::FormClose() {
+  const std::function<void()> closed = OnClosed;  // it goes with the window
+  if (closed) {
+    closed();
+  } else {
+    StatisticsForm::FormClose();
+  }
+}
+
+void T_frmConnInfo::Timer1Timer() {
+  IpAddress.SetCaption(host_address_.Get());
+  ISBAShown.SetChecked(context_.store.Read(setting::BAShow));
+  // The totals are those of this run: the stored ones of this kind are an adapter's alone.
+  const engine::TrafficState& traffic = context_.traffic;
+  ShowFigures({source_.Read(setting::InfoMaxDL, faults_), source_.Read(setting::InfoMaxUL, faults_),
+               traffic.RunTotalDL, traffic.RunTotalUL});
+  faults_.Try([this] { details_.Refresh(); });
+  faults_.Tell();
+}
+
+void T_frmConnInfo::Button3Click() {
+  RestartSince();
+  InfoGroupBox.ShowZeros();
+  engine::TrafficState& traffic = context_.traffic;
+  for (engine::AdapterCounters& adapter : traffic.adapter_counters) {
+    adapter.MaxIn = 0;
+    adapter.MaxOut = 0;
+  }
+  source_.WriteZero(setting::InfoMaxDL);
+  source_.WriteZero(setting::InfoMaxUL);
+  traffic.RunTotalDL = 0;
+  traffic.RunTotalUL = 0;
+}
+
+void T_frmConnInfo::Label1Click() {
+  if (OpenSettings) OpenSettings();
+}
+
+void T_frmConnInfo::ISBAShownClick() { context_.store.Write(setting::BAShow, ISBAShown.Checked()); }
+
+}  // namespace stats

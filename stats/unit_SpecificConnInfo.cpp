@@ -1,0 +1,57 @@
+#include "stats/unit_SpecificConnInfo.h"
+
+#include "settings/adapter_values.h"
+#include "settings/texts.h"
+
+namespace stats {
+namespace {
+
+namespace setting = settings::setting;
+namespace text = settings::text::BandwidthStatisticsForm;
+
+// Design pixels.
+constexpr platform::Size kClientSize{261, 264};
+
+// Five pairs, although an address has six.
+constexpr std::string_view kNoAddress = "00-00-00-00-00";
+
+}  // namespace
+
+T_frmSpecificConnInfo::T_frmSpecificConnInfo(const StatisticsContext& context,
+                                             std::string_view description)
+    : StatisticsForm(
+          context,
+          {kSpecificConnInfoForm, "\\Software\\BrisantoNET\\Settings\\SpecificConnInfoScreen",
+           text::MacLabel, "-----------"},
+          FiguresSource::Adapter(context.store, description)) {
+  SetCaption(description);
+  SetClientSize(kClientSize);
+  Arrange();
+  FormCreate();
+  Timer1.SetEnabled(true);
+}
+
+void T_frmSpecificConnInfo::FormCreate() { Localise(); }
+
+void T_frmSpecificConnInfo::FormShow() {
+  App().Guard([this] { Timer1Timer(); });
+}
+
+void T_frmSpecificConnInfo::Timer1Timer() {
+  const std::string name =
+      settings::AdapterName(Caption()) + std::string(settings::kMacAddressSuffix);
+  IpAddress.SetCaption(
+      context_.store.ReadString(settings::KeyIndex::kAdapterDatas, name, kNoAddress));
+  ShowFigures(source_.Read(engine::kInfoGroup, faults_));
+  faults_.Tell();
+}
+
+void T_frmSpecificConnInfo::Button3Click() {
+  RestartSince();
+  for (const settings::CounterSetting& counter :
+       {setting::InfoTotalDL, setting::InfoTotalUL, setting::InfoMaxDL, setting::InfoMaxUL}) {
+    source_.WriteZero(counter);
+  }
+}
+
+}  // namespace stats
