@@ -47,8 +47,11 @@ void ApplyGraphAppearance(settings::Store& store, TKxInterMeter& meter) {
 }
 
 void ApplyHints(settings::Store& store, toolkit::HintWindow& hints) {
+  ShowHints(hints, store.Read(setting::ShowHints));
+}
+
+void ShowHints(toolkit::HintWindow& hints, bool shown) {
   // Switched off, hints would come after a day and stay for no time: they never show.
-  const bool shown = store.Read(setting::ShowHints);
   hints.Pause = shown ? 0 : 100000000;
   hints.HidePause = shown ? 1000000000 : 0;
   hints.Colour = platform::colour::kWhite;

@@ -13,6 +13,7 @@ void ApplyGraphAppearance(settings::Store& store, TKxInterMeter& meter);
 
 // Whether and how long hints show.
 void ApplyHints(settings::Store& store, toolkit::HintWindow& hints);
+void ShowHints(toolkit::HintWindow& hints, bool shown);
 
 // The stored scale, to the meter and the cap of the sampler (bytes per scan). A stored choice that
 // the list does not have changes nothing.

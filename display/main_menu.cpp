@@ -41,7 +41,6 @@ constexpr Row kRows[] = {
     {&MainMenu::mnuTransparent2k, &MainMenu::Transparent1, text::MainForm::mnuTransparent2k},
     {&MainMenu::mnuTransparent, &MainMenu::Transparent1, text::MainForm::mnuTransparent},
     {&MainMenu::Settings1, kMainLevel, text::MainForm::Settings1, kSettingsImage},
-    {&MainMenu::Language1, kMainLevel, text::MainForm::Language1},
     {&MainMenu::HElp1, kMainLevel, text::MainForm::HElp1, kHelpImage, kSeparatorBefore},
     {&MainMenu::HelpContents1, &MainMenu::HElp1, text::MainForm::HelpContents1},
     {&MainMenu::AboutBrisantoXP1, &MainMenu::HElp1, text::MainForm::AboutBrisantoXP1},

@@ -29,7 +29,6 @@ struct MainMenu {
   toolkit::MenuItem* mnuTransparent2k = nullptr;
   toolkit::MenuItem* mnuTransparent = nullptr;
   toolkit::MenuItem* Settings1 = nullptr;
-  toolkit::MenuItem* Language1 = nullptr;  // one radio item for each language
   toolkit::MenuItem* HElp1 = nullptr;
   toolkit::MenuItem* HelpContents1 = nullptr;
   toolkit::MenuItem* AboutBrisantoXP1 = nullptr;

@@ -5,6 +5,8 @@
 #include "display/grid_lines.h"
 #include "engine/local_ip.h"
 #include "engine/product.h"
+#include "settings/administrator_lock.h"
+#include "settings/unit_SecurityForm.h"
 #include "toolkit/application.h"
 #include "toolkit/design_pixels.h"
 #include "toolkit/placement.h"
@@ -55,7 +57,6 @@ T_frmBrisanto::T_frmBrisanto(toolkit::Application& app)
       scan_cycle_(app.Platform().clock, sampler_, statistics_, traffic_, *this),
       _MainMenu(app),
       adapter_menus_(RegME, *_MainMenu.conenctionMonitor1, *_MainMenu.ConnectionSources1),
-      language_menu_(_ReadLangauge, *_MainMenu.Language1, [&app] { app.LanguageChanged(); }),
       _tlkInterMeter(*this, "_tlkInterMeter"),
       pnlContain(*this, "pnlContain"),
       _tlkDLULMeter(pnlContain, "_tlkDLULMeter"),
@@ -70,7 +71,8 @@ T_frmBrisanto::T_frmBrisanto(toolkit::Application& app)
       notifications_(app, RegME, _ReadLangauge, reactions_),
       ticker_(RegME, reactions_),
       bandwidth_alert_(app, RegME, quantity_, _ReadLangauge, reactions_),
-      statistics_windows_({app, RegME, quantity_, _ReadLangauge, traffic_}, [] {}),
+      statistics_windows_({app, RegME, quantity_, _ReadLangauge, traffic_},
+                          [this] { Settings1Click(); }),
       GlobalAtomKey(
           app,
           {{toolkit::kCtrl | toolkit::kAlt | 'F', [this] { GlobalAtomKeyGlobalKeys0KeyDown(); }},
@@ -134,7 +136,6 @@ void T_frmBrisanto::ConnectHandlers() {
 
   _TrayIcon.OnClick = [this] { _TrayIconClick(); };
   _TrayIcon.OnMenu = [this](platform::Point screen) { _MainMenu.popup.Popup(screen, *this); };
-  _MainMenu.popup.OnPopup = [this] { language_menu_.Refresh(); };
   _MainMenu.ConnectionInformations1->OnClick = [this] { statistics_windows_.OpenMachine(); };
   adapter_menus_.OpenStatistics = [this](const std::string& description) {
     statistics_windows_.OpenAdapter(description);
@@ -146,6 +147,7 @@ void T_frmBrisanto::ConnectHandlers() {
   _MainMenu.mnuTextandGraph->OnClick = [this] { mnuTextandGraphClick(); };
   _MainMenu.mnuTransparent2k->OnClick = [this] { mnuTransparent2kClick(); };
   _MainMenu.mnuTransparent->OnClick = [this] { mnuTransparentClick(); };
+  _MainMenu.Settings1->OnClick = [this] { Settings1Click(); };
   _MainMenu.HelpContents1->OnClick = [this] { HelpContents1Click(); };
   _MainMenu.Clear1->OnClick = [this] { Clear1Click(); };
   _MainMenu.Close1->OnClick = [this] { Close1Click(); };
@@ -177,6 +179,17 @@ void T_frmBrisanto::Localise() {
   LocaliseControls();
   numeric_line_.Localise();
   ShowLine();
+}
+
+void T_frmBrisanto::SetPreferences(std::function<void()> open) {
+  open_preferences_ = std::move(open);
+  _MainMenu.Settings1->Enabled = true;
+}
+
+RunningMeter T_frmBrisanto::Parts() {
+  return {*this,         RegME,          _ReadLangauge, _tlkInterMeter,
+          _tlkDLULMeter, numeric_line_,  _TrayIcon,     transparency_,
+          _FormMagnet,   title_posting_, App().Hints(), traffic_.SpeedCap};
 }
 
 void T_frmBrisanto::ApplyDisplaySettings() {
@@ -269,6 +282,13 @@ void T_frmBrisanto::mnuTransparent2kClick() { transparency_.mnuTransparent2kClic
 
 void T_frmBrisanto::mnuTransparentClick() { transparency_.mnuTransparentClick(); }
 
+void T_frmBrisanto::Settings1Click() {
+  if (!open_preferences_) return;
+  if (settings::LockEngaged(RegME) && !settings::AskForPassword(App(), RegME, _ReadLangauge))
+    return;
+  open_preferences_();
+}
+
 void T_frmBrisanto::HelpContents1Click() {
   App().Platform().shell.Open(RegME.ProgramFile("Help\\index.html"));
 }
@@ -342,6 +362,11 @@ void T_frmBrisanto::RestrictSize() {
 
 void T_frmBrisanto::ShowLine() { _tlkDLULMeter.SetCaption(numeric_line_.Label()); }
 
+void T_frmBrisanto::LineChanged() {
+  ShowLine();
+  _TrayIcon.SetHint(numeric_line_.TrayHint());
+}
+
 void T_frmBrisanto::Reinitialise() {
   adapter_menus_.Clear();
   FormCreate();
@@ -365,8 +390,7 @@ void T_frmBrisanto::CheckNotifications(const engine::ScanAmounts& scan) {
 
 void T_frmBrisanto::ShowNumericLine(const engine::ScanAmounts& scan) {
   numeric_line_.Update(scan);
-  ShowLine();
-  _TrayIcon.SetHint(numeric_line_.TrayHint());
+  LineChanged();
   title_posting_.PostTitles(numeric_line_.Joined());
 }
 

@@ -2,6 +2,7 @@
 // line of numbers, or both. It owns and wires all other parts of the program.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -13,10 +14,10 @@
 #include "display/adapter_menus.h"
 #include "display/hot_keys.h"
 #include "display/kxintermeter.h"
-#include "display/language_menu.h"
 #include "display/main_menu.h"
 #include "display/numeric_line.h"
 #include "display/quantity/quantity.h"
+#include "display/running_meter.h"
 #include "display/statistics_windows.h"
 #include "display/title_posting.h"
 #include "display/transparency.h"
@@ -46,10 +47,18 @@ class T_frmBrisanto final : public toolkit::Form,
   ~T_frmBrisanto() override;
 
   [[nodiscard]] engine::TrafficState& Traffic() override { return traffic_; }
+  [[nodiscard]] RunningMeter Parts();
+
+  // The one call that opens the preferences, which belong to it; until it is set they cannot be
+  // opened.
+  void SetPreferences(std::function<void()> open);
 
   // Takes the stored display settings over into all parts: at the start, when the adapters changed,
   // and after a reset of the settings.
   void ApplyDisplaySettings();
+
+  // Shows the numeric line as it is now, in the window and in the hint of the icon.
+  void LineChanged();
 
   void Localise() override;
 
@@ -73,6 +82,7 @@ class T_frmBrisanto final : public toolkit::Form,
   void mnuAlwaysTopOnClick();
   void mnuTransparent2kClick();
   void mnuTransparentClick();
+  void Settings1Click();
   void HelpContents1Click();
   void GlobalAtomKeyGlobalKeys0KeyDown();
   void GlobalAtomKeyGlobalKeys1KeyDown();
@@ -122,7 +132,6 @@ class T_frmBrisanto final : public toolkit::Form,
 
   MainMenu _MainMenu;
   AdapterMenus adapter_menus_;
-  LanguageMenu language_menu_;
   TKxInterMeter _tlkInterMeter;
   toolkit::Panel pnlContain;
   toolkit::Label _tlkDLULMeter;
@@ -143,6 +152,8 @@ class T_frmBrisanto final : public toolkit::Form,
   StatisticsWindows statistics_windows_;
 
   HotKeyHolder GlobalAtomKey;
+
+  std::function<void()> open_preferences_;  // last: the preferences go before what they change
 };
 
 }  // namespace display

@@ -10,6 +10,7 @@
 #include "platform/windows/entry.h"
 #include "platform/windows/files.h"
 #include "platform/windows/machine.h"
+#include "settings/preferences/unit_SettingsForm.h"
 #include "toolkit/application.h"
 
 namespace {
@@ -17,8 +18,11 @@ namespace {
 int Run() {
   platform::windows::Machine machine;
   toolkit::Application app(machine.platform());
-  return engine::RunProgram(machine.platform(),
-                            [&app] { return std::make_unique<display::T_frmBrisanto>(app); });
+  return engine::RunProgram(machine.platform(), [&app] {
+    auto meter = std::make_unique<display::T_frmBrisanto>(app);
+    meter->SetPreferences(settings::preferences::PreferencesOf(app, meter->Parts()));
+    return meter;
+  });
 }
 
 }  // namespace

@@ -11,10 +11,9 @@ using Menu = ProgramTest;
 TEST_F(Menu, HasItsItemsInTheirOrder) {
   Meter& meter = Start();
   OpenMenu menu = meter.Menu();
-  EXPECT_EQ(
-      menu.Descriptions(),
-      (Texts{"DL-UL Statistics", "Connection Statistics [>]", "Connection Sources [>]", "-",
-             "Graph Options [>]", "Settings...", "Language [>]", "-", "Help [>]", "-", "Exit"}));
+  EXPECT_EQ(menu.Descriptions(),
+            (Texts{"DL-UL Statistics", "Connection Statistics [>]", "Connection Sources [>]", "-",
+                   "Graph Options [>]", "Settings...", "-", "Help [>]", "-", "Exit"}));
   EXPECT_EQ(menu.Descriptions({"Graph Options"}),
             (Texts{"Always on Top [checked]", "Show / Hide Graph", "-", "Graphic [radio]",
                    "Numeric [radio]", "Graph&&Numeric [radio] [checked]", "-", "Clear Graph",

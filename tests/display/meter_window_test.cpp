@@ -142,7 +142,7 @@ TEST_F(Meter, TheMenuHasItsItemsInTheirOrder) {
     const std::vector<platform::MenuEntry>& menu = machine.menus.last;
     EXPECT_EQ(texts(menu),
               "DL-UL Statistics/Connection Statistics/Connection Sources/-/Graph Options/"
-              "Settings.../Language/-/Help/-/Exit/");
+              "Settings.../-/Help/-/Exit/");
     EXPECT_EQ(texts(menu[4].children),
               "Always on Top/Show / Hide Graph/-/Graphic/Numeric/Graph&&Numeric/-/Clear Graph/"
               "Graph Transparency Options/");

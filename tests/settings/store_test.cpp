@@ -183,17 +183,15 @@ TEST_F(Store, ACounterThatIsNoNumberIsAnError) {
 
 TEST_F(Store, AutostartWritesTheRunValueOnlyWhereTheKeyExists) {
   const std::string program = machine.files.ProgramPath();
-  settings::SetAutoStart(store, program, true);
+  settings::StartWithWindows(store, program, true);
   EXPECT_FALSE(machine.registry.Exists(kRun));
-  EXPECT_EQ(machine.registry.Dword(kSettings, "AutoStart"), 1U);
 
   machine.registry.Set(kRun, "other", RegistryValue::Text("other.exe"));
-  settings::SetAutoStart(store, program, false);  // deletes a value that is not there
-  EXPECT_EQ(machine.registry.Dword(kSettings, "AutoStart"), 0U);
+  settings::StartWithWindows(store, program, false);  // deletes a value that is not there
   EXPECT_EQ(machine.registry.Values(kRun), std::vector<std::string>{"other"});
-  settings::SetAutoStart(store, program, true);
+  settings::StartWithWindows(store, program, true);
   EXPECT_EQ(machine.registry.Text(kRun, "BrisantoXP"), program);
-  settings::SetAutoStart(store, program, false);
+  settings::StartWithWindows(store, program, false);
   EXPECT_EQ(machine.registry.Values(kRun), std::vector<std::string>{"other"});
 }
 

@@ -1,0 +1,37 @@
+// The parts of the running meter that a changed option is pushed into.
+#pragma once
+
+#include <cstdint>
+
+#include "display/kxintermeter.h"
+#include "display/numeric_line.h"
+#include "display/title_posting.h"
+#include "display/transparency.h"
+#include "display/tray_icon.h"
+#include "settings/language.h"
+#include "settings/store.h"
+#include "toolkit/docking_magnet.h"
+#include "toolkit/hint_window.h"
+#include "toolkit/label.h"
+
+namespace display {
+
+class T_frmBrisanto;
+
+// All belong to the meter window and live as long as it does.
+struct RunningMeter {
+  T_frmBrisanto& window;
+  settings::Store& store;
+  settings::Language& language;
+  TKxInterMeter& graph;
+  toolkit::Label& label;  // shows the numeric line
+  NumericLine& line;
+  TrayIcon& tray;
+  Transparency& transparency;
+  toolkit::DockingMagnet& magnet;
+  TitlePosting& titles;
+  toolkit::HintWindow& hints;
+  std::int64_t& SpeedCap;  // of the sampler, bytes per scan; 0 for none
+};
+
+}  // namespace display

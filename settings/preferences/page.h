@@ -1,0 +1,45 @@
+// A page of the preferences.
+#pragma once
+
+#include <initializer_list>
+#include <string>
+#include <string_view>
+
+#include "settings/language.h"
+#include "settings/preferences/context.h"
+#include "settings/texts.h"
+#include "toolkit/notebook.h"
+
+namespace settings::preferences {
+
+// Design pixels of every page.
+inline constexpr int kPageWidth = 424;
+inline constexpr int kPageHeight = 400;
+inline constexpr int kMargin = 8;
+inline constexpr int kRow = 23;          // from one line of controls to the next
+inline constexpr int kBoxHeight = 17;    // check boxes, radio buttons, labels
+inline constexpr int kFieldHeight = 21;  // edits and lists
+inline constexpr int kButtonHeight = 25;
+
+// A control's text, and its hint where it has one.
+struct Wording {
+  toolkit::Control& control;
+  TextEntry text;
+  TextEntry hint = {};
+};
+
+class Page : public toolkit::NotebookPage {
+ public:
+  Page(toolkit::Notebook& notebook, std::string_view name, Context& context)
+      : NotebookPage(notebook, name), context_(context) {}
+
+  // Gives every control its text.
+  virtual void Localise(const Translation& /*say*/) {}
+
+ protected:
+  static void Say(const Translation& say, std::initializer_list<Wording> wordings);
+
+  Context& context_;
+};
+
+}  // namespace settings::preferences

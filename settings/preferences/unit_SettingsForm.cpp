@@ -1,0 +1,119 @@
+#include "settings/preferences/unit_SettingsForm.h"
+
+#include <memory>
+#include <vector>
+
+#include "settings/preferences/page_tree.h"
+#include "toolkit/layout.h"
+
+namespace settings::preferences {
+namespace {
+
+namespace text = settings::text::SettingsForm;
+
+// Design pixels.
+constexpr int kTreeWidth = 164;
+constexpr int kWidth = kMargin + kTreeWidth + kMargin + kPageWidth;
+constexpr int kHeight = kPageHeight + 5 * kMargin;
+
+constexpr std::string_view kPlacementKey = "\\Software\\BrisantoNET\\Settings\\SettingsScreen";
+
+platform::TopWindowParams CreateParams() {
+  platform::TopWindowParams params;
+  params.name = "T_frmPreferences";
+  params.frame = platform::Frame::kDialog;
+  return params;
+}
+
+}  // namespace
+
+T_frmPreferences::T_frmPreferences(toolkit::Application& app, const display::RunningMeter& meter)
+    : Form(app, CreateParams()),
+      context_(app, meter),
+      TreeItems(*this, "TreeItems"),
+      PrefNotebook(*this, "PrefNotebook"),
+      general_(PrefNotebook, context_),
+      graph_colors_(PrefNotebook, "GraphColors", context_),
+      graph_grids_(PrefNotebook, "GraphGrids", context_),
+      graph_others_(PrefNotebook, "GraphOthers", context_),
+      text_colors_(PrefNotebook, "TextColors", context_),
+      text_other_(PrefNotebook, "TextOther", context_),
+      speed_up_(PrefNotebook, "SpeedUp", context_),
+      admin_(PrefNotebook, "Admin", context_),
+      interfaces_(PrefNotebook, "Interfaces", context_),
+      bandwidth_alert_(PrefNotebook, "BandwidthAlert", context_),
+      notification_(PrefNotebook, "Notification", context_),
+      other_(PrefNotebook, "Other", context_),
+      reset_settings_(PrefNotebook, "ResetSettings", context_),
+      btnClose(*this, "btnClose"),
+      placement_(*this, kPlacementKey, toolkit::PlacementSaver::Restores::kPlace) {
+  PlaceControls();
+  Localise();
+  TreeItems.SetItemIndex(0);
+  TreeItems.OnChange = [this] { TreeItemsChange(); };
+  btnClose.OnClick = [this] { Close(); };
+}
+
+void T_frmPreferences::PlaceControls() {
+  constexpr int kButtonWidth = 90;
+  SetClientSize({kWidth, kHeight});
+  toolkit::ApplyLayout({
+      {TreeItems, {kMargin, kMargin, kTreeWidth, kPageHeight - 2 * kMargin}},
+      {PrefNotebook, {kMargin + kTreeWidth + kMargin, 0, kPageWidth, kPageHeight}},
+      {btnClose,
+       {kWidth - kMargin - kButtonWidth, kHeight - kMargin - kButtonHeight, kButtonWidth,
+        kButtonHeight}},
+  });
+  CentreOnScreen();
+  placement_.Restore();
+}
+
+void T_frmPreferences::Localise() {
+  const Translation say = context_.language.Chosen();
+  SetCaption(say(text::Title));
+  std::vector<platform::TreeItem> items;
+  for (const PageTreeItem& item : PageTree()) items.push_back({say(item.text), item.level});
+  TreeItems.SetItems(items);
+  for (Page* page :
+       std::initializer_list<Page*>{&general_, &graph_colors_, &graph_grids_, &graph_others_,
+                                    &text_colors_, &text_other_, &speed_up_, &admin_, &interfaces_,
+                                    &bandwidth_alert_, &notification_, &other_, &reset_settings_}) {
+    page->Localise(say);
+  }
+  btnClose.SetCaption(say(text::btnClose));
+}
+
+void T_frmPreferences::Open() {
+  if (Showing()) {
+    Raise();
+  } else {
+    ReadSettings();
+    TreeItems.FullExpand();
+    Show();
+  }
+  // A modal window that is open stays above it and keeps the keyboard.
+  if (toolkit::Form* modal = App().Modals().Top()) modal->Raise();
+}
+
+void T_frmPreferences::ReadSettings() {
+  {
+    const Context::Reading scope(context_);
+    general_.Read();
+  }
+  context_.meter.transparency.ApplyShape();
+}
+
+void T_frmPreferences::TreeItemsChange() {
+  const int row = TreeItems.ItemIndex();
+  if (row < 0) return;
+  PrefNotebook.SetActivePage(PageTree()[static_cast<std::size_t>(row)].page);
+}
+
+std::function<void()> PreferencesOf(toolkit::Application& app, const display::RunningMeter& meter) {
+  return [&app, meter, form = std::make_shared<std::unique_ptr<T_frmPreferences>>()] {
+    if (!*form) *form = std::make_unique<T_frmPreferences>(app, meter);
+    (*form)->Open();
+  };
+}
+
+}  // namespace settings::preferences

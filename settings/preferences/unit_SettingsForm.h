@@ -1,0 +1,63 @@
+// The preferences: a tree of page names, and the pages. Whatever the user changes counts at once;
+// there is nothing to confirm and nothing to take back.
+#pragma once
+
+#include <functional>
+
+#include "settings/preferences/context.h"
+#include "settings/preferences/general_page.h"
+#include "settings/preferences/page.h"
+#include "toolkit/button.h"
+#include "toolkit/form.h"
+#include "toolkit/notebook.h"
+#include "toolkit/placement_saver.h"
+#include "toolkit/tree_view.h"
+
+namespace settings::preferences {
+
+class T_frmPreferences final : public toolkit::Form {
+ public:
+  // Made hidden. The application and the meter's parts outlive it.
+  T_frmPreferences(toolkit::Application& app, const display::RunningMeter& meter);
+
+  // Shows it with what is stored now, or brings it to the front.
+  void Open();
+
+  // Puts every stored value into its control. A control that changes fires its handler, and that is
+  // how the running meter takes over what was stored from elsewhere.
+  void ReadSettings();
+
+  void Localise() override;
+
+ private:
+  void PlaceControls();
+  void TreeItemsChange();
+
+  Context context_;
+
+  // In the order of Tab.
+  toolkit::TreeView TreeItems;
+  toolkit::Notebook PrefNotebook;
+  GeneralPage general_;
+  Page graph_colors_;
+  Page graph_grids_;
+  Page graph_others_;
+  Page text_colors_;
+  Page text_other_;
+  Page speed_up_;
+  Page admin_;
+  Page interfaces_;
+  Page bandwidth_alert_;
+  Page notification_;
+  Page other_;
+  Page reset_settings_;
+  toolkit::Button btnClose;
+
+  toolkit::PlacementSaver placement_;
+};
+
+// The call that opens the preferences of a meter: it makes them the first time and keeps them.
+[[nodiscard]] std::function<void()> PreferencesOf(toolkit::Application& app,
+                                                  const display::RunningMeter& meter);
+
+}  // namespace settings::preferences

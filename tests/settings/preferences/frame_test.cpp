@@ -1,0 +1,107 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <string>
+
+#include "tests/settings/preferences/preferences_world.h"
+
+namespace {
+
+class Preferences : public test::PreferencesTest {
+ protected:
+  std::string Page() {
+    for (const char* page : {"General", "GraphColors", "GraphGrids", "GraphOthers", "TextColors",
+                             "TextOther", "SpeedUp", "Admin", "Interfaces", "BandwidthAlert",
+                             "Notification", "Other", "ResetSettings"}) {
+      if (Widget(page).OnScreen()) return page;
+    }
+    return "";
+  }
+};
+
+TEST_F(Preferences, EachItemOfTheTreeLeadsToItsPage) {
+  struct Row {
+    const char* item;
+    const char* page;
+    const char* why;
+  };
+  static constexpr Row kRows[] = {
+      {"Graph Colors", "GraphColors", ""},
+      {"Graph", "GraphColors", "a heading leaves the page"},
+      {"Graph Grids", "GraphGrids", ""},
+      {"Graph Other", "GraphOthers", ""},
+      {"Numeric", "GraphOthers", "a heading"},
+      {"Numeric Colors", "TextColors", ""},
+      {"Numeric Other", "TextOther", ""},
+      {"Alerts", "TextOther", "a heading"},
+      {"Notifications", "Notification", ""},
+      {"Bandwidth Alerts", "BandwidthAlert", ""},
+      {"Interfaces", "Interfaces", ""},
+      {"Admin", "Admin", ""},
+      {"Speed Up", "SpeedUp", ""},
+      {"Other", "Other", ""},
+      {"Brisanto Script", "Other", "there is no such page"},
+      {"Reset Settings", "ResetSettings", ""},
+      {"General", "General", ""},
+  };
+  RunOpen([&] {
+    EXPECT_EQ(Page(), "General");
+    for (const Row& row : kRows) {
+      SCOPED_TRACE(std::string(row.item) + " " + row.why);
+      ChoosePage(row.item);
+      EXPECT_EQ(Page(), row.page);
+    }
+    // The second of two items of that name.
+    User().Choose("TreeItems", 16);
+    EXPECT_EQ(Page(), "SpeedUp");
+  });
+}
+
+TEST_F(Preferences, CloseEscAndTheCloseBoxOnlyHideIt) {
+  RunOpen([&] {
+    EXPECT_EQ(User().Focused(), "TreeItems");
+    ChoosePage("Other");
+    const platform::memory::WidgetState* form = &Widget(kForm);
+    for (const auto& hide : std::initializer_list<std::function<void()>>{
+             [&] { Close(); }, [&] { User().PressEsc(kForm); },
+             [&] { User().ClickCloseBox(kForm); }}) {
+      hide();
+      EXPECT_FALSE(Widget(kForm).visible);
+      Open();
+      EXPECT_TRUE(Widget(kForm).visible);
+      EXPECT_EQ(&Widget(kForm), form) << "another one was made";
+      EXPECT_EQ(Page(), "Other") << "the page that was left";
+    }
+    const int raised = Widget(kForm).raised;
+    Open();
+    EXPECT_EQ(Widget(kForm).raised, raised + 1);
+  });
+}
+
+TEST_F(Preferences, ItsPlaceIsKept) {
+  constexpr std::string_view kPlace = "Software\\BrisantoNET\\Settings\\SettingsScreen";
+  RunOpen([&] {
+    User().Drag(kForm, {33, 44});
+    EXPECT_EQ(machine.registry.Dword(kPlace, "Left"), 33U);
+  });
+  RunOpen([&] {
+    EXPECT_EQ(Widget(kForm).bounds.left, 33);
+    EXPECT_EQ(Widget(kForm).bounds.top, 44);
+  });
+}
+
+TEST_F(Preferences, LockedTheyOpenOnlyWithThePassword) {
+  Set("zdP1", 1);
+  Set("zdP", "secret");
+  Run([&] {
+    Window().SetPreferences(settings::preferences::PreferencesOf(App(), Window().Parts()));
+    machine.message_loop.Then([&] { User().Press("CancelButton"); });
+    Open();
+    EXPECT_FALSE(User().Exists(kForm));
+    machine.message_loop.Then([&] { User().Type("PassEdit", "secret"); });
+    Open();
+    EXPECT_TRUE(Widget(kForm).visible);
+  });
+}
+
+}  // namespace
