@@ -8,7 +8,7 @@
 namespace settings {
 namespace {
 
-constexpr platform::Size kClientSize{300, 133};  // design pixels
+constexpr platform::Size kClientSize{300, 138};  // design pixels
 
 platform::TopWindowParams CreateParams() {
   platform::TopWindowParams params;
@@ -23,6 +23,7 @@ T_frmSecurity::T_frmSecurity(toolkit::Application& app, Store& store, const Lang
     : Form(app, CreateParams()),
       store_(store),
       language_(language),
+      Image1(*this, "Image1", toolkit::Sign::Picture::kLock),
       St1(*this, "St1", toolkit::kWrappedText),
       St2(*this, "St2", toolkit::kWrappedText),
       St3(*this, "St3", toolkit::kCaptionText),
@@ -30,11 +31,12 @@ T_frmSecurity::T_frmSecurity(toolkit::Application& app, Store& store, const Lang
       CancelButton(*this, "CancelButton") {
   SetClientSize(kClientSize);
   toolkit::ApplyLayout({
-      {St1, {12, 12, 276, 27}},
-      {St2, {12, 41, 276, 27}},
-      {St3, {12, 71, 84, 21}},
-      {PassEdit, {100, 71, 188, 21}},
-      {CancelButton, {213, 100, 75, 25}},
+      {Image1, {12, 12, toolkit::kSignSize, toolkit::kSignSize}},
+      {St1, {60, 12, 228, 28}},
+      {St2, {60, 42, 228, 28}},
+      {St3, {60, 74, 80, 21}},
+      {PassEdit, {144, 74, 144, 21}},
+      {CancelButton, {213, 104, 75, 25}},
   });
   CancelButton.ModalResult = toolkit::ModalResult::kCancel;
   FormCreate();

@@ -9,6 +9,7 @@
 #include "toolkit/edit.h"
 #include "toolkit/form.h"
 #include "toolkit/label.h"
+#include "toolkit/sign.h"
 
 namespace settings {
 
@@ -29,6 +30,7 @@ class T_frmSecurity final : public toolkit::Form {
   Store& store_;
   const Language& language_;
 
+  toolkit::Sign Image1;
   toolkit::Label St1;
   toolkit::Label St2;
   toolkit::Label St3;

@@ -33,6 +33,8 @@ class ModalStack::Level {
   Level& operator=(const Level&) = delete;
 
   [[nodiscard]] ModalResult Wait() {
+    // Or else one that always stays on top might cover it.
+    if (stack_.AnyTopmost()) entry_.form->Window().SetTopmost(true);
     entry_.form->Show();
     if (stack_.app_.Terminated()) return ModalResult::kCancel;
     stack_.app_.Platform().message_loop.RunUntil(
@@ -73,6 +75,12 @@ Form* ModalStack::Top() const {
     if ((*entry)->form != nullptr) return (*entry)->form;
   }
   return nullptr;
+}
+
+bool ModalStack::AnyTopmost() const {
+  const std::vector<Form*>& forms = app_.Forms();
+  return std::any_of(forms.begin(), forms.end(),
+                     [](const Form* form) { return form->Showing() && form->Window().Topmost(); });
 }
 
 void ModalStack::End(const Form& form, ModalResult result) {

@@ -42,6 +42,7 @@ class ModalStack {
   };
   class Level;
 
+  [[nodiscard]] bool AnyTopmost() const;
   void End(const Form& form, ModalResult result);
   void Forget(const Form& form);
 

@@ -1,6 +1,7 @@
 #include "toolkit/popup_menu.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "toolkit/application.h"
 #include "toolkit/form.h"
@@ -96,10 +97,23 @@ void PopupMenu::Popup(platform::Point screen, Form& owner) {
   const std::vector<platform::MenuEntry> entries = builder.Build(Items.Children());
   const int id = app_.Platform().menus.Popup(owner.Window(), screen, entries, painter_);
   scope.End();
+  if (const auto next = std::exchange(next_, nullptr)) {
+    app_.Guard(next);
+    return;
+  }
   // Scans go on while the menu is open and may have replaced the adapter items; the one that is
   // held here outlives its handler.
   const std::shared_ptr<MenuItem> item = builder.ItemOf(id);
   if (item != nullptr && item->OnClick) app_.Guard(item->OnClick);
+}
+
+void PopupMenu::CloseThen(const std::function<void()>& next) {
+  if (!open_) {
+    next();
+    return;
+  }
+  next_ = next;
+  app_.Platform().menus.Cancel();
 }
 
 }  // namespace toolkit

@@ -1,0 +1,29 @@
+// The picture beside the text of a dialog.
+#pragma once
+
+#include "toolkit/image_list.h"
+#include "toolkit/panel.h"
+
+namespace toolkit {
+
+inline constexpr int kSignSize = 32;  // design pixels, both ways
+
+class Sign : public Panel {
+ public:
+  enum class Picture { kQuestion, kLock };
+
+  // Give it bounds of kSignSize.
+  Sign(Control& parent, std::string_view name, Picture picture)
+      : Panel(parent, name), picture_(picture) {}
+  // The first image of a list that outlives the sign, twice as large as in a menu.
+  Sign(Control& parent, std::string_view name, const ImageList& images)
+      : Panel(parent, name), images_(&images) {}
+
+ private:
+  void OnPaint(platform::Canvas& canvas) override;
+
+  Picture picture_ = Picture::kQuestion;
+  const ImageList* images_ = nullptr;  // not owned; null for one of the pictures
+};
+
+}  // namespace toolkit
