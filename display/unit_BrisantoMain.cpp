@@ -1,8 +1,10 @@
 #include "display/unit_BrisantoMain.h"
 
 #include "alerts/keyboard_leds.h"
+#include "display/about.h"
 #include "display/display_settings.h"
 #include "display/grid_lines.h"
+#include "display/unit_AddTitlesForm.h"
 #include "engine/local_ip.h"
 #include "engine/product.h"
 #include "settings/administrator_lock.h"
@@ -78,7 +80,8 @@ T_frmBrisanto::T_frmBrisanto(toolkit::Application& app)
           {{toolkit::kCtrl | toolkit::kAlt | 'F', [this] { GlobalAtomKeyGlobalKeys0KeyDown(); }},
            {toolkit::kCtrl | toolkit::kAlt | 'D', [this] { GlobalAtomKeyGlobalKeys1KeyDown(); }},
            {toolkit::kCtrl | toolkit::kShift | 'Q',
-            [this] { GlobalAtomKeyGlobalKeys2KeyDown(); }}}) {
+            [this] { GlobalAtomKeyGlobalKeys2KeyDown(); }}}),
+      exit_(app, RegME, _ReadLangauge) {
   DesignControls();
   ConnectHandlers();
   LocaliseControls();
@@ -149,12 +152,10 @@ void T_frmBrisanto::ConnectHandlers() {
   _MainMenu.mnuTransparent->OnClick = [this] { mnuTransparentClick(); };
   _MainMenu.Settings1->OnClick = [this] { Settings1Click(); };
   _MainMenu.HelpContents1->OnClick = [this] { HelpContents1Click(); };
+  _MainMenu.AboutBrisantoXP1->OnClick = [this] { AboutBrisantoXP1Click(); };
   _MainMenu.Clear1->OnClick = [this] { Clear1Click(); };
   _MainMenu.Close1->OnClick = [this] { Close1Click(); };
-  // What they open is not there yet.
-  for (toolkit::MenuItem* item : {_MainMenu.Settings1, _MainMenu.AboutBrisantoXP1}) {
-    item->Enabled = false;
-  }
+  _MainMenu.Settings1->Enabled = false;  // until SetPreferences
 }
 
 void T_frmBrisanto::FormCreate() {
@@ -293,6 +294,14 @@ void T_frmBrisanto::HelpContents1Click() {
   App().Platform().shell.Open(RegME.ProgramFile("Help\\index.html"));
 }
 
+void T_frmBrisanto::AboutBrisantoXP1Click() { ShowAbout(App(), _ReadLangauge); }
+
+void T_frmBrisanto::EditTitles() {
+  if (App().Modals().Raise(kAddTitlesForm)) return;
+  T_frmAddTitles editor(App(), title_posting_, _ReadLangauge);
+  App().Modals().Show(editor);
+}
+
 void T_frmBrisanto::GlobalAtomKeyGlobalKeys0KeyDown() { mnuTransparentClick(); }
 
 void T_frmBrisanto::GlobalAtomKeyGlobalKeys1KeyDown() { mnuTransparent2kClick(); }
@@ -321,9 +330,11 @@ void T_frmBrisanto::Clear1Click() {
   _TrayIcon.Clear();
 }
 
-void T_frmBrisanto::Close1Click() { FormClose(); }
+void T_frmBrisanto::Close1Click() { Close(); }
 
-void T_frmBrisanto::FormClose() { App().Terminate(); }
+void T_frmBrisanto::FormClose() {
+  _MainMenu.popup.CloseThen([this] { exit_.Request(); });
+}
 
 void T_frmBrisanto::FormDestroy() { title_posting_.RestoreTitles(); }
 

@@ -12,6 +12,7 @@
 #include "alerts/system_manager.h"
 #include "alerts/ticker.h"
 #include "display/adapter_menus.h"
+#include "display/exit.h"
 #include "display/hot_keys.h"
 #include "display/kxintermeter.h"
 #include "display/main_menu.h"
@@ -60,6 +61,9 @@ class T_frmBrisanto final : public toolkit::Form,
   // Shows the numeric line as it is now, in the window and in the hint of the icon.
   void LineChanged();
 
+  // Shows the editor of the window titles and returns when it is closed.
+  void EditTitles();
+
   void Localise() override;
 
  private:
@@ -84,6 +88,7 @@ class T_frmBrisanto final : public toolkit::Form,
   void mnuTransparentClick();
   void Settings1Click();
   void HelpContents1Click();
+  void AboutBrisantoXP1Click();
   void GlobalAtomKeyGlobalKeys0KeyDown();
   void GlobalAtomKeyGlobalKeys1KeyDown();
   void GlobalAtomKeyGlobalKeys2KeyDown();
@@ -152,6 +157,7 @@ class T_frmBrisanto final : public toolkit::Form,
   StatisticsWindows statistics_windows_;
 
   HotKeyHolder GlobalAtomKey;
+  Exit exit_;
 
   std::function<void()> open_preferences_;  // last: the preferences go before what they change
 };

@@ -1,4 +1,4 @@
-// The product's name as the user sees it.
+// The product's name and version as the user sees them.
 #pragma once
 
 #include <string_view>
@@ -7,5 +7,8 @@ namespace engine {
 
 // Also the name of the mutex that keeps a second copy from running.
 inline constexpr std::string_view kProductTitle = "Korvane Tremolux";
+
+// As in CMakeLists.txt and in the resources of the executable; a test compares.
+inline constexpr std::string_view kVersion = "1.0.0";
 
 }  // namespace engine

@@ -195,17 +195,6 @@ TEST_F(Meter, ABytesCountedAtTheWakeUpAreNoTraffic) {
   });
 }
 
-TEST_F(Meter, ExitEndsTheProgramFromMenuAndFromTheSystem) {
-  Run([&] {
-    Choose("Exit");
-    EXPECT_TRUE(App().Terminated());
-  });
-  Run([&] {
-    machine.windowing.ClickCloseBox("T_frmBrisanto");
-    EXPECT_TRUE(App().Terminated());
-  });
-}
-
 TEST_F(Meter, AFailedStartIsLoggedAndMadeGoodByTheNextScan) {
   for (int call = 1;; ++call) {
     SCOPED_TRACE(call);

@@ -1,0 +1,28 @@
+#include "display/exit.h"
+
+#include "display/unit_AreYouSureForm.h"
+#include "settings/administrator_lock.h"
+#include "settings/unit_SecurityForm.h"
+#include "toolkit/application.h"
+
+namespace display {
+
+void Exit::Request() {
+  if (MayLeave()) app_.Terminate();
+}
+
+bool Exit::MayLeave() {
+  // Before the password: to be asked twice for one exit is once too often.
+  if (app_.Modals().Raise(kAreYouSureForm)) return false;
+  if (settings::LockEngaged(store_) && !settings::AskForPassword(app_, store_, language_)) {
+    return false;
+  }
+  return !store_.Read(settings::setting::AskOnExit) || AskWhetherSure();
+}
+
+bool Exit::AskWhetherSure() {
+  T_frmAreYouSure question(app_, store_, language_);
+  return app_.Modals().Show(question) == toolkit::ModalResult::kYes;
+}
+
+}  // namespace display

@@ -1,0 +1,10 @@
+// The program's icon as a picture; a test compares it with the icon file.
+#pragma once
+
+#include "toolkit/image_list.h"
+
+namespace display {
+
+extern const toolkit::ImageList kProgramImage;  // one image
+
+}  // namespace display

@@ -1,0 +1,72 @@
+#include "display/unit_AreYouSureForm.h"
+
+#include "settings/texts.h"
+#include "toolkit/layout.h"
+
+namespace display {
+namespace {
+
+namespace setting = settings::setting;
+namespace text = settings::text::AreYouSure;
+
+constexpr platform::Size kClientSize{277, 102};  // design pixels
+
+platform::TopWindowParams CreateParams() {
+  platform::TopWindowParams params;
+  params.name = kAreYouSureForm;
+  params.frame = platform::Frame::kDialog;
+  return params;
+}
+
+}  // namespace
+
+T_frmAreYouSure::T_frmAreYouSure(toolkit::Application& app, settings::Store& store,
+                                 const settings::Language& language)
+    : Form(app, CreateParams()),
+      store_(store),
+      language_(language),
+      Image1(*this, "Image1", toolkit::Sign::Picture::kQuestion),
+      lblQuestion1(*this, "lblQuestion1", toolkit::kWrappedText),
+      lblQuestion2(*this, "lblQuestion2", toolkit::kWrappedText),
+      AskCheck(*this, "AskCheck"),
+      btnYes(*this, "btnYes"),
+      btnNo(*this, "btnNo") {
+  SetClientSize(kClientSize);
+  toolkit::ApplyLayout({
+      {Image1, {12, 10, toolkit::kSignSize, toolkit::kSignSize}},
+      {lblQuestion1, {60, 10, 205, 14}},
+      {lblQuestion2, {60, 25, 205, 14}},
+      {AskCheck, {60, 46, 211, 17}},
+      {btnYes, {110, 70, 75, 25}},
+      {btnNo, {190, 70, 75, 25}},
+  });
+  btnYes.SetDefault(true);
+  btnYes.ModalResult = toolkit::ModalResult::kYes;
+  btnNo.ModalResult = toolkit::ModalResult::kNo;
+  FormCreate();
+}
+
+void T_frmAreYouSure::FormCreate() {
+  Localise();
+  CentreOnScreen();
+  AskCheck.SetChecked(store_.Read(setting::AskOnExit));
+  AskCheck.OnClick = [this] { AskCheckClick(); };
+}
+
+void T_frmAreYouSure::Localise() {
+  const settings::Translation say = language_.Chosen();
+  SetCaption(say(text::Title));
+  lblQuestion1.SetCaption(say(text::lblQuestion1));
+  lblQuestion2.SetCaption(say(text::lblQuestion2));
+  AskCheck.SetCaption(say(text::AskCheck));
+  btnYes.SetCaption(say(text::btnYes));
+  btnNo.SetCaption(say(text::btnNo));
+}
+
+// The box comes first in reading order; the answer is what the user is here for.
+void T_frmAreYouSure::FormShow() { btnYes.SetFocus(); }
+
+// At once, whatever the answer: the box is a setting of its own.
+void T_frmAreYouSure::AskCheckClick() { store_.Write(setting::AskOnExit, AskCheck.Checked()); }
+
+}  // namespace display

@@ -1,0 +1,43 @@
+// The question before the program ends.
+#pragma once
+
+#include <string_view>
+
+#include "settings/language.h"
+#include "settings/store.h"
+#include "toolkit/button.h"
+#include "toolkit/check_box.h"
+#include "toolkit/form.h"
+#include "toolkit/label.h"
+#include "toolkit/sign.h"
+
+namespace display {
+
+inline constexpr std::string_view kAreYouSureForm = "T_frmAreYouSure";
+
+// Ends with kYes or kNo; closed in another way, with kCancel.
+class T_frmAreYouSure final : public toolkit::Form {
+ public:
+  // Made hidden; shown by the modal stack. All outlive it.
+  T_frmAreYouSure(toolkit::Application& app, settings::Store& store,
+                  const settings::Language& language);
+
+  void Localise() override;
+
+ private:
+  void FormCreate();
+  void FormShow() override;
+  void AskCheckClick();
+
+  settings::Store& store_;
+  const settings::Language& language_;
+
+  toolkit::Sign Image1;
+  toolkit::Label lblQuestion1;
+  toolkit::Label lblQuestion2;
+  toolkit::CheckBox AskCheck;
+  toolkit::Button btnYes;
+  toolkit::Button btnNo;
+};
+
+}  // namespace display

@@ -1,0 +1,44 @@
+// The window that says what program this is.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+#include "toolkit/button.h"
+#include "toolkit/form.h"
+#include "toolkit/label.h"
+#include "toolkit/sign.h"
+
+namespace toolkit {
+
+struct AboutTexts {
+  std::string title;
+  std::string product;
+  std::string version;
+  std::string description;
+  std::string ok;
+};
+
+class AboutBox final : public Form {
+ public:
+  static constexpr std::string_view kName = "T_frmAbout";
+
+  // Made hidden; shown by the modal stack.
+  //   images  the first is the program's picture; outlives the box
+  //   texts   asked when the box is made, and again when the language changes
+  AboutBox(Application& app, const ImageList& images, std::function<AboutTexts()> texts);
+
+  void Localise() override;
+
+ private:
+  std::function<AboutTexts()> texts_;
+
+  Sign Image1;
+  Label lblProduct;
+  Label lblVersion;
+  Label lblDescription;
+  Button OkBtn;
+};
+
+}  // namespace toolkit
