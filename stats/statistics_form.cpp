@@ -1,6 +1,7 @@
 #include "stats/statistics_form.h"
 
 #include <string>
+#include <utility>
 
 #include "engine/local_ip.h"
 #include "settings/texts.h"
@@ -58,10 +59,12 @@ StatisticsForm::StatisticsForm(const StatisticsContext& context, const Kind& kin
       since_time_(context.traffic.RunStartTime) {
   IpAddress.SetCaption(kind.address);
   Button2.SetDefault(true);
-  // On release, as the right button does the same and more. The click is that of the keyboard; of
-  // the mouse it comes with the release and copies the same once more.
+  // On release, as the right button does the same and more; the click serves the keyboard.
   Button1.OnMouseReleased = [this](const auto& event) { Button1MouseUp(event); };
-  Button1.OnClick = [this] { CopyAddress(); };
+  Button1.OnClick = [this] {
+    CopyAddress();
+    copied_by_click_ = true;
+  };
   Button2.OnClick = [this] { Button2Click(); };
   Button3.OnClick = [this] { Button3Click(); };
 }
@@ -75,7 +78,7 @@ void StatisticsForm::Arrange() {
   const platform::Size client = ClientPixels();
   const int width = Unscale(client.width);
   const int height = Unscale(client.height);
-  toolkit::ApplyLayout({{PageControl1, {1, 1, width - 2, height - kFootHeight - 1}},
+  toolkit::ApplyLayout({{PageControl1, {0, 1, width, height - kFootHeight - 1}},
                         {Button2, {width - 81, height - 26, 75, 23}}});
 
   const platform::Size room = RoomOf(InfoTab);
@@ -152,7 +155,8 @@ void StatisticsForm::ShowFigures(const Figures& info) {
 void StatisticsForm::Button1MouseUp(const platform::MouseEvent& event) {
   const bool closes = event.button == platform::MouseButton::kRight;
   if (!closes && event.button != platform::MouseButton::kLeft) return;
-  CopyAddress();
+  // A click of the mouse is heard just before its release.
+  if (closes || !std::exchange(copied_by_click_, false)) CopyAddress();
   if (closes) Close();
 }
 

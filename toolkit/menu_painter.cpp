@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "platform/text.h"
 #include "toolkit/application.h"
 #include "toolkit/design_pixels.h"
 
@@ -15,6 +16,7 @@ constexpr int kSeparatorHeight = 5;
 constexpr int kTextIndent = 6;
 constexpr int kShortCutGap = 24;
 constexpr int kArrowWidth = 18;
+constexpr int kLargestText = 480;  // a longer one is cut: a menu has to fit on the screen
 const platform::FontSpec kFont{"Tahoma", 11, false};
 
 platform::FontSpec FontAt(int dpi) { return {kFont.face, ScaleTo(dpi, kFont.height), kFont.bold}; }
@@ -38,6 +40,22 @@ std::size_t MnemonicAt(std::string_view text) {
     ++i;
   }
   return std::string_view::npos;
+}
+
+// The text, or as much of it as fits with an ellipsis behind it.
+std::string Fitted(const std::string& text, int width, platform::Canvas& canvas,
+                   const platform::FontSpec& font) {
+  if (canvas.TextSize(text, font).width <= width) return text;
+  std::size_t fits = 0;
+  std::size_t too_many = text.size();
+  const auto cut = [&](std::size_t characters) {
+    return platform::CutCharacters(text, characters) + "\xE2\x80\xA6";
+  };
+  while (fits + 1 < too_many) {
+    const std::size_t middle = (fits + too_many) / 2;
+    (canvas.TextSize(cut(middle), font).width <= width ? fits : too_many) = middle;
+  }
+  return cut(fits);
 }
 
 // A check mark: two strokes, each two pixels thick at 96 dpi.
@@ -69,8 +87,9 @@ platform::Size MenuPainter::Measure(const platform::MenuEntry& entry, platform::
                                     int dpi) {
   if (entry.separator) return {ScaleTo(dpi, kIconWidth), ScaleTo(dpi, kSeparatorHeight)};
   const platform::FontSpec font = FontAt(dpi);
-  int width = ScaleTo(dpi, kIconWidth + 2 * kTextIndent + kArrowWidth) +
-              canvas.TextSize(ShownText(entry.text), font).width;
+  int width =
+      ScaleTo(dpi, kIconWidth + 2 * kTextIndent + kArrowWidth) +
+      std::min(canvas.TextSize(ShownText(entry.text), font).width, ScaleTo(dpi, kLargestText));
   if (!entry.shortcut.empty()) {
     width += ScaleTo(dpi, kShortCutGap) + canvas.TextSize(entry.shortcut, font).width;
   }
@@ -96,7 +115,7 @@ void MenuPainter::Paint(const platform::MenuEntry& entry, const platform::MenuEn
   const platform::Colour colour = TextColour(entry, state);
   const int text_right = area.Right() - ScaleTo(dpi, kArrowWidth);
   const platform::Rect box{text_left, area.top, text_right - text_left, area.height};
-  const std::string shown = ShownText(entry.text);
+  const std::string shown = Fitted(ShownText(entry.text), box.width, canvas, font);
   canvas.Text(box, shown, font, colour, platform::TextAlign::kLeft);
   canvas.Text(box, entry.shortcut, font, colour, platform::TextAlign::kRight);
   const std::size_t mnemonic = MnemonicAt(entry.text);

@@ -91,6 +91,22 @@ TEST_F(Menu, AHandlerMayRemoveItsOwnItem) {
   EXPECT_EQ(clicked, "a name that lives on the heap");
 }
 
+TEST_F(Menu, ALongCaptionIsCutWithAnEllipsis) {
+  menu.Items.Add(std::string(255, 'W')).Literal = true;
+  machine.menus.user = [&](const std::vector<platform::MenuEntry>& entries,
+                           platform::MenuPainter& painter) {
+    platform::memory::Raster raster({600, 22}, machine.screen);
+    const platform::Size size = painter.Measure(entries[0], raster, 96);
+    EXPECT_LT(size.width, 600);
+    painter.Paint(entries[0], {}, raster, {0, 0, size.width, size.height});
+    const auto& drawn = raster.Texts().at(0);
+    EXPECT_TRUE(drawn.text.ends_with("WW\xE2\x80\xA6")) << drawn.text;
+    EXPECT_LE(raster.TextSize(drawn.text, drawn.font).width, drawn.box.width);
+    return 0;
+  };
+  menu.Popup({}, form);
+}
+
 TEST_F(Menu, TheHintOfAnItemShowsWhileItIsHighlighted) {
   app.Hints().Pause = 0;
   app.Hints().HidePause = 1000;

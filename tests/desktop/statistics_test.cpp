@@ -1,0 +1,233 @@
+// The statistics windows, opened from the menu and used as a user does.
+#include <algorithm>
+
+#include "platform/windows/wide.h"
+#include "tests/desktop/program_test.h"
+
+namespace desktop {
+namespace {
+
+using platform::windows::FromWide;
+using platform::windows::ToWide;
+
+constexpr wchar_t kMachine[] = L"T_frmConnInfo";
+constexpr wchar_t kAdapter[] = L"T_frmSpecificConnInfo";
+
+std::string ClipboardText() {
+  std::string text;
+  Await("the clipboard", [] { return ::OpenClipboard(nullptr) != FALSE; });
+  if (const HANDLE data = ::GetClipboardData(CF_UNICODETEXT)) {
+    text = FromWide(static_cast<const wchar_t*>(::GlobalLock(data)));
+    ::GlobalUnlock(data);
+  }
+  ::EmptyClipboard();
+  ::CloseClipboard();
+  return text;
+}
+
+class Statistics : public ProgramTest {
+ protected:
+  void SetUp() override {
+    ProgramTest::SetUp();
+    ClipboardText();  // empties it
+  }
+
+  static HWND AwaitForm(Meter& meter, const wchar_t* form) {
+    HWND window = nullptr;
+    Await("the window", [&] {
+      window = FindTop(meter.program().id(), form);
+      return window != nullptr && ::IsWindowVisible(window) != FALSE &&
+             ::GetForegroundWindow() == window;
+    });
+    return window;
+  }
+  static HWND OpenMachine(Meter& meter) {
+    meter.Choose({"DL-UL Statistics"});
+    return AwaitForm(meter, kMachine);
+  }
+  static std::string Shown(HWND window, const wchar_t* control) {
+    return TextOf(FindControl(window, control));
+  }
+  static void AwaitText(HWND window, const wchar_t* control, const std::string& text) {
+    Await("the text " + text, [&] { return Shown(window, control) == text; });
+  }
+};
+
+TEST_F(Statistics, TheMachinesWindowShowsWhatIsStoredAndResets) {
+  CountOnly("none");
+  StoreText(kSettingsKey, "CurrentMonthTotalDL", "3072");
+  StoreText(kSettingsKey, "CurrentMonthTotalUL", "1024");
+  SYSTEMTIME now{};
+  ::GetLocalTime(&now);
+  Store("CurrentMonth", now.wMonth);
+  Meter& meter = Start();
+  const HWND window = OpenMachine(meter);
+  EXPECT_EQ(TextOf(window), "DL-UL Statistics");
+  EXPECT_EQ(WidthOf(AreaOf(window)), meter.Scaled(265));
+  EXPECT_EQ(HeightOf(AreaOf(window)), meter.Scaled(258));
+  EXPECT_NE(::IsWindowEnabled(meter.window()), FALSE);
+  EXPECT_EQ(Shown(window, L"lblMonthlyDL"), "3");
+  EXPECT_EQ(Shown(window, L"lblMonthlyDLUL"), "4");
+  EXPECT_EQ(Shown(window, L"lblMonthlyDLULUnit"), "kB");
+  StoreText(kSettingsKey, "CurrentMonthTotalUL", "5120");
+  AwaitText(window, L"lblMonthlyDLUL", "8");
+
+  const std::string since = Shown(window, L"InfoGroupBox");
+  EXPECT_EQ(since.substr(0, 23), "Data transferred since ");
+  Await("another second", [&] {
+    Click(MiddleOf(AreaOf(FindControl(window, L"Button3"))));
+    return Shown(window, L"InfoGroupBox") != since;
+  });
+  EXPECT_EQ(Shown(window, L"lblMonthlyDLUL"), "8");
+
+  const HWND box = FindControl(window, L"ISBAShown");
+  Store("BAShow", 1U);
+  Await("the tick", [&] { return ::SendMessageW(box, BM_GETCHECK, 0, 0) == BST_CHECKED; });
+  ::SendMessageW(box, BM_CLICK, 0, 0);
+  EXPECT_EQ(Setting("BAShow"), 0U);
+}
+
+TEST_F(Statistics, TheMachinesWindowCopiesTheAddressAndClosesByEachWay) {
+  Meter& meter = Start();
+  const auto middle = [](HWND window, const wchar_t* control) {
+    return MiddleOf(AreaOf(FindControl(window, control)));
+  };
+  struct Way {
+    const char* name;
+    std::function<void(HWND)> take;
+    bool copies = false;
+  };
+  const Way ways[] = {
+      {"Ok", [&](HWND w) { Click(middle(w, L"Button2")); }},
+      {"Enter", [](HWND) { PressKey(VK_RETURN); }},
+      {"Esc", [](HWND) { PressKey(VK_ESCAPE); }},
+      {"the close box", [](HWND w) { ::PostMessageW(w, WM_SYSCOMMAND, SC_CLOSE, 0); }},
+      {"the right button on Copy", [&](HWND w) { RightClick(middle(w, L"Button1")); }, true},
+  };
+  std::string address;
+  for (const Way& way : ways) {
+    SCOPED_TRACE(way.name);
+    const HWND window = OpenMachine(meter);
+    address = Shown(window, L"IpAddress");
+    way.take(window);
+    Await("the window to go", [&] { return ::IsWindow(window) == FALSE; });
+    EXPECT_EQ(ClipboardText(), way.copies ? address : "");
+  }
+  const HWND window = OpenMachine(meter);
+  Click(middle(window, L"Button1"));
+  Await("the copy", [&] { return ClipboardText() == address; });
+  EXPECT_NE(::IsWindow(window), FALSE);
+}
+
+TEST_F(Statistics, AnAdaptersWindowIsModalAndShowsWhatIsStoredOfIt) {
+  Meter& meter = Start();
+  std::string adapter;
+  {
+    OpenMenu menu = meter.Menu();
+    adapter = menu.Items({"Connection Statistics"}).at(0).text;
+    menu.Choose({"Connection Statistics", adapter});
+  }
+  const HWND window = AwaitForm(meter, kAdapter);
+  EXPECT_EQ(TextOf(window), adapter);
+  EXPECT_EQ(::IsWindowEnabled(meter.window()), FALSE);
+  RECT client{};
+  ::GetClientRect(window, &client);
+  EXPECT_EQ(client.right, meter.Scaled(261));
+  EXPECT_EQ(client.bottom, meter.Scaled(264));
+  std::string name = adapter;
+  std::transform(name.begin(), name.end(), name.begin(),
+                 [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; });
+  EXPECT_EQ(Shown(window, L"IpAddress"),
+            Stored(kAdaptersKey, name + "MacAddress")->AsText().value_or("(none)"));
+  PressKey(VK_ESCAPE);
+  Await("the window to go", [&] { return ::IsWindow(window) == FALSE; });
+  EXPECT_NE(::IsWindowEnabled(meter.window()), FALSE);
+}
+
+// The texts of buttons, boxes and labels that are wider than their control.
+class ClippedTexts {
+ public:
+  // Fonts belong to their process, so this is another one of the same kind.
+  ClippedTexts(HWND window, LONG font_height)
+      : font_(::CreateFontW(-static_cast<int>(font_height), 0, 0, 0, FW_NORMAL, 0, 0, 0,
+                            DEFAULT_CHARSET, 0, 0, DEFAULT_QUALITY, 0, L"Tahoma")),
+        dc_(::CreateCompatibleDC(nullptr)),
+        before_(::SelectObject(dc_, font_)) {
+    ::EnumChildWindows(window, Look, reinterpret_cast<LPARAM>(this));
+  }
+  ~ClippedTexts() {
+    ::SelectObject(dc_, before_);
+    ::DeleteDC(dc_);
+    ::DeleteObject(font_);
+  }
+  ClippedTexts(const ClippedTexts&) = delete;
+  ClippedTexts& operator=(const ClippedTexts&) = delete;
+
+  [[nodiscard]] const std::string& Found() const { return found_; }
+
+ private:
+  static BOOL CALLBACK Look(HWND control, LPARAM self) {
+    reinterpret_cast<ClippedTexts*>(self)->Check(control);
+    return TRUE;
+  }
+
+  void Check(HWND control) {
+    const LONG taken = TakenByTheControl(control);
+    const std::string text = TextOf(control);
+    if (taken < 0 || text.empty()) return;
+    RECT needed{};
+    ::DrawTextW(dc_, ToWide(text).c_str(), -1, &needed, DT_CALCRECT | DT_SINGLELINE);
+    RECT client{};
+    ::GetClientRect(control, &client);
+    const LONG too_wide = needed.right + taken - client.right;
+    if (too_wide > 0) found_ += text + " by " + std::to_string(too_wide) + "; ";
+  }
+
+  // What its frame, box or indent takes of its width; negative for one without a text of its own.
+  static LONG TakenByTheControl(HWND control) {
+    wchar_t kind[32] = {};
+    ::GetClassNameW(control, kind, 32);
+    if (::lstrcmpiW(kind, L"Static") == 0) return 0;
+    if (::lstrcmpiW(kind, L"Button") != 0) return -1;
+    switch (::GetWindowLongW(control, GWL_STYLE) & BS_TYPEMASK) {
+      case BS_GROUPBOX:
+        return 16;
+      case BS_AUTOCHECKBOX:
+        return 18;
+      default:
+        return 6;
+    }
+  }
+
+  HFONT font_;
+  HDC dc_;
+  HGDIOBJ before_;
+  std::string found_;
+};
+
+TEST_F(Statistics, NoTextIsCutInAnyLanguage) {
+  Store("MoreThan", 1000U);
+  StoreText(kSettingsKey, "CurrentDayTotalDL", "999999999");
+  Store("baDownload", 1U);
+  Meter& meter = Start();
+  const HWND window = OpenMachine(meter);
+  std::vector<std::string> languages;
+  {
+    OpenMenu menu = meter.Menu();
+    for (const MenuItem& item : menu.Items({"Language"})) languages.push_back(item.text);
+    menu.Leave();
+  }
+  EXPECT_GE(languages.size(), 6U);
+  for (const std::string& language : languages) {
+    SCOPED_TRACE(language);
+    OpenMenu menu = meter.Menu();
+    const std::vector<MenuItem> items = menu.Items();
+    menu.Choose({items.at(6).text, language});
+    Await("the language", [&] { return SettingText("Language") == language; });
+    AwaitScans();
+    EXPECT_EQ(ClippedTexts(window, meter.Scaled(11)).Found(), "");
+  }
+}
+
+}  // namespace
+}  // namespace desktop
