@@ -57,7 +57,9 @@ LRESULT TextWidget::WithoutControl(const Message& message) {
 
 void TextWidget::PaintContent(GdiCanvas& canvas) {
   const Size size = canvas.Extent();
-  canvas.FormattedText({0, 0, size.width, size.height}, Text(), font(),
+  // So that letters do not touch the frame; grows with the screen's dpi as the font does.
+  const int room = style_.border == Border::kSunken ? font().height / 4 : 0;
+  canvas.FormattedText({room, 0, size.width - 2 * room, size.height}, Text(), font(),
                        Enabled() ? text_colour() : colour::kGrayText, FormatOf(style_, hwnd()));
 }
 
