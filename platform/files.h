@@ -23,7 +23,8 @@ class Files {
   // The bytes of a file; nothing when it cannot be read or is larger than `limit` bytes.
   [[nodiscard]] virtual std::optional<std::string> Load(std::string_view path,
                                                         std::size_t limit) = 0;
-  // Replaces the file, made when missing. False when refused; the old file may then be cut short.
+  // Replaces the file, made when missing. False when refused, on a full disk too; the old file then
+  // stays as it was.
   virtual bool Save(std::string_view path, std::string_view bytes) = 0;
   // Names, without folder, of the files of a folder that match `mask` ("*.lng", see MatchesMask),
   // sorted by their bytes. Nothing when the folder cannot be read.

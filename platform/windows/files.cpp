@@ -34,6 +34,41 @@ std::optional<std::string> ReadAll(HANDLE file, std::size_t size) {
   return bytes;
 }
 
+bool WriteAll(HANDLE file, std::string_view bytes) {
+  while (!bytes.empty()) {
+    const auto piece = static_cast<DWORD>(std::min<std::size_t>(bytes.size(), kLargestPiece));
+    DWORD written = 0;
+    if (::WriteFile(file, bytes.data(), piece, &written, nullptr) == FALSE || written == 0) {
+      return false;
+    }
+    bytes.remove_prefix(written);
+  }
+  return ::FlushFileBuffers(file) != FALSE;
+}
+
+// A file with these bytes; none is left behind when that fails.
+bool WriteNew(const std::wstring& path, std::string_view bytes) {
+  FileHandle file(::CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS,
+                                FILE_ATTRIBUTE_NORMAL, nullptr));
+  if (!file) return false;
+  if (WriteAll(file.get(), bytes)) return true;
+  file = FileHandle();
+  ::DeleteFileW(path.c_str());
+  return false;
+}
+
+// The path with its last name spelled as the file has it that is there, if one is.
+std::wstring AsSpelled(const std::wstring& path) {
+  WIN32_FIND_DATAW entry{};
+  const FindHandle find(::FindFirstFileW(path.c_str(), &entry));
+  return find ? path.substr(0, path.find_last_of(L"\\/:") + 1) + entry.cFileName : path;
+}
+
+bool IsFolder(const std::wstring& path) {
+  const DWORD attributes = ::GetFileAttributesW(path.c_str());
+  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+}
+
 }  // namespace
 
 std::string Files::ProgramPath() {
@@ -73,19 +108,15 @@ std::optional<std::string> Files::Load(std::string_view path, std::size_t limit)
   return ReadAll(file.get(), static_cast<std::size_t>(size.QuadPart));
 }
 
+// Written beside the file first: on a full disk what was there stays.
 bool Files::Save(std::string_view path, std::string_view bytes) {
-  const FileHandle file(::CreateFileW(ToWide(path).c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr,
-                                      CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
-  if (!file) return false;
-  while (!bytes.empty()) {
-    const auto piece = static_cast<DWORD>(std::min<std::size_t>(bytes.size(), kLargestPiece));
-    DWORD written = 0;
-    if (::WriteFile(file.get(), bytes.data(), piece, &written, nullptr) == FALSE || written == 0) {
-      return false;
-    }
-    bytes.remove_prefix(written);
-  }
-  return true;
+  const std::wstring target = ToWide(path);
+  const std::wstring draft = target + L".new";
+  if (target.empty() || IsFolder(target) || !WriteNew(draft, bytes)) return false;
+  const std::wstring name = AsSpelled(target);
+  if (::MoveFileExW(draft.c_str(), name.c_str(), MOVEFILE_REPLACE_EXISTING) != FALSE) return true;
+  ::DeleteFileW(draft.c_str());
+  return false;
 }
 
 std::vector<std::string> Files::List(std::string_view folder, std::string_view mask) {

@@ -69,7 +69,10 @@ TEST_F(Files, ARefusedSaveIsReported) {
   ASSERT_TRUE(files().Save(path, "before"));
   world_->KeepFromWriting(path, [&] { EXPECT_FALSE(files().Save(path, "after")); });
   EXPECT_EQ(files().Load(path, 100), "before");
+  EXPECT_EQ(files().List(folder_, "*"), std::vector<std::string>{"a.txt"}) << "something is left";
   EXPECT_TRUE(files().Save(path, "after"));
+  EXPECT_EQ(files().Load(path, 100), "after");
+  EXPECT_EQ(files().List(folder_, "*"), std::vector<std::string>{"a.txt"}) << "something is left";
 }
 
 TEST_F(Files, AMaskChoosesAmongTheFilesOfAFolder) {
