@@ -12,6 +12,8 @@ bool OwnThreadIsForeground() {
          ::GetWindowThreadProcessId(foreground, nullptr) == ::GetCurrentThreadId();
 }
 
+constexpr UINT kMenuIsOver = WM_APP + 1;  // w: the window to give the foreground back to, or null
+
 // While this lives, the thread has the foreground: a menu of a thread without it does not close
 // when the user clicks elsewhere.
 class Foreground {
@@ -21,22 +23,21 @@ class Foreground {
     before_ = ::GetForegroundWindow();
     ::SetForegroundWindow(hwnd);
   }
-  ~Foreground() {
-    // Without a further message the next menu from the notification area closes at once.
-    ::PostMessageW(hwnd_, WM_NULL, 0, 0);
-  }
+  // A message comes when what was chosen is done, or waits in a window of its own. It is needed in
+  // any case: without a further one the next menu from the notification area closes at once.
+  ~Foreground() { ::PostMessageW(hwnd_, kMenuIsOver, reinterpret_cast<WPARAM>(before_), 0); }
   Foreground(const Foreground&) = delete;
   Foreground& operator=(const Foreground&) = delete;
-
-  // To whoever had it, unless the user has gone on elsewhere already.
-  void GiveBack() const {
-    if (before_ != nullptr && ::GetForegroundWindow() == hwnd_) ::SetForegroundWindow(before_);
-  }
 
  private:
   HWND hwnd_;
   HWND before_ = nullptr;
 };
+
+// To whoever had it, unless a window of the program has taken it or the user has gone on elsewhere.
+void GiveForegroundBack(HWND hwnd, HWND before) {
+  if (before != nullptr && ::GetForegroundWindow() == hwnd) ::SetForegroundWindow(before);
+}
 
 UINT PopupFlags() {
   const UINT side = ::GetSystemMetrics(SM_MENUDROPALIGNMENT) != 0 ? TPM_RIGHTALIGN : TPM_LEFTALIGN;
@@ -87,7 +88,6 @@ int MenuWindow::Popup(Point at, const std::vector<MenuEntry>& entries, MenuPaint
   const Foreground foreground(hwnd());
   const int chosen = ::TrackPopupMenuEx(menu.root(), PopupFlags(), at.x, at.y, hwnd(), nullptr);
   Highlight(nullptr, {});
-  if (chosen == 0) foreground.GiveBack();
   return chosen;
 }
 
@@ -96,6 +96,10 @@ void MenuWindow::Cancel() {
 }
 
 std::optional<LRESULT> MenuWindow::Handle(const Message& message) {
+  if (message.id == kMenuIsOver) {
+    GiveForegroundBack(hwnd(), reinterpret_cast<HWND>(message.w));
+    return 0;
+  }
   if (session_ == nullptr) return std::nullopt;
   switch (message.id) {
     case WM_MEASUREITEM:
