@@ -93,6 +93,13 @@ if(WIN32)
   hook_module(menu_spy tests/desktop/spy)
   test_program(desktop_tests tests/desktop desktop_driver)
   include(cmake/desktop_tests.cmake)
+
+  # Not a test: takes the pictures of the documentation.
+  floor(screenshot_scenes tests/desktop/screenshots desktop_driver settings)
+  add_executable(screenshots $<TARGET_OBJECTS:screenshot_scenes>)
+  target_link_libraries(screenshots PRIVATE desktop_driver settings)
+  target_link_options(screenshots PRIVATE -municode)
+  add_dependencies(screenshots menu_spy)
 else()
   test_program(platform_tests tests/platform memory)
   test_program(contract_tests tests/contract memory)

@@ -122,22 +122,22 @@ HWND OpenMenu::Follow(Step begin, Step end) {
   return window;
 }
 
-std::vector<MenuItem> OpenMenu::Items(std::initializer_list<std::string_view> path) {
+std::vector<MenuItem> OpenMenu::Items(const MenuPath& path) {
   return Read(Follow(path.begin(), path.end()));
 }
 
-std::vector<std::string> OpenMenu::Descriptions(std::initializer_list<std::string_view> path) {
+std::vector<std::string> OpenMenu::Descriptions(const MenuPath& path) {
   std::vector<std::string> descriptions;
   for (const MenuItem& item : Items(path)) descriptions.push_back(item.Description());
   return descriptions;
 }
 
-MenuItem OpenMenu::Find(std::initializer_list<std::string_view> path) {
+MenuItem OpenMenu::Find(const MenuPath& path) {
   const auto last = path.end() - 1;
   return Named(Read(Follow(path.begin(), last)), *last);
 }
 
-void OpenMenu::Choose(std::initializer_list<std::string_view> path) {
+void OpenMenu::Choose(const MenuPath& path) {
   const MenuItem item = Find(path);
   if (!item.enabled) throw std::runtime_error("\"" + item.text + "\" is disabled");
   Click(MiddleOf(item.area));

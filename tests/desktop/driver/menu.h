@@ -1,7 +1,6 @@
 // The program's menu, used as a user does.
 #pragma once
 
-#include <initializer_list>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -24,6 +23,9 @@ struct MenuItem {
   [[nodiscard]] std::string Description() const;
 };
 
+// Texts of items, from the outermost menu inwards.
+using MenuPath = std::vector<std::string>;
+
 // A menu that is open. What a method waits for in vain, it throws as std::runtime_error.
 class OpenMenu {
  public:
@@ -34,13 +36,12 @@ class OpenMenu {
   OpenMenu& operator=(const OpenMenu&) = delete;
 
   // What stands in it, or in the submenu that `path` leads to, which is opened with the mouse.
-  [[nodiscard]] std::vector<MenuItem> Items(std::initializer_list<std::string_view> path = {});
-  [[nodiscard]] std::vector<std::string> Descriptions(
-      std::initializer_list<std::string_view> path = {});
+  [[nodiscard]] std::vector<MenuItem> Items(const MenuPath& path = {});
+  [[nodiscard]] std::vector<std::string> Descriptions(const MenuPath& path = {});
   // The item at the end of `path`; its submenus are opened with the mouse.
-  [[nodiscard]] MenuItem Find(std::initializer_list<std::string_view> path);
+  [[nodiscard]] MenuItem Find(const MenuPath& path);
   // Clicks the item at the end of `path` and waits until the menu is gone.
-  void Choose(std::initializer_list<std::string_view> path);
+  void Choose(const MenuPath& path);
   // Leaves it with Esc.
   void Leave();
 

@@ -34,7 +34,7 @@ class Meter {
   // The menu, opened by a right click on the meter.
   [[nodiscard]] OpenMenu Menu();
   // Chooses from it.
-  void Choose(std::initializer_list<std::string_view> path) { Menu().Choose(path); }
+  void Choose(const MenuPath& path) { Menu().Choose(path); }
 
   // The window that hears of clicks on the icon in the notification area, and the icon's place on
   // the screen.

@@ -67,6 +67,17 @@ Picture Picture::Enlarged(int factor) const {
   return large;
 }
 
+Picture Beside(const std::vector<Picture>& pictures) {
+  Picture wide{0, pictures.at(0).height, {}};
+  for (const Picture& picture : pictures) wide.width += picture.width;
+  for (int y = 0; y < wide.height; ++y) {
+    for (const Picture& picture : pictures) {
+      for (int x = 0; x < picture.width; ++x) wide.pixels.push_back(picture.At(x, y));
+    }
+  }
+  return wide;
+}
+
 Picture TakePicture(const RECT& area) {
   Picture picture{static_cast<int>(WidthOf(area)), static_cast<int>(HeightOf(area)), {}};
   const ScreenDc screen;

@@ -22,6 +22,9 @@ struct Picture {
   [[nodiscard]] Picture Enlarged(int factor) const;
 };
 
+// Pictures of the same height, side by side.
+[[nodiscard]] Picture Beside(const std::vector<Picture>& pictures);
+
 // What is seen in an area of the screen. Throws std::runtime_error when the system refuses.
 [[nodiscard]] Picture TakePicture(const RECT& area);
 [[nodiscard]] Picture TakePictureOfScreen();

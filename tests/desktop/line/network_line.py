@@ -1,0 +1,158 @@
+#!/usr/bin/env python3
+"""Runs a command with a network line of its own, on which every byte is one that a test asked for.
+
+    network_line.py [--optional] command...
+
+The command runs in a network of its own, in which nothing else moves. Tests plug adapters in and
+out and let them receive and send by the lines that they write to a port on the loopback, whose
+number is in the environment variable TREMOLUX_TEST_LINE:
+
+    add NAME          an adapter appears
+    remove NAME       and goes
+    receive NAME N    so many bytes come in, in one packet or more
+    send NAME N       so many bytes go out
+
+Each is answered with "ok" when it has happened, or with what went wrong. It takes Linux, and the
+rights to make a network: without them the result is 77, or with --optional the command runs without
+such a line.
+"""
+import ctypes
+import fcntl
+import os
+import socket
+import socketserver
+import struct
+import subprocess
+import sys
+import threading
+
+NO_RIGHTS = 77
+
+CLONE_NEWUSER = 0x10000000
+CLONE_NEWNET = 0x40000000
+TUNSETIFF = 0x400454CA
+IFF_TUN_NO_PI = 0x0001 | 0x1000
+SIOCSIFADDR, SIOCSIFNETMASK, SIOCGIFFLAGS, SIOCSIFFLAGS = 0x8916, 0x891C, 0x8913, 0x8914
+IFF_UP = 0x1
+
+LARGEST_PACKET = 1500
+IP_HEAD, UDP_HEAD = 20, 8
+
+
+def unshare(flags):
+    libc = ctypes.CDLL(None, use_errno=True)
+    if libc.unshare(flags) != 0:
+        raise OSError(ctypes.get_errno(), "unshare")
+
+
+def enter_own_network():
+    """Others keep theirs. Without the rights of root, this process gets those of its own world."""
+    uid, gid = os.getuid(), os.getgid()
+    try:
+        unshare(CLONE_NEWNET)
+    except OSError:
+        unshare(CLONE_NEWUSER | CLONE_NEWNET)
+        for file, text in (("setgroups", "deny"), ("uid_map", f"{uid} {uid} 1"),
+                           ("gid_map", f"{gid} {gid} 1")):
+            with open(f"/proc/self/{file}", "w", encoding="ascii") as target:
+                target.write(text)
+    configure(b"lo", None)
+
+
+def configure(name, address):
+    """Gives an adapter its address, if it has none of its own, and switches it on."""
+    with socket.socket(socket.AF_INET, socket.SOCK_DGRAM) as control:
+        if address is not None:
+            for request, value in ((SIOCSIFADDR, address), (SIOCSIFNETMASK, "255.255.255.0")):
+                fcntl.ioctl(control, request, struct.pack(
+                    "16sHH4s8x", name, socket.AF_INET, 0, socket.inet_aton(value)))
+        flags = struct.unpack("16sH14x", fcntl.ioctl(
+            control, SIOCGIFFLAGS, struct.pack("16sH14x", name, 0)))[1]
+        fcntl.ioctl(control, SIOCSIFFLAGS, struct.pack("16sH14x", name, flags | IFF_UP))
+
+
+class Adapter:
+    """A tunnel whose other end is this process."""
+
+    def __init__(self, name, number):
+        self.network = f"10.77.{number}."
+        self.tunnel = os.open("/dev/net/tun", os.O_RDWR)
+        fcntl.ioctl(self.tunnel, TUNSETIFF, struct.pack("16sH14x", name.encode(), IFF_TUN_NO_PI))
+        try:  # the system would say hello by itself
+            with open(f"/proc/sys/net/ipv6/conf/{name}/disable_ipv6", "w", encoding="ascii") as off:
+                off.write("1")
+        except OSError:
+            pass
+        configure(name.encode(), self.network + "1")
+
+    def close(self):
+        os.close(self.tunnel)
+
+    def receive(self, size):
+        """Packets for an address that is nobody's, so that nobody answers."""
+        for part in packets(size):
+            head = struct.pack("!BBHHHBBH4s4s", 0x45, 0, part, 0, 0, 64, 253, 0,
+                               socket.inet_aton(self.network + "2"), socket.inet_aton("192.0.2.1"))
+            os.write(self.tunnel, head + bytes(part - len(head)))
+
+    def send(self, size):
+        with socket.socket(socket.AF_INET, socket.SOCK_DGRAM) as out:
+            for part in packets(size):
+                out.sendto(bytes(part - IP_HEAD - UDP_HEAD), (self.network + "2", 9))
+                if len(os.read(self.tunnel, 65536)) != part:
+                    raise OSError("something else was sent")
+
+
+def packets(size):
+    """Sizes of packets that are so much together; none is smaller than its head."""
+    while size > LARGEST_PACKET:
+        part = min(LARGEST_PACKET, size - IP_HEAD - UDP_HEAD)
+        yield part
+        size -= part
+    if size < IP_HEAD + UDP_HEAD:
+        raise ValueError(f"a packet has at least {IP_HEAD + UDP_HEAD} bytes")
+    yield size
+
+
+class Line(socketserver.StreamRequestHandler):
+    adapters = {}
+
+    def handle(self):
+        for request in self.rfile:
+            try:
+                self.perform(*request.decode().split())
+                answer = "ok"
+            except Exception as error:  # whatever it is, the test must hear of it
+                answer = f"{type(error).__name__}: {error}"
+            self.wfile.write(answer.encode() + b"\n")
+        for name in list(self.adapters):
+            self.adapters.pop(name).close()
+
+    def perform(self, word, name, size="0"):
+        if word == "add":
+            self.adapters[name] = Adapter(name, len(self.adapters))
+        elif word == "remove":
+            self.adapters.pop(name).close()
+        else:
+            {"receive": Adapter.receive, "send": Adapter.send}[word](self.adapters[name], int(size))
+
+
+def main():
+    command = sys.argv[1:]
+    optional = command[:1] == ["--optional"]
+    if optional:
+        command = command[1:]
+    try:
+        enter_own_network()
+        Adapter("probe", 250).close()
+    except OSError as error:
+        print(f"no rights to make a network: {error}", file=sys.stderr)
+        return subprocess.call(command) if optional else NO_RIGHTS
+    with socketserver.TCPServer(("127.0.0.1", 0), Line) as server:
+        threading.Thread(target=server.serve_forever, daemon=True).start()
+        environment = dict(os.environ, TREMOLUX_TEST_LINE=str(server.server_address[1]))
+        return subprocess.call(command, env=environment)
+
+
+if __name__ == "__main__":
+    sys.exit(main())
