@@ -3,7 +3,7 @@ floor(windows platform/windows platform)
 if(TARGET windows)
   get_target_property(windows_type windows TYPE)
   if(windows_type STREQUAL "STATIC_LIBRARY")
-    target_link_libraries(windows PUBLIC iphlpapi ws2_32 gdi32 user32 shell32 advapi32 winmm
+    target_link_libraries(windows PUBLIC iphlpapi ws2_32 gdi32 user32 shell32 advapi32
                                          comctl32 uxtheme)
   endif()
 endif()

@@ -3,6 +3,7 @@
 #include <memory>
 #include <string>
 
+#include "platform/windows/library.h"
 #include "platform/windows/wide.h"
 #include "platform/windows/win32.h"
 // After the system's header, which it needs.
@@ -18,7 +19,14 @@ bool IsRemote(const std::wstring& path) {
   return !root.empty() && ::GetDriveTypeW(root.c_str()) == DRIVE_REMOTE;
 }
 
-void Start(const std::wstring& path) { ::sndPlaySoundW(path.c_str(), SND_ASYNC | SND_NODEFAULT); }
+// Looked up at the first sound: the library brings a dozen others, and most runs play none. It
+// stays, since a sound goes on after the call.
+void Start(const std::wstring& path) {
+  using Player = BOOL(WINAPI*)(LPCWSTR, UINT);
+  const auto play = Function<Player>(
+      ::LoadLibraryExW(L"winmm.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32), "sndPlaySoundW");
+  if (play != nullptr) play(path.c_str(), SND_ASYNC | SND_NODEFAULT);
+}
 
 DWORD WINAPI StartLater(void* path) {
   const std::unique_ptr<std::wstring> owned(static_cast<std::wstring*>(path));

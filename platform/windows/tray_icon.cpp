@@ -12,7 +12,7 @@ namespace {
 
 constexpr UINT kTrayMessage = WM_APP + 1;
 constexpr UINT kIconNumber = 1;
-constexpr UINT_PTR kRetryTimer = 1;
+constexpr UINT_PTR kAddTimer = 1;
 constexpr UINT kRetryMs = 2000;
 constexpr LONG kSameKeyPressMs = 100;
 constexpr std::size_t kTitleCharacters = 63;
@@ -64,8 +64,8 @@ void ShellTrayIcon::Show(Icon icon) {
   std::swap(icon_, icon);
   if (added_) {
     Modify(NIF_ICON);
-  } else if (!retrying_) {
-    Add();
+  } else if (!waiting_) {
+    AddLater(USER_TIMER_MINIMUM);
   }
 }
 
@@ -78,6 +78,7 @@ void ShellTrayIcon::SetHint(std::string_view hint) {
 
 void ShellTrayIcon::ShowBalloon(std::string_view title, std::string_view text, BalloonIcon icon,
                                 int seconds) {
+  if (!added_) Add();
   NOTIFYICONDATAW data = Data(NIF_INFO);
   CopyText(ToWide(CutCharacters(title, kTitleCharacters)), data.szInfoTitle);
   // The system takes an empty text as the wish to have no balloon at all.
@@ -98,7 +99,7 @@ std::optional<LRESULT> ShellTrayIcon::Handle(const Message& message) {
   }
   switch (message.id) {
     case WM_TIMER:
-      if (message.w == kRetryTimer) Add();
+      if (message.w == kAddTimer) Add();
       return 0;
     case kTrayMessage:
       Report(message);
@@ -109,7 +110,8 @@ std::optional<LRESULT> ShellTrayIcon::Handle(const Message& message) {
 }
 
 void ShellTrayIcon::Add() {
-  ::KillTimer(hwnd(), kRetryTimer);
+  ::KillTimer(hwnd(), kAddTimer);
+  waiting_ = false;
   if (!icon_) return;
   NOTIFYICONDATAW data = Data(NIF_MESSAGE | NIF_ICON | NIF_TIP | NIF_SHOWTIP);
   added_ = ::Shell_NotifyIconW(NIM_ADD, &data) != FALSE;
@@ -117,13 +119,16 @@ void ShellTrayIcon::Add() {
     // A shell that timed out may have taken it all the same.
     added_ = ::Shell_NotifyIconW(NIM_MODIFY, &data) != FALSE;
   }
-  retrying_ = !added_;
   if (added_) {
     data.uVersion = NOTIFYICON_VERSION_4;
     ::Shell_NotifyIconW(NIM_SETVERSION, &data);
   } else {
-    ::SetTimer(hwnd(), kRetryTimer, kRetryMs, nullptr);
+    AddLater(kRetryMs);
   }
+}
+
+void ShellTrayIcon::AddLater(UINT milliseconds) {
+  waiting_ = ::SetTimer(hwnd(), kAddTimer, milliseconds, nullptr) != 0;
 }
 
 void ShellTrayIcon::Modify(UINT parts) {

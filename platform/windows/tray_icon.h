@@ -33,6 +33,9 @@ class ShellTrayIcon final : public TrayIcon, public NativeWindow {
   void Show(Icon icon);
   // Adds the icon; a shell that is too busy is asked again a little later.
   void Add();
+  // The first picture is handed over only when the program's windows are painted: the shell may
+  // take its time, and the user waits for the windows.
+  void AddLater(UINT milliseconds);
   void Modify(UINT parts);
   [[nodiscard]] NOTIFYICONDATAW Data(UINT parts) const;
   void Report(const Message& message);
@@ -44,7 +47,7 @@ class ShellTrayIcon final : public TrayIcon, public NativeWindow {
   Icon icon_;
   std::wstring hint_;
   bool added_ = false;
-  bool retrying_ = false;     // the shell was too busy; the timer asks it again
+  bool waiting_ = false;      // the timer is going to add it
   LONG last_key_select_ = 0;  // message time, ms
 };
 

@@ -108,6 +108,7 @@ TEST_F(Menu, TheThreeModesShowWhatTheySayAndSurviveTheProgram) {
 
 TEST_F(Menu, OpensFromTheTrayIconAndClosesWithAClickElsewhere) {
   Meter& meter = Start();
+  AwaitScans();  // the icon comes a moment after the window
   RightClick(MiddleOf(meter.TrayArea()));
   {
     OpenMenu menu(meter.program().id());
