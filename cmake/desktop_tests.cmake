@@ -3,7 +3,7 @@
 add_dependencies(desktop_tests menu_spy)
 set_tests_properties(desktop_tests PROPERTIES WORKING_DIRECTORY ${TESTED_FOLDER} TIMEOUT 600)
 set_property(TEST desktop_tests APPEND PROPERTY FIXTURES_REQUIRED program_folder)
-set_property(TEST desktop_tests APPEND PROPERTY ENVIRONMENT "GTEST_FILTER=-FakedDate.*")
+set_property(TEST desktop_tests APPEND PROPERTY ENVIRONMENT "GTEST_FILTER=-FakedDate.*:Line.*")
 
 if(CMAKE_CROSSCOMPILING)
   add_test(NAME wine_desktop
@@ -29,5 +29,21 @@ FAKETIME_NO_CACHE=1;FAKETIME_DONT_FAKE_MONOTONIC=1;FAKETIME_TIMESTAMP_FILE=${fak
 TREMOLUX_FAKED_CLOCK=Z:${faked_clock}")
   else()
     message(WARNING "without the package faketime the tests on other dates do not run")
+  endif()
+
+  # Adapters of the tests' own need a network of their own, and Wine all in it.
+  find_program(PYTHON python3 NO_CMAKE_FIND_ROOT_PATH)
+  if(PYTHON)
+    add_test(NAME desktop_tests_on_own_network
+             COMMAND ${PYTHON} ${CMAKE_SOURCE_DIR}/tests/desktop/line/network_line.py sh -c
+                     "'${WINESERVER}' --kill; '${WINE}' '$<TARGET_FILE:desktop_tests>' \
+--gtest_brief=1 --gtest_filter=Line.*; result=$?; '${WINESERVER}' --kill; exit $result")
+    set_tests_properties(
+      desktop_tests_on_own_network
+      PROPERTIES WORKING_DIRECTORY ${TESTED_FOLDER} RUN_SERIAL ON TIMEOUT 600 SKIP_RETURN_CODE 77
+                 FIXTURES_REQUIRED "wine;wine_desktop;program_folder"
+                 ENVIRONMENT "${WINE_ENVIRONMENT}")
+  else()
+    message(WARNING "without python3 the tests on a network of their own do not run")
   endif()
 endif()
