@@ -64,7 +64,7 @@ class Edit : public Widget {
 enum class ListKind {
   kBox,        // LISTBOX
   kCombo,      // drops down (COMBOBOX); its height is that of the closed one
-  kFontCombo,  // a kCombo that shows each row in the font that it names
+  kFontCombo,  // a kCombo that shows each row in the font that it names, if that has letters
   kCheckBox,   // a check box in each row (SysListView32)
 };
 

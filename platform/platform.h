@@ -5,6 +5,7 @@
 #include "platform/clipboard.h"
 #include "platform/clock.h"
 #include "platform/files.h"
+#include "platform/fonts.h"
 #include "platform/hot_keys.h"
 #include "platform/interface_table.h"
 #include "platform/keyboard.h"
@@ -20,6 +21,7 @@
 #include "platform/single_instance.h"
 #include "platform/sockets.h"
 #include "platform/sound.h"
+#include "platform/system_dialogs.h"
 #include "platform/timers.h"
 #include "platform/windowing.h"
 
@@ -48,6 +50,8 @@ struct Platform {
   OtherWindows& other_windows;
   HotKeys& hot_keys;
   Shell& shell;
+  Fonts& fonts;
+  SystemDialogs& system_dialogs;
 };
 
 }  // namespace platform

@@ -12,8 +12,9 @@ namespace platform {
 
 enum class MouseButton { kNone, kLeft, kRight, kMiddle };
 
-// The keys that an edit reports.
-enum class Key { kUp, kDown, kPageUp, kPageDown, kEnter };
+// The keys that are reported: by an edit those up to kEnter, by a painted button the arrows, kHome
+// and kEnd.
+enum class Key { kUp, kDown, kPageUp, kPageDown, kEnter, kLeft, kRight, kHome, kEnd };
 
 struct MouseEvent {
   Point at;                                 // client pixels of the widget
@@ -51,7 +52,8 @@ class WidgetEvents {
   virtual void OnChanged() {}
   // a row of a check list was ticked or unticked;
   virtual void OnRowChecked(int /*row*/) {}
-  // a key went down in an edit; true keeps it from the control, and Enter from the window;
+  // a key went down in an edit or a painted button; true keeps it from the control, and Enter from
+  // the window;
   virtual bool OnKey(Key) { return false; }
   // a letter (a UTF-16 unit, no control character) is typed into an edit; true keeps it out;
   virtual bool OnCharacter(char16_t) { return false; }

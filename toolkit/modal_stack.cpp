@@ -1,31 +1,76 @@
 #include "toolkit/modal_stack.h"
 
 #include <algorithm>
+#include <optional>
+#include <utility>
 
 #include "toolkit/application.h"
 #include "toolkit/form.h"
 
 namespace toolkit {
 
+// All forms but one, disabled until this goes.
+class ModalStack::Disabled {
+ public:
+  Disabled(ModalStack& stack, const Form& but) : stack_(stack) {
+    for (Form* form : stack_.app_.Forms()) {
+      // That of a dialog of the system is disabled and enabled by the system.
+      if (form == &but || form == stack_.dialog_owner_ || !form->Enabled()) continue;
+      form->SetEnabled(false);
+      forms_.push_back(form);
+    }
+  }
+  ~Disabled() {
+    for (Form* form : stack_.app_.Forms()) {
+      if (std::find(forms_.begin(), forms_.end(), form) != forms_.end()) form->SetEnabled(true);
+    }
+  }
+  Disabled(const Disabled&) = delete;
+  Disabled& operator=(const Disabled&) = delete;
+
+ private:
+  ModalStack& stack_;
+  std::vector<const Form*> forms_;
+};
+
+// The system's dialog that is open, disabled until this goes.
+class ModalStack::SystemDialog {
+ public:
+  explicit SystemDialog(ModalStack& stack)
+      : stack_(stack), own_(stack.dialog_owner_ != nullptr && !stack.dialog_disabled_) {
+    if (own_) SetEnabled(false);
+  }
+  ~SystemDialog() {
+    if (own_) SetEnabled(true);
+  }
+  SystemDialog(const SystemDialog&) = delete;
+  SystemDialog& operator=(const SystemDialog&) = delete;
+
+ private:
+  void SetEnabled(bool enabled) {
+    stack_.dialog_disabled_ = !enabled;
+    stack_.app_.Platform().system_dialogs.SetEnabled(enabled);
+  }
+
+  ModalStack& stack_;
+  const bool own_;
+};
+
 // One open modal form: puts it on the stack and disables what lies below; undone in any case.
 class ModalStack::Level {
  public:
-  Level(ModalStack& stack, Form& form) : stack_(stack), entry_{&form, ModalResult::kNone} {
+  Level(ModalStack& stack, Form& form)
+      : stack_(stack),
+        entry_{&form, ModalResult::kNone},
+        disabled_(std::in_place, stack, form),
+        dialog_(std::in_place, stack) {
     stack_.open_.push_back(&entry_);
-    for (Form* other : stack_.app_.Forms()) {
-      if (other == &form || !other->Enabled()) continue;
-      other->SetEnabled(false);
-      disabled_.push_back(other);
-    }
   }
 
   ~Level() {
     // Enabled before the form hides: else the system would activate another program's window.
-    for (Form* other : stack_.app_.Forms()) {
-      if (std::find(disabled_.begin(), disabled_.end(), other) != disabled_.end()) {
-        other->SetEnabled(true);
-      }
-    }
+    disabled_.reset();
+    dialog_.reset();
     if (entry_.form != nullptr) entry_.form->Hide();
     std::erase(stack_.open_, &entry_);
   }
@@ -45,13 +90,26 @@ class ModalStack::Level {
  private:
   ModalStack& stack_;
   Entry entry_;
-  std::vector<const Form*> disabled_;
+  std::optional<Disabled> disabled_;
+  std::optional<SystemDialog> dialog_;
 };
 
 ModalResult ModalStack::Show(Form& form) {
   if (app_.Terminated() || Raise(form.Name())) return ModalResult::kCancel;
   Level level(*this, form);
   return level.Wait();
+}
+
+bool ModalStack::RunSystemDialog(const Form& owner, const std::function<void()>& dialog) {
+  if (app_.Terminated() || dialog_owner_ != nullptr) return false;
+  const Disabled others(*this, owner);
+  struct Open {
+    Open(ModalStack& of, const Form& owner) : stack(of) { stack.dialog_owner_ = &owner; }
+    ~Open() { stack.dialog_owner_ = nullptr; }
+    ModalStack& stack;
+  } const open(*this, owner);
+  dialog();
+  return true;
 }
 
 bool ModalStack::Raise(std::string_view form_name) {

@@ -1,6 +1,7 @@
 // Modal windows: the one place where a message loop runs inside another.
 #pragma once
 
+#include <functional>
 #include <string_view>
 #include <vector>
 
@@ -23,6 +24,12 @@ class ModalStack {
   // kCancel. Timers, and so scans, go on meanwhile.
   ModalResult Show(Form& form);
 
+  // Runs `dialog`, which opens one of the system's own dialogs above `owner`; the other forms are
+  // disabled meanwhile. A modal form that a timer opens then comes first: until it is answered the
+  // dialog is disabled. False, without a call, while such a dialog is open and when the program
+  // ends; the end of the program also ends the dialog, without an answer.
+  bool RunSystemDialog(const Form& owner, const std::function<void()>& dialog);
+
   // Raises the modal form of this name; false when none is open.
   bool Raise(std::string_view form_name);
 
@@ -40,7 +47,9 @@ class ModalStack {
     Form* form;  // null once it is destroyed
     ModalResult result;
   };
+  class Disabled;
   class Level;
+  class SystemDialog;
 
   [[nodiscard]] bool AnyTopmost() const;
   void End(const Form& form, ModalResult result);
@@ -48,6 +57,8 @@ class ModalStack {
 
   Application& app_;
   std::vector<Entry*> open_;
+  const Form* dialog_owner_ = nullptr;  // of the system's dialog that is open
+  bool dialog_disabled_ = false;
 };
 
 }  // namespace toolkit

@@ -52,21 +52,24 @@ class SpinEdit::Field final : public Edit {
     App().Guard([&] {
       switch (key) {
         case platform::Key::kUp:
-          spin_.Step(1);
+          spin_.Move(1);
           break;
         case platform::Key::kDown:
-          spin_.Step(-1);
+          spin_.Move(-1);
           break;
         case platform::Key::kPageUp:
-          spin_.Step(kPage);
+          spin_.Move(kPage);
           break;
         case platform::Key::kPageDown:
-          spin_.Step(-kPage);
+          spin_.Move(-kPage);
           break;
         case platform::Key::kEnter:
           // It ends the typing; only without any is it for the window.
           taken = spin_.typed_;
           spin_.Commit();
+          break;
+        default:
+          taken = false;
           break;
       }
     });
@@ -74,7 +77,7 @@ class SpinEdit::Field final : public Edit {
   }
 
   void OnWheel(int notches) override {
-    App().Guard([&] { spin_.Step(notches); });
+    App().Guard([&] { spin_.Move(notches); });
   }
 
   void OnFocusLost() override {
@@ -93,7 +96,7 @@ class SpinEdit::Arrow final : public Control {
         spin_(spin),
         by_(by),
         wait_(App(), kRepeatsAfter, [this] { BeginRepeating(); }),
-        repeat_(App(), kRepeatsEvery, [this] { spin_.Step(by_); }) {
+        repeat_(App(), kRepeatsEvery, [this] { spin_.Move(by_); }) {
     Attach(App().Platform().windowing.CreateSurface(PeerOf(spin), name, *this));
   }
   ~Arrow() override { Detach(); }
@@ -126,7 +129,7 @@ class SpinEdit::Arrow final : public Control {
       pressed_ = true;
       wait_.SetEnabled(true);
       Invalidate();
-      spin_.Step(by_);
+      spin_.Move(by_);
     });
   }
 
@@ -206,9 +209,12 @@ void SpinEdit::Commit() {
   Take(number ? std::clamp(*number, lowest_, highest_) : value_);
 }
 
-void SpinEdit::Step(std::int64_t by) {
+void SpinEdit::Move(int steps) {
   Commit();
-  Take(std::clamp(value_ + by * step_, lowest_, highest_));
+  const std::int64_t by = steps * step_;
+  std::int64_t moved = 0;
+  if (__builtin_add_overflow(value_, by, &moved)) moved = by > 0 ? highest_ : lowest_;
+  Take(std::clamp(moved, lowest_, highest_));
 }
 
 void SpinEdit::Take(std::int64_t value) {

@@ -20,6 +20,9 @@ class SpinEdit : public Control {
   // What the user can enter, and by how much the arrows move; the page keys move ten times as much.
   // At first everything that can be stored, and 1.
   void SetRange(std::int64_t lowest, std::int64_t highest, std::int64_t step);
+  [[nodiscard]] std::int64_t Lowest() const { return lowest_; }
+  [[nodiscard]] std::int64_t Highest() const { return highest_; }
+  [[nodiscard]] std::int64_t StepSize() const { return step_; }
 
   // Any number may be set; one outside the range stays as it is until the user changes it.
   [[nodiscard]] std::int64_t Value() const { return value_; }
@@ -47,7 +50,7 @@ class SpinEdit : public Control {
   void Typed();
   // What was typed becomes a value in the range.
   void Commit();
-  void Step(std::int64_t by);
+  void Move(int steps);
   void Take(std::int64_t value);
   void Show();
 

@@ -5,6 +5,7 @@
 #include "platform/memory/clipboard.h"
 #include "platform/memory/clock.h"
 #include "platform/memory/files.h"
+#include "platform/memory/fonts.h"
 #include "platform/memory/hot_keys.h"
 #include "platform/memory/interface_table.h"
 #include "platform/memory/keyboard.h"
@@ -21,6 +22,7 @@
 #include "platform/memory/single_instance.h"
 #include "platform/memory/sockets.h"
 #include "platform/memory/sound.h"
+#include "platform/memory/system_dialogs.h"
 #include "platform/memory/timers.h"
 #include "platform/memory/windowing.h"
 #include "platform/platform.h"
@@ -53,6 +55,8 @@ class Machine {
   OtherWindows other_windows{windowing, clock};
   HotKeys hot_keys;
   Shell shell{files};
+  Fonts fonts;
+  SystemDialogs system_dialogs{message_loop};
 
   [[nodiscard]] platform::Platform& Platform() { return platform_; }
 
@@ -64,9 +68,11 @@ class Machine {
 
  private:
   platform::Platform platform_{
-      interface_table,   registry,  sockets,  single_instance, clock,         files,    locale,
-      clipboard,         windowing, menus,    timers,          message_loop,  screen,   graphics,
-      notification_area, sound,     keyboard, session,         other_windows, hot_keys, shell};
+      interface_table, registry,     sockets,       single_instance, clock,
+      files,           locale,       clipboard,     windowing,       menus,
+      timers,          message_loop, screen,        graphics,        notification_area,
+      sound,           keyboard,     session,       other_windows,   hot_keys,
+      shell,           fonts,        system_dialogs};
 };
 
 }  // namespace platform::memory

@@ -72,6 +72,7 @@ class Windowing final : public platform::Windowing {
   void Press(std::string_view name);
   // Letter by letter, behind the text or in the place of what is selected.
   void Type(std::string_view name, std::string_view text);
+  // In an edit or a painted button.
   void PressKey(std::string_view name, Key key);
   void Wheel(std::string_view name, int notches);
   // A row of a list, an item of a tree, a tab.

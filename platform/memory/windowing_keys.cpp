@@ -68,13 +68,14 @@ void Windowing::EnterLetter(WidgetState& edit, std::string_view letter) {
 }
 
 void Windowing::PressKey(std::string_view name, Key key) {
-  WidgetState* edit = Reach(name, Kind::kEdit);
-  if (edit == nullptr) return;
-  if (!edit->focused) desktop_.MoveFocus(edit);
-  if (key == Key::kEnter && Desktop::TakesDialogKeys(Desktop::TopOf(*edit))) {
-    PressEnter(Desktop::TopOf(*edit).name);
+  const bool painted = Find(name).IsButton(ButtonKind::kPainted);
+  WidgetState* state = painted ? Reach(name) : Reach(name, Kind::kEdit);
+  if (state == nullptr) return;
+  if (!state->focused) desktop_.MoveFocus(state);
+  if (key == Key::kEnter && Desktop::TakesDialogKeys(Desktop::TopOf(*state))) {
+    PressEnter(Desktop::TopOf(*state).name);
   } else {
-    edit->events->OnKey(key);
+    state->events->OnKey(key);
   }
 }
 

@@ -17,6 +17,25 @@ HWND LastChild(HWND parent) {
   return first != nullptr ? ::GetWindow(first, GW_HWNDLAST) : nullptr;
 }
 
+std::optional<Key> KeyOf(WPARAM virtual_key) {
+  switch (virtual_key) {
+    case VK_UP:
+      return Key::kUp;
+    case VK_DOWN:
+      return Key::kDown;
+    case VK_LEFT:
+      return Key::kLeft;
+    case VK_RIGHT:
+      return Key::kRight;
+    case VK_HOME:
+      return Key::kHome;
+    case VK_END:
+      return Key::kEnd;
+    default:
+      return std::nullopt;
+  }
+}
+
 DWORD StyleOf(ButtonKind kind, HWND parent) {
   // A radio button behind another one is of its group: of a group the first one alone has the flag.
   constexpr DWORD kOneOf = WS_CHILD | WS_CLIPSIBLINGS | WS_TABSTOP;
@@ -105,6 +124,12 @@ std::optional<LRESULT> ButtonWidget::Handle(const Message& message) {
     case BM_SETCHECK:
       if (!IsQuiet() && message.w == BST_CHECKED && !Checked()) chosen_ = true;
       break;
+    case WM_KEYDOWN: {
+      const std::optional<Key> key = KeyOf(message.w);
+      if (kind_ != ButtonKind::kPainted || !key || !Reporting()) break;
+      events().OnKey(*key);
+      return 0;  // the system's button does nothing with them
+    }
     case WM_SETFOCUS:
     case WM_KILLFOCUS: {
       if (Role() != KeyRole::kPush) break;

@@ -27,6 +27,14 @@ LPARAM Pointer(const std::wstring& text) { return reinterpret_cast<LPARAM>(text.
 
 constexpr int kRowsDropped = 12;
 
+// Whether a font shows pictures in the place of letters.
+bool IsSymbolFont(HDC dc, const SharedFont& font) {
+  if (!font) return false;
+  const Selection selected(dc, font->get());
+  TEXTMETRICW metrics{};
+  return ::GetTextMetricsW(dc, &metrics) != FALSE && metrics.tmCharSet == SYMBOL_CHARSET;
+}
+
 }  // namespace
 
 ListBoxWidget::ListBoxWidget(HWND parent, std::string_view name, Drawing& drawing,
@@ -138,13 +146,15 @@ void ComboWidget::DrawRow(const DRAWITEMSTRUCT& item) {
   std::wstring text(static_cast<std::size_t>(Send(CB_GETLBTEXTLEN, item.itemID)) + 1, L'\0');
   const LRESULT length = Send(CB_GETLBTEXT, item.itemID, reinterpret_cast<LPARAM>(text.data()));
   text.resize(static_cast<std::size_t>(length < 0 ? 0 : length));
+  const std::string name = FromWide(text);
   FontSpec own = font();
-  own.face = FromWide(text);
+  own.face = name;
+  if (IsSymbolFont(item.hDC, drawing().fonts.Get(own))) own.face = font().face;
   const Rect inside{area.left + 2, area.top, area.width - 4, area.height};
   const Colour colour = !Enabled() ? colour::kGrayText
                         : selected ? colour::kHighlightText
                                    : text_colour();
-  canvas.Text(inside, own.face, own, colour, TextAlign::kLeft);
+  canvas.Text(inside, name, own, colour, TextAlign::kLeft);
 }
 
 CheckListWidget::CheckListWidget(HWND parent, std::string_view name, Drawing& drawing,

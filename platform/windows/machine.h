@@ -6,6 +6,7 @@
 #include "platform/windows/clock.h"
 #include "platform/windows/drawing.h"
 #include "platform/windows/files.h"
+#include "platform/windows/fonts.h"
 #include "platform/windows/graphics.h"
 #include "platform/windows/hot_keys.h"
 #include "platform/windows/interface_table.h"
@@ -22,6 +23,7 @@
 #include "platform/windows/single_instance.h"
 #include "platform/windows/sockets.h"
 #include "platform/windows/sound.h"
+#include "platform/windows/system_dialogs.h"
 #include "platform/windows/timers.h"
 #include "platform/windows/windowing.h"
 
@@ -60,13 +62,14 @@ class Machine {
   OtherWindows other_windows_;
   HotKeys hot_keys_;
   Shell shell_;
-  Platform platform_{interface_table_, registry_,  sockets_,
-                     single_instance_, clock_,     files_,
-                     locale_,          clipboard_, windowing_,
-                     menus_,           timers_,    message_loop_,
-                     screen_,          graphics_,  notification_area_,
-                     sound_,           keyboard_,  session_,
-                     other_windows_,   hot_keys_,  shell_};
+  Fonts fonts_;
+  SystemDialogs system_dialogs_;
+  Platform platform_{
+      interface_table_, registry_,     sockets_,       single_instance_, clock_,
+      files_,           locale_,       clipboard_,     windowing_,       menus_,
+      timers_,          message_loop_, screen_,        graphics_,        notification_area_,
+      sound_,           keyboard_,     session_,       other_windows_,   hot_keys_,
+      shell_,           fonts_,        system_dialogs_};
 };
 
 }  // namespace platform::windows

@@ -136,6 +136,19 @@ TEST_F(ControlsTest, AnEditAsksAboutKeysAndLetters) {
   EXPECT_EQ(reports.turned, -1);
 }
 
+TEST_F(ControlsTest, APaintedButtonReportsTheKeysThatMoveWithinIt) {
+  Reports reports;
+  const auto button = Button("field", ButtonKind::kPainted, reports);
+  dialog_->Show(platform::Activation::kActivate);
+  const std::vector<Key> keys = {Key::kUp,    Key::kDown, Key::kLeft,
+                                 Key::kRight, Key::kHome, Key::kEnd};
+  for (const Key key : keys) desk_->PressKey("field", key);
+  EXPECT_EQ(reports.keys, keys);
+  EXPECT_EQ(reports.clicks, 0);
+  desk_->PressEnter("T_frmControls");
+  EXPECT_EQ(reports.clicks, 1);
+}
+
 TEST_F(ControlsTest, AMemoHasLinesAndAPasswordItsText) {
   Reports memo_reports, password_reports;
   const auto memo =

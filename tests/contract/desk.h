@@ -62,6 +62,13 @@ class Desk {
   virtual void PressAlt(std::string_view window, char letter) = 0;
   virtual void PressArrow(std::string_view window, bool backwards) = 0;
 
+  // Whether a dialog of the system is open and hears the user.
+  [[nodiscard]] virtual bool DialogListens() = 0;
+  // Answers it: for a file, for the colour that is shown, or not.
+  virtual void ChooseFile(std::string_view path) = 0;
+  virtual void ConfirmColour() = 0;
+  virtual void CancelDialog() = 0;
+
   // Runs `step` once, from the message loop that runs next or goes on.
   virtual void Later(std::function<void()> step) = 0;
   // Lets time pass and messages be delivered until `condition` is true; false when it does not come

@@ -71,6 +71,15 @@ class MemoryDesk final : public Desk {
     Windows().PressArrow(window, backwards);
   }
 
+  bool DialogListens() override {
+    return machine_.system_dialogs.Open() && machine_.system_dialogs.Enabled();
+  }
+  void ChooseFile(std::string_view path) override {
+    machine_.system_dialogs.Choose(std::string(path));
+  }
+  void ConfirmColour() override { machine_.system_dialogs.Confirm(); }
+  void CancelDialog() override { machine_.system_dialogs.Cancel(); }
+
   void Later(std::function<void()> step) override { machine_.message_loop.Then(std::move(step)); }
   bool LetHappen(const std::function<bool()>& condition) override {
     constexpr int kRounds = 1000;

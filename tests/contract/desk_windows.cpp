@@ -62,6 +62,15 @@ class MenuKeys {
   std::wstring text_;
 };
 
+BOOL CALLBACK TakeOpenDialog(HWND hwnd, LPARAM found) {
+  wchar_t name[16] = {};
+  ::GetClassNameW(hwnd, name, 16);
+  if (std::wstring_view(name) != L"#32770") return TRUE;
+  if (::IsWindowVisible(hwnd) == FALSE || ::IsWindowEnabled(hwnd) == FALSE) return TRUE;
+  *reinterpret_cast<HWND*>(found) = hwnd;
+  return FALSE;
+}
+
 class WindowsDesk final : public Desk {
  public:
   platform::Platform& Platform() override { return machine_.platform(); }
@@ -168,6 +177,22 @@ class WindowsDesk final : public Desk {
     });
   }
 
+  bool DialogListens() override { return OpenDialog() != nullptr; }
+  void ChooseFile(std::string_view path) override {
+    const HWND dialog = OpenDialog();
+    // The edit with the name stands in a combo box of its own, in old dialogs alone.
+    constexpr int kNameCombo = 0x47C;  // cmb13
+    constexpr int kNameEdit = 0x480;   // edt1
+    for (const int id : {kNameCombo, kNameEdit}) {
+      if (const HWND name = ::GetDlgItem(dialog, id)) {
+        ::SendMessageW(name, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(ToWide(path).c_str()));
+      }
+    }
+    ::PostMessageW(dialog, WM_COMMAND, IDOK, 0);
+  }
+  void ConfirmColour() override { ::PostMessageW(OpenDialog(), WM_COMMAND, IDOK, 0); }
+  void CancelDialog() override { ::PostMessageW(OpenDialog(), WM_COMMAND, IDCANCEL, 0); }
+
   void Later(std::function<void()> step) override {
     steps_.push_back(std::move(step));
     if (!stepping_) stepping_ = Platform().timers.Start(10, [this] { RunStep(); });
@@ -187,6 +212,13 @@ class WindowsDesk final : public Desk {
     input.ki.wVk = key;
     input.ki.dwFlags = flags;
     ::SendInput(1, &input, sizeof(input));
+  }
+
+  // Null when none is open or the one that is open is disabled.
+  static HWND OpenDialog() {
+    HWND found = nullptr;
+    ::EnumThreadWindows(::GetCurrentThreadId(), &TakeOpenDialog, reinterpret_cast<LPARAM>(&found));
+    return found;
   }
 
   static HWND OpenMenu() {

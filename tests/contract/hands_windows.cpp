@@ -71,6 +71,14 @@ int VirtualKey(platform::Key key) {
       return VK_PRIOR;
     case platform::Key::kPageDown:
       return VK_NEXT;
+    case platform::Key::kLeft:
+      return VK_LEFT;
+    case platform::Key::kRight:
+      return VK_RIGHT;
+    case platform::Key::kHome:
+      return VK_HOME;
+    case platform::Key::kEnd:
+      return VK_END;
     case platform::Key::kEnter:
       break;
   }

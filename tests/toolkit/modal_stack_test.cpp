@@ -111,6 +111,67 @@ TEST_F(Modals, UnwindFromTheTopWhenTheProgramEndsInsideThem) {
   EXPECT_TRUE(machine.message_loop.HasQuit());
 }
 
+class SystemDialogs : public Modals {
+ protected:
+  // What Modals says of the answer, and the file that was chosen.
+  std::optional<std::string> Ask() {
+    std::optional<std::string> path;
+    ran = app.Modals().RunSystemDialog(
+        settings, [&] { path = machine.system_dialogs.OpenFile({}, settings.Window()); });
+    return path;
+  }
+  bool Listens(const char* form) { return machine.windowing.Find(form).enabled; }
+
+  Form settings{app, Params("settings")};
+  bool ran = false;
+};
+
+TEST_F(SystemDialogs, DisableEveryFormAndAreOpenOneAtATime) {
+  Then([&] {
+    EXPECT_FALSE(Listens("meter") || Listens("settings"));
+    EXPECT_EQ(Ask(), std::nullopt);
+    EXPECT_FALSE(ran);
+    machine.system_dialogs.Choose("C:\\a.wav");
+  });
+  EXPECT_EQ(Ask(), "C:\\a.wav");
+  EXPECT_TRUE(ran);
+  EXPECT_TRUE(Listens("meter") && Listens("settings"));
+  EXPECT_EQ(machine.system_dialogs.file_requests.size(), 1U);
+}
+
+TEST_F(SystemDialogs, WaitUntilAnAlertThatComesMeanwhileIsAnswered) {
+  Form alert(app, Params("alert"));
+  Form prompt(app, Params("prompt"));
+  Then([&] {
+    Then([&] {
+      EXPECT_FALSE(machine.system_dialogs.Enabled());
+      Then([&] { prompt.EndModal(ModalResult::kOk); });
+      EXPECT_EQ(app.Modals().Show(prompt), ModalResult::kOk);
+      EXPECT_FALSE(machine.system_dialogs.Enabled());
+      alert.EndModal(ModalResult::kOk);
+    });
+    EXPECT_EQ(app.Modals().Show(alert), ModalResult::kOk);
+    EXPECT_TRUE(machine.system_dialogs.Enabled());
+    EXPECT_FALSE(Listens("settings")) << "that of the dialog stays disabled with it";
+    EXPECT_FALSE(Listens("meter"));
+    machine.system_dialogs.Choose("C:\\a.wav");
+  });
+  EXPECT_EQ(Ask(), "C:\\a.wav");
+  EXPECT_TRUE(Listens("meter") && Listens("settings"));
+}
+
+TEST_F(SystemDialogs, EndWithTheProgramAndNeverBeginAfterIt) {
+  Form alert(app, Params("alert"));
+  Then([&] {
+    Then([&] { app.Terminate(); });
+    EXPECT_EQ(app.Modals().Show(alert), ModalResult::kCancel);
+  });
+  EXPECT_EQ(Ask(), std::nullopt);
+  EXPECT_TRUE(ran);
+  EXPECT_EQ(Ask(), std::nullopt);
+  EXPECT_FALSE(ran);
+}
+
 TEST_F(Modals, KeepTimersGoingAndEndThoseOfTheirForm) {
   struct Ticking : Form {
     explicit Ticking(Application& app) : Form(app, Params("ticking")) { timer.SetEnabled(true); }

@@ -1,6 +1,7 @@
 #include "toolkit/spin_edit.h"
 
 #include <functional>
+#include <limits>
 #include <vector>
 
 #include "tests/toolkit/form_fixture.h"
@@ -125,6 +126,17 @@ TEST_F(SpinEditTest, LeavesAValueOutsideTheRangeAloneUntilItIsEdited) {
   EXPECT_EQ(fired, (std::vector<std::int64_t>{-5}));
   User().PressKey("spin", Key::kUp);
   EXPECT_EQ(spin.Value(), 1000);
+}
+
+TEST_F(SpinEditTest, StopsAtTheEndsOfWhatItsNumbersCanBe) {
+  spin.SetRange(std::numeric_limits<std::int64_t>::min(), std::numeric_limits<std::int64_t>::max(),
+                1000);
+  spin.SetValue(std::numeric_limits<std::int64_t>::max() - 5);
+  User().PressKey("spin", Key::kPageUp);
+  EXPECT_EQ(spin.Value(), std::numeric_limits<std::int64_t>::max());
+  spin.SetValue(std::numeric_limits<std::int64_t>::min() + 5);
+  User().PressKey("spin", Key::kDown);
+  EXPECT_EQ(spin.Value(), std::numeric_limits<std::int64_t>::min());
 }
 
 TEST_F(SpinEditTest, EnterEndsTheTypingAndOnlyThenIsForTheForm) {

@@ -1,0 +1,58 @@
+// Dialogs of the system that tests answer.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "platform/memory/message_loop.h"
+#include "platform/system_dialogs.h"
+
+namespace platform::memory {
+
+// An open dialog lives through the steps of the message loop, until one of them answers it. One
+// that is left without any is cancelled.
+class SystemDialogs final : public platform::SystemDialogs {
+ public:
+  explicit SystemDialogs(MessageLoop& loop) : loop_(loop) {}
+
+  [[nodiscard]] std::optional<std::string> OpenFile(const OpenFileRequest& request,
+                                                    TopWindow& owner) override;
+  [[nodiscard]] std::optional<Colour> ChooseColour(Colour present, TopWindow& owner) override;
+  void SetEnabled(bool enabled) override { enabled_ = enabled; }
+
+  // The user's doings in the dialog that was opened last; while it is disabled they are not heard.
+  // Without one, or for one of the other kind, they throw std::logic_error.
+  void Choose(std::string path);
+  void Choose(Colour colour);
+  // The colour that is there is the right one.
+  void Confirm();
+  void Cancel();
+
+  [[nodiscard]] bool Open() const { return !open_.empty(); }
+  [[nodiscard]] bool Enabled() const { return enabled_; }
+
+  // What was asked for so far.
+  std::vector<OpenFileRequest> file_requests;
+  std::vector<Colour> colour_requests;
+
+ private:
+  using Answer = std::variant<std::monostate, std::string, Colour>;
+  struct Dialog {
+    bool asks_for_file = false;
+    Colour present = 0;
+    bool ended = false;
+    Answer answer;
+  };
+
+  void Run(Dialog& dialog, TopWindow& owner);
+  void End(const Answer& answer);
+  [[nodiscard]] Dialog& Last();
+
+  MessageLoop& loop_;
+  bool enabled_ = true;
+  std::vector<Dialog*> open_;
+};
+
+}  // namespace platform::memory

@@ -1,0 +1,28 @@
+#include "platform/fonts.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "platform/text.h"
+#include "tests/contract/desk.h"
+
+namespace contract {
+namespace {
+
+TEST(FontsContract, AreNamedOnceInTheOrderOfTheAlphabetWithoutTheVerticalOnes) {
+  const std::unique_ptr<Desk> desk = MakeDesk();
+  std::vector<std::string> names = desk->Platform().fonts.Families();
+  EXPECT_NE(std::find(names.begin(), names.end(), "Tahoma"), names.end());
+  for (std::size_t at = 0; at < names.size(); ++at) {
+    SCOPED_TRACE(names[at]);
+    EXPECT_FALSE(names[at].empty() || names[at].front() == '@');
+    if (at == 0) continue;
+    EXPECT_NE(names[at - 1], names[at]);
+    // Only of the first letters every alphabet says the same.
+    EXPECT_LE(platform::AsciiLower(names[at - 1])[0], platform::AsciiLower(names[at])[0]);
+  }
+}
+
+}  // namespace
+}  // namespace contract
