@@ -44,6 +44,12 @@ class CurrentFolder {
   std::wstring folder_;
 };
 
+// A dialog that MessageLoop::Quit has ended may say that the user has confirmed it.
+bool EndedByQuit() {
+  MSG message{};
+  return ::PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_NOREMOVE) != FALSE;
+}
+
 // The program's own windows have classes of their own; this is the class of the system's dialogs.
 BOOL CALLBACK TakeDialog(HWND hwnd, LPARAM dialogs) noexcept {
   wchar_t name[16] = {};
@@ -86,7 +92,7 @@ std::optional<std::string> SystemDialogs::OpenFile(const OpenFileRequest& reques
   dialog.nMaxFile = kLongestPath;
   dialog.Flags = OFN_EXPLORER | OFN_FILEMUSTEXIST | OFN_PATHMUSTEXIST | OFN_HIDEREADONLY |
                  OFN_NOCHANGEDIR | OFN_ENABLESIZING;
-  if (open(&dialog) == FALSE) return std::nullopt;
+  if (open(&dialog) == FALSE || EndedByQuit()) return std::nullopt;
   return FromWide(path.c_str());
 }
 
@@ -99,7 +105,7 @@ std::optional<Colour> SystemDialogs::ChooseColour(Colour present, platform::TopW
   dialog.rgbResult = ToColorref(present);
   dialog.lpCustColors = mixed_.data();
   dialog.Flags = CC_RGBINIT | CC_FULLOPEN | CC_ANYCOLOR;
-  if (choose(&dialog) == FALSE) return std::nullopt;
+  if (choose(&dialog) == FALSE || EndedByQuit()) return std::nullopt;
   return dialog.rgbResult;
 }
 
