@@ -20,7 +20,7 @@ class BandwidthDetails {
   BandwidthDetails(toolkit::Control& parent, settings::Store& store, display::Quantity& quantity,
                    const settings::Language& language);
 
-  // Design pixels; at least 200 wide and 140 high.
+  // Design pixels; at least 200 wide and 134 high.
   void SetBounds(const platform::Rect& bounds);
 
   // Texts and hints in the user's language.

@@ -144,6 +144,24 @@ TEST_F(Statistics, AnAdaptersWindowIsModalAndShowsWhatIsStoredOfIt) {
   EXPECT_NE(::IsWindowEnabled(meter.window()), FALSE);
 }
 
+TEST_F(Statistics, TheTotalsOfTheRunFollowRealTrafficUntilTheReset) {
+  Loopback loopback;
+  if (loopback.FindAdapter().empty()) GTEST_SKIP() << "this system does not count the loopback";
+  Meter& meter = Start();
+  const HWND window = OpenMachine(meter);
+  loopback.Send(5000);
+  // Since the first start both count the same bytes.
+  Await("the totals", [&] {
+    return Shown(window, L"lblInfoTotalDLULUnit") == "MB" &&
+           Shown(window, L"lblInfoTotalDLUL") == Shown(window, L"lblDailyDLUL");
+  });
+  Click(MiddleOf(AreaOf(FindControl(window, L"Button3"))));
+  Await("the totals to begin anew", [&] {
+    return Shown(window, L"lblInfoTotalDLULUnit") != "MB" &&
+           Shown(window, L"lblDailyDLULUnit") == "MB";
+  });
+}
+
 // The texts of buttons, boxes and labels that are wider than their control.
 class ClippedTexts {
  public:
