@@ -7,7 +7,8 @@ namespace {
 
 namespace setting = settings::setting;
 
-// The stored index of a bevel; one that the list does not have keeps what the meter has.
+}  // namespace
+
 toolkit::BevelCut BevelOf(std::int64_t stored, toolkit::BevelCut present) {
   switch (stored) {
     case 0:
@@ -23,7 +24,9 @@ toolkit::BevelCut BevelOf(std::int64_t stored, toolkit::BevelCut present) {
   }
 }
 
-}  // namespace
+ScaleUnits UnitsOf(std::int64_t stored) {
+  return stored == 0 ? ScaleUnits::kKBytes : ScaleUnits::kKBits;
+}
 
 void ApplyGraphAppearance(settings::Store& store, TKxInterMeter& meter) {
   meter.BevelInner = BevelOf(store.Read(setting::BevelInner), meter.BevelInner);
@@ -43,7 +46,7 @@ void ApplyGraphAppearance(settings::Store& store, TKxInterMeter& meter) {
   meter.Pulse3D = store.Read(setting::Pulse3D);
   meter.PulseSpace = store.Read(setting::PulseSpace);
   meter.PulseWidth = store.Read(setting::PulseWidth);
-  meter.ScaleUnits = store.Read(setting::ScaleUnit) == 0 ? ScaleUnits::kKBytes : ScaleUnits::kKBits;
+  meter.ScaleUnits = UnitsOf(store.Read(setting::ScaleUnit));
 }
 
 void ApplyHints(settings::Store& store, toolkit::HintWindow& hints) {

@@ -11,6 +11,12 @@ namespace display {
 // Bevels, colours, widths and units of the graph.
 void ApplyGraphAppearance(settings::Store& store, TKxInterMeter& meter);
 
+// The bevel of a stored index; one that the list does not have keeps the present one.
+[[nodiscard]] toolkit::BevelCut BevelOf(std::int64_t stored, toolkit::BevelCut present);
+
+// The units of the scale by the stored "ScaleUnit".
+[[nodiscard]] ScaleUnits UnitsOf(std::int64_t stored);
+
 // Whether and how long hints show.
 void ApplyHints(settings::Store& store, toolkit::HintWindow& hints);
 void ShowHints(toolkit::HintWindow& hints, bool shown);

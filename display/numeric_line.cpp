@@ -6,7 +6,10 @@
 namespace display {
 namespace {
 
+namespace setting = settings::setting;
 namespace text = settings::text;
+
+constexpr settings::BooleanSetting kModes[] = {setting::SOM1, setting::SOM2, setting::SOM3};
 
 }  // namespace
 
@@ -22,27 +25,43 @@ void NumericLine::ClearSums() {
   sum_ul_ = 0;
 }
 
-void NumericLine::Reset() {
-  const bool bits = store_.Read(settings::setting::ScaleUnit) != 0;
-  // "kbit" in the first text and "kbits" in the others: the first is the text that the formatting
-  // gives for zero, the others are wordings of their own. Both stay.
-  const std::string zero_kbits = "0,0 kbits";
-  const std::string zero_bytes = "0,0 kB";
-  const std::string& zero = bits ? zero_kbits : zero_bytes;
-  current_.clear();
-  average_.clear();
-  maximum_.clear();
+void NumericLine::Reset() { ShowUnit(store_.Read(setting::ScaleUnit) != 0); }
+
+void NumericLine::ShowUnit(bool bits) {
   any_mode_ = false;
-  if (ReadMode(settings::setting::SOM1)) {
-    current_ = bits ? "[ DL:0,0 kbit UL:0,0 kbit ]" : "[ DL:0,0 kB UL:0,0 kB ]";
-  }
-  if (ReadMode(settings::setting::SOM2)) {
-    average_ = AverageStart() + zero + " UL:" + zero + " ]";
-  }
-  if (ReadMode(settings::setting::SOM3)) {
-    maximum_ = "[ " + language_.Text(text::MainForm::S2) + " DL:" + zero + " Max UL:" + zero + " ]";
+  for (const settings::BooleanSetting& mode : kModes) {
+    TextOf(mode) = ReadMode(mode) ? IdleText(mode, bits) : "";
   }
   idle_ = true;
+}
+
+void NumericLine::ShowMode(const settings::BooleanSetting& mode, bool on) {
+  std::string& text = TextOf(mode);
+  if (!on) {
+    text.clear();
+  } else if (text.empty()) {
+    text = IdleText(mode, store_.Read(setting::ScaleUnit) != 0);
+  }
+  any_mode_ = on;
+  for (const settings::BooleanSetting& other : kModes) {
+    if (other.name != mode.name) (void)ReadMode(other);
+  }
+}
+
+std::string& NumericLine::TextOf(const settings::BooleanSetting& mode) {
+  if (mode.name == setting::SOM1.name) return current_;
+  return mode.name == setting::SOM2.name ? average_ : maximum_;
+}
+
+std::string NumericLine::IdleText(const settings::BooleanSetting& mode, bool bits) {
+  // "kbit" in the first text and "kbits" in the others: the first is the text that the formatting
+  // gives for zero, the others are wordings of their own. Both stay.
+  if (mode.name == setting::SOM1.name) {
+    return bits ? "[ DL:0,0 kbit UL:0,0 kbit ]" : "[ DL:0,0 kB UL:0,0 kB ]";
+  }
+  const std::string zero = bits ? "0,0 kbits" : "0,0 kB";
+  if (mode.name == setting::SOM2.name) return AverageStart() + zero + " UL:" + zero + " ]";
+  return "[ " + language_.Text(text::MainForm::S2) + " DL:" + zero + " Max UL:" + zero + " ]";
 }
 
 void NumericLine::Localise() {
@@ -63,16 +82,16 @@ void NumericLine::Update(const engine::ScanAmounts& scan) {
   idle_ = false;
   any_mode_ = false;
   current_.clear();
-  if (ReadMode(settings::setting::SOM1)) {
+  if (ReadMode(setting::SOM1)) {
     current_ = "[ DL:" + Amount(scan.ScanSumDL) + " UL:" + Amount(scan.ScanSumUL) + " ]";
   }
-  if (ReadMode(settings::setting::SOM2)) {
+  if (ReadMode(setting::SOM2)) {
     UpdateAverage(scan);
   } else {
     average_.clear();
   }
   maximum_.clear();
-  if (ReadMode(settings::setting::SOM3)) {
+  if (ReadMode(setting::SOM3)) {
     // The literal word here, the language's in the initial text.
     maximum_ = "[ Max DL:" + Amount(scan.ScanMaxDL) + " Max UL:" + Amount(scan.ScanMaxUL) + " ]";
   }

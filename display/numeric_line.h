@@ -23,6 +23,12 @@ class NumericLine {
   // The texts of an idle line, each only if its mode is on.
   void Reset();
 
+  // A mode is switched on, in bits or bytes, which shows the text of an idle line until the next
+  // amounts come, or off; the others stay. What is not stored yet counts here.
+  void ShowMode(const settings::BooleanSetting& mode, bool on);
+  // The line in another unit: the texts of an idle line.
+  void ShowUnit(bool bits);
+
   // Takes over another language's words, in texts that stay until an average is next due too.
   void Localise();
 
@@ -46,6 +52,8 @@ class NumericLine {
   void UpdateAverage(const engine::ScanAmounts& scan);
   [[nodiscard]] std::string Amount(std::int64_t bytes);
   [[nodiscard]] bool ReadMode(const settings::BooleanSetting& mode);
+  [[nodiscard]] std::string& TextOf(const settings::BooleanSetting& mode);
+  [[nodiscard]] std::string IdleText(const settings::BooleanSetting& mode, bool bits);
 
   settings::Store& store_;
   Quantity& quantity_;

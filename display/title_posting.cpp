@@ -59,6 +59,7 @@ void TitlePosting::SetLines(const TitleLines& lines) {
 
 void TitlePosting::PostTitles(std::string_view text) {
   const std::int64_t mode = store_.Read(settings::setting::WindowTitle);
+  posted_by_ = mode;
   Turn turn(app_.Platform().clock, kBudget);
   if (mode == kPostToAll || mode == kPostToListed) PostToMany(turn, text, mode == kPostToListed);
   if (mode == kPostToForeground) PostToForeground(turn, text);
@@ -111,6 +112,10 @@ void TitlePosting::PostInto(Turn& turn, WindowId window, const platform::WindowT
   if (there || !Set(turn, window, title)) return;
   posted_[window] = title;
   has_posted_ = true;
+}
+
+void TitlePosting::ChangeMode(std::int64_t mode) {
+  if (mode != posted_by_) RestoreTitles();
 }
 
 void TitlePosting::RestoreTitles() {

@@ -36,6 +36,9 @@ class TitlePosting {
   // however many programs do not answer. What did not get its turn does the next time.
   void PostTitles(std::string_view text);
 
+  // The mode that is stored next. What another mode has posted is taken away.
+  void ChangeMode(std::int64_t mode);
+
   // At the program's end: takes the marker from every title, if anything was posted in this run.
   void RestoreTitles();
 
@@ -58,7 +61,8 @@ class TitlePosting {
   settings::Store& store_;
   TitleList list_;
 
-  bool has_posted_ = false;  // in this run
+  bool has_posted_ = false;     // in this run
+  std::int64_t posted_by_ = 0;  // the mode that posted last
   // What was set, by window: tells titles that are longer than what is read of them.
   std::unordered_map<platform::WindowId, std::string> posted_;
   // Windows that did not answer, and when they are tried again, in ms of the steady clock.

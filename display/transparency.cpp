@@ -53,6 +53,16 @@ void Transparency::ApplyStored() {
   SetTransparent(store_.Read(setting::Transparent));
 }
 
+void Transparency::ChangeRatio(std::int64_t ratio) {
+  if (!menu_.mnuTransparent2k->Checked()) return;
+  if (!hovered_ || !store_.Read(setting::AutoTransparentONOFF)) SetWindowAlpha(ratio);
+}
+
+void Transparency::ChangeAutomatic(bool on) {
+  if (!menu_.mnuTransparent2k->Checked()) return;
+  SetWindowAlpha(on && hovered_ ? kOpaque : store_.Read(setting::Win2kTransparentRatio));
+}
+
 void Transparency::mnuTransparent2kClick() {
   const bool on = !menu_.mnuTransparent2k->Checked();
   menu_.mnuTransparent2k->SetChecked(on);

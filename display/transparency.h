@@ -24,6 +24,11 @@ class Transparency {
   // Takes over what is stored, and the menu shows it. Done again it changes nothing that is so.
   void ApplyStored();
 
+  // Other options, which are stored next: "Win2kTransparentRatio" and "AutoTransparentONOFF". The
+  // window shows them, unless the pointer keeps it opaque.
+  void ChangeRatio(std::int64_t ratio);
+  void ChangeAutomatic(bool on);
+
   // Toggles the opacity ("Transparent2k").
   void mnuTransparent2kClick();
   // Toggles the graph's background ("Transparent"). Without it, the display mode cannot be chosen.

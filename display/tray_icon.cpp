@@ -42,7 +42,8 @@ void TrayIcon::LoadPictures() {
 }
 
 void TrayIcon::ShowStart() {
-  if (store_.Read(setting::IconType) == kActivityPictures) {
+  kind_ = store_.Read(setting::IconType);
+  if (kind_ == kActivityPictures) {
     LoadPictures();
     ShowActivity(TrayActivity::kIdle);
   } else {
@@ -50,11 +51,33 @@ void TrayIcon::ShowStart() {
   }
 }
 
+void TrayIcon::ChangeKind(std::int64_t type) {
+  if (type == kind_) return;
+  kind_ = type;
+  if (kind_ == kActivityPictures) {
+    LoadPictures();
+    ShowActivity(TrayActivity::kIdle);
+  } else {
+    ShowHistogram(kind_ == kHistogram ? histogram_ : TrayHistogram());
+  }
+}
+
+void TrayIcon::ChangeColours(platform::Colour receiving, platform::Colour sending) {
+  if (!shown_activity_) DrawHistogram(shown_histogram_, receiving, sending);
+}
+
+void TrayIcon::ChangePictures() {
+  if (kind_ != kActivityPictures) return;
+  const TrayActivity activity = shown_activity_.value_or(TrayActivity::kIdle);
+  LoadPictures();
+  ShowActivity(activity);
+}
+
 void TrayIcon::ShowScan(const engine::ScanAmounts& scan) {
-  const std::int64_t type = store_.Read(setting::IconType);
-  if (type == kActivityPictures) {
+  kind_ = store_.Read(setting::IconType);
+  if (kind_ == kActivityPictures) {
     ShowActivity(ActivityOf(scan.ScanSumDL, scan.ScanSumUL));
-  } else if (type == kHistogram) {
+  } else if (kind_ == kHistogram) {
     histogram_.Push(scan.ScanSumDL, scan.ScanSumUL);
     ShowHistogram(histogram_);
   }
@@ -83,7 +106,14 @@ void TrayIcon::ShowActivity(TrayActivity activity) {
 // The shell is given the picture twice, after each half; the other half keeps what it showed, so
 // that nothing flickers.
 void TrayIcon::ShowHistogram(const TrayHistogram& histogram) {
+  DrawHistogram(histogram, store_.Read(setting::GraphColor_HistogramReceiving),
+                store_.Read(setting::GraphColor_HistogramSend));
+}
+
+void TrayIcon::DrawHistogram(const TrayHistogram& histogram, platform::Colour receiving,
+                             platform::Colour sending) {
   shown_activity_.reset();
+  shown_histogram_ = histogram;
   if (!drawing_) {
     drawing_ = app_.Platform().graphics.CreateBitmap({kTrayPictureSize, kTrayPictureSize});
     if (!drawing_) return;
@@ -91,8 +121,6 @@ void TrayIcon::ShowHistogram(const TrayHistogram& histogram) {
                                platform::colour::kWhite);
   }
   platform::Canvas& canvas = drawing_->GetCanvas();
-  const platform::Colour receiving = store_.Read(setting::GraphColor_HistogramReceiving);
-  const platform::Colour sending = store_.Read(setting::GraphColor_HistogramSend);
   TrayHistogram::DrawFrame(canvas);
   histogram.DrawUpperHalf(canvas, receiving);
   ShowEnlarged(*drawing_);

@@ -37,6 +37,14 @@ class TrayIcon final : public alerts::Balloons, private platform::TrayIconEvents
   // comes back with the next scan.
   void ShowStart();
 
+  // Another "IconType", which is stored next: 0 the activity pictures, idle, 1 the histogram, else
+  // an empty one.
+  void ChangeKind(std::int64_t type);
+  // Other colours of the histogram, which are stored next.
+  void ChangeColours(platform::Colour receiving, platform::Colour sending);
+  // Another "TrayIconFile", which is stored already.
+  void ChangePictures();
+
   // The picture of a scan: "IconType" 0 shows its activity, 1 the histogram; another value leaves
   // the icon as it is. The histogram moves on only while it is shown.
   void ShowScan(const engine::ScanAmounts& scan);
@@ -57,6 +65,8 @@ class TrayIcon final : public alerts::Balloons, private platform::TrayIconEvents
 
   void ShowActivity(TrayActivity activity);
   void ShowHistogram(const TrayHistogram& histogram);
+  void DrawHistogram(const TrayHistogram& histogram, platform::Colour receiving,
+                     platform::Colour sending);
   void ShowEnlarged(const platform::Bitmap& picture);
 
   toolkit::Application& app_;
@@ -65,6 +75,8 @@ class TrayIcon final : public alerts::Balloons, private platform::TrayIconEvents
   TrayHistogram histogram_;
   std::unique_ptr<platform::Bitmap> drawing_;   // 16 x 16
   std::unique_ptr<platform::Bitmap> enlarged_;  // as large as the area shows, when that is more
+  std::int64_t kind_ = -1;                      // the "IconType" that it shows
+  TrayHistogram shown_histogram_;
   // What the icon shows; nothing while it is the histogram or the pictures were loaded anew.
   std::optional<TrayActivity> shown_activity_;
   std::unique_ptr<platform::TrayIcon> icon_;

@@ -25,10 +25,11 @@ void GroupOwner::Add(const CounterGroup& group, const GroupAmounts& amounts) con
 }
 
 void GroupOwner::Reset(const CounterGroup& group) const {
-  const CounterSetting first_max = group.resets_max_ul_first ? group.max_ul : group.max_dl;
-  const CounterSetting second_max = group.resets_max_ul_first ? group.max_dl : group.max_ul;
-  for (const CounterSetting counter : {group.total_dl, group.total_ul, first_max, second_max}) {
-    store_.WriteCounter(key_, Name(counter), 0);
+  for (const settings::SchemaRow& row : settings::Schema()) {
+    for (const CounterSetting counter :
+         {group.total_dl, group.total_ul, group.max_dl, group.max_ul}) {
+      if (row.name == counter.name) store_.WriteCounter(key_, Name(counter), 0);
+    }
   }
 }
 

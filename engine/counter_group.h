@@ -16,7 +16,6 @@ struct CounterGroup {
   settings::CounterSetting total_ul;
   settings::CounterSetting max_dl;
   settings::CounterSetting max_ul;
-  bool resets_max_ul_first = false;
 };
 
 // Since the last reset; the machine's totals of this kind are not kept by the scan.
@@ -28,7 +27,7 @@ inline constexpr CounterGroup kDayGroup{
     settings::setting::CurrentDayMaxDL, settings::setting::CurrentDayMaxUL};
 inline constexpr CounterGroup kWeekGroup{
     settings::setting::CurrentWeekTotalDL, settings::setting::CurrentWeekTotalUL,
-    settings::setting::CurrentWeekMaxDL, settings::setting::CurrentWeekMaxUL, true};
+    settings::setting::CurrentWeekMaxDL, settings::setting::CurrentWeekMaxUL};
 inline constexpr CounterGroup kMonthGroup{
     settings::setting::CurrentMonthTotalDL, settings::setting::CurrentMonthTotalUL,
     settings::setting::CurrentMonthMaxDL, settings::setting::CurrentMonthMaxUL};
@@ -53,7 +52,7 @@ class GroupOwner {
   // what was written before stays.
   void Add(const CounterGroup& group, const GroupAmounts& amounts) const;
 
-  // Writes "0" to the four values.
+  // Writes "0" to the four values, in the order of the table of all values.
   void Reset(const CounterGroup& group) const;
 
  private:

@@ -12,5 +12,8 @@ namespace settings {
 constexpr std::int64_t ShownSpeed(std::int64_t stored) { return stored * 8; }
 constexpr std::int64_t StoredSpeed(std::int64_t shown) { return shown / 8; }
 constexpr std::int64_t LimitOfStoredSpeed(std::int64_t stored) { return stored / 8; }
+// The exception: while the user changes it in the dialog, the meter is given the shown speed's own
+// bytes, until the limit is next computed from the store.
+constexpr std::int64_t LimitOfShownSpeed(std::int64_t shown) { return shown / 8; }
 
 }  // namespace settings

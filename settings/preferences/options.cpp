@@ -2,7 +2,10 @@
 
 #include <algorithm>
 #include <limits>
+#include <optional>
 #include <utility>
+
+#include "toolkit/colour_popup.h"
 
 namespace settings::preferences {
 namespace {
@@ -17,6 +20,15 @@ void Change(Context& context, const Setting& setting, const Push<Value>& push, V
 template <class Choices>
 void ShowChoice(Choices& choices, std::int64_t stored) {
   if (stored >= 0 && stored < choices.Count()) choices.SetItemIndex(static_cast<int>(stored));
+}
+
+std::optional<platform::Colour> AskForColour(Context& context, toolkit::ColourPanel& panel,
+                                             const TextEntry& caption) {
+  const Translation say = context.language.Chosen();
+  const toolkit::ColourPopupTexts texts{say(caption), say(text::SettingsForm::ColorMore),
+                                        say(text::SettingsForm::ColorOk),
+                                        say(text::SettingsForm::ColorCancel)};
+  return toolkit::ChooseColour(panel, texts, panel.Colour());
 }
 
 int Nearest(std::int64_t stored) {
@@ -67,6 +79,39 @@ Option::Option(toolkit::TrackBar& bar, const IntegerSetting& setting, Push<std::
       }),
       read_([&bar, setting](Context& context) {
         bar.SetPosition(Nearest(context.store.Read(setting)));
+      }) {}
+
+Option::Option(std::vector<toolkit::RadioButton*> buttons, const IntegerSetting& setting,
+               Push<std::int64_t> push)
+    : connect_([buttons, setting, push = std::move(push)](Context& context) {
+        for (std::size_t i = 0; i < buttons.size(); ++i) {
+          buttons[i]->OnClick = [&context, setting, push, value = static_cast<std::int64_t>(i)] {
+            Change(context, setting, push, value);
+          };
+        }
+      }),
+      read_([buttons, setting](Context& context) {
+        const std::int64_t stored = context.store.Read(setting);
+        if (stored < 0 || stored >= std::ssize(buttons)) return;
+        buttons[static_cast<std::size_t>(stored)]->SetChecked(true);
+      }) {}
+
+// A panel that the code gives another colour has no event of its own.
+Option::Option(toolkit::ColourPanel& panel, const ColourSetting& setting, const TextEntry& text,
+               Push<platform::Colour> push)
+    : connect_([&panel, setting, text, push](Context& context) {
+        panel.OnClick = [&, setting, text, push] {
+          const std::optional<platform::Colour> chosen = AskForColour(context, panel, text);
+          if (!chosen) return;
+          panel.SetColour(*chosen);
+          Change(context, setting, push, *chosen);
+        };
+      }),
+      read_([&panel, setting, push](Context& context) {
+        const platform::Colour stored = context.store.Read(setting);
+        if (stored == panel.Colour()) return;
+        panel.SetColour(stored);
+        Change(context, setting, push, stored);
       }) {}
 
 void Options::Connect(std::initializer_list<Option> options) {

@@ -9,8 +9,11 @@
 
 #include "settings/preferences/context.h"
 #include "settings/schema.h"
+#include "settings/texts.h"
 #include "toolkit/check_box.h"
+#include "toolkit/colour_panel.h"
 #include "toolkit/list_control.h"
+#include "toolkit/radio_button.h"
 #include "toolkit/radio_group.h"
 #include "toolkit/spin_edit.h"
 #include "toolkit/track_bar.h"
@@ -33,6 +36,12 @@ class Option {
   Option(toolkit::SpinEdit& spin, const IntegerSetting& setting, Push<std::int64_t> push = {});
   // A stored value outside the range is shown by the nearest end, but pushed as it is.
   Option(toolkit::TrackBar& bar, const IntegerSetting& setting, Push<std::int64_t> push = {});
+  // Radio buttons that exclude each other.
+  Option(std::vector<toolkit::RadioButton*> buttons, const IntegerSetting& setting,
+         Push<std::int64_t> push = {});
+  // A click asks for another colour; `text` is the caption of the colour popup.
+  Option(toolkit::ColourPanel& panel, const ColourSetting& setting, const TextEntry& text,
+         Push<platform::Colour> push = {});
 
  private:
   friend class Options;

@@ -9,4 +9,18 @@ void Page::Say(const Translation& say, std::initializer_list<Wording> wordings) 
   }
 }
 
+std::string Page::RangeOf(const toolkit::SpinEdit& spin, const Translation& say) {
+  const std::string lowest = std::to_string(spin.Lowest());
+  const std::string highest = std::to_string(spin.Highest());
+  if (spin.StepSize() == 1) return say(text::SettingsForm::RangeHint, {lowest, highest});
+  return say(text::SettingsForm::RangeStepHint, {lowest, highest, std::to_string(spin.StepSize())});
+}
+
+std::vector<std::string> Page::Texts(const Translation& say,
+                                     std::initializer_list<TextEntry> entries) {
+  std::vector<std::string> texts;
+  for (const TextEntry& entry : entries) texts.push_back(say(entry));
+  return texts;
+}
+
 }  // namespace settings::preferences

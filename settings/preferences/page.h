@@ -4,11 +4,13 @@
 #include <initializer_list>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "settings/language.h"
 #include "settings/preferences/context.h"
 #include "settings/texts.h"
 #include "toolkit/notebook.h"
+#include "toolkit/spin_edit.h"
 
 namespace settings::preferences {
 
@@ -17,6 +19,7 @@ inline constexpr int kPageWidth = 424;
 inline constexpr int kPageHeight = 400;
 inline constexpr int kMargin = 8;
 inline constexpr int kRow = 23;          // from one line of controls to the next
+inline constexpr int kFieldRow = 27;     // the same where there are fields
 inline constexpr int kBoxHeight = 17;    // check boxes, radio buttons, labels
 inline constexpr int kFieldHeight = 21;  // edits and lists
 inline constexpr int kButtonHeight = 25;
@@ -38,6 +41,11 @@ class Page : public toolkit::NotebookPage {
 
  protected:
   static void Say(const Translation& say, std::initializer_list<Wording> wordings);
+  // What can be entered, as a hint.
+  [[nodiscard]] static std::string RangeOf(const toolkit::SpinEdit& spin, const Translation& say);
+  // The texts of several entries, such as the rows of a list.
+  [[nodiscard]] static std::vector<std::string> Texts(const Translation& say,
+                                                      std::initializer_list<TextEntry> entries);
 
   Context& context_;
 };

@@ -33,18 +33,18 @@ T_frmPreferences::T_frmPreferences(toolkit::Application& app, const display::Run
       TreeItems(*this, "TreeItems"),
       PrefNotebook(*this, "PrefNotebook"),
       general_(PrefNotebook, context_),
-      graph_colors_(PrefNotebook, "GraphColors", context_),
-      graph_grids_(PrefNotebook, "GraphGrids", context_),
-      graph_others_(PrefNotebook, "GraphOthers", context_),
-      text_colors_(PrefNotebook, "TextColors", context_),
-      text_other_(PrefNotebook, "TextOther", context_),
+      graph_colors_(PrefNotebook, context_),
+      graph_grids_(PrefNotebook, context_),
+      graph_others_(PrefNotebook, context_),
+      text_colors_(PrefNotebook, context_),
+      text_other_(PrefNotebook, context_),
       speed_up_(PrefNotebook, "SpeedUp", context_),
       admin_(PrefNotebook, "Admin", context_),
       interfaces_(PrefNotebook, "Interfaces", context_),
       bandwidth_alert_(PrefNotebook, "BandwidthAlert", context_),
       notification_(PrefNotebook, "Notification", context_),
-      other_(PrefNotebook, "Other", context_),
-      reset_settings_(PrefNotebook, "ResetSettings", context_),
+      other_(PrefNotebook, context_),
+      reset_settings_(PrefNotebook, context_, [this] { ReadSettings(); }),
       btnClose(*this, "btnClose"),
       placement_(*this, kPlacementKey, toolkit::PlacementSaver::Restores::kPlace) {
   PlaceControls();
@@ -95,10 +95,24 @@ void T_frmPreferences::Open() {
   if (toolkit::Form* modal = App().Modals().Top()) modal->Raise();
 }
 
+// In this order; what a page has between others is read there.
 void T_frmPreferences::ReadSettings() {
   {
     const Context::Reading scope(context_);
+    graph_others_.ReadBevels();
+    graph_grids_.Read();
     general_.Read();
+    other_.ReadTransparency();
+    graph_colors_.ReadColours();
+    graph_colors_.ReadIconKind();
+    graph_others_.ReadOthers();
+    graph_others_.ReadScale();
+    graph_colors_.ReadIconFile();
+    text_colors_.Read();
+    text_other_.ReadLine();
+    text_other_.ReadWindowTitle();
+    other_.ReadExitAndFade();
+    other_.ReadLeds();
   }
   context_.meter.transparency.ApplyShape();
 }

@@ -6,7 +6,14 @@
 
 #include "settings/preferences/context.h"
 #include "settings/preferences/general_page.h"
+#include "settings/preferences/graph_colors_page.h"
+#include "settings/preferences/graph_grids_page.h"
+#include "settings/preferences/graph_others_page.h"
+#include "settings/preferences/other_page.h"
 #include "settings/preferences/page.h"
+#include "settings/preferences/reset_settings_page.h"
+#include "settings/preferences/text_colors_page.h"
+#include "settings/preferences/text_other_page.h"
 #include "toolkit/button.h"
 #include "toolkit/form.h"
 #include "toolkit/notebook.h"
@@ -39,18 +46,18 @@ class T_frmPreferences final : public toolkit::Form {
   toolkit::TreeView TreeItems;
   toolkit::Notebook PrefNotebook;
   GeneralPage general_;
-  Page graph_colors_;
-  Page graph_grids_;
-  Page graph_others_;
-  Page text_colors_;
-  Page text_other_;
+  GraphColorsPage graph_colors_;
+  GraphGridsPage graph_grids_;
+  GraphOthersPage graph_others_;
+  TextColorsPage text_colors_;
+  TextOtherPage text_other_;
   Page speed_up_;
   Page admin_;
   Page interfaces_;
   Page bandwidth_alert_;
   Page notification_;
-  Page other_;
-  Page reset_settings_;
+  OtherPage other_;
+  ResetSettingsPage reset_settings_;
   toolkit::Button btnClose;
 
   toolkit::PlacementSaver placement_;

@@ -1,9 +1,12 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <fstream>
+#include <iterator>
 #include <string>
 
 #include "tests/settings/preferences/preferences_world.h"
+#include "toolkit/layout.h"
 
 namespace {
 
@@ -101,6 +104,28 @@ TEST_F(Preferences, LockedTheyOpenOnlyWithThePassword) {
     machine.message_loop.Then([&] { User().Type("PassEdit", "secret"); });
     Open();
     EXPECT_TRUE(Widget(kForm).visible);
+  });
+}
+
+TEST_F(Preferences, EveryPageIsLaidOutInEveryLanguage) {
+  for (const char* language : {"German", "French", "Spanish", "Turkish", "Japanese"}) {
+    std::ifstream file(std::string(SOURCE_FOLDER "/assets/Languages/") + language + ".lng",
+                       std::ios::binary);
+    machine.files.PutBesideProgram(
+        std::string("Languages\\") + language + ".lng",
+        std::string(std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()));
+  }
+  RunOpen([&] {
+    ASSERT_EQ(Widget("cmbLanguage").items.size(), 6U);
+    for (int i = 0; i < 6; ++i) {
+      SCOPED_TRACE(Widget("cmbLanguage").items[static_cast<std::size_t>(i)]);
+      User().Choose("cmbLanguage", i);
+      for (toolkit::Form* form : App().Forms()) {
+        if (form->Name() == kForm) {
+          EXPECT_EQ(toolkit::LayoutFaults(*form), std::vector<std::string>());
+        }
+      }
+    }
   });
 }
 

@@ -1,0 +1,125 @@
+#include "settings/preferences/graph_grids_page.h"
+
+#include "toolkit/layout.h"
+
+namespace settings::preferences {
+namespace {
+
+namespace text = settings::text::SettingsForm;
+
+using Meter = display::RunningMeter;
+
+constexpr int kWidestSpace = 1000;
+
+// The lines are read when they are drawn; the graph only has to be drawn anew.
+template <class Value>
+void DrawAnew(const Meter& meter, Value /*value*/) {
+  meter.graph.Refresh();
+}
+
+}  // namespace
+
+GraphGridsPage::GraphGridsPage(toolkit::Notebook& notebook, Context& context)
+    : Page(notebook, "GraphGrids", context),
+      grpVertical(*this, "grpVertical"),
+      vGridsVisibleCheckBox(grpVertical, "vGridsVisibleCheckBox"),
+      lblVLineStyle(grpVertical, "lblVLineStyle", toolkit::kCaptionText),
+      cmbVLineStyle(grpVertical, "cmbVLineStyle"),
+      lblVLineSpace(grpVertical, "lblVLineSpace", toolkit::kCaptionText),
+      vLineSpace(grpVertical, "vLineSpace"),
+      lblVLineColor(grpVertical, "lblVLineColor", toolkit::kCaptionText),
+      vLineColor(grpVertical, "vLineColor"),
+      grpHorizontal(*this, "grpHorizontal"),
+      hGridsVisibleCheckBox(grpHorizontal, "hGridsVisibleCheckBox"),
+      lblHLineStyle(grpHorizontal, "lblHLineStyle", toolkit::kCaptionText),
+      cmbHLineStyle(grpHorizontal, "cmbHLineStyle"),
+      lblHLineSpace(grpHorizontal, "lblHLineSpace", toolkit::kCaptionText),
+      hLineSpace(grpHorizontal, "hLineSpace"),
+      lblHLineColor(grpHorizontal, "lblHLineColor", toolkit::kCaptionText),
+      hLineColor(grpHorizontal, "hLineColor"),
+      visible_(context),
+      vertical_style_(context),
+      horizontal_style_(context),
+      others_(context) {
+  PlaceControls();
+  vLineSpace.SetRange(0, kWidestSpace, 1);
+  hLineSpace.SetRange(0, kWidestSpace, 1);
+  visible_.Connect({
+      {vGridsVisibleCheckBox, setting::vGridVisible, DrawAnew<bool>},
+      {hGridsVisibleCheckBox, setting::hGridVisible, DrawAnew<bool>},
+  });
+  vertical_style_.Connect({{cmbVLineStyle, setting::cmbVLineStyle, DrawAnew<std::int64_t>}});
+  horizontal_style_.Connect({{cmbHLineStyle, setting::cmbHLineStyle, DrawAnew<std::int64_t>}});
+  others_.Connect({
+      {vLineSpace, setting::vLineSpace, DrawAnew<std::int64_t>},
+      {vLineColor, setting::vLineColor, text::vLineColor, DrawAnew<platform::Colour>},
+      {hLineSpace, setting::hLineSpace, DrawAnew<std::int64_t>},
+      {hLineColor, setting::hLineColor, text::hLineColor, DrawAnew<platform::Colour>},
+  });
+}
+
+void GraphGridsPage::PlaceControls() {
+  constexpr int kWidth = kPageWidth - 2 * kMargin;
+  constexpr int kHeight = 134;
+  constexpr int kTop = toolkit::GroupBox::kTitleHeight + 5;
+  constexpr int kFirst = kTop + kRow + 2;
+  constexpr int kLabelWidth = 170;
+  constexpr int kField = kMargin + kLabelWidth + kMargin;
+  const auto label = [](int row) {
+    return platform::Rect{kMargin, kFirst + row * kFieldRow + 2, kLabelWidth, kBoxHeight};
+  };
+  const auto field = [](int row, int width) {
+    return platform::Rect{kField, kFirst + row * kFieldRow, width, kFieldHeight};
+  };
+  toolkit::ApplyLayout({
+      {grpVertical, {kMargin, kMargin, kWidth, kHeight}},
+      {vGridsVisibleCheckBox, {kMargin, kTop, kWidth - 2 * kMargin, kBoxHeight}},
+      {lblVLineStyle, label(0)},
+      {cmbVLineStyle, field(0, 150)},
+      {lblVLineSpace, label(1)},
+      {vLineSpace, field(1, 80)},
+      {lblVLineColor, label(2)},
+      {vLineColor, field(2, 80)},
+      {grpHorizontal, {kMargin, kMargin + kHeight + kMargin, kWidth, kHeight}},
+      {hGridsVisibleCheckBox, {kMargin, kTop, kWidth - 2 * kMargin, kBoxHeight}},
+      {lblHLineStyle, label(0)},
+      {cmbHLineStyle, field(0, 150)},
+      {lblHLineSpace, label(1)},
+      {hLineSpace, field(1, 80)},
+      {lblHLineColor, label(2)},
+      {hLineColor, field(2, 80)},
+  });
+}
+
+void GraphGridsPage::Localise(const Translation& say) {
+  const std::vector<std::string> styles = Texts(
+      say,
+      {text::LineStyle0, text::LineStyle1, text::LineStyle2, text::LineStyle3, text::LineStyle4});
+  cmbVLineStyle.SetItems(styles);
+  cmbHLineStyle.SetItems(styles);
+  Say(say, {
+               {grpVertical, text::grpVertical},
+               {vGridsVisibleCheckBox, text::vGridsVisibleCheckBox},
+               {lblVLineStyle, text::lblVLineStyle},
+               {lblVLineSpace, text::lblVLineSpace},
+               {vLineSpace, {}, text::LineSpaceHint},
+               {lblVLineColor, text::lblVLineColor},
+               {vLineColor, text::vLineColor, text::ColorPanelHint},
+               {grpHorizontal, text::grpHorizontal},
+               {hGridsVisibleCheckBox, text::hGridsVisibleCheckBox},
+               {lblHLineStyle, text::lblHLineStyle},
+               {lblHLineSpace, text::lblHLineSpace},
+               {hLineSpace, {}, text::LineSpaceHint},
+               {lblHLineColor, text::lblHLineColor},
+               {hLineColor, text::hLineColor, text::ColorPanelHint},
+           });
+}
+
+void GraphGridsPage::Read() {
+  visible_.Read();
+  if (vGridsVisibleCheckBox.Checked()) vertical_style_.Read();
+  if (hGridsVisibleCheckBox.Checked()) horizontal_style_.Read();
+  others_.Read();
+}
+
+}  // namespace settings::preferences

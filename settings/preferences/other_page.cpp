@@ -1,0 +1,103 @@
+#include "settings/preferences/other_page.h"
+
+#include <limits>
+
+#include "toolkit/layout.h"
+
+namespace settings::preferences {
+namespace {
+
+namespace text = settings::text::SettingsForm;
+
+using Meter = display::RunningMeter;
+
+constexpr int kOpaque = 255;
+constexpr int kOpacityPage = 16;
+constexpr std::int64_t kLedStep = 1000;
+
+}  // namespace
+
+OtherPage::OtherPage(toolkit::Notebook& notebook, Context& context)
+    : Page(notebook, "Other", context),
+      grpKeyboardLeds(*this, "grpKeyboardLeds"),
+      DLSwitchScr(grpKeyboardLeds, "DLSwitchScr"),
+      ULSwitchNum(grpKeyboardLeds, "ULSwitchNum"),
+      lblKeyLedsLimit(grpKeyboardLeds, "lblKeyLedsLimit", toolkit::kCaptionText),
+      spnKeyLedsLimit(grpKeyboardLeds, "spnKeyLedsLimit"),
+      grpTransparency(*this, "grpTransparency"),
+      AutoTransparentONOFF(grpTransparency, "AutoTransparentONOFF"),
+      lblWin2kTransTrack(grpTransparency, "lblWin2kTransTrack", toolkit::kCaptionText),
+      Win2kTransTrack(grpTransparency, "Win2kTransTrack"),
+      TransparentFade(grpTransparency, "TransparentFade"),
+      grpExit(*this, "grpExit"),
+      AskOnExit(grpExit, "AskOnExit"),
+      transparency_(context),
+      exit_and_fade_(context),
+      leds_(context) {
+  PlaceControls();
+  // No bounds but those of what is stored.
+  spnKeyLedsLimit.SetRange(std::numeric_limits<std::int32_t>::min(),
+                           std::numeric_limits<std::int32_t>::max(), kLedStep);
+  Win2kTransTrack.SetRange(0, kOpaque, kOpacityPage);
+  transparency_.Connect({
+      {AutoTransparentONOFF, setting::AutoTransparentONOFF,
+       [](const Meter& m, bool on) { m.transparency.ChangeAutomatic(on); }},
+      {Win2kTransTrack, setting::Win2kTransparentRatio,
+       [](const Meter& m, std::int64_t ratio) { m.transparency.ChangeRatio(ratio); }},
+  });
+  exit_and_fade_.Connect({
+      {AskOnExit, setting::AskOnExit},
+      {TransparentFade, setting::TransparentFade},
+  });
+  leds_.Connect({
+      {DLSwitchScr, setting::DLSwitchScr},
+      {ULSwitchNum, setting::ULSwitchNum},
+      {spnKeyLedsLimit, setting::spnKeyLedsLimit},
+  });
+}
+
+void OtherPage::PlaceControls() {
+  constexpr int kWidth = kPageWidth - 2 * kMargin;
+  constexpr int kInside = kWidth - 2 * kMargin;
+  constexpr int kTop = toolkit::GroupBox::kTitleHeight + 5;
+  constexpr int kLabelWidth = 264;
+  constexpr int kLedsHeight = kTop + 2 * kRow + kFieldRow + 6;
+  constexpr int kTransparencyTop = kMargin + kLedsHeight + kMargin;
+  constexpr int kTransparencyHeight = kTop + 2 * kRow + 32 + kRow + 6;
+  constexpr int kExitTop = kTransparencyTop + kTransparencyHeight + kMargin;
+  toolkit::ApplyLayout({
+      {grpKeyboardLeds, {kMargin, kMargin, kWidth, kLedsHeight}},
+      {DLSwitchScr, {kMargin, kTop, kInside, kBoxHeight}},
+      {ULSwitchNum, {kMargin, kTop + kRow, kInside, kBoxHeight}},
+      {lblKeyLedsLimit, {kMargin, kTop + 2 * kRow + 4, kLabelWidth, kBoxHeight}},
+      {spnKeyLedsLimit,
+       {2 * kMargin + kLabelWidth, kTop + 2 * kRow + 2, kInside - kLabelWidth - kMargin,
+        kFieldHeight}},
+      {grpTransparency, {kMargin, kTransparencyTop, kWidth, kTransparencyHeight}},
+      {AutoTransparentONOFF, {kMargin, kTop, kInside, kBoxHeight}},
+      {lblWin2kTransTrack, {kMargin, kTop + kRow, kInside, kBoxHeight}},
+      {Win2kTransTrack, {kMargin, kTop + 2 * kRow, kInside, 30}},
+      {TransparentFade, {kMargin, kTop + 2 * kRow + 34, kInside, kBoxHeight}},
+      {grpExit, {kMargin, kExitTop, kWidth, kTop + kRow + 3}},
+      {AskOnExit, {kMargin, kTop, kInside, kBoxHeight}},
+  });
+}
+
+void OtherPage::Localise(const Translation& say) {
+  Say(say, {
+               {grpKeyboardLeds, text::grpKeyboardLeds},
+               {DLSwitchScr, text::DLSwitchScr},
+               {ULSwitchNum, text::ULSwitchNum},
+               {lblKeyLedsLimit, text::lblKeyLedsLimit},
+               {grpTransparency, text::grpTransparency},
+               {AutoTransparentONOFF, text::AutoTransparentONOFF, text::AutoTransparentONOFFHint},
+               {lblWin2kTransTrack, text::lblWin2kTransTrack},
+               {Win2kTransTrack, {}, text::Win2kTransTrackHint},
+               {TransparentFade, text::TransparentFade},
+               {grpExit, text::grpExit},
+               {AskOnExit, text::AskOnExit},
+           });
+  spnKeyLedsLimit.SetHint(say(text::StepHint, {std::to_string(spnKeyLedsLimit.StepSize())}));
+}
+
+}  // namespace settings::preferences

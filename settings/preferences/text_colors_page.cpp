@@ -1,0 +1,98 @@
+#include "settings/preferences/text_colors_page.h"
+
+#include <algorithm>
+
+#include "toolkit/layout.h"
+
+namespace settings::preferences {
+namespace {
+
+namespace text = settings::text::SettingsForm;
+
+using Meter = display::RunningMeter;
+
+}  // namespace
+
+TextColorsPage::TextColorsPage(toolkit::Notebook& notebook, Context& context)
+    : Page(notebook, "TextColors", context),
+      lblFontColor(*this, "lblFontColor", toolkit::kCaptionText),
+      FontColor(*this, "FontColor"),
+      lblFontBackground(*this, "lblFontBackground", toolkit::kCaptionText),
+      FontBackground(*this, "FontBackground"),
+      lblFont(*this, "lblFont", toolkit::kCaptionText),
+      FontChoose(*this, "FontChoose"),
+      colours_(context) {
+  PlaceControls();
+  colours_.Connect({
+      {FontColor, setting::GraphColor_Font, text::GraphColor_Font,
+       [](const Meter& m, platform::Colour colour) { m.label.SetFontColour(colour); }},
+      {FontBackground, setting::GraphColor_FontBackground, text::GraphColor_FontBackground,
+       [](const Meter& m, platform::Colour colour) { m.label.SetColour(colour); }},
+  });
+  FontChoose.OnChange = [this] { FontChooseChange(); };
+}
+
+void TextColorsPage::PlaceControls() {
+  constexpr int kLabelWidth = 170;
+  constexpr int kField = kMargin + kLabelWidth + kMargin;
+  const auto label = [](int row) {
+    return platform::Rect{kMargin, kMargin + row * kFieldRow + 2, kLabelWidth, kBoxHeight};
+  };
+  const auto field = [](int row, int width) {
+    return platform::Rect{kField, kMargin + row * kFieldRow, width, kFieldHeight};
+  };
+  toolkit::ApplyLayout({
+      {lblFontColor, label(0)},
+      {FontColor, field(0, 80)},
+      {lblFontBackground, label(1)},
+      {FontBackground, field(1, 80)},
+      {lblFont, label(2)},
+      {FontChoose, field(2, kPageWidth - kMargin - kField)},
+  });
+}
+
+void TextColorsPage::Localise(const Translation& say) {
+  Say(say, {
+               {lblFontColor, text::GraphColor_Font},
+               {FontColor, text::GraphColor_Font, text::ColorPanelHint},
+               {lblFontBackground, text::GraphColor_FontBackground},
+               {FontBackground, text::GraphColor_FontBackground, text::ColorPanelHint},
+               {lblFont, text::lblFont},
+           });
+}
+
+void TextColorsPage::Read() {
+  colours_.Read();
+  ReadFont();
+}
+
+// The name counts: another font may have come to stand at the stored index. One that is not
+// installed leaves the list without a choice.
+void TextColorsPage::ReadFont() {
+  const std::int64_t index = context_.store.Read(setting::FontNameIndex);
+  const std::string name = context_.store.Read(setting::FontName);
+  const std::vector<std::string> fonts = context_.app.Platform().fonts.Families();
+  if (fonts != FontChoose.Items()) {
+    FontChoose.SetItemIndex(-1);
+    FontChoose.SetItems(fonts);
+  }
+  if (index >= 0 && index < std::ssize(fonts) && fonts[static_cast<std::size_t>(index)] == name) {
+    FontChoose.SetItemIndex(static_cast<int>(index));
+    return;
+  }
+  const auto found = std::find(fonts.begin(), fonts.end(), name);
+  FontChoose.SetItemIndex(found != fonts.end() ? static_cast<int>(found - fonts.begin()) : -1);
+}
+
+void TextColorsPage::FontChooseChange() {
+  const int index = FontChoose.ItemIndex();
+  if (index < 0) return;
+  const std::string& name = FontChoose.Items()[static_cast<std::size_t>(index)];
+  platform::FontSpec font = context_.meter.label.Font();
+  font.face = name;
+  context_.meter.label.SetFont(font);
+  context_.Save(setting::FontName, name);
+  context_.Save(setting::FontNameIndex, index);
+}
+
+}  // namespace settings::preferences

@@ -1,0 +1,108 @@
+#include "settings/preferences/text_other_page.h"
+
+#include "display/display_settings.h"
+#include "display/unit_BrisantoMain.h"
+#include "toolkit/layout.h"
+
+namespace settings::preferences {
+namespace {
+
+namespace text = settings::text::SettingsForm;
+
+using Meter = display::RunningMeter;
+
+Push<bool> ModeOf(const BooleanSetting& mode) {
+  return [mode](const Meter& meter, bool on) {
+    meter.line.ShowMode(mode, on);
+    meter.window.LineChanged();
+  };
+}
+
+// Amounts in the old unit would stand in the line until the next scan.
+void ShowUnit(const Meter& meter, std::int64_t index) {
+  if (meter.graph.ScaleUnits == display::UnitsOf(index)) return;
+  meter.graph.ScaleUnits = display::UnitsOf(index);
+  meter.line.ShowUnit(index != 0);
+  meter.window.LineChanged();
+}
+
+}  // namespace
+
+TextOtherPage::TextOtherPage(toolkit::Notebook& notebook, Context& context)
+    : Page(notebook, "TextOther", context),
+      grpNumericLine(*this, "grpNumericLine"),
+      chkTariffName(grpNumericLine, "chkTariffName"),
+      chkConnLength(grpNumericLine, "chkConnLength"),
+      chkTotalCost(grpNumericLine, "chkTotalCost"),
+      rdoScaleUnits(*this, "rdoScaleUnits"),
+      grpWindowTitles(*this, "grpWindowTitles"),
+      Post0(grpWindowTitles, "Post0"),
+      Post1(grpWindowTitles, "Post1"),
+      Post2(grpWindowTitles, "Post2"),
+      Post3(grpWindowTitles, "Post3"),
+      DefineButton(grpWindowTitles, "DefineButton"),
+      line_(context),
+      titles_(context) {
+  PlaceControls();
+  const std::vector<std::string> units(2);
+  rdoScaleUnits.SetItems(units);
+  ConnectHandlers();
+}
+
+void TextOtherPage::ConnectHandlers() {
+  line_.Connect({
+      {chkTariffName, setting::SOM1, ModeOf(setting::SOM1)},
+      {chkConnLength, setting::SOM2, ModeOf(setting::SOM2)},
+      {chkTotalCost, setting::SOM3, ModeOf(setting::SOM3)},
+      {rdoScaleUnits, setting::ScaleUnit, ShowUnit},
+  });
+  titles_.Connect({
+      {{&Post0, &Post1, &Post2, &Post3},
+       setting::WindowTitle,
+       [](const Meter& m, std::int64_t mode) { m.titles.ChangeMode(mode); }},
+  });
+  DefineButton.OnClick = [this] { context_.meter.window.EditTitles(); };
+}
+
+void TextOtherPage::PlaceControls() {
+  constexpr int kWidth = kPageWidth - 2 * kMargin;
+  constexpr int kInside = kWidth - 2 * kMargin;
+  constexpr int kTop = toolkit::GroupBox::kTitleHeight + 5;
+  constexpr int kLineHeight = kTop + 3 * kRow + 3;
+  constexpr int kUnitsTop = kMargin + kLineHeight + kMargin;
+  constexpr int kUnitsHeight = kTop + 2 * kRow + 3;
+  constexpr int kTitlesTop = kUnitsTop + kUnitsHeight + kMargin;
+  constexpr int kButtonTop = kTop + 4 * kRow + 4;
+  toolkit::ApplyLayout({
+      {grpNumericLine, {kMargin, kMargin, kWidth, kLineHeight}},
+      {chkTariffName, {kMargin, kTop, kInside, kBoxHeight}},
+      {chkConnLength, {kMargin, kTop + kRow, kInside, kBoxHeight}},
+      {chkTotalCost, {kMargin, kTop + 2 * kRow, kInside, kBoxHeight}},
+      {rdoScaleUnits, {kMargin, kUnitsTop, kWidth, kUnitsHeight}},
+      {grpWindowTitles, {kMargin, kTitlesTop, kWidth, kButtonTop + kButtonHeight + kMargin}},
+      {Post0, {kMargin, kTop, kInside, kBoxHeight}},
+      {Post1, {kMargin, kTop + kRow, kInside, kBoxHeight}},
+      {Post2, {kMargin, kTop + 2 * kRow, kInside, kBoxHeight}},
+      {Post3, {kMargin, kTop + 3 * kRow, kInside, kBoxHeight}},
+      {DefineButton, {kMargin, kButtonTop, 110, kButtonHeight}},
+  });
+}
+
+void TextOtherPage::Localise(const Translation& say) {
+  rdoScaleUnits.SetItems(Texts(say, {text::ScaleUnit0, text::ScaleUnit1}));
+  Say(say, {
+               {grpNumericLine, text::grpNumericLine},
+               {chkTariffName, text::chkTariffName},
+               {chkConnLength, text::chkConnLength},
+               {chkTotalCost, text::chkTotalCost},
+               {rdoScaleUnits, text::rdoScaleUnits},
+               {grpWindowTitles, text::grpWindowTitles},
+               {Post0, text::Post0},
+               {Post1, text::Post1},
+               {Post2, text::Post2},
+               {Post3, text::Post3},
+               {DefineButton, text::DefineButton, text::DefineButtonHint},
+           });
+}
+
+}  // namespace settings::preferences
