@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string_view>
 
 #include "display/kxintermeter.h"
 #include "display/numeric_line.h"
@@ -17,6 +18,9 @@
 namespace display {
 
 class T_frmBrisanto;
+
+// The preferences stand on a floor above this one; by this name they are known to be open.
+inline constexpr std::string_view kPreferencesForm = "T_frmPreferences";
 
 // All belong to the meter window and live as long as it does.
 struct RunningMeter {

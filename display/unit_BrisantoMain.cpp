@@ -1,5 +1,7 @@
 #include "display/unit_BrisantoMain.h"
 
+#include <algorithm>
+
 #include "alerts/keyboard_leds.h"
 #include "display/about.h"
 #include "display/display_settings.h"
@@ -39,6 +41,12 @@ platform::TopWindowParams CreateParams() {
   params.frame = platform::Frame::kSizeableTool;
   params.bare_popup = true;
   return params;
+}
+
+bool IsOpen(const toolkit::Application& app, std::string_view form_name) {
+  return std::any_of(app.Forms().begin(), app.Forms().end(), [form_name](const auto* form) {
+    return form->Name() == form_name && form->Showing();
+  });
 }
 
 int LabelPoints(int window_width) {
@@ -285,8 +293,9 @@ void T_frmBrisanto::mnuTransparentClick() { transparency_.mnuTransparentClick();
 
 void T_frmBrisanto::Settings1Click() {
   if (!open_preferences_) return;
-  if (settings::LockEngaged(RegME) && !settings::AskForPassword(App(), RegME, _ReadLangauge))
-    return;
+  // Who has them open has given the password; they are only raised.
+  const bool asks = !IsOpen(App(), kPreferencesForm) && settings::LockEngaged(RegME);
+  if (asks && !settings::AskForPassword(App(), RegME, _ReadLangauge)) return;
   open_preferences_();
 }
 

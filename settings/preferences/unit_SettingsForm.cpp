@@ -20,7 +20,7 @@ constexpr std::string_view kPlacementKey = "\\Software\\BrisantoNET\\Settings\\S
 
 platform::TopWindowParams CreateParams() {
   platform::TopWindowParams params;
-  params.name = "T_frmPreferences";
+  params.name = display::kPreferencesForm;
   params.frame = platform::Frame::kDialog;
   return params;
 }

@@ -195,6 +195,35 @@ TEST_F(Meter, ABytesCountedAtTheWakeUpAreNoTraffic) {
   });
 }
 
+TEST_F(Meter, ThePasswordIsAskedForUnlessThePreferencesAreOpen) {
+  Set("zdP1", 1);
+  Set("zdP", "Secret");
+  Run([&] {
+    platform::TopWindowParams params;
+    params.name = display::kPreferencesForm;
+    toolkit::Form preferences(App(), params);
+    int opened = 0;
+    Window().SetPreferences([&] {
+      ++opened;
+      preferences.Show();
+    });
+    const auto refuse = [&] { machine.windowing.Press("CancelButton"); };
+    machine.message_loop.Then(refuse);
+    Choose("Settings...");
+    EXPECT_EQ(opened, 0);
+    machine.message_loop.Then([&] { machine.windowing.Type("PassEdit", "Secret"); });
+    Choose("Settings...");
+    EXPECT_EQ(opened, 1);
+    Choose("Settings...");
+    EXPECT_EQ(opened, 2) << "they are raised";
+    preferences.Hide();
+    machine.message_loop.Then(refuse);
+    Choose("Settings...");
+    EXPECT_EQ(opened, 2);
+  });
+  EXPECT_EQ(machine.message_loop.starved, 0);
+}
+
 TEST_F(Meter, AFailedStartIsLoggedAndMadeGoodByTheNextScan) {
   for (int call = 1;; ++call) {
     SCOPED_TRACE(call);
