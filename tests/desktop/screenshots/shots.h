@@ -18,5 +18,6 @@ struct Shot {
 
 [[nodiscard]] std::span<const Shot> MeterShots();
 [[nodiscard]] std::span<const Shot> AlertShots();
+[[nodiscard]] std::span<const Shot> ExitShots();
 
 }  // namespace desktop
