@@ -47,8 +47,8 @@ bool ProgramRuns() {
   return static_cast<bool>(KernelHandle(::OpenMutexW(SYNCHRONIZE, FALSE, L"Korvane Tremolux")));
 }
 
-Program::Program(const std::wstring& path) {
-  std::wstring command = L"\"" + path + L"\"";
+Program::Program(const std::wstring& path, const std::wstring& arguments) {
+  std::wstring command = L"\"" + path + L"\" " + arguments;
   STARTUPINFOW startup{};
   startup.cb = sizeof(startup);
   PROCESS_INFORMATION started{};

@@ -21,7 +21,8 @@ namespace desktop {
 class Program {
  public:
   // Starts it, on the desktop of this process. Throws std::runtime_error when it cannot be started.
-  explicit Program(const std::wstring& path = ProgramPath());
+  // The program knows no arguments; other programs that are started here may.
+  explicit Program(const std::wstring& path = ProgramPath(), const std::wstring& arguments = {});
   ~Program();
   Program(const Program&) = delete;
   Program& operator=(const Program&) = delete;
