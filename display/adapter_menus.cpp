@@ -30,12 +30,26 @@ void AdapterMenus::Add(const std::vector<engine::AdapterItem>& adapters) {
     statistics.Enabled = OpenStatistics != nullptr;
     statistics.OnClick = [this, &statistics] { MyPopupHandler2(statistics); };
   }
+  if (OnChange) OnChange();
+}
+
+std::vector<std::string> AdapterMenus::Descriptions() const {
+  std::vector<std::string> descriptions;
+  for (const auto& item : sources_.Children()) descriptions.push_back(item->Caption);
+  return descriptions;
+}
+
+void AdapterMenus::ReadTicks() {
+  for (const auto& item : sources_.Children()) {
+    item->SetChecked(store_.ReadBool(settings::TrimmedAdapterName(item->Caption), true));
+  }
 }
 
 // Stored under the trimmed name, while the engine reads the flag under the untrimmed one.
 void AdapterMenus::MyPopupHandler(toolkit::MenuItem& item) {
   item.SetChecked(!item.Checked());
   store_.WriteBool(settings::TrimmedAdapterName(item.Caption), item.Checked());
+  if (OnChange) OnChange();
 }
 
 void AdapterMenus::MyPopupHandler2(const toolkit::MenuItem& item) {

@@ -23,6 +23,15 @@ class AdapterMenus {
   // Adds an item for each adapter to both submenus.
   void Add(const std::vector<engine::AdapterItem>& adapters);
 
+  // The descriptions of the adapters, in the order of the menus.
+  [[nodiscard]] std::vector<std::string> Descriptions() const;
+
+  // Takes the ticks of "Connection Sources" over from the store.
+  void ReadTicks();
+
+  // The adapters are others, or one was ticked or unticked in the menu.
+  std::function<void()> OnChange;
+
   // Opens the statistics window of the adapter with this description; while it is empty the items
   // of "Connection Statistics" are disabled.
   std::function<void(const std::string& description)> OpenStatistics;

@@ -4,6 +4,8 @@
 #include <cstdint>
 #include <string_view>
 
+#include "alerts/notifications.h"
+#include "display/adapter_menus.h"
 #include "display/kxintermeter.h"
 #include "display/numeric_line.h"
 #include "display/title_posting.h"
@@ -36,6 +38,8 @@ struct RunningMeter {
   TitlePosting& titles;
   toolkit::HintWindow& hints;
   std::int64_t& SpeedCap;  // of the sampler, bytes per scan; 0 for none
+  AdapterMenus& adapters;
+  alerts::Notifications& notifications;
 };
 
 }  // namespace display

@@ -39,10 +39,10 @@ T_frmPreferences::T_frmPreferences(toolkit::Application& app, const display::Run
       text_colors_(PrefNotebook, context_),
       text_other_(PrefNotebook, context_),
       speed_up_(PrefNotebook, "SpeedUp", context_),
-      admin_(PrefNotebook, "Admin", context_),
-      interfaces_(PrefNotebook, "Interfaces", context_),
-      bandwidth_alert_(PrefNotebook, "BandwidthAlert", context_),
-      notification_(PrefNotebook, "Notification", context_),
+      admin_(PrefNotebook, context_),
+      interfaces_(PrefNotebook, context_),
+      bandwidth_alert_(PrefNotebook, context_),
+      notification_(PrefNotebook, context_),
       other_(PrefNotebook, context_),
       reset_settings_(PrefNotebook, context_, [this] { ReadSettings(); }),
       btnClose(*this, "btnClose"),
@@ -110,9 +110,15 @@ void T_frmPreferences::ReadSettings() {
     graph_colors_.ReadIconFile();
     text_colors_.Read();
     text_other_.ReadLine();
+    admin_.Read();
     text_other_.ReadWindowTitle();
     other_.ReadExitAndFade();
+    notification_.ReadTicker();
+    bandwidth_alert_.Read();
+    notification_.ReadRule();
+    notification_.ReadActive();
     other_.ReadLeds();
+    interfaces_.Read();
   }
   context_.meter.transparency.ApplyShape();
 }

@@ -4,11 +4,15 @@
 
 #include <functional>
 
+#include "settings/preferences/admin_page.h"
+#include "settings/preferences/bandwidth_alert_page.h"
 #include "settings/preferences/context.h"
 #include "settings/preferences/general_page.h"
 #include "settings/preferences/graph_colors_page.h"
 #include "settings/preferences/graph_grids_page.h"
 #include "settings/preferences/graph_others_page.h"
+#include "settings/preferences/interfaces_page.h"
+#include "settings/preferences/notification_page.h"
 #include "settings/preferences/other_page.h"
 #include "settings/preferences/page.h"
 #include "settings/preferences/reset_settings_page.h"
@@ -52,10 +56,10 @@ class T_frmPreferences final : public toolkit::Form {
   TextColorsPage text_colors_;
   TextOtherPage text_other_;
   Page speed_up_;
-  Page admin_;
-  Page interfaces_;
-  Page bandwidth_alert_;
-  Page notification_;
+  AdminPage admin_;
+  InterfacesPage interfaces_;
+  BandwidthAlertPage bandwidth_alert_;
+  NotificationPage notification_;
   OtherPage other_;
   ResetSettingsPage reset_settings_;
   toolkit::Button btnClose;

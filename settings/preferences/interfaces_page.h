@@ -1,0 +1,43 @@
+// The page "Interfaces": which network adapters count.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "settings/preferences/page.h"
+#include "toolkit/check_box.h"
+#include "toolkit/check_list_box.h"
+#include "toolkit/label.h"
+
+namespace settings::preferences {
+
+// Its rows are those of the meter's menus and come and go with them.
+class InterfacesPage final : public Page {
+ public:
+  InterfacesPage(toolkit::Notebook& notebook, Context& context);
+  ~InterfacesPage() override;
+
+  void Localise(const Translation& say) override;
+
+  // Shows the adapters that there are now, and what is stored of them.
+  void Read();
+
+ private:
+  void NIMListBoxClickCheck(int row);
+  void chkSelectALLClick();
+  void Write(int row, bool on);
+  // Whether all are ticked; there may be none.
+  void ShowWhetherAll();
+  // The stored data of the chosen adapter.
+  void ShowData();
+
+  toolkit::Label lblInterfaces;
+  toolkit::CheckListBox NIMListBox;
+  toolkit::CheckBox chkSelectALL;
+  toolkit::Label lblMacAddress, lblMacAddressValue;
+  toolkit::Label lblSpeed, lblSpeedValue;
+  toolkit::Label lblMTU, lblMTUValue;
+  bool following_ = false;  // the boxes take over what counts already
+};
+
+}  // namespace settings::preferences

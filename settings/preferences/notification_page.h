@@ -1,0 +1,67 @@
+// The page "Notification": the two rules about the traffic, which share one set of controls, and
+// the ticker.
+#pragma once
+
+#include "settings/preferences/options.h"
+#include "settings/preferences/page.h"
+#include "settings/preferences/sound_file.h"
+#include "toolkit/edit.h"
+#include "toolkit/group_box.h"
+#include "toolkit/label.h"
+#include "toolkit/list_box.h"
+
+namespace settings::preferences {
+
+class NotificationPage final : public Page {
+ public:
+  NotificationPage(toolkit::Notebook& notebook, Context& context);
+
+  void Localise(const Translation& say) override;
+
+  // Show what is stored.
+  void ReadTicker();
+  void ReadRule();
+  void ReadActive();
+
+ private:
+  // The stored values of a rule.
+  struct Rule;
+  static const Rule kLess;
+  static const Rule kMore;
+
+  void PlaceControls();
+  void PlaceTicker(int top);
+  void ConnectHandlers();
+  // Asked of the store anew by every handler: another program may have chosen the other one.
+  [[nodiscard]] const Rule& Chosen();
+  void LessOrMoreChange();
+  // Puts the values of the chosen rule into the controls.
+  void ReadControls();
+  void ShowMessage();
+
+  toolkit::CheckBox NotificationsCheckBox;
+  toolkit::ComboBox LessOrMore;
+  toolkit::SpinEdit BytesSpin;
+  toolkit::Label lblBytes;
+  toolkit::CheckBox WhenDownload;
+  toolkit::CheckBox WhenUpload;
+  toolkit::Label lblInLast;
+  toolkit::SpinEdit BytesSec;
+  toolkit::Label lblSeconds;
+  toolkit::CheckBox PlayEnabled;
+  SoundFile sound_;
+  toolkit::Label lblAction;
+  toolkit::ComboBox ActionComboBox;
+  toolkit::Label lblDisplayMessage;
+  toolkit::Edit DisplayMessage;
+  toolkit::GroupBox grpTicker;
+  toolkit::CheckBox TickerCheckBox;
+  toolkit::SpinEdit TickerSpin;
+  toolkit::Label lblTickerBytes;
+  SoundFile ticker_sound_;
+
+  Options ticker_;
+  Options active_;
+};
+
+}  // namespace settings::preferences
