@@ -42,6 +42,12 @@ GraphGridsPage::GraphGridsPage(toolkit::Notebook& notebook, Context& context)
       horizontal_style_(context),
       others_(context) {
   PlaceControls();
+  // What a list shows until its lines are shown for the first time.
+  const std::vector<std::string> styles(5);
+  for (toolkit::ComboBox* list : {&cmbVLineStyle, &cmbHLineStyle}) {
+    list->SetItems(styles);
+    list->SetItemIndex(static_cast<int>(setting::cmbVLineStyle.read));
+  }
   vLineSpace.SetRange(0, kWidestSpace, 1);
   hLineSpace.SetRange(0, kWidestSpace, 1);
   visible_.Connect({

@@ -35,7 +35,12 @@ void PicturePanel::OnPaint(platform::Canvas& canvas) {
     if (!pictures_.Loaded() || !picture) return;
     for (int i = 0; i < kPictures; ++i) {
       pictures_.Draw(static_cast<display::TrayActivity>(i), picture->GetCanvas());
-      canvas.Draw(*picture, {Scale(kGap + i * (kSide + kGap)), (size.height - side) / 2});
+      const platform::Point at{Scale(kGap + i * (kSide + kGap)), (size.height - side) / 2};
+      for (int p = 0; p < side * side; ++p) {
+        const platform::Colour pixel = picture->Pixel({p % side, p / side});
+        if (pixel == pictures_.SeeThrough()) continue;
+        canvas.Fill({at.x + p % side, at.y + p / side, 1, 1}, pixel);
+      }
     }
   });
 }
