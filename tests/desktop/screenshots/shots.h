@@ -18,6 +18,7 @@ struct Shot {
 
 [[nodiscard]] std::span<const Shot> MeterShots();
 [[nodiscard]] std::span<const Shot> AlertShots();
+[[nodiscard]] std::span<const Shot> StatisticsShots();
 [[nodiscard]] std::span<const Shot> ExitShots();
 
 }  // namespace desktop
