@@ -51,8 +51,10 @@ GraphGridsPage::GraphGridsPage(toolkit::Notebook& notebook, Context& context)
   vLineSpace.SetRange(0, kWidestSpace, 1);
   hLineSpace.SetRange(0, kWidestSpace, 1);
   visible_.Connect({
-      {vGridsVisibleCheckBox, setting::vGridVisible, DrawAnew<bool>},
-      {hGridsVisibleCheckBox, setting::hGridVisible, DrawAnew<bool>},
+      {vGridsVisibleCheckBox, setting::vGridVisible,
+       [this](const Meter& meter, bool visible) { ShowLines(meter, visible, vertical_style_); }},
+      {hGridsVisibleCheckBox, setting::hGridVisible,
+       [this](const Meter& meter, bool visible) { ShowLines(meter, visible, horizontal_style_); }},
   });
   vertical_style_.Connect({{cmbVLineStyle, setting::cmbVLineStyle, DrawAnew<std::int64_t>}});
   horizontal_style_.Connect({{cmbHLineStyle, setting::cmbHLineStyle, DrawAnew<std::int64_t>}});
@@ -119,6 +121,14 @@ void GraphGridsPage::Localise(const Translation& say) {
                {lblHLineColor, text::lblHLineColor},
                {hLineColor, text::hLineColor, text::ColorPanelHint},
            });
+}
+
+// With the lines comes their style: what is drawn and what the list says are the same.
+void GraphGridsPage::ShowLines(const Meter& meter, bool visible, Options& style) {
+  meter.graph.Refresh();
+  if (!visible) return;
+  const Context::Reading reading(context_);
+  style.Read();
 }
 
 void GraphGridsPage::Read() {

@@ -18,6 +18,7 @@ class GraphGridsPage final : public Page {
 
  private:
   void PlaceControls();
+  void ShowLines(const display::RunningMeter& meter, bool visible, Options& style);
 
   toolkit::GroupBox grpVertical;
   toolkit::CheckBox vGridsVisibleCheckBox;

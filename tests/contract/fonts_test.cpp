@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-
 #include "platform/text.h"
 #include "tests/contract/desk.h"
 
@@ -12,8 +10,9 @@ namespace {
 
 TEST(FontsContract, AreNamedOnceInTheOrderOfTheAlphabetWithoutTheVerticalOnes) {
   const std::unique_ptr<Desk> desk = MakeDesk();
-  std::vector<std::string> names = desk->Platform().fonts.Families();
-  EXPECT_NE(std::find(names.begin(), names.end(), "Tahoma"), names.end());
+  const std::vector<std::string> names = desk->Platform().fonts.Families();
+  // Which ones there are is the machine's own.
+  EXPECT_FALSE(names.empty());
   for (std::size_t at = 0; at < names.size(); ++at) {
     SCOPED_TRACE(names[at]);
     EXPECT_FALSE(names[at].empty() || names[at].front() == '@');

@@ -340,6 +340,20 @@ TEST_F(PreferenceOptions, OpeningShowsWhatIsStoredAndChangesNoStoredValue) {
   }
 }
 
+TEST_F(PreferenceOptions, TheStyleOfGridLinesIsReadWithTheLines) {
+  RunOpen([&] {
+    Close();
+    Set("hGridVisible", 0);
+    Set("cmbHLineStyle", 4);
+    Open();
+    ChoosePage("Graph Grids");
+    EXPECT_EQ(Widget("cmbHLineStyle").index, 2);
+    User().Press("hGridsVisibleCheckBox");
+    EXPECT_EQ(Widget("cmbHLineStyle").index, 4);
+    EXPECT_EQ(Stored("cmbHLineStyle"), 4U);
+  });
+}
+
 TEST_F(PreferenceOptions, AutostartFollowsItsBoxAlsoWhenTheBoxFollowsTheStore) {
   constexpr std::string_view kRun = "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Run";
   machine.registry.Set(kRun, "other", RegistryValue::Text("other.exe"));
