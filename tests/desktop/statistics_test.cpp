@@ -61,6 +61,7 @@ TEST_F(Statistics, TheMachinesWindowShowsWhatIsStoredAndResets) {
   ::GetLocalTime(&now);
   Store("CurrentMonth", now.wMonth);
   Meter& meter = Start();
+  AwaitScans();  // the first one begins a new day, and that arms the alert
   const HWND window = OpenMachine(meter);
   EXPECT_EQ(TextOf(window), "DL-UL Statistics");
   EXPECT_EQ(WidthOf(AreaOf(window)), meter.Scaled(265));
