@@ -87,8 +87,8 @@ void StatisticsForm::Arrange() {
   const int since_height = room.height - since_top - 1;
   toolkit::ApplyLayout(
       {{InfoGroup, {kMargin, 0, group, kInfoGroupHeight}},
-       {IpLabel, {8, 16, 64, 18}},
-       {IpAddress, {74, 16, group - 142, 18}},
+       {IpLabel, {8, 16, 71, 18}},
+       {IpAddress, {80, 16, group - 148, 18}},
        {Button1, {group - 64, 14, 56, kButtonHeight}},
        {Button3, {group - 98, since_height - kButtonHeight - kGroupFoot, 90, kButtonHeight}}});
   InfoGroupBox.Arrange({kMargin, since_top, group, since_height}, kButtonHeight + kGroupFoot + 2);
