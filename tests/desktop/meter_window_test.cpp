@@ -151,6 +151,7 @@ TEST_F(MeterWindow, NeverTakesTheFocusWhenItAppears) {
 
 TEST_F(MeterWindow, ADoubleClickHidesItAndTheTrayIconBringsItBack) {
   Meter& meter = Start();
+  AwaitScans();  // the icon comes a moment after the window
   for (const HWND place : {meter.graph(), meter.line()}) {
     DoubleClick(MiddleOf(AreaOf(place)));
     Await("the meter to go", [&] { return !meter.Visible(); });
