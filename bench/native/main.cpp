@@ -60,7 +60,7 @@ class Figures : public benchmark::BenchmarkReporter {
   void ReportRuns(const std::vector<Run>& runs) override {
     for (const Run& run : runs) {
       microseconds[run.benchmark_name()] =
-          run.real_accumulated_time / static_cast<double>(run.iterations) * 1e6;
+          run.cpu_accumulated_time / static_cast<double>(run.iterations) * 1e6;
     }
   }
   std::map<std::string, double> microseconds;

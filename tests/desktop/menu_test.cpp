@@ -121,6 +121,19 @@ TEST_F(Menu, OpensFromTheTrayIconAndClosesWithAClickElsewhere) {
   EXPECT_TRUE(meter.program().Running());
 }
 
+TEST_F(Menu, AChoiceLeavesTheKeyboardToTheProgramThatHasIt) {
+  Meter& meter = Start();
+  AwaitScans();  // the icon comes a moment after the window
+  const HWND work = ::CreateWindowExW(0, L"EDIT", L"work", WS_POPUP | WS_VISIBLE, 20, 600, 200, 50,
+                                      nullptr, nullptr, nullptr, nullptr);
+  ::SetForegroundWindow(work);
+  Await("the work in front", [work] { return ::GetForegroundWindow() == work; });
+  RightClick(MiddleOf(meter.TrayArea()));
+  OpenMenu(meter.program().id()).Choose({"Graph Options", "Clear Graph"});
+  EXPECT_TRUE(Comes([work] { return ::GetForegroundWindow() == work; }));
+  ::DestroyWindow(work);
+}
+
 TEST_F(Menu, ScansGoOnWhileItIsOpen) {
   Meter& meter = Start();
   OpenMenu menu = meter.Menu();
