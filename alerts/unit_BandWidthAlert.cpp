@@ -38,28 +38,14 @@ constexpr std::array<toolkit::Image, 1> kWarning = {{{
 }}};
 constexpr toolkit::ImageList kImages(kWarning, kPalette);
 
-platform::TopWindowParams CreateParams() {
-  platform::TopWindowParams params;
-  params.name = kBandWidthAlertForm;
-  params.frame = platform::Frame::kTool;
-  return params;
-}
-
 }  // namespace
-
-void T_frmBandWidthAlert::Sign::OnPaint(platform::Canvas& canvas) {
-  Panel::OnPaint(canvas);
-  const platform::Size size = canvas.Extent();
-  const int side = Scale(toolkit::kImageSize);
-  kImages.Draw(0, canvas, {(size.width - side) / 2, (size.height - side) / 2}, ParentForm().Dpi());
-}
 
 T_frmBandWidthAlert::T_frmBandWidthAlert(toolkit::Application& app, settings::Store& store,
                                          display::Quantity& quantity,
                                          const settings::Language& language)
-    : Form(app, CreateParams()),
+    : Form(app, kBandWidthAlertForm, platform::Frame::kTool),
       language_(language),
-      Image1(*this, "Image1"),
+      Image1(*this, "Image1", kImages, toolkit::kImageSize),
       MessagePanel(*this, "MessagePanel"),
       Memo1(MessagePanel, "Memo1", platform::Border::kNone),
       btnDetails(*this, "btnDetails"),

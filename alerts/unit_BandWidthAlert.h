@@ -6,6 +6,7 @@
 #include "toolkit/edit.h"
 #include "toolkit/form.h"
 #include "toolkit/panel.h"
+#include "toolkit/sign.h"
 #include "toolkit/timer.h"
 
 namespace alerts {
@@ -22,15 +23,6 @@ class T_frmBandWidthAlert final : public toolkit::Form {
   void Localise() override;
 
  private:
-  // A small warning sign.
-  class Sign : public toolkit::Panel {
-   public:
-    using Panel::Panel;
-
-   private:
-    void OnPaint(platform::Canvas& canvas) override;
-  };
-
   void FormCreate();
   void Timer1Timer();
   void btnDetailsClick();
@@ -39,7 +31,7 @@ class T_frmBandWidthAlert final : public toolkit::Form {
 
   const settings::Language& language_;
 
-  Sign Image1;
+  toolkit::Sign Image1;
   toolkit::Panel MessagePanel;
   toolkit::Memo Memo1;  // stays empty: the message is in the balloon
   toolkit::Button btnDetails;

@@ -12,18 +12,11 @@ namespace text = settings::text::AddTitles;
 constexpr platform::Size kClientSize{308, 246};  // design pixels
 constexpr std::string_view kPlacementKey = "\\Software\\BrisantoNET\\Settings\\AddTitlesScreen";
 
-platform::TopWindowParams CreateParams() {
-  platform::TopWindowParams params;
-  params.name = kAddTitlesForm;
-  params.frame = platform::Frame::kTool;
-  return params;
-}
-
 }  // namespace
 
 T_frmAddTitles::T_frmAddTitles(toolkit::Application& app, TitlePosting& posting,
                                const settings::Language& language)
-    : Form(app, CreateParams()),
+    : Form(app, kAddTitlesForm, platform::Frame::kTool),
       posting_(posting),
       language_(language),
       WindowTitlesListbox(*this, "WindowTitlesListbox"),

@@ -11,18 +11,11 @@ namespace text = settings::text::AreYouSure;
 
 constexpr platform::Size kClientSize{277, 102};  // design pixels
 
-platform::TopWindowParams CreateParams() {
-  platform::TopWindowParams params;
-  params.name = kAreYouSureForm;
-  params.frame = platform::Frame::kDialog;
-  return params;
-}
-
 }  // namespace
 
 T_frmAreYouSure::T_frmAreYouSure(toolkit::Application& app, settings::Store& store,
                                  const settings::Language& language)
-    : Form(app, CreateParams()),
+    : Form(app, kAreYouSureForm, platform::Frame::kDialog),
       store_(store),
       language_(language),
       Image1(*this, "Image1", toolkit::Sign::Picture::kQuestion),

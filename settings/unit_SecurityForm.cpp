@@ -10,17 +10,10 @@ namespace {
 
 constexpr platform::Size kClientSize{300, 138};  // design pixels
 
-platform::TopWindowParams CreateParams() {
-  platform::TopWindowParams params;
-  params.name = kSecurityForm;
-  params.frame = platform::Frame::kDialog;
-  return params;
-}
-
 }  // namespace
 
 T_frmSecurity::T_frmSecurity(toolkit::Application& app, Store& store, const Language& language)
-    : Form(app, CreateParams()),
+    : Form(app, kSecurityForm, platform::Frame::kDialog),
       store_(store),
       language_(language),
       Image1(*this, "Image1", toolkit::Sign::Picture::kLock),

@@ -21,20 +21,13 @@ constexpr int kFootHeight = 29;    // of the form, with the button "Ok"
 constexpr int kButtonHeight = 21;  // within a group
 constexpr int kGroupFoot = 4;      // what a group leaves free below its rows
 
-platform::TopWindowParams ParamsOf(std::string_view name) {
-  platform::TopWindowParams params;
-  params.name = name;
-  params.frame = platform::Frame::kTool;
-  return params;
-}
-
 constexpr platform::TextStyle kAddressText{platform::TextAlign::kLeft, platform::Border::kSunken};
 
 }  // namespace
 
 StatisticsForm::StatisticsForm(const StatisticsContext& context, const Kind& kind,
                                FiguresSource source)
-    : Form(context.app, ParamsOf(kind.form_name)),
+    : Form(context.app, kind.form_name, platform::Frame::kTool),
       context_(context),
       source_(std::move(source)),
       PageControl1(*this, "PageControl1"),

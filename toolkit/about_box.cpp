@@ -10,17 +10,10 @@ namespace {
 constexpr platform::Size kClientSize{300, 124};  // design pixels
 constexpr int kProductFontHeight = 15;
 
-platform::TopWindowParams CreateParams() {
-  platform::TopWindowParams params;
-  params.name = AboutBox::kName;
-  params.frame = platform::Frame::kDialog;
-  return params;
-}
-
 }  // namespace
 
 AboutBox::AboutBox(Application& app, const ImageList& images, std::function<AboutTexts()> texts)
-    : Form(app, CreateParams()),
+    : Form(app, AboutBox::kName, platform::Frame::kDialog),
       texts_(std::move(texts)),
       Image1(*this, "Image1", images),
       lblProduct(*this, "lblProduct", kWrappedText),

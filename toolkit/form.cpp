@@ -76,6 +76,9 @@ Form::Form(Application& app, const platform::TopWindowParams& params, Form* owne
   app.forms_.push_back(this);
 }
 
+Form::Form(Application& app, std::string_view name, platform::Frame frame)
+    : Form(app, {std::string(name), {}, frame, false}) {}
+
 Form::~Form() {
   App().Modals().Forget(*this);
   std::erase(App().forms_, this);

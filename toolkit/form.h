@@ -18,6 +18,8 @@ class Form : public Control {
  public:
   // Made hidden. `owner` (null: the application) stays below it.
   Form(Application& app, const platform::TopWindowParams& params, Form* owner = nullptr);
+  // The same for a window that has a name and a frame, and gets its caption later.
+  Form(Application& app, std::string_view name, platform::Frame frame);
   ~Form() override;
 
   [[nodiscard]] Form& ParentForm() override { return *this; }

@@ -73,7 +73,10 @@ void Sign::OnPaint(platform::Canvas& canvas) {
   Panel::OnPaint(canvas);
   App().Guard([&] {
     if (images_ != nullptr) {
-      images_->Draw(0, canvas, {0, 0}, ParentForm().Dpi() * kSignSize / kImageSize);
+      const platform::Size size = canvas.Extent();
+      const int side = Scale(side_);
+      images_->Draw(0, canvas, {(size.width - side) / 2, (size.height - side) / 2},
+                    ParentForm().Dpi() * side_ / kImageSize);
       return;
     }
     const int side = Scale(kSignSize);

@@ -18,17 +18,10 @@ constexpr int kHeight = kPageHeight + 5 * kMargin;
 
 constexpr std::string_view kPlacementKey = "\\Software\\BrisantoNET\\Settings\\SettingsScreen";
 
-platform::TopWindowParams CreateParams() {
-  platform::TopWindowParams params;
-  params.name = display::kPreferencesForm;
-  params.frame = platform::Frame::kDialog;
-  return params;
-}
-
 }  // namespace
 
 T_frmPreferences::T_frmPreferences(toolkit::Application& app, const display::RunningMeter& meter)
-    : Form(app, CreateParams()),
+    : Form(app, display::kPreferencesForm, platform::Frame::kDialog),
       context_(app, meter),
       TreeItems(*this, "TreeItems"),
       PrefNotebook(*this, "PrefNotebook"),
