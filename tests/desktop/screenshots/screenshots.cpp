@@ -25,7 +25,8 @@ constexpr Tour kTours[] = {{"English", ""}, {"German", "-german"}};
 
 std::vector<Shot> ShotsOf(const Tour& tour, const std::vector<std::string>& wanted) {
   std::vector<Shot> shots;
-  for (const auto subsystem : {MeterShots(), AlertShots(), StatisticsShots(), ExitShots()}) {
+  for (const auto subsystem :
+       {MeterShots(), AlertShots(), StatisticsShots(), ExitShots(), PreferencesShots()}) {
     for (const Shot& shot : subsystem) {
       const std::string_view name = shot.name;
       const bool is_wanted = wanted.empty() || std::any_of(wanted.begin(), wanted.end(),

@@ -20,5 +20,6 @@ struct Shot {
 [[nodiscard]] std::span<const Shot> AlertShots();
 [[nodiscard]] std::span<const Shot> StatisticsShots();
 [[nodiscard]] std::span<const Shot> ExitShots();
+[[nodiscard]] std::span<const Shot> PreferencesShots();
 
 }  // namespace desktop
