@@ -82,7 +82,10 @@ void T_frmBandWidthAlert::Localise() {
   details_.Localise();
 }
 
-void T_frmBandWidthAlert::Timer1Timer() { details_.Refresh(); }
+void T_frmBandWidthAlert::Timer1Timer() {
+  faults_.Try([this] { details_.Refresh(); });
+  faults_.Tell();
+}
 
 void T_frmBandWidthAlert::btnDetailsClick() {
   SetDetailsShown(!details_shown_);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "alerts/bandwidth_details.h"
+#include "alerts/refresh_faults.h"
 #include "toolkit/button.h"
 #include "toolkit/edit.h"
 #include "toolkit/form.h"
@@ -37,6 +38,7 @@ class T_frmBandWidthAlert final : public toolkit::Form {
   toolkit::Button btnDetails;
   toolkit::Button OkBtn;
   BandwidthDetails details_;
+  RefreshFaults faults_;
   toolkit::Timer Timer1;
   bool details_shown_ = false;
 };

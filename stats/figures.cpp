@@ -20,7 +20,8 @@ FiguresSource FiguresSource::Adapter(settings::Store& store, std::string_view ca
   return {store, settings::KeyIndex::kAdapterDatas, settings::AdapterName(caption)};
 }
 
-Figures FiguresSource::Read(const engine::CounterGroup& group, RefreshFaults& faults) const {
+Figures FiguresSource::Read(const engine::CounterGroup& group,
+                            alerts::RefreshFaults& faults) const {
   Figures figures;
   figures.max_dl = Read(group.max_dl, faults);
   figures.max_ul = Read(group.max_ul, faults);
@@ -30,7 +31,7 @@ Figures FiguresSource::Read(const engine::CounterGroup& group, RefreshFaults& fa
 }
 
 std::optional<std::int64_t> FiguresSource::Read(const settings::CounterSetting& counter,
-                                                RefreshFaults& faults) const {
+                                                alerts::RefreshFaults& faults) const {
   std::optional<std::int64_t> figure;
   faults.Try([&] { figure = store_.ReadCounter(key_, Name(counter)); });
   return figure;

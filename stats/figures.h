@@ -6,9 +6,9 @@
 #include <string>
 #include <string_view>
 
+#include "alerts/refresh_faults.h"
 #include "engine/counter_group.h"
 #include "settings/store.h"
-#include "stats/refresh_faults.h"
 
 namespace stats {
 
@@ -32,9 +32,10 @@ class FiguresSource {
   [[nodiscard]] static FiguresSource Adapter(settings::Store& store, std::string_view caption);
 
   // A figure that cannot be read is nothing, and a fault.
-  [[nodiscard]] Figures Read(const engine::CounterGroup& group, RefreshFaults& faults) const;
+  [[nodiscard]] Figures Read(const engine::CounterGroup& group,
+                             alerts::RefreshFaults& faults) const;
   [[nodiscard]] std::optional<std::int64_t> Read(const settings::CounterSetting& counter,
-                                                 RefreshFaults& faults) const;
+                                                 alerts::RefreshFaults& faults) const;
   // Throws what the store throws.
   void WriteZero(const settings::CounterSetting& counter) const;
 

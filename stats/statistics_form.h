@@ -4,13 +4,13 @@
 
 #include <string_view>
 
+#include "alerts/refresh_faults.h"
 #include "display/quantity/quantity.h"
 #include "engine/traffic_state.h"
 #include "settings/language.h"
 #include "settings/store.h"
 #include "stats/figures.h"
 #include "stats/figures_group.h"
-#include "stats/refresh_faults.h"
 #include "toolkit/application.h"
 #include "toolkit/button.h"
 #include "toolkit/form.h"
@@ -68,7 +68,7 @@ class StatisticsForm : public toolkit::Form {
 
   StatisticsContext context_;
   FiguresSource source_;
-  RefreshFaults faults_;
+  alerts::RefreshFaults faults_;
 
   // In reading order, which is that of Tab.
   toolkit::PageControl PageControl1;

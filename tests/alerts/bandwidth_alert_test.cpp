@@ -123,4 +123,18 @@ TEST_F(BandwidthAlert, TheDetailsOpenAndCloseAndRefreshTwiceASecond) {
   EXPECT_FALSE(machine.windowing.Exists("T_frmBandWidthAlert"));
 }
 
+TEST_F(BandwidthAlert, ATotalThatIsNoNumberIsToldOnce) {
+  int told = 0;
+  app.SetExceptionHandler([&told](std::string_view) { ++told; });
+  Check([&] {
+    SetText("CurrentDayTotalDL", "many");
+    machine.timers.Advance(1500);
+    EXPECT_EQ(told, 1);
+    SetText("CurrentDayTotalDL", "512");
+    machine.timers.Advance(500);
+    EXPECT_EQ(Widget("lblBandwidthCurrDLTotal").text, "0,5");
+    machine.windowing.Press("OkBtn");
+  });
+}
+
 }  // namespace

@@ -1,4 +1,4 @@
-// What goes wrong while a statistics window takes its figures anew.
+// What goes wrong while a window takes its figures anew.
 #pragma once
 
 #include <exception>
@@ -6,7 +6,7 @@
 #include <string>
 #include <utility>
 
-namespace stats {
+namespace alerts {
 
 // Each part of a refresh may fail without the others. What failed first is told, and told once: a
 // window that asks twice a second would fill the error log with it.
@@ -34,4 +34,4 @@ class RefreshFaults {
   std::string told_;
 };
 
-}  // namespace stats
+}  // namespace alerts
