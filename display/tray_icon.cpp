@@ -98,7 +98,7 @@ void TrayIcon::ShowActivity(TrayActivity activity) {
   const int size = icon_->PictureSize();
   const auto picture = app_.Platform().graphics.CreateBitmap({size, size});
   if (!picture) return;
-  pictures_.Draw(activity, picture->GetCanvas());
+  pictures_.Draw(activity, picture->GetCanvas(), pictures_.SeeThrough());
   icon_->SetPicture(*picture, pictures_.SeeThrough());
   shown_activity_ = activity;
 }

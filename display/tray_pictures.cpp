@@ -37,16 +37,18 @@ platform::Colour TrayPictures::SeeThrough() const {
   return picture_->At({0, picture_->size.height - 1});
 }
 
-void TrayPictures::Draw(TrayActivity activity, platform::Canvas& canvas) const {
+void TrayPictures::Draw(TrayActivity activity, platform::Canvas& canvas,
+                        platform::Colour behind) const {
   const int side = picture_->size.height;
   const platform::Size target = canvas.Extent();
   const int left = static_cast<int>(activity) * side;
   for (int y = 0; y < target.height; ++y) {
     for (int x = 0; x < target.width; ++x) {
       const int column = left + x * side / target.width;
-      const bool inside = column < picture_->size.width;
-      canvas.Fill({x, y, 1, 1},
-                  inside ? picture_->At({column, y * side / target.height}) : SeeThrough());
+      const platform::Colour pixel = column < picture_->size.width
+                                         ? picture_->At({column, y * side / target.height})
+                                         : SeeThrough();
+      canvas.Fill({x, y, 1, 1}, pixel == SeeThrough() ? behind : pixel);
     }
   }
 }

@@ -27,8 +27,9 @@ class TrayPictures {
   [[nodiscard]] bool Loaded() const { return picture_.has_value(); }
   [[nodiscard]] platform::Colour SeeThrough() const;
 
-  // Draws a picture over the whole canvas, enlarged or reduced to it.
-  void Draw(TrayActivity activity, platform::Canvas& canvas) const;
+  // Draws a picture over the whole canvas, enlarged or reduced to it; what is see-through in the
+  // colour `behind`.
+  void Draw(TrayActivity activity, platform::Canvas& canvas, platform::Colour behind) const;
 
  private:
   std::optional<Picture> picture_;

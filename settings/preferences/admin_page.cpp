@@ -30,7 +30,6 @@ AdminPage::AdminPage(toolkit::Notebook& notebook, Context& context)
       AdminVerifyPass(*this, "AdminVerifyPass"),
       CaseSensitive(*this, "CaseSensitive", kLine),
       LockBtn(*this, "LockBtn") {
-  constexpr int kWidth = kPageWidth - 2 * kMargin;
   constexpr int kLabelWidth = 150;
   constexpr int kFieldLeft = kMargin + kLabelWidth + kMargin;
   constexpr int kFieldWidth = 180;

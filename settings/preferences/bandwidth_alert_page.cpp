@@ -13,8 +13,6 @@ namespace text = settings::text::SettingsForm;
 using Meter = display::RunningMeter;
 
 constexpr std::int64_t kHighestLimit = 2100000000;
-constexpr int kLongestMessage = 254;  // characters
-constexpr int kDisplayMessage = 1;    // of the actions
 constexpr int kDays = 31;
 
 }  // namespace
@@ -35,51 +33,42 @@ BandwidthAlertPage::BandwidthAlertPage(toolkit::Notebook& notebook, Context& con
       cmbDayWeekMonth(*this, "cmbDayWeekMonth"),
       chkBAPlay(*this, "chkBAPlay"),
       sound_(*this, {"BaPlayFile", "BaSpeedbtn", "BaSpeedbtn2"}),
-      lblBaAction(*this, "lblBaAction", toolkit::kCaptionText),
-      BaAction(*this, "BaAction"),
-      lblBaMessage(*this, "lblBaMessage", toolkit::kCaptionText),
-      BaMessage(*this, "BaMessage"),
+      action_(*this, {text::lblBaAction, "BaAction", text::lblBaMessage, "BaMessage"}),
       options_(context) {
   PlaceControls();
   MoreThan.SetRange(1, kHighestLimit, 1);
-  BaMessage.SetMaxLength(kLongestMessage);
   std::vector<std::string> days;
   for (int day = 1; day <= kDays; ++day) days.push_back(std::to_string(day));
   mPerStartsOn.SetItems(days);
   ConnectHandlers();
   EnablePlayControls();
-  ShowMessage();
 }
 
 void BandwidthAlertPage::PlaceControls() {
-  constexpr int kWidth = kPageWidth - 2 * kMargin;
-  constexpr int kLabelWidth = 156;
-  constexpr int kFieldLeft = kMargin + kLabelWidth + kMargin;
-  constexpr int kFieldWidth = kPageWidth - kMargin - kFieldLeft;
   constexpr int kNumberWidth = 116;
-  constexpr int kUnitLeft = kFieldLeft + kNumberWidth + kMargin;
   constexpr int kHalf = 120;
-  const auto line = [](int number) { return kMargin + kRow + number * kFieldRow + 4; };
+  constexpr FieldColumn kFields{kMargin + kRow + 4, 156};
+  constexpr FieldColumn kLower{kFields.top + 4, kFields.label_width};
+  constexpr int kLeft = kFields.FieldLeft();
+  constexpr int kUnitLeft = kLeft + kNumberWidth + kMargin;
   toolkit::ApplyLayout({
       {BAAlertsCheckBox, {kMargin, kMargin, kWidth, kBoxHeight}},
-      {lblMPerStartsOn, {kMargin, line(0) + 2, kLabelWidth, kBoxHeight}},
-      {mPerStartsOn, {kFieldLeft, line(0), kNumberWidth, kFieldHeight}},
-      {lblWPerStartsOn, {kMargin, line(1) + 2, kLabelWidth, kBoxHeight}},
-      {wPerStartsOn, {kFieldLeft, line(1), kFieldWidth, kFieldHeight}},
-      {lblMoreThan, {kMargin, line(2) + 2, kLabelWidth, kBoxHeight}},
-      {MoreThan, {kFieldLeft, line(2), kNumberWidth, kFieldHeight}},
-      {AlertsMoreThan, {kUnitLeft, line(2), kPageWidth - kMargin - kUnitLeft, kFieldHeight}},
-      {baDownload, {kFieldLeft, line(3) + 2, kHalf, kBoxHeight}},
-      {baUpload, {kFieldLeft + kHalf, line(3) + 2, kHalf, kBoxHeight}},
-      {lblDayWeekMonth, {kMargin, line(4) + 2, kLabelWidth, kBoxHeight}},
-      {cmbDayWeekMonth, {kFieldLeft, line(4), kNumberWidth, kFieldHeight}},
-      {chkBAPlay, {kMargin, line(5) + 6, kWidth, kBoxHeight}},
-      {lblBaAction, {kMargin, line(7) + 6, kLabelWidth, kBoxHeight}},
-      {BaAction, {kFieldLeft, line(7) + 4, kFieldWidth, kFieldHeight}},
-      {lblBaMessage, {kMargin, line(8) + 6, kLabelWidth, kBoxHeight}},
-      {BaMessage, {kFieldLeft, line(8) + 4, kFieldWidth, kFieldHeight}},
+      {lblMPerStartsOn, kFields.Label(0)},
+      {mPerStartsOn, kFields.Field(0, kNumberWidth)},
+      {lblWPerStartsOn, kFields.Label(1)},
+      {wPerStartsOn, kFields.Field(1, kFields.FieldWidth())},
+      {lblMoreThan, kFields.Label(2)},
+      {MoreThan, kFields.Field(2, kNumberWidth)},
+      {AlertsMoreThan,
+       {kUnitLeft, kFields.Field(2, 0).top, kPageWidth - kMargin - kUnitLeft, kFieldHeight}},
+      {baDownload, {kLeft, kFields.Label(3).top, kHalf, kBoxHeight}},
+      {baUpload, {kLeft + kHalf, kFields.Label(3).top, kHalf, kBoxHeight}},
+      {lblDayWeekMonth, kFields.Label(4)},
+      {cmbDayWeekMonth, kFields.Field(4, kNumberWidth)},
+      {chkBAPlay, {kMargin, kLower.Label(5).top, kWidth, kBoxHeight}},
   });
-  sound_.Place({kMargin, line(6) + 2, kWidth, kFieldHeight});
+  sound_.Place({kMargin, kFields.Label(6).top, kWidth, kFieldHeight});
+  action_.Place(kLower, 7);
 }
 
 void BandwidthAlertPage::ConnectHandlers() {
@@ -93,15 +82,15 @@ void BandwidthAlertPage::ConnectHandlers() {
       {cmbDayWeekMonth, setting::BADayWeekMonth},
       {baDownload, setting::baDownload},
       {baUpload, setting::baUpload},
-      {BaAction, setting::BAAction,
-       [this](const Meter& /*m*/, std::int64_t /*action*/) { ShowMessage(); }},
+      {action_.action, setting::BAAction,
+       [this](const Meter& /*m*/, std::int64_t /*action*/) { action_.ShowMessage(); }},
   });
   chkBAPlay.OnClick = [this] {
     EnablePlayControls();
     context_.Save(setting::chkBAPlay, chkBAPlay.Checked());
   };
   sound_.OnChange = [this] { context_.Save(setting::BaPlayFile, sound_.Path()); };
-  BaMessage.OnChange = [this] { context_.Save(setting::BAMessage, BaMessage.Text()); };
+  action_.message.OnChange = [this] { context_.Save(setting::BAMessage, action_.message.Text()); };
 }
 
 void BandwidthAlertPage::Localise(const Translation& say) {
@@ -114,9 +103,6 @@ void BandwidthAlertPage::Localise(const Translation& say) {
                {baUpload, text::baUpload},
                {lblDayWeekMonth, text::lblDayWeekMonth},
                {chkBAPlay, text::chkBAPlay},
-               {lblBaAction, text::lblBaAction},
-               {lblBaMessage, text::lblBaMessage},
-               {BaMessage, {}, text::MessageHint},
            });
   MoreThan.SetHint(RangeOf(MoreThan, say));
   wPerStartsOn.SetItems(
@@ -124,7 +110,7 @@ void BandwidthAlertPage::Localise(const Translation& say) {
                   text::WeekDay5, text::WeekDay6, text::WeekDay7}));
   AlertsMoreThan.SetItems(Texts(say, {text::LimitUnit0, text::LimitUnit1, text::LimitUnit2}));
   cmbDayWeekMonth.SetItems(Texts(say, {text::Period0, text::Period1, text::Period2}));
-  BaAction.SetItems(Texts(say, {text::Action0, text::Action1, text::Action2, text::Action3}));
+  action_.Localise(say);
   sound_.Localise(say);
 }
 
@@ -133,17 +119,11 @@ void BandwidthAlertPage::Read() {
   // Where nothing is stored the box stays as it is.
   chkBAPlay.SetChecked(context_.store.ReadWith(setting::chkBAPlay, chkBAPlay.Checked()));
   sound_.SetPath(context_.store.Read(setting::BaPlayFile));
-  BaMessage.SetText(context_.store.Read(setting::BAMessage));
+  action_.message.SetText(context_.store.Read(setting::BAMessage));
 }
 
 void BandwidthAlertPage::EnablePlayControls() {
   sound_.SetEnabled(BAAlertsCheckBox.Checked() && chkBAPlay.Checked());
-}
-
-void BandwidthAlertPage::ShowMessage() {
-  const bool shown = BaAction.ItemIndex() == kDisplayMessage;
-  lblBaMessage.SetVisible(shown);
-  BaMessage.SetVisible(shown);
 }
 
 }  // namespace settings::preferences

@@ -1,10 +1,10 @@
 // The page "BandwidthAlert".
 #pragma once
 
+#include "settings/preferences/action_fields.h"
 #include "settings/preferences/options.h"
 #include "settings/preferences/page.h"
 #include "settings/preferences/sound_file.h"
-#include "toolkit/edit.h"
 #include "toolkit/label.h"
 #include "toolkit/list_box.h"
 
@@ -23,7 +23,6 @@ class BandwidthAlertPage final : public Page {
   void PlaceControls();
   void ConnectHandlers();
   void EnablePlayControls();
-  void ShowMessage();
 
   toolkit::CheckBox BAAlertsCheckBox;
   toolkit::Label lblMPerStartsOn;
@@ -39,10 +38,7 @@ class BandwidthAlertPage final : public Page {
   toolkit::ComboBox cmbDayWeekMonth;
   toolkit::CheckBox chkBAPlay;
   SoundFile sound_;
-  toolkit::Label lblBaAction;
-  toolkit::ComboBox BaAction;
-  toolkit::Label lblBaMessage;
-  toolkit::Edit BaMessage;
+  ActionFields action_;  // BaAction, BaMessage
 
   Options options_;
 };

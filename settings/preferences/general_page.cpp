@@ -50,7 +50,6 @@ GeneralPage::GeneralPage(toolkit::Notebook& notebook, Context& context)
 }
 
 void GeneralPage::PlaceControls() {
-  constexpr int kWidth = kPageWidth - 2 * kMargin;
   constexpr int kAverageTop = kMargin + 5 * kRow + kMargin;
   constexpr int kLanguageTop = kAverageTop + 3 * kRow + kMargin;
   constexpr int kNumberWidth = 72;

@@ -82,20 +82,18 @@ void GraphColorsPage::ConnectHandlers() {
 }
 
 void GraphColorsPage::PlaceControls() {
-  constexpr int kWidth = kPageWidth - 2 * kMargin;
-  constexpr int kTop = toolkit::GroupBox::kTitleHeight + 5;
   constexpr int kPanelWidth = 48;
   constexpr int kColumn = (kWidth - 3 * kMargin) / 2;
   const auto left = [](int column) { return kMargin + column * (kColumn + kMargin); };
   const auto label = [&](int column, int row) {
-    return platform::Rect{left(column), kTop + row * kFieldRow + 2, kColumn - kPanelWidth - kMargin,
-                          kBoxHeight};
+    return platform::Rect{left(column), kGroupTop + row * kFieldRow + 2,
+                          kColumn - kPanelWidth - kMargin, kBoxHeight};
   };
   const auto panel = [&](int column, int row) {
-    return platform::Rect{left(column) + kColumn - kPanelWidth, kTop + row * kFieldRow, kPanelWidth,
-                          kFieldHeight};
+    return platform::Rect{left(column) + kColumn - kPanelWidth, kGroupTop + row * kFieldRow,
+                          kPanelWidth, kFieldHeight};
   };
-  constexpr int kHeight = kTop + 4 * kFieldRow + 2;
+  constexpr int kHeight = kGroupTop + 4 * kFieldRow + 2;
   toolkit::ApplyLayout({
       {grpMeterColors, {kMargin, kMargin, kWidth, kHeight}},
       {lblDownloadColor, label(0, 0)},
@@ -119,22 +117,19 @@ void GraphColorsPage::PlaceControls() {
 }
 
 void GraphColorsPage::PlaceTrayControls(int top) {
-  constexpr int kWidth = kPageWidth - 2 * kMargin;
-  constexpr int kInside = kWidth - 2 * kMargin;
-  constexpr int kTop = toolkit::GroupBox::kTitleHeight + 5;
   constexpr int kButtonRow = 30;
-  constexpr int kRadioWidth = kInside - PicturePanel::kWidth - kMargin;
+  constexpr int kRadioWidth = kGroupWidth - PicturePanel::kWidth - kMargin;
   constexpr int kPanelWidth = 48;
   constexpr int kLabelWidth = 200;
-  constexpr int kColours = kTop + 3 * kButtonRow;
+  constexpr int kColours = kGroupTop + 3 * kButtonRow;
   const auto radio = [](int row) {
-    return platform::Rect{kMargin, kTop + row * kButtonRow + 4, kRadioWidth, kBoxHeight};
+    return platform::Rect{kMargin, kGroupTop + row * kButtonRow + 4, kRadioWidth, kBoxHeight};
   };
   toolkit::ApplyLayout({
       {grpTrayIcon, {kMargin, top, kWidth, kColours + 2 * kFieldRow + 2}},
       {Ic1, radio(0)},
       {ImagesTrayIcon,
-       {kMargin + kRadioWidth + kMargin, kTop, PicturePanel::kWidth, PicturePanel::kHeight}},
+       {kMargin + kRadioWidth + kMargin, kGroupTop, PicturePanel::kWidth, PicturePanel::kHeight}},
       {Ic2, radio(1)},
       {Ic3, radio(2)},
       {lblHisRecColor, {kMargin, kColours + 2, kLabelWidth, kBoxHeight}},

@@ -67,35 +67,25 @@ GraphGridsPage::GraphGridsPage(toolkit::Notebook& notebook, Context& context)
 }
 
 void GraphGridsPage::PlaceControls() {
-  constexpr int kWidth = kPageWidth - 2 * kMargin;
   constexpr int kHeight = 134;
-  constexpr int kTop = toolkit::GroupBox::kTitleHeight + 5;
-  constexpr int kFirst = kTop + kRow + 2;
-  constexpr int kLabelWidth = 170;
-  constexpr int kField = kMargin + kLabelWidth + kMargin;
-  const auto label = [](int row) {
-    return platform::Rect{kMargin, kFirst + row * kFieldRow + 2, kLabelWidth, kBoxHeight};
-  };
-  const auto field = [](int row, int width) {
-    return platform::Rect{kField, kFirst + row * kFieldRow, width, kFieldHeight};
-  };
+  constexpr FieldColumn kFields{kGroupTop + kRow + 2, 170};
   toolkit::ApplyLayout({
       {grpVertical, {kMargin, kMargin, kWidth, kHeight}},
-      {vGridsVisibleCheckBox, {kMargin, kTop, kWidth - 2 * kMargin, kBoxHeight}},
-      {lblVLineStyle, label(0)},
-      {cmbVLineStyle, field(0, 150)},
-      {lblVLineSpace, label(1)},
-      {vLineSpace, field(1, 80)},
-      {lblVLineColor, label(2)},
-      {vLineColor, field(2, 80)},
+      {vGridsVisibleCheckBox, {kMargin, kGroupTop, kWidth - 2 * kMargin, kBoxHeight}},
+      {lblVLineStyle, kFields.Label(0)},
+      {cmbVLineStyle, kFields.Field(0, 150)},
+      {lblVLineSpace, kFields.Label(1)},
+      {vLineSpace, kFields.Field(1, 80)},
+      {lblVLineColor, kFields.Label(2)},
+      {vLineColor, kFields.Field(2, 80)},
       {grpHorizontal, {kMargin, kMargin + kHeight + kMargin, kWidth, kHeight}},
-      {hGridsVisibleCheckBox, {kMargin, kTop, kWidth - 2 * kMargin, kBoxHeight}},
-      {lblHLineStyle, label(0)},
-      {cmbHLineStyle, field(0, 150)},
-      {lblHLineSpace, label(1)},
-      {hLineSpace, field(1, 80)},
-      {lblHLineColor, label(2)},
-      {hLineColor, field(2, 80)},
+      {hGridsVisibleCheckBox, {kMargin, kGroupTop, kWidth - 2 * kMargin, kBoxHeight}},
+      {lblHLineStyle, kFields.Label(0)},
+      {cmbHLineStyle, kFields.Field(0, 150)},
+      {lblHLineSpace, kFields.Label(1)},
+      {hLineSpace, kFields.Field(1, 80)},
+      {lblHLineColor, kFields.Label(2)},
+      {hLineColor, kFields.Field(2, 80)},
   });
 }
 

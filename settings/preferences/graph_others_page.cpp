@@ -80,40 +80,33 @@ GraphOthersPage::GraphOthersPage(toolkit::Notebook& notebook, Context& context)
 }
 
 void GraphOthersPage::PlaceControls() {
-  constexpr int kWidth = kPageWidth - 2 * kMargin;
   constexpr int kLabelWidth = 230;
-  constexpr int kField = kMargin + kLabelWidth + kMargin;
-  constexpr int kFieldWidth = kPageWidth - kMargin - kField;
+  constexpr FieldColumn kFields{kMargin, kLabelWidth};
+  constexpr int kFieldWidth = kFields.FieldWidth();
   constexpr int kNumberWidth = 80;
   constexpr int kBoxes = kMargin + 6 * kFieldRow + 4;
   constexpr int kScale = kBoxes + 3 * kRow + 6;
-  constexpr int kCustom = kScale + 20 + kFieldRow + 4;
-  const auto label = [](int row) {
-    return platform::Rect{kMargin, kMargin + row * kFieldRow + 2, kLabelWidth, kBoxHeight};
-  };
-  const auto field = [](int row, int width) {
-    return platform::Rect{kField, kMargin + row * kFieldRow, width, kFieldHeight};
-  };
+  constexpr FieldColumn kCustom{kScale + 20 + kFieldRow + 4, kLabelWidth};
   toolkit::ApplyLayout({
-      {lblBevelInner, label(0)},
-      {BevelInner, field(0, kFieldWidth)},
-      {lblBevelOuter, label(1)},
-      {BevelOuter, field(1, kFieldWidth)},
-      {lblBevelWidth, label(2)},
-      {BevelWidth, field(2, kNumberWidth)},
-      {lblBorderWidth, label(3)},
-      {BorderWidth, field(3, kNumberWidth)},
-      {lblPulseSpace, label(4)},
-      {PulseSpace, field(4, kNumberWidth)},
-      {lblPulseWidth, label(5)},
-      {PulseWidth, field(5, kNumberWidth)},
+      {lblBevelInner, kFields.Label(0)},
+      {BevelInner, kFields.Field(0, kFieldWidth)},
+      {lblBevelOuter, kFields.Label(1)},
+      {BevelOuter, kFields.Field(1, kFieldWidth)},
+      {lblBevelWidth, kFields.Label(2)},
+      {BevelWidth, kFields.Field(2, kNumberWidth)},
+      {lblBorderWidth, kFields.Label(3)},
+      {BorderWidth, kFields.Field(3, kNumberWidth)},
+      {lblPulseSpace, kFields.Label(4)},
+      {PulseSpace, kFields.Field(4, kNumberWidth)},
+      {lblPulseWidth, kFields.Label(5)},
+      {PulseWidth, kFields.Field(5, kNumberWidth)},
       {chkZeroBased, {kMargin, kBoxes, kWidth, kBoxHeight}},
       {chkScaleActive, {kMargin, kBoxes + kRow, kWidth, kBoxHeight}},
       {chk3dGraph, {kMargin, kBoxes + 2 * kRow, kWidth, kBoxHeight}},
       {lblScale, {kMargin, kScale, kWidth, kBoxHeight}},
       {ScaleCombo, {kMargin, kScale + 20, kWidth, kFieldHeight}},
-      {lblCustomScale, {kMargin, kCustom + 2, kLabelWidth, kBoxHeight}},
-      {CustomScale, {kField, kCustom, kFieldWidth, kFieldHeight}},
+      {lblCustomScale, kCustom.Label(0)},
+      {CustomScale, kCustom.Field(0, kFieldWidth)},
   });
 }
 
@@ -157,7 +150,7 @@ void GraphOthersPage::ReadScale() {
   const std::int64_t index = context_.store.Read(setting::GraphScaleType);
   const std::int64_t speed = context_.store.Read(setting::SpeedLimit);
   CustomScale.SetValue(ShownSpeed(speed));
-  if (index >= 0 && index < ScaleCombo.Count()) ScaleCombo.SetItemIndex(static_cast<int>(index));
+  ShowChoice(ScaleCombo, index);
 }
 
 bool GraphOthersPage::CustomChosen() const {

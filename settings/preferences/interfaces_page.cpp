@@ -12,19 +12,6 @@ namespace text = settings::text::SettingsForm;
 
 constexpr platform::TextStyle kValue{platform::TextAlign::kLeft};
 
-// While it lives, what the boxes do is no choice of the user's.
-class Following {
- public:
-  explicit Following(bool& flag) : flag_(flag), before_(flag) { flag_ = true; }
-  ~Following() { flag_ = before_; }
-  Following(const Following&) = delete;
-  Following& operator=(const Following&) = delete;
-
- private:
-  bool& flag_;
-  const bool before_;
-};
-
 }  // namespace
 
 InterfacesPage::InterfacesPage(toolkit::Notebook& notebook, Context& context)
@@ -38,7 +25,6 @@ InterfacesPage::InterfacesPage(toolkit::Notebook& notebook, Context& context)
       lblSpeedValue(*this, "lblSpeedValue", kValue),
       lblMTU(*this, "lblMTU", kValue),
       lblMTUValue(*this, "lblMTUValue", kValue) {
-  constexpr int kWidth = kPageWidth - 2 * kMargin;
   constexpr int kListHeight = 200;
   constexpr int kBoxTop = kMargin + 20 + kListHeight + kMargin;
   constexpr int kDataTop = kBoxTop + kRow + kMargin;
@@ -76,7 +62,7 @@ void InterfacesPage::Localise(const Translation& say) {
 }
 
 void InterfacesPage::Read() {
-  const Following following(following_);
+  const Context::Reading reading(context_);
   const std::vector<std::string> now = context_.meter.adapters.Descriptions();
   const std::vector<std::string>& before = NIMListBox.Items();
   if (now != before) {
@@ -98,15 +84,15 @@ void InterfacesPage::Read() {
 }
 
 void InterfacesPage::NIMListBoxClickCheck(int row) {
-  if (following_) return;
+  if (context_.IsReading()) return;
   Write(row, NIMListBox.Checked(row));
-  const Following following(following_);
+  const Context::Reading reading(context_);
   ShowWhetherAll();
 }
 
 void InterfacesPage::chkSelectALLClick() {
-  if (following_) return;
-  const Following following(following_);
+  if (context_.IsReading()) return;
+  const Context::Reading reading(context_);
   for (int row = 0; row < NIMListBox.Count(); ++row) {
     NIMListBox.SetChecked(row, chkSelectALL.Checked());
     Write(row, chkSelectALL.Checked());

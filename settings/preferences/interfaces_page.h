@@ -37,7 +37,6 @@ class InterfacesPage final : public Page {
   toolkit::Label lblMacAddress, lblMacAddressValue;
   toolkit::Label lblSpeed, lblSpeedValue;
   toolkit::Label lblMTU, lblMTUValue;
-  bool following_ = false;  // the boxes take over what counts already
 };
 
 }  // namespace settings::preferences

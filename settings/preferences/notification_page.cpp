@@ -14,8 +14,6 @@ constexpr std::int64_t kBytesStep = 1000;
 constexpr std::int64_t kMostSeconds = 86400;
 constexpr std::int64_t kTickerMost = 10000000;
 constexpr std::int64_t kTickerStep = 1000;
-constexpr int kLongestMessage = 254;  // characters
-constexpr int kDisplayMessage = 1;    // of the actions
 constexpr platform::TextStyle kWord{platform::TextAlign::kLeft};
 
 }  // namespace
@@ -53,10 +51,8 @@ NotificationPage::NotificationPage(toolkit::Notebook& notebook, Context& context
       lblSeconds(*this, "lblSeconds", kWord),
       PlayEnabled(*this, "PlayEnabled"),
       sound_(*this, {"PlayWavFile", "PlayOpenBtn", "PlayPreview"}),
-      lblAction(*this, "lblAction", toolkit::kCaptionText),
-      ActionComboBox(*this, "ActionComboBox"),
-      lblDisplayMessage(*this, "lblDisplayMessage", toolkit::kCaptionText),
-      DisplayMessage(*this, "DisplayMessage"),
+      action_(*this,
+              {text::lblAction, "ActionComboBox", text::lblDisplayMessage, "DisplayMessage"}),
       grpTicker(*this, "grpTicker"),
       TickerCheckBox(grpTicker, "TickerCheckBox"),
       TickerSpin(grpTicker, "TickerSpin"),
@@ -68,54 +64,45 @@ NotificationPage::NotificationPage(toolkit::Notebook& notebook, Context& context
   BytesSpin.SetRange(0, kMostBytes, kBytesStep);
   BytesSec.SetRange(1, kMostSeconds, 1);
   TickerSpin.SetRange(kTickerStep, kTickerMost, kTickerStep);
-  DisplayMessage.SetMaxLength(kLongestMessage);
   ConnectHandlers();
-  ShowMessage();
 }
 
 void NotificationPage::PlaceControls() {
-  constexpr int kWidth = kPageWidth - 2 * kMargin;
-  constexpr int kLeftWidth = 156;
-  constexpr int kFieldLeft = kMargin + kLeftWidth + kMargin;
   constexpr int kNumberWidth = 116;
-  constexpr int kUnitLeft = kFieldLeft + kNumberWidth + kMargin;
-  constexpr int kUnitWidth = kPageWidth - kMargin - kUnitLeft;
-  constexpr int kFieldWidth = kPageWidth - kMargin - kFieldLeft;
   constexpr int kHalf = 124;
-  const auto line = [](int number) { return kMargin + kRow + number * kFieldRow + 4; };
+  constexpr FieldColumn kFields{kMargin + kRow + 4, 156};
+  constexpr FieldColumn kLower{kFields.top + 4, kFields.label_width};
+  constexpr int kLeft = kFields.FieldLeft();
+  constexpr int kUnitLeft = kLeft + kNumberWidth + kMargin;
+  constexpr int kUnitWidth = kPageWidth - kMargin - kUnitLeft;
   toolkit::ApplyLayout({
       {NotificationsCheckBox, {kMargin, kMargin, kWidth, kBoxHeight}},
-      {LessOrMore, {kMargin, line(0), kLeftWidth, kFieldHeight}},
-      {BytesSpin, {kFieldLeft, line(0), kNumberWidth, kFieldHeight}},
-      {lblBytes, {kUnitLeft, line(0) + 2, kUnitWidth, kBoxHeight}},
-      {WhenDownload, {kFieldLeft, line(1) + 2, kHalf, kBoxHeight}},
-      {WhenUpload, {kFieldLeft + kHalf, line(1) + 2, kHalf, kBoxHeight}},
-      {lblInLast, {kMargin, line(2) + 2, kLeftWidth, kBoxHeight}},
-      {BytesSec, {kFieldLeft, line(2), kNumberWidth, kFieldHeight}},
-      {lblSeconds, {kUnitLeft, line(2) + 2, kUnitWidth, kBoxHeight}},
-      {PlayEnabled, {kMargin, line(3) + 6, kWidth, kBoxHeight}},
-      {lblAction, {kMargin, line(5) + 6, kLeftWidth, kBoxHeight}},
-      {ActionComboBox, {kFieldLeft, line(5) + 4, kFieldWidth, kFieldHeight}},
-      {lblDisplayMessage, {kMargin, line(6) + 6, kLeftWidth, kBoxHeight}},
-      {DisplayMessage, {kFieldLeft, line(6) + 4, kFieldWidth, kFieldHeight}},
+      {LessOrMore, {kMargin, kFields.top, kFields.label_width, kFieldHeight}},
+      {BytesSpin, kFields.Field(0, kNumberWidth)},
+      {lblBytes, {kUnitLeft, kFields.Label(0).top, kUnitWidth, kBoxHeight}},
+      {WhenDownload, {kLeft, kFields.Label(1).top, kHalf, kBoxHeight}},
+      {WhenUpload, {kLeft + kHalf, kFields.Label(1).top, kHalf, kBoxHeight}},
+      {lblInLast, kFields.Label(2)},
+      {BytesSec, kFields.Field(2, kNumberWidth)},
+      {lblSeconds, {kUnitLeft, kFields.Label(2).top, kUnitWidth, kBoxHeight}},
+      {PlayEnabled, {kMargin, kLower.Label(3).top, kWidth, kBoxHeight}},
   });
-  sound_.Place({kMargin, line(4) + 2, kWidth, kFieldHeight});
-  PlaceTicker(line(7) + 12);
+  sound_.Place({kMargin, kFields.Label(4).top, kWidth, kFieldHeight});
+  action_.Place(kLower, 5);
+  PlaceTicker(kLower.Field(7, 0).top + 8);
 }
 
 void NotificationPage::PlaceTicker(int top) {
-  constexpr int kWidth = kPageWidth - 2 * kMargin;
   constexpr int kLeftWidth = 156;
   constexpr int kNumberWidth = 116;
-  constexpr int kInside = toolkit::GroupBox::kTitleHeight + 5;
   constexpr int kUnitLeft = kLeftWidth + kNumberWidth + 2 * kMargin;
   toolkit::ApplyLayout({
-      {grpTicker, {kMargin, top, kWidth, kInside + 2 * kFieldRow + 4}},
-      {TickerCheckBox, {kMargin, kInside + 2, kLeftWidth - kMargin, kBoxHeight}},
-      {TickerSpin, {kLeftWidth + kMargin, kInside, kNumberWidth, kFieldHeight}},
-      {lblTickerBytes, {kUnitLeft, kInside + 2, kWidth - kMargin - kUnitLeft, kBoxHeight}},
+      {grpTicker, {kMargin, top, kWidth, kGroupTop + 2 * kFieldRow + 4}},
+      {TickerCheckBox, {kMargin, kGroupTop + 2, kLeftWidth - kMargin, kBoxHeight}},
+      {TickerSpin, {kLeftWidth + kMargin, kGroupTop, kNumberWidth, kFieldHeight}},
+      {lblTickerBytes, {kUnitLeft, kGroupTop + 2, kWidth - kMargin - kUnitLeft, kBoxHeight}},
   });
-  ticker_sound_.Place({kMargin, kInside + kFieldRow, kWidth - 2 * kMargin, kFieldHeight});
+  ticker_sound_.Place({kMargin, kGroupTop + kFieldRow, kWidth - 2 * kMargin, kFieldHeight});
 }
 
 void NotificationPage::ConnectHandlers() {
@@ -138,11 +125,11 @@ void NotificationPage::ConnectHandlers() {
   WhenDownload.OnClick = [this] { context_.Save(Chosen().download, WhenDownload.Checked()); };
   WhenUpload.OnClick = [this] { context_.Save(Chosen().upload, WhenUpload.Checked()); };
   BytesSec.OnChange = [this] { context_.Save(Chosen().seconds, BytesSec.Value()); };
-  ActionComboBox.OnChange = [this] {
-    ShowMessage();
-    context_.Save(Chosen().action, ActionComboBox.ItemIndex());
+  action_.action.OnChange = [this] {
+    action_.ShowMessage();
+    context_.Save(Chosen().action, action_.action.ItemIndex());
   };
-  DisplayMessage.OnChange = [this] { context_.Save(Chosen().message, DisplayMessage.Text()); };
+  action_.message.OnChange = [this] { context_.Save(Chosen().message, action_.message.Text()); };
 }
 
 void NotificationPage::Localise(const Translation& say) {
@@ -154,9 +141,6 @@ void NotificationPage::Localise(const Translation& say) {
                {lblInLast, text::lblInLast},
                {lblSeconds, text::lblSeconds},
                {PlayEnabled, text::PlayEnabled},
-               {lblAction, text::lblAction},
-               {lblDisplayMessage, text::lblDisplayMessage},
-               {DisplayMessage, {}, text::MessageHint},
                {grpTicker, text::grpTicker},
                {TickerCheckBox, text::TickerCheckBox, text::TickerCheckBoxHint},
                {lblTickerBytes, text::lblBytes},
@@ -165,7 +149,7 @@ void NotificationPage::Localise(const Translation& say) {
   BytesSec.SetHint(RangeOf(BytesSec, say));
   TickerSpin.SetHint(RangeOf(TickerSpin, say));
   LessOrMore.SetItems(Texts(say, {text::LessOrMore0, text::LessOrMore1}));
-  ActionComboBox.SetItems(Texts(say, {text::Action0, text::Action1, text::Action2, text::Action3}));
+  action_.Localise(say);
   sound_.Localise(say);
   ticker_sound_.Localise(say);
 }
@@ -203,17 +187,8 @@ void NotificationPage::ReadControls() {
   WhenDownload.SetChecked(store.Read(rule.download));
   WhenUpload.SetChecked(store.Read(rule.upload));
   BytesSec.SetValue(store.Read(rule.seconds));
-  const std::int64_t action = store.Read(rule.action);
-  if (action >= 0 && action < ActionComboBox.Count()) {
-    ActionComboBox.SetItemIndex(static_cast<int>(action));
-  }
-  DisplayMessage.SetText(store.Read(rule.message));
-}
-
-void NotificationPage::ShowMessage() {
-  const bool shown = ActionComboBox.ItemIndex() == kDisplayMessage;
-  lblDisplayMessage.SetVisible(shown);
-  DisplayMessage.SetVisible(shown);
+  ShowChoice(action_.action, store.Read(rule.action));
+  action_.message.SetText(store.Read(rule.message));
 }
 
 }  // namespace settings::preferences

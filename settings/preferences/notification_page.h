@@ -2,10 +2,10 @@
 // the ticker.
 #pragma once
 
+#include "settings/preferences/action_fields.h"
 #include "settings/preferences/options.h"
 #include "settings/preferences/page.h"
 #include "settings/preferences/sound_file.h"
-#include "toolkit/edit.h"
 #include "toolkit/group_box.h"
 #include "toolkit/label.h"
 #include "toolkit/list_box.h"
@@ -37,7 +37,6 @@ class NotificationPage final : public Page {
   void LessOrMoreChange();
   // Puts the values of the chosen rule into the controls.
   void ReadControls();
-  void ShowMessage();
 
   toolkit::CheckBox NotificationsCheckBox;
   toolkit::ComboBox LessOrMore;
@@ -50,10 +49,7 @@ class NotificationPage final : public Page {
   toolkit::Label lblSeconds;
   toolkit::CheckBox PlayEnabled;
   SoundFile sound_;
-  toolkit::Label lblAction;
-  toolkit::ComboBox ActionComboBox;
-  toolkit::Label lblDisplayMessage;
-  toolkit::Edit DisplayMessage;
+  ActionFields action_;  // ActionComboBox, DisplayMessage
   toolkit::GroupBox grpTicker;
   toolkit::CheckBox TickerCheckBox;
   toolkit::SpinEdit TickerSpin;

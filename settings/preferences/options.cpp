@@ -16,12 +16,6 @@ void Change(Context& context, const Setting& setting, const Push<Value>& push, V
   context.Save(setting, value);
 }
 
-// Lists and radio groups.
-template <class Choices>
-void ShowChoice(Choices& choices, std::int64_t stored) {
-  if (stored >= 0 && stored < choices.Count()) choices.SetItemIndex(static_cast<int>(stored));
-}
-
 std::optional<platform::Colour> AskForColour(Context& context, toolkit::ColourPanel& panel,
                                              const TextEntry& caption) {
   const Translation say = context.language.Chosen();

@@ -24,6 +24,12 @@ namespace settings::preferences {
 template <class Value>
 using Push = std::function<void(const display::RunningMeter& meter, Value value)>;
 
+// Shows a stored choice of a list or radio group; one that does not exist leaves it as it is.
+template <class Choices>
+void ShowChoice(Choices& choices, std::int64_t stored) {
+  if (stored >= 0 && stored < choices.Count()) choices.SetItemIndex(static_cast<int>(stored));
+}
+
 // A row of the table. The control and what `push` refers to outlive it.
 class Option {
  public:

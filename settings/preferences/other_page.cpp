@@ -57,29 +57,26 @@ OtherPage::OtherPage(toolkit::Notebook& notebook, Context& context)
 }
 
 void OtherPage::PlaceControls() {
-  constexpr int kWidth = kPageWidth - 2 * kMargin;
-  constexpr int kInside = kWidth - 2 * kMargin;
-  constexpr int kTop = toolkit::GroupBox::kTitleHeight + 5;
   constexpr int kLabelWidth = 264;
-  constexpr int kLedsHeight = kTop + 2 * kRow + kFieldRow + 6;
+  constexpr int kLedsHeight = kGroupTop + 2 * kRow + kFieldRow + 6;
   constexpr int kTransparencyTop = kMargin + kLedsHeight + kMargin;
-  constexpr int kTransparencyHeight = kTop + 2 * kRow + 32 + kRow + 6;
+  constexpr int kTransparencyHeight = kGroupTop + 2 * kRow + 32 + kRow + 6;
   constexpr int kExitTop = kTransparencyTop + kTransparencyHeight + kMargin;
   toolkit::ApplyLayout({
       {grpKeyboardLeds, {kMargin, kMargin, kWidth, kLedsHeight}},
-      {DLSwitchScr, {kMargin, kTop, kInside, kBoxHeight}},
-      {ULSwitchNum, {kMargin, kTop + kRow, kInside, kBoxHeight}},
-      {lblKeyLedsLimit, {kMargin, kTop + 2 * kRow + 4, kLabelWidth, kBoxHeight}},
+      {DLSwitchScr, {kMargin, kGroupTop, kGroupWidth, kBoxHeight}},
+      {ULSwitchNum, {kMargin, kGroupTop + kRow, kGroupWidth, kBoxHeight}},
+      {lblKeyLedsLimit, {kMargin, kGroupTop + 2 * kRow + 4, kLabelWidth, kBoxHeight}},
       {spnKeyLedsLimit,
-       {2 * kMargin + kLabelWidth, kTop + 2 * kRow + 2, kInside - kLabelWidth - kMargin,
+       {2 * kMargin + kLabelWidth, kGroupTop + 2 * kRow + 2, kGroupWidth - kLabelWidth - kMargin,
         kFieldHeight}},
       {grpTransparency, {kMargin, kTransparencyTop, kWidth, kTransparencyHeight}},
-      {AutoTransparentONOFF, {kMargin, kTop, kInside, kBoxHeight}},
-      {lblWin2kTransTrack, {kMargin, kTop + kRow, kInside, kBoxHeight}},
-      {Win2kTransTrack, {kMargin, kTop + 2 * kRow, kInside, 30}},
-      {TransparentFade, {kMargin, kTop + 2 * kRow + 34, kInside, kBoxHeight}},
-      {grpExit, {kMargin, kExitTop, kWidth, kTop + kRow + 3}},
-      {AskOnExit, {kMargin, kTop, kInside, kBoxHeight}},
+      {AutoTransparentONOFF, {kMargin, kGroupTop, kGroupWidth, kBoxHeight}},
+      {lblWin2kTransTrack, {kMargin, kGroupTop + kRow, kGroupWidth, kBoxHeight}},
+      {Win2kTransTrack, {kMargin, kGroupTop + 2 * kRow, kGroupWidth, 30}},
+      {TransparentFade, {kMargin, kGroupTop + 2 * kRow + 34, kGroupWidth, kBoxHeight}},
+      {grpExit, {kMargin, kExitTop, kWidth, kGroupTop + kRow + 3}},
+      {AskOnExit, {kMargin, kGroupTop, kGroupWidth, kBoxHeight}},
   });
 }
 

@@ -16,8 +16,7 @@ std::string Page::RangeOf(const toolkit::SpinEdit& spin, const Translation& say)
   return say(text::SettingsForm::RangeStepHint, {lowest, highest, std::to_string(spin.StepSize())});
 }
 
-std::vector<std::string> Page::Texts(const Translation& say,
-                                     std::initializer_list<TextEntry> entries) {
+std::vector<std::string> Texts(const Translation& say, std::initializer_list<TextEntry> entries) {
   std::vector<std::string> texts;
   for (const TextEntry& entry : entries) texts.push_back(say(entry));
   return texts;

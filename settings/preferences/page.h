@@ -9,6 +9,7 @@
 #include "settings/language.h"
 #include "settings/preferences/context.h"
 #include "settings/texts.h"
+#include "toolkit/group_box.h"
 #include "toolkit/notebook.h"
 #include "toolkit/spin_edit.h"
 
@@ -18,11 +19,31 @@ namespace settings::preferences {
 inline constexpr int kPageWidth = 424;
 inline constexpr int kPageHeight = 400;
 inline constexpr int kMargin = 8;
+inline constexpr int kWidth = kPageWidth - 2 * kMargin;   // of what is on a page
+inline constexpr int kGroupWidth = kWidth - 2 * kMargin;  // of what is in a group
+inline constexpr int kGroupTop = toolkit::GroupBox::kTitleHeight + 5;
 inline constexpr int kRow = 23;          // from one line of controls to the next
 inline constexpr int kFieldRow = 27;     // the same where there are fields
 inline constexpr int kBoxHeight = 17;    // check boxes, radio buttons, labels
 inline constexpr int kFieldHeight = 21;  // edits and lists
 inline constexpr int kButtonHeight = 25;
+
+// A column of labels, each with a field behind it; design pixels.
+struct FieldColumn {
+  int top;
+  int label_width;
+
+  [[nodiscard]] constexpr int FieldLeft() const { return kMargin + label_width + kMargin; }
+  // Up to the margin of the page.
+  [[nodiscard]] constexpr int FieldWidth() const { return kPageWidth - kMargin - FieldLeft(); }
+  // Two pixels lower than the field, so that their texts stand on one line.
+  [[nodiscard]] constexpr platform::Rect Label(int row) const {
+    return {kMargin, top + row * kFieldRow + 2, label_width, kBoxHeight};
+  }
+  [[nodiscard]] constexpr platform::Rect Field(int row, int width) const {
+    return {FieldLeft(), top + row * kFieldRow, width, kFieldHeight};
+  }
+};
 
 // A control's text, and its hint where it has one.
 struct Wording {
@@ -30,6 +51,10 @@ struct Wording {
   TextEntry text;
   TextEntry hint = {};
 };
+
+// The texts of several entries, such as the rows of a list.
+[[nodiscard]] std::vector<std::string> Texts(const Translation& say,
+                                             std::initializer_list<TextEntry> entries);
 
 class Page : public toolkit::NotebookPage {
  public:
@@ -43,9 +68,6 @@ class Page : public toolkit::NotebookPage {
   static void Say(const Translation& say, std::initializer_list<Wording> wordings);
   // What can be entered, as a hint.
   [[nodiscard]] static std::string RangeOf(const toolkit::SpinEdit& spin, const Translation& say);
-  // The texts of several entries, such as the rows of a list.
-  [[nodiscard]] static std::vector<std::string> Texts(const Translation& say,
-                                                      std::initializer_list<TextEntry> entries);
 
   Context& context_;
 };

@@ -34,13 +34,9 @@ void PicturePanel::OnPaint(platform::Canvas& canvas) {
     const auto picture = App().Platform().graphics.CreateBitmap({side, side});
     if (!pictures_.Loaded() || !picture) return;
     for (int i = 0; i < kPictures; ++i) {
-      pictures_.Draw(static_cast<display::TrayActivity>(i), picture->GetCanvas());
-      const platform::Point at{Scale(kGap + i * (kSide + kGap)), (size.height - side) / 2};
-      for (int p = 0; p < side * side; ++p) {
-        const platform::Colour pixel = picture->Pixel({p % side, p / side});
-        if (pixel == pictures_.SeeThrough()) continue;
-        canvas.Fill({at.x + p % side, at.y + p / side, 1, 1}, pixel);
-      }
+      pictures_.Draw(static_cast<display::TrayActivity>(i), picture->GetCanvas(),
+                     platform::colour::kButtonFace);
+      canvas.Draw(*picture, {Scale(kGap + i * (kSide + kGap)), (size.height - side) / 2});
     }
   });
 }

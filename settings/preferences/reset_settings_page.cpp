@@ -56,6 +56,7 @@ ResetSettingsPage::ResetSettingsPage(toolkit::Notebook& notebook, Context& conte
   PlaceControls();
   ResetSettingPrg.SetRange(0, kSteps);
   SelectAll.OnClick = [this] { SelectAllClick(); };
+  for (const auto& box : groups_) box->OnClick = [this] { GroupClick(); };
   btnResetSettings.OnClick = [this] { btnResetSettingsClick(); };
 }
 
@@ -68,7 +69,6 @@ ResetSettingsPage::Boxes ResetSettingsPage::MakeBoxes(toolkit::Control& parent) 
 }
 
 void ResetSettingsPage::PlaceControls() {
-  constexpr int kWidth = kPageWidth - 2 * kMargin;
   constexpr int kColumn = (kWidth - kMargin) / 2;
   constexpr int kTop = kMargin + kRow + 2;
   const int rows = static_cast<int>(groups_.size()) / 2;
@@ -99,7 +99,17 @@ void ResetSettingsPage::Localise(const Translation& say) {
 }
 
 void ResetSettingsPage::SelectAllClick() {
+  if (context_.IsReading()) return;
+  const Context::Reading reading(context_);
   for (const auto& box : groups_) box->SetChecked(SelectAll.Checked());
+}
+
+// The box for all says whether all are ticked.
+void ResetSettingsPage::GroupClick() {
+  if (context_.IsReading()) return;
+  const Context::Reading reading(context_);
+  SelectAll.SetChecked(
+      std::all_of(groups_.begin(), groups_.end(), [](const auto& box) { return box->Checked(); }));
 }
 
 void ResetSettingsPage::btnResetSettingsClick() {

@@ -28,6 +28,7 @@ class ResetSettingsPage final : public Page {
   [[nodiscard]] static Boxes MakeBoxes(toolkit::Control& parent);
   void PlaceControls();
   void SelectAllClick();
+  void GroupClick();
   void btnResetSettingsClick();
   void Progress();
   void EndProgress();

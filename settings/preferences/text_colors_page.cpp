@@ -33,21 +33,14 @@ TextColorsPage::TextColorsPage(toolkit::Notebook& notebook, Context& context)
 }
 
 void TextColorsPage::PlaceControls() {
-  constexpr int kLabelWidth = 170;
-  constexpr int kField = kMargin + kLabelWidth + kMargin;
-  const auto label = [](int row) {
-    return platform::Rect{kMargin, kMargin + row * kFieldRow + 2, kLabelWidth, kBoxHeight};
-  };
-  const auto field = [](int row, int width) {
-    return platform::Rect{kField, kMargin + row * kFieldRow, width, kFieldHeight};
-  };
+  constexpr FieldColumn kFields{kMargin, 170};
   toolkit::ApplyLayout({
-      {lblFontColor, label(0)},
-      {FontColor, field(0, 80)},
-      {lblFontBackground, label(1)},
-      {FontBackground, field(1, 80)},
-      {lblFont, label(2)},
-      {FontChoose, field(2, kPageWidth - kMargin - kField)},
+      {lblFontColor, kFields.Label(0)},
+      {FontColor, kFields.Field(0, 80)},
+      {lblFontBackground, kFields.Label(1)},
+      {FontBackground, kFields.Field(1, 80)},
+      {lblFont, kFields.Label(2)},
+      {FontChoose, kFields.Field(2, kFields.FieldWidth())},
   });
 }
 

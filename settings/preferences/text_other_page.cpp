@@ -65,25 +65,22 @@ void TextOtherPage::ConnectHandlers() {
 }
 
 void TextOtherPage::PlaceControls() {
-  constexpr int kWidth = kPageWidth - 2 * kMargin;
-  constexpr int kInside = kWidth - 2 * kMargin;
-  constexpr int kTop = toolkit::GroupBox::kTitleHeight + 5;
-  constexpr int kLineHeight = kTop + 3 * kRow + 3;
+  constexpr int kLineHeight = kGroupTop + 3 * kRow + 3;
   constexpr int kUnitsTop = kMargin + kLineHeight + kMargin;
-  constexpr int kUnitsHeight = kTop + 2 * kRow + 3;
+  constexpr int kUnitsHeight = kGroupTop + 2 * kRow + 3;
   constexpr int kTitlesTop = kUnitsTop + kUnitsHeight + kMargin;
-  constexpr int kButtonTop = kTop + 4 * kRow + 4;
+  constexpr int kButtonTop = kGroupTop + 4 * kRow + 4;
   toolkit::ApplyLayout({
       {grpNumericLine, {kMargin, kMargin, kWidth, kLineHeight}},
-      {chkTariffName, {kMargin, kTop, kInside, kBoxHeight}},
-      {chkConnLength, {kMargin, kTop + kRow, kInside, kBoxHeight}},
-      {chkTotalCost, {kMargin, kTop + 2 * kRow, kInside, kBoxHeight}},
+      {chkTariffName, {kMargin, kGroupTop, kGroupWidth, kBoxHeight}},
+      {chkConnLength, {kMargin, kGroupTop + kRow, kGroupWidth, kBoxHeight}},
+      {chkTotalCost, {kMargin, kGroupTop + 2 * kRow, kGroupWidth, kBoxHeight}},
       {rdoScaleUnits, {kMargin, kUnitsTop, kWidth, kUnitsHeight}},
       {grpWindowTitles, {kMargin, kTitlesTop, kWidth, kButtonTop + kButtonHeight + kMargin}},
-      {Post0, {kMargin, kTop, kInside, kBoxHeight}},
-      {Post1, {kMargin, kTop + kRow, kInside, kBoxHeight}},
-      {Post2, {kMargin, kTop + 2 * kRow, kInside, kBoxHeight}},
-      {Post3, {kMargin, kTop + 3 * kRow, kInside, kBoxHeight}},
+      {Post0, {kMargin, kGroupTop, kGroupWidth, kBoxHeight}},
+      {Post1, {kMargin, kGroupTop + kRow, kGroupWidth, kBoxHeight}},
+      {Post2, {kMargin, kGroupTop + 2 * kRow, kGroupWidth, kBoxHeight}},
+      {Post3, {kMargin, kGroupTop + 3 * kRow, kGroupWidth, kBoxHeight}},
       {DefineButton, {kMargin, kButtonTop, 110, kButtonHeight}},
   });
 }

@@ -13,8 +13,8 @@ namespace text = settings::text::SettingsForm;
 
 // Design pixels.
 constexpr int kTreeWidth = 164;
-constexpr int kWidth = kMargin + kTreeWidth + kMargin + kPageWidth;
-constexpr int kHeight = kPageHeight + 5 * kMargin;
+constexpr int kFormWidth = kMargin + kTreeWidth + kMargin + kPageWidth;
+constexpr int kFormHeight = kPageHeight + 5 * kMargin;
 
 constexpr std::string_view kPlacementKey = "\\Software\\BrisantoNET\\Settings\\SettingsScreen";
 
@@ -49,12 +49,12 @@ T_frmPreferences::T_frmPreferences(toolkit::Application& app, const display::Run
 
 void T_frmPreferences::PlaceControls() {
   constexpr int kButtonWidth = 90;
-  SetClientSize({kWidth, kHeight});
+  SetClientSize({kFormWidth, kFormHeight});
   toolkit::ApplyLayout({
       {TreeItems, {kMargin, kMargin, kTreeWidth, kPageHeight - 2 * kMargin}},
       {PrefNotebook, {kMargin + kTreeWidth + kMargin, 0, kPageWidth, kPageHeight}},
       {btnClose,
-       {kWidth - kMargin - kButtonWidth, kHeight - kMargin - kButtonHeight, kButtonWidth,
+       {kFormWidth - kMargin - kButtonWidth, kFormHeight - kMargin - kButtonHeight, kButtonWidth,
         kButtonHeight}},
   });
   CentreOnScreen();

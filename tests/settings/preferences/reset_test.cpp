@@ -98,6 +98,11 @@ TEST_F(Reset, WritesDefaultsOfItsOwnAndTheMeterTakesThem) {
     UpsetAll();
     User().Press("SelectAll");
     EXPECT_TRUE(Widget("R12").checked);
+    User().Press("R12");
+    EXPECT_FALSE(Widget("SelectAll").checked) << "not all are";
+    EXPECT_TRUE(Widget("R11").checked);
+    User().Press("R12");
+    EXPECT_TRUE(Widget("SelectAll").checked);
     RunReset();
     EXPECT_EQ(Stored("AlertsMoreThan"), 1U);
     EXPECT_EQ(Stored("MoreThan"), 10U);
