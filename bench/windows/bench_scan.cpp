@@ -1,15 +1,15 @@
 // The real scan on the real system, beside the Windows calls that it cannot do without.
 //
 //   bench_scan             the cost of a scan, and a long run for two minutes
-//   bench_scan --long      the long run is that of more than a day
+//   bench_scan --long [n]  the long run is that of n scans, or of more than a day
 //   bench_scan --empty     an empty window, until it is ended; for bench_program, which compares
-//   the
-//                          program's start with it
+//                          the program's start with it
 //   bench_scan --bare-idle the bare calls of an idle scan once a second, until it is ended; for
 //                          bench_program, which compares the idle program with it
 #include <cstdio>
 #include <exception>
 #include <stdexcept>
+#include <string>
 #include <string_view>
 
 #include "bench/windows/cost.h"
@@ -54,8 +54,8 @@ int wmain(int argc, wchar_t** argv) {
       return 0;
     }
     constexpr bench::LongRun kShort{20000, 120};
-    constexpr bench::LongRun kWhole{100000, 24 * 3600};
-    return bench::Main(option == L"--long" ? kWhole : kShort);
+    const bench::LongRun whole{argc > 2 ? std::stoi(argv[2]) : 100000, 24 * 3600};
+    return bench::Main(option == L"--long" ? whole : kShort);
   } catch (const std::exception& error) {
     std::printf("bench_scan: %s\n", error.what());
     return 2;
