@@ -19,8 +19,13 @@ constexpr int kBalloonSeconds = 15;
 
 BandwidthAlert::BandwidthAlert(toolkit::Application& app, settings::Store& store,
                                display::Quantity& quantity, const settings::Language& language,
-                               Reactions& reactions)
-    : app_(app), store_(store), quantity_(quantity), language_(language), reactions_(reactions) {
+                               Reactions& reactions, toolkit::PopupMenu& menu)
+    : app_(app),
+      store_(store),
+      quantity_(quantity),
+      language_(language),
+      reactions_(reactions),
+      menu_(menu) {
   Action.OnExecute = [this] { BandwidthAlertExecute(); };
 }
 
@@ -43,6 +48,10 @@ void BandwidthAlert::ShowMessage() {
   const std::string title =
       std::string(engine::kProductTitle) + language_.Text(settings::text::MainForm::S4);
   reactions_.Warn(title, store_.Read(setting::BAMessage), kBalloonSeconds);
+  menu_.CloseThen([this] { ShowWindow(); });
+}
+
+void BandwidthAlert::ShowWindow() {
   if (app_.Modals().Raise(kBandWidthAlertForm)) return;
   try {
     T_frmBandWidthAlert window(app_, store_, quantity_, language_);

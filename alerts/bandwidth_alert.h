@@ -6,6 +6,7 @@
 #include "settings/language.h"
 #include "settings/store.h"
 #include "toolkit/action.h"
+#include "toolkit/popup_menu.h"
 
 namespace toolkit {
 class Application;
@@ -15,12 +16,13 @@ namespace alerts {
 
 class BandwidthAlert {
  public:
-  // All outlive the alert.
+  // All outlive the alert. `menu` is closed before the window shows.
   BandwidthAlert(toolkit::Application& app, settings::Store& store, display::Quantity& quantity,
-                 const settings::Language& language, Reactions& reactions);
+                 const settings::Language& language, Reactions& reactions,
+                 toolkit::PopupMenu& menu);
 
-  // The scan's step. Returns when the window that it may show is closed; scans
-  // go on meanwhile.
+  // The scan's step. Returns when the window that it may show is closed; scans go on meanwhile.
+  // From under an open menu it returns at once, and the window shows when the menu is gone.
   void Check();
 
   toolkit::Action Action{"BandwidthAlert"};
@@ -28,12 +30,14 @@ class BandwidthAlert {
  private:
   void BandwidthAlertExecute();
   void ShowMessage();
+  void ShowWindow();
 
   toolkit::Application& app_;
   settings::Store& store_;
   display::Quantity& quantity_;
   const settings::Language& language_;
   Reactions& reactions_;
+  toolkit::PopupMenu& menu_;
 };
 
 }  // namespace alerts

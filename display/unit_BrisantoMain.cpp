@@ -80,7 +80,7 @@ T_frmBrisanto::T_frmBrisanto(toolkit::Application& app)
       reactions_(app.Platform().sound, _TrayIcon, _WindowsManager.shutdown),
       notifications_(app, RegME, _ReadLangauge, reactions_),
       ticker_(RegME, reactions_),
-      bandwidth_alert_(app, RegME, quantity_, _ReadLangauge, reactions_),
+      bandwidth_alert_(app, RegME, quantity_, _ReadLangauge, reactions_, _MainMenu.popup),
       statistics_windows_({app, RegME, quantity_, _ReadLangauge, traffic_},
                           [this] { Settings1Click(); }),
       GlobalAtomKey(

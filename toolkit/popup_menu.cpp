@@ -97,8 +97,8 @@ void PopupMenu::Popup(platform::Point screen, Form& owner) {
   const std::vector<platform::MenuEntry> entries = builder.Build(Items.Children());
   const int id = app_.Platform().menus.Popup(owner.Window(), screen, entries, painter_);
   scope.End();
-  if (const auto next = std::exchange(next_, nullptr)) {
-    app_.Guard(next);
+  if (const auto waiting = std::exchange(next_, {}); !waiting.empty()) {
+    for (const auto& next : waiting) app_.Guard(next);
     return;
   }
   // Scans go on while the menu is open and may have replaced the adapter items; the one that is
@@ -112,7 +112,7 @@ void PopupMenu::CloseThen(const std::function<void()>& next) {
     next();
     return;
   }
-  next_ = next;
+  next_.push_back(next);
   app_.Platform().menus.Cancel();
 }
 

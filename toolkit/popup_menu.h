@@ -64,15 +64,16 @@ class PopupMenu {
   // whose item went away meanwhile does nothing; nor does a second menu while one is open.
   void Popup(platform::Point screen, Form& owner);
 
-  // Runs `next`: at once when the menu is not open; else closes it, and when it is gone `next` runs
-  // in the place of a choice. A modal window that opened under a menu would not get the mouse.
+  // Runs `next`: at once when the menu is not open; else closes it, and when it is gone all that
+  // was asked for meanwhile runs in the place of a choice, first come first served. A modal window
+  // that opened under a menu would not get the mouse.
   void CloseThen(const std::function<void()>& next);
 
  private:
   Application& app_;
   MenuPainter painter_;
   bool open_ = false;
-  std::function<void()> next_;
+  std::vector<std::function<void()>> next_;
 };
 
 }  // namespace toolkit

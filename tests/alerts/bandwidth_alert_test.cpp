@@ -28,7 +28,9 @@ class BandwidthAlert : public test::AlertsTest {
   }
 
   display::Quantity quantity{store, machine.locale};
-  alerts::BandwidthAlert alert{app, store, quantity, language, reactions};
+  toolkit::ImageList images;
+  toolkit::PopupMenu menu{app, images};
+  alerts::BandwidthAlert alert{app, store, quantity, language, reactions, menu};
 };
 
 TEST_F(BandwidthAlert, ShowsABalloonAndItsWindowOnce) {
@@ -56,6 +58,25 @@ TEST_F(BandwidthAlert, ASecondOneWhileTheFirstIsOpenRaisesIt) {
     EXPECT_EQ(balloons.size(), 2U);
     machine.windowing.ClickCloseBox("T_frmBandWidthAlert");
   });
+}
+
+TEST_F(BandwidthAlert, AMenuThatIsOpenGoesBeforeItsWindowComes) {
+  toolkit::Form owner(app, "owner", platform::Frame::kDialog);
+  machine.menus.user = [this](const auto&, auto&) {
+    alert.Check();  // a scan while the menu is open
+    EXPECT_TRUE(machine.menus.cancelled);
+    EXPECT_EQ(balloons.size(), 1U) << "the balloon waits for nothing";
+    EXPECT_FALSE(machine.windowing.Exists("T_frmBandWidthAlert"))
+        << "under the menu it would not get the mouse";
+    return 0;
+  };
+  bool shown = false;
+  machine.message_loop.Then([&] {
+    shown = machine.windowing.Exists("T_frmBandWidthAlert");
+    machine.windowing.Press("OkBtn");
+  });
+  menu.Popup({5, 6}, owner);
+  EXPECT_TRUE(shown);
 }
 
 TEST_F(BandwidthAlert, OtherActionsShowNothing) {

@@ -91,6 +91,19 @@ TEST_F(Menu, AHandlerMayRemoveItsOwnItem) {
   EXPECT_EQ(clicked, "a name that lives on the heap");
 }
 
+TEST_F(Menu, AllThatWaitsForItsEndRunsInsteadOfTheChoice) {
+  std::string done;
+  menu.Items.Add("First").OnClick = [&] { done += "choice "; };
+  machine.menus.user = [&](const auto&, auto&) {
+    menu.CloseThen([&] { done += "alert "; });
+    menu.CloseThen([&] { done += "exit "; });
+    EXPECT_EQ(done, "");
+    return 1;
+  };
+  menu.Popup({5, 6}, form);
+  EXPECT_EQ(done, "alert exit ");
+}
+
 TEST_F(Menu, ALongCaptionIsCutWithAnEllipsis) {
   menu.Items.Add(std::string(255, 'W')).Literal = true;
   machine.menus.user = [&](const std::vector<platform::MenuEntry>& entries,
