@@ -13,7 +13,7 @@ void Ticker::Update(const engine::ScanAmounts& scan) {
   TickerByteCount = settings::WrappingAdd(TickerByteCount, moved);
   const std::int64_t per_tick = store_.Read(setting::TickerBytes);
   if (TickerByteCount < per_tick) return;
-  TickerByteCount -= per_tick;
+  TickerByteCount = settings::WrappingSubtract(TickerByteCount, per_tick);
   reactions_.PlayWave(store_.Read(setting::TickerWav));
 }
 

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <limits>
+
 #include "alerts/keyboard_leds.h"
 #include "alerts/ticker.h"
 #include "tests/alerts/alerts_world.h"
@@ -33,6 +35,12 @@ TEST_F(Ticker, TicksOnceAScanAndKeepsTheRest) {
   EXPECT_EQ(Sounds(300, 299), 0U);
   EXPECT_EQ(Sounds(9000, 1), 1U);  // 10000: nine more ticks are owed
   for (int i = 0; i < 8; ++i) EXPECT_EQ(Sounds(1, 1), 1U);
+}
+
+TEST_F(Ticker, WrapsAtTheEndOfItsRangeLikeAllSums) {
+  Set("TickerBytes", -2);
+  EXPECT_EQ(Sounds(std::numeric_limits<std::int64_t>::max() - 1, 1), 1U);
+  EXPECT_EQ(Sounds(1, 1), 0U) << "the count is below zero now";
 }
 
 TEST_F(Ticker, CountsNothingWhileItIsOffAndKeepsWhatItHas) {
