@@ -20,7 +20,7 @@ class ScreenDc {
 }  // namespace
 
 bool IconMaker::Resize(Size size) {
-  if (size == size_ && colours_ && mask_) return true;
+  if (size == size_ && colours_ && mask_ && dc_) return true;
   const ScreenDc screen;
   if (!dc_) dc_ = MemoryDc(::CreateCompatibleDC(screen.get()));
   colours_ = GdiBitmap(::CreateCompatibleBitmap(screen.get(), size.width, size.height));

@@ -45,6 +45,8 @@ DWORD FlagsOf(BalloonIcon icon) {
 ShellTrayIcon::ShellTrayIcon(const WindowClass& window_class, TrayIconEvents& events)
     : events_(events), taskbar_created_(::RegisterWindowMessageW(L"TaskbarCreated")) {
   Create(window_class, {WS_POPUP, WS_EX_TOOLWINDOW}, nullptr, {});
+  // A shell without the rights of an administrator could not tell a program that has them.
+  ::ChangeWindowMessageFilterEx(hwnd(), taskbar_created_, MSGFLT_ALLOW, nullptr);
 }
 
 ShellTrayIcon::~ShellTrayIcon() {
@@ -73,7 +75,7 @@ void ShellTrayIcon::SetHint(std::string_view hint) {
   std::wstring wide = ToWide(hint);
   if (wide == hint_) return;
   hint_ = std::move(wide);
-  if (added_) Modify(NIF_TIP | NIF_SHOWTIP);
+  if (added_) Modify(NIF_TIP);
 }
 
 void ShellTrayIcon::ShowBalloon(std::string_view title, std::string_view text, BalloonIcon icon,
@@ -113,7 +115,7 @@ void ShellTrayIcon::Add() {
   ::KillTimer(hwnd(), kAddTimer);
   waiting_ = false;
   if (!icon_) return;
-  NOTIFYICONDATAW data = Data(NIF_MESSAGE | NIF_ICON | NIF_TIP | NIF_SHOWTIP);
+  NOTIFYICONDATAW data = Data(NIF_MESSAGE | NIF_ICON | NIF_TIP);
   added_ = ::Shell_NotifyIconW(NIM_ADD, &data) != FALSE;
   if (!added_) {
     // A shell that timed out may have taken it all the same.
@@ -141,7 +143,8 @@ NOTIFYICONDATAW ShellTrayIcon::Data(UINT parts) const {
   data.cbSize = sizeof(data);
   data.hWnd = hwnd();
   data.uID = kIconNumber;
-  data.uFlags = parts;
+  // The shell hides the hint at each change that does not ask for it anew.
+  data.uFlags = parts | NIF_SHOWTIP;
   data.uCallbackMessage = kTrayMessage;
   data.hIcon = icon_.get();
   CopyText(hint_, data.szTip);
