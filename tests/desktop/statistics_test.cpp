@@ -2,13 +2,13 @@
 #include <algorithm>
 
 #include "platform/windows/wide.h"
+#include "tests/desktop/driver/cut_texts.h"
 #include "tests/desktop/program_test.h"
 
 namespace desktop {
 namespace {
 
 using platform::windows::FromWide;
-using platform::windows::ToWide;
 
 constexpr wchar_t kMachine[] = L"T_frmConnInfo";
 constexpr wchar_t kAdapter[] = L"T_frmSpecificConnInfo";
@@ -165,83 +165,8 @@ TEST_F(Statistics, TheTotalsOfTheRunFollowRealTrafficUntilTheReset) {
   });
 }
 
-// The texts of buttons, boxes and labels that are wider than their control.
-class ClippedTexts {
- public:
-  // Fonts belong to their process, so this is another one of the same kind.
-  ClippedTexts(HWND window, LONG font_height)
-      : font_(::CreateFontW(-static_cast<int>(font_height), 0, 0, 0, FW_NORMAL, 0, 0, 0,
-                            DEFAULT_CHARSET, 0, 0, DEFAULT_QUALITY, 0, L"Tahoma")),
-        dc_(::CreateCompatibleDC(nullptr)),
-        before_(::SelectObject(dc_, font_)) {
-    ::EnumChildWindows(window, Look, reinterpret_cast<LPARAM>(this));
-  }
-  ~ClippedTexts() {
-    ::SelectObject(dc_, before_);
-    ::DeleteDC(dc_);
-    ::DeleteObject(font_);
-  }
-  ClippedTexts(const ClippedTexts&) = delete;
-  ClippedTexts& operator=(const ClippedTexts&) = delete;
-
-  [[nodiscard]] const std::string& Found() const { return found_; }
-
- private:
-  static BOOL CALLBACK Look(HWND control, LPARAM self) {
-    reinterpret_cast<ClippedTexts*>(self)->Check(control);
-    return TRUE;
-  }
-
-  void Check(HWND control) {
-    const LONG taken = TakenByTheControl(control);
-    const std::string text = TextOf(control);
-    if (taken < 0 || text.empty()) return;
-    RECT needed{};
-    ::DrawTextW(dc_, ToWide(text).c_str(), -1, &needed, DT_CALCRECT | DT_SINGLELINE);
-    RECT client{};
-    ::GetClientRect(control, &client);
-    const LONG too_wide = needed.right + taken - client.right;
-    if (too_wide > 0) found_ += text + " by " + std::to_string(too_wide) + "; ";
-  }
-
-  // What its frame, box or indent takes of its width; negative for one without a text of its own.
-  static LONG TakenByTheControl(HWND control) {
-    wchar_t kind[32] = {};
-    ::GetClassNameW(control, kind, 32);
-    if (::lstrcmpiW(kind, L"Static") == 0) return 0;
-    if (::lstrcmpiW(kind, L"Button") != 0) return -1;
-    switch (::GetWindowLongW(control, GWL_STYLE) & BS_TYPEMASK) {
-      case BS_GROUPBOX:
-        return 16;
-      case BS_AUTOCHECKBOX:
-        return 18;
-      default:
-        return 6;
-    }
-  }
-
-  HFONT font_;
-  HDC dc_;
-  HGDIOBJ before_;
-  std::string found_;
-};
-
-// The names of the language files beside the program.
-std::vector<std::string> Languages() {
-  std::vector<std::string> names;
-  WIN32_FIND_DATAW file{};
-  const HANDLE search = ::FindFirstFileW(L"Languages\\*.lng", &file);
-  if (search == INVALID_HANDLE_VALUE) return names;
-  do {
-    const std::string name = FromWide(file.cFileName);
-    names.push_back(name.substr(0, name.rfind('.')));
-  } while (::FindNextFileW(search, &file));
-  ::FindClose(search);
-  return names;
-}
-
 TEST_F(Statistics, NoTextIsCutInAnyLanguage) {
-  const std::vector<std::string> languages = Languages();
+  const std::vector<std::string> languages = OfferedLanguages();
   EXPECT_GE(languages.size(), 6U);
   for (const std::string& language : languages) {
     SCOPED_TRACE(language);
@@ -250,7 +175,7 @@ TEST_F(Statistics, NoTextIsCutInAnyLanguage) {
     OpenMenu menu = meter.Menu();
     menu.Choose({menu.Items().at(0).text});
     const HWND window = AwaitForm(meter, kMachine);
-    EXPECT_EQ(ClippedTexts(window, meter.Scaled(11)).Found(), "");
+    EXPECT_EQ(CutTexts(window, meter.Scaled(11)), "");
   }
 }
 

@@ -1,25 +1,34 @@
 // The pages of the preferences, and what they open.
-#include "tests/desktop/driver/windows_of.h"
+#include "tests/desktop/driver/preferences.h"
 #include "tests/desktop/screenshots/shots.h"
-// Behind the system's own header, which it needs.
-#include <commctrl.h>
 
 namespace desktop {
 namespace {
 
 namespace text = settings::text::MainForm;
 
-// In the order of the tree; a heading has no picture.
-constexpr const char* kPages[] = {
-    "general",    "", "graph-colors", "graph-grids",     "graph-other", "",      "text-colors",
-    "text-other", "", "notification", "bandwidth-alert", "interfaces",  "admin", "other"};
-constexpr int kResetSettings = 17;
+struct PagePicture {
+  PageRow row;
+  const char* name;
+};
 
-void ChooseRow(HWND window, int row) {
-  const HWND tree = FindControl(window, L"TreeItems");
-  LRESULT item = ::SendMessageW(tree, TVM_GETNEXTITEM, TVGN_ROOT, 0);
-  for (; row > 0; --row) item = ::SendMessageW(tree, TVM_GETNEXTITEM, TVGN_NEXTVISIBLE, item);
-  ::SendMessageW(tree, TVM_SELECTITEM, TVGN_CARET, item);
+constexpr PagePicture kPages[] = {
+    {PageRow::kGeneral, "general"},
+    {PageRow::kGraphColors, "graph-colors"},
+    {PageRow::kGraphGrids, "graph-grids"},
+    {PageRow::kGraphOther, "graph-other"},
+    {PageRow::kTextColors, "text-colors"},
+    {PageRow::kTextOther, "text-other"},
+    {PageRow::kNotification, "notification"},
+    {PageRow::kBandwidthAlert, "bandwidth-alert"},
+    {PageRow::kInterfaces, "interfaces"},
+    {PageRow::kAdmin, "admin"},
+    {PageRow::kOther, "other"},
+    {PageRow::kResetSettings, "reset"},
+};
+
+void Turn(HWND window, PageRow row) {
+  ChoosePage(window, row);
   Scene::AwaitPainted();
 }
 
@@ -27,19 +36,16 @@ HWND OpenPreferences(Scene& scene) { return scene.Open({text::Settings1}, L"T_fr
 
 void Pages(Scene& scene) {
   const HWND window = OpenPreferences(scene);
-  int row = 0;
-  for (const char* page : kPages) {
-    ChooseRow(window, row++);
-    if (*page != 0) scene.Save(std::string("preferences-") + page, Scene::Of(window));
+  for (const auto& [row, name] : kPages) {
+    Turn(window, row);
+    scene.Save(std::string("preferences-") + name, Scene::Of(window));
   }
-  ChooseRow(window, kResetSettings);
-  scene.Save("preferences-reset", Scene::Of(window));
   scene.Close(window);
 }
 
 void ColorPopup(Scene& scene) {
   const HWND window = OpenPreferences(scene);
-  ChooseRow(window, 2);
+  Turn(window, PageRow::kGraphColors);
   scene.Press(window, L"DownloadColor");
   const HWND popup = scene.AwaitWindow(L"ColourPopup");
   scene.Save("color-popup", Scene::Of(popup));
@@ -49,7 +55,7 @@ void ColorPopup(Scene& scene) {
 
 void TitleEditor(Scene& scene) {
   const HWND window = OpenPreferences(scene);
-  ChooseRow(window, 7);
+  Turn(window, PageRow::kTextOther);
   scene.Press(window, L"DefineButton");
   const HWND editor = scene.AwaitWindow(L"T_frmAddTitles");
   scene.Save("window-titles", Scene::Of(editor));
