@@ -9,13 +9,6 @@
 namespace bench {
 namespace {
 
-struct Resources {
-  std::int64_t handles = KernelHandles();
-  std::int64_t gdi = GdiObjects();
-  std::int64_t user = UserObjects();
-  std::int64_t bytes = PrivateBytes();
-};
-
 double KiB(std::int64_t bytes) { return static_cast<double>(bytes) / 1024; }
 
 // Returns how many there were.
@@ -37,21 +30,14 @@ void PlayLongRun(PlayedMeter& meter, const LongRun& run, std::int64_t empty_byte
   const int first = Play(meter, {std::min(kHour, run.scans / 2), half});
   const Resources before;
   const int rest = Play(meter, {run.scans - first, half});
-  const Resources after;
-  const auto growth = [](std::int64_t now, std::int64_t then) {
-    return static_cast<double>(now - then);
-  };
   const std::string number = std::to_string(first);
   report.Section("The long run: scans one behind the other, each painted");
   report.AtMost("private memory after " + number + " scans above an empty window's",
                 KiB(before.bytes - empty_bytes), "KiB", 3072);
   report.Note("scans after these, each with a tick of the histogram", rest, "");
-  report.AtMost("growth of handles over them", growth(after.handles, before.handles), "", 0);
-  report.AtMost("growth of GDI objects over them", growth(after.gdi, before.gdi), "", 0);
-  report.AtMost("growth of USER objects over them", growth(after.user, before.user), "", 0);
-  report.AtMost("growth of private memory over them", KiB(after.bytes - before.bytes), "KiB", 64);
-  report.Note("handles", static_cast<double>(after.handles), "");
-  report.Note("GDI objects", static_cast<double>(after.gdi), "");
+  ReportGrowth(before, report);
+  report.Note("handles", static_cast<double>(before.handles), "");
+  report.Note("GDI objects", static_cast<double>(before.gdi), "");
 }
 
 }  // namespace bench

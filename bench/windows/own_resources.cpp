@@ -110,4 +110,16 @@ std::int64_t PrivateBytes() {
   return static_cast<std::int64_t>(counters.PagefileUsage);
 }
 
+void ReportGrowth(const Resources& before, Report& report) {
+  const Resources after;
+  const auto growth = [](std::int64_t now, std::int64_t then) {
+    return static_cast<double>(now - then);
+  };
+  report.AtMost("growth of handles over them", growth(after.handles, before.handles), "", 0);
+  report.AtMost("growth of GDI objects over them", growth(after.gdi, before.gdi), "", 0);
+  report.AtMost("growth of USER objects over them", growth(after.user, before.user), "", 0);
+  report.AtMost("growth of private memory over them", growth(after.bytes, before.bytes) / 1024,
+                "KiB", 64);
+}
+
 }  // namespace bench

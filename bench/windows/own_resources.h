@@ -3,6 +3,8 @@
 
 #include <cstdint>
 
+#include "bench/report.h"
+
 namespace bench {
 
 // Counted by the kernel.
@@ -14,5 +16,16 @@ namespace bench {
 [[nodiscard]] std::int64_t UserObjects();
 // Bytes of memory that belong to this process alone.
 [[nodiscard]] std::int64_t PrivateBytes();
+
+// All of them, at the time that it is made.
+struct Resources {
+  std::int64_t handles = KernelHandles();
+  std::int64_t gdi = GdiObjects();
+  std::int64_t user = UserObjects();
+  std::int64_t bytes = PrivateBytes();
+};
+
+// None may have grown since; memory by 64 KiB, which is how the heap takes it.
+void ReportGrowth(const Resources& before, Report& report);
 
 }  // namespace bench

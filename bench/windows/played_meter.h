@@ -25,6 +25,9 @@ class PlayedMeter {
   // What a scan has made old on the screen.
   void Paint() { machine_.platform().message_loop.ProcessPending(); }
 
+  [[nodiscard]] toolkit::Application& App() { return app_; }
+  [[nodiscard]] display::RunningMeter Parts() { return window_->Parts(); }
+
   // Until nothing happens any more for the first time.
   void WarmUp() {
     constexpr int kScans = 30;
