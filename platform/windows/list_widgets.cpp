@@ -91,18 +91,21 @@ void ComboWidget::SetFont(const FontSpec& font) {
 
 void ComboWidget::FitHeight() {
   constexpr auto kClosedRow = static_cast<WPARAM>(-1);
+  // Pixels that a closed list has above and below its row, at every resolution.
+  constexpr int kFrame = 6;
   if (bounds_ == Rect{}) return;
   const auto row = static_cast<int>(Send(CB_GETITEMHEIGHT, 0));
   Rect open = bounds_;
   open.height += kRowsDropped * row + 2;
-  WidgetOf::SetBounds(open);
-  // How much its frame takes is learned from the outcome.
-  auto closed_row = static_cast<int>(Send(CB_GETITEMHEIGHT, kClosedRow));
-  for (int attempt = 0; attempt < 3 && Bounds().height != bounds_.height; ++attempt) {
-    closed_row += bounds_.height - Bounds().height;
-    if (closed_row <= 0) break;
+  int closed_row = bounds_.height - kFrame;
+  // Where a theme has another frame, that is learned from the outcome. Each attempt makes the
+  // system arrange the list anew, so the first one should do.
+  for (int attempt = 0; attempt < 4 && closed_row > 0; ++attempt) {
     Send(CB_SETITEMHEIGHT, kClosedRow, closed_row);
     WidgetOf::SetBounds(open);
+    const int too_low = bounds_.height - Bounds().height;
+    if (too_low == 0) break;
+    closed_row += too_low;
   }
   if (kind_ == ListKind::kFontCombo) {
     Send(CB_SETITEMHEIGHT, 0, Send(CB_GETITEMHEIGHT, kClosedRow));
