@@ -35,9 +35,11 @@ TrayIcon::TrayIcon(toolkit::Application& app, settings::Store& store)
 
 TrayIcon::~TrayIcon() = default;
 
-void TrayIcon::LoadPictures() {
+void TrayIcon::LoadPictures() { LoadPictures(store_.Read(setting::TrayIconFile)); }
+
+void TrayIcon::LoadPictures(const std::string& path) {
   const std::string built_in = store_.Resolve(setting::TrayIconFile.read);
-  pictures_.Load(app_.Platform().files, store_.Read(setting::TrayIconFile), built_in);
+  pictures_.Load(app_.Platform().files, path, built_in);
   shown_activity_.reset();
 }
 
@@ -66,10 +68,10 @@ void TrayIcon::ChangeColours(platform::Colour receiving, platform::Colour sendin
   if (!shown_activity_) DrawHistogram(shown_histogram_, receiving, sending);
 }
 
-void TrayIcon::ChangePictures() {
+void TrayIcon::ChangePictures(const std::string& path) {
   if (kind_ != kActivityPictures) return;
   const TrayActivity activity = shown_activity_.value_or(TrayActivity::kIdle);
-  LoadPictures();
+  LoadPictures(path);
   ShowActivity(activity);
 }
 

@@ -42,8 +42,8 @@ class TrayIcon final : public alerts::Balloons, private platform::TrayIconEvents
   void ChangeKind(std::int64_t type);
   // Other colours of the histogram, which are stored next.
   void ChangeColours(platform::Colour receiving, platform::Colour sending);
-  // Another "TrayIconFile", which is stored already.
-  void ChangePictures();
+  // Another "TrayIconFile", which is stored next.
+  void ChangePictures(const std::string& path);
 
   // The picture of a scan: "IconType" 0 shows its activity, 1 the histogram; another value leaves
   // the icon as it is. The histogram moves on only while it is shown.
@@ -63,6 +63,7 @@ class TrayIcon final : public alerts::Balloons, private platform::TrayIconEvents
   void OnTrayClick() override;
   void OnTrayMenu(platform::Point screen) override;
 
+  void LoadPictures(const std::string& path);
   void ShowActivity(TrayActivity activity);
   void ShowHistogram(const TrayHistogram& histogram);
   void DrawHistogram(const TrayHistogram& histogram, platform::Colour receiving,

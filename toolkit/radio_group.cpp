@@ -8,6 +8,7 @@ void RadioGroup::SetItems(std::span<const std::string> captions) {
     buttons_.push_back(
         std::make_unique<RadioButton>(*this, Name() + std::to_string(buttons_.size())));
     buttons_.back()->OnClick = [this] { Fire(OnClick); };
+    buttons_.back()->SetHint(Hint());
   }
   for (std::size_t i = 0; i < captions.size(); ++i) buttons_[i]->SetCaption(captions[i]);
   Arrange();
@@ -28,6 +29,10 @@ void RadioGroup::SetItemIndex(int index) {
   }
   for (const auto& button : buttons_) button->SetChecked(false);
   Fire(OnClick);
+}
+
+void RadioGroup::HintChanged() {
+  for (const auto& button : buttons_) button->SetHint(Hint());
 }
 
 void RadioGroup::Arrange() {

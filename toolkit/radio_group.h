@@ -11,7 +11,8 @@
 
 namespace toolkit {
 
-// OnClick is fired when another item is chosen. The button of item n bears the group's name and n.
+// OnClick is fired when another item is chosen. Its hint is also that of its buttons, and
+// the button of item n bears the group's name and n.
 class RadioGroup : public GroupBox {
  public:
   RadioGroup(Control& parent, std::string_view name) : GroupBox(parent, name) {}
@@ -25,6 +26,7 @@ class RadioGroup : public GroupBox {
 
  protected:
   void Resized() override { Arrange(); }
+  void HintChanged() override;
 
  private:
   void Arrange();

@@ -2,6 +2,9 @@
 // wants to fail.
 #pragma once
 
+#include <functional>
+#include <string_view>
+
 namespace platform::memory {
 
 // Work on the registry since the last Restart, by what the calls asked for; a call that failed or
@@ -26,6 +29,10 @@ struct RegistryTraffic {
 class Notebook {
  public:
   RegistryTraffic registry;
+
+  // Where a test sets them: each value of the registry that is read or written, by its name.
+  std::function<void(std::string_view name)> on_registry_read;
+  std::function<void(std::string_view name)> on_registry_write;
 
   // Calls, since the last Restart, that can fail by their contract.
   [[nodiscard]] int Calls() const { return calls_; }

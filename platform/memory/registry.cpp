@@ -147,10 +147,12 @@ class Registry::OpenKey : public RegistryKey {
 
  private:
   const RegistryValue* Read(std::string_view name) {
+    if (notebook_.on_registry_read) notebook_.on_registry_read(name);
     if (notebook_.Fails() || key_->removed) return nullptr;
     return key_->Value(name);
   }
   void Write(std::string_view name, RegistryValue value) {
+    if (notebook_.on_registry_write) notebook_.on_registry_write(name);
     if (notebook_.Fails()) throw std::runtime_error("RegSetValueEx: error 5");
     if (key_->removed) throw std::runtime_error("RegSetValueEx: error 1018");
     if (ToUtf16(name).size() > kLongestValueName) {

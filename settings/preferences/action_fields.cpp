@@ -35,6 +35,7 @@ void ActionFields::Place(const FieldColumn& column, int row) {
 void ActionFields::Localise(const Translation& say) {
   action_label.SetCaption(say(action_text_));
   message_label.SetCaption(say(message_text_));
+  action.SetHint(say(text::ActionHint));
   message.SetHint(say(text::MessageHint));
   action.SetItems(Texts(say, {text::Action0, text::Action1, text::Action2, text::Action3}));
 }

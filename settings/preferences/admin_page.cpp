@@ -51,7 +51,10 @@ void AdminPage::Localise(const Translation& say) {
   Say(say, {
                {lblAdmin, text::lblAdmin},
                {lblAdminPassword, text::lblAdminPassword},
+               {AdminPassword, {}, text::AdminPasswordHint},
                {lblAdminVerifyPass, text::lblAdminVerifyPass},
+               {AdminVerifyPass, {}, text::AdminVerifyPassHint},
+               {LockBtn, {}, text::LockBtnHint},
            });
   ShowTexts(say);
 }

@@ -95,14 +95,18 @@ void BandwidthAlertPage::ConnectHandlers() {
 
 void BandwidthAlertPage::Localise(const Translation& say) {
   Say(say, {
-               {BAAlertsCheckBox, text::BAAlertsCheckBox},
+               {BAAlertsCheckBox, text::BAAlertsCheckBox, text::BAAlertsCheckBoxHint},
                {lblMPerStartsOn, text::lblMPerStartsOn},
+               {mPerStartsOn, {}, text::mPerStartsOnHint},
                {lblWPerStartsOn, text::lblWPerStartsOn},
+               {wPerStartsOn, {}, text::wPerStartsOnHint},
                {lblMoreThan, text::lblMoreThan},
-               {baDownload, text::baDownload},
-               {baUpload, text::baUpload},
+               {AlertsMoreThan, {}, text::AlertsMoreThanHint},
+               {baDownload, text::baDownload, text::baDownloadHint},
+               {baUpload, text::baUpload, text::baUploadHint},
                {lblDayWeekMonth, text::lblDayWeekMonth},
-               {chkBAPlay, text::chkBAPlay},
+               {cmbDayWeekMonth, {}, text::cmbDayWeekMonthHint},
+               {chkBAPlay, text::chkBAPlay, text::chkBAPlayHint},
            });
   MoreThan.SetHint(RangeOf(MoreThan, say));
   wPerStartsOn.SetItems(

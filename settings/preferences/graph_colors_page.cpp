@@ -179,13 +179,12 @@ void GraphColorsPage::ReadIconFile() {
                       context_.store.Resolve(setting::TrayIconFile.read));
 }
 
-// Stored first: the icon takes its file from there, at the start as well.
 void GraphColorsPage::ImagesTrayIconClick() {
   const std::optional<std::string> path = OpenPicture.Execute(ParentForm());
   if (!path) return;
+  context_.meter.tray.ChangePictures(*path);
   context_.Save(setting::TrayIconFile, *path);
   ReadIconFile();
-  context_.meter.tray.ChangePictures();
 }
 
 }  // namespace settings::preferences

@@ -1,5 +1,7 @@
 #include "settings/preferences/graph_grids_page.h"
 
+#include <string>
+
 #include "toolkit/layout.h"
 
 namespace settings::preferences {
@@ -95,22 +97,27 @@ void GraphGridsPage::Localise(const Translation& say) {
       {text::LineStyle0, text::LineStyle1, text::LineStyle2, text::LineStyle3, text::LineStyle4});
   cmbVLineStyle.SetItems(styles);
   cmbHLineStyle.SetItems(styles);
-  Say(say, {
-               {grpVertical, text::grpVertical},
-               {vGridsVisibleCheckBox, text::vGridsVisibleCheckBox},
-               {lblVLineStyle, text::lblVLineStyle},
-               {lblVLineSpace, text::lblVLineSpace},
-               {vLineSpace, {}, text::LineSpaceHint},
-               {lblVLineColor, text::lblVLineColor},
-               {vLineColor, text::vLineColor, text::ColorPanelHint},
-               {grpHorizontal, text::grpHorizontal},
-               {hGridsVisibleCheckBox, text::hGridsVisibleCheckBox},
-               {lblHLineStyle, text::lblHLineStyle},
-               {lblHLineSpace, text::lblHLineSpace},
-               {hLineSpace, {}, text::LineSpaceHint},
-               {lblHLineColor, text::lblHLineColor},
-               {hLineColor, text::hLineColor, text::ColorPanelHint},
-           });
+  Say(say,
+      {
+          {grpVertical, text::grpVertical},
+          {vGridsVisibleCheckBox, text::vGridsVisibleCheckBox, text::vGridsVisibleCheckBoxHint},
+          {lblVLineStyle, text::lblVLineStyle},
+          {cmbVLineStyle, {}, text::LineStyleHint},
+          {lblVLineSpace, text::lblVLineSpace},
+          {lblVLineColor, text::lblVLineColor},
+          {vLineColor, text::vLineColor, text::ColorPanelHint},
+          {grpHorizontal, text::grpHorizontal},
+          {hGridsVisibleCheckBox, text::hGridsVisibleCheckBox, text::hGridsVisibleCheckBoxHint},
+          {lblHLineStyle, text::lblHLineStyle},
+          {cmbHLineStyle, {}, text::LineStyleHint},
+          {lblHLineSpace, text::lblHLineSpace},
+          {lblHLineColor, text::lblHLineColor},
+          {hLineColor, text::hLineColor, text::ColorPanelHint},
+      });
+  for (toolkit::SpinEdit* spin : {&vLineSpace, &hLineSpace}) {
+    spin->SetHint(say(text::LineSpaceHint,
+                      {std::to_string(spin->Lowest()), std::to_string(spin->Highest())}));
+  }
 }
 
 // With the lines comes their style: what is drawn and what the list says are the same.

@@ -118,7 +118,9 @@ void GraphOthersPage::Localise(const Translation& say) {
   SayScales(say);
   Say(say, {
                {lblBevelInner, text::lblBevelInner},
+               {BevelInner, {}, text::BevelInnerHint},
                {lblBevelOuter, text::lblBevelOuter},
+               {BevelOuter, {}, text::BevelOuterHint},
                {lblBevelWidth, text::lblBevelWidth},
                {lblBorderWidth, text::lblBorderWidth},
                {lblPulseSpace, text::lblPulseSpace},
@@ -127,6 +129,7 @@ void GraphOthersPage::Localise(const Translation& say) {
                {chkScaleActive, text::chkScaleActive, text::chkScaleActiveHint},
                {chk3dGraph, text::chk3dGraph, text::chk3dGraphHint},
                {lblScale, text::lblScale},
+               {ScaleCombo, {}, text::ScaleComboHint},
                {lblCustomScale, text::lblCustomScale},
            });
   for (toolkit::SpinEdit* spin :

@@ -43,12 +43,12 @@ void WriteDefault(Store& store, const SchemaRow& row, platform::DateTime now) {
   }
 }
 
+}  // namespace
+
 bool IsPeriod(ResetGroup group) {
   return group == ResetGroup::kDaily || group == ResetGroup::kWeekly ||
          group == ResetGroup::kMonthly;
 }
-
-}  // namespace
 
 // The groups are declared in the order of the reset.
 void ResetGroups(Store& store, const std::set<ResetGroup>& groups, platform::DateTime now) {

@@ -8,6 +8,9 @@
 
 namespace settings::preferences {
 
+// Whether a group is a period of the statistics.
+[[nodiscard]] bool IsPeriod(ResetGroup group);
+
 // Writes the reset defaults of these groups, in the order of the groups and of the table of all
 // values; of a period its marker, its counters and that no alert was shown in it. Throws
 // std::runtime_error when the system refuses a write; what was written before stays.

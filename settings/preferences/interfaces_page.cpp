@@ -54,7 +54,7 @@ void InterfacesPage::Localise(const Translation& say) {
   Say(say, {
                {lblInterfaces, text::lblInterfaces},
                {NIMListBox, {}, text::NIMListBoxHint},
-               {chkSelectALL, text::chkSelectALL},
+               {chkSelectALL, text::chkSelectALL, text::chkSelectALLHint},
                {lblMacAddress, text::lblMacAddress},
                {lblSpeed, text::lblSpeed},
                {lblMTU, text::lblMTU},
@@ -66,12 +66,12 @@ void InterfacesPage::Read() {
   const std::vector<std::string> now = context_.meter.adapters.Descriptions();
   const std::vector<std::string>& before = NIMListBox.Items();
   if (now != before) {
-    // The chosen adapter stays chosen, in whatever row it is.
+    // The chosen adapter stays chosen, in whatever row it is; without one it is the first.
     const auto at = static_cast<std::size_t>(NIMListBox.ItemIndex());
     const std::string chosen = at < before.size() ? before[at] : std::string();
     NIMListBox.SetItems(now);
     const auto found = std::find(now.begin(), now.end(), chosen);
-    NIMListBox.SetItemIndex(found == now.end() ? -1 : static_cast<int>(found - now.begin()));
+    NIMListBox.SetItemIndex(found == now.end() ? 0 : static_cast<int>(found - now.begin()));
   }
   for (int row = 0; row < NIMListBox.Count(); ++row) {
     // Under the engine's name, which decides what counts; it differs from that of the menus for a

@@ -133,18 +133,20 @@ void NotificationPage::ConnectHandlers() {
 }
 
 void NotificationPage::Localise(const Translation& say) {
-  Say(say, {
-               {NotificationsCheckBox, text::NotificationsCheckBox},
-               {lblBytes, text::lblBytes},
-               {WhenDownload, text::WhenDownload},
-               {WhenUpload, text::WhenUpload},
-               {lblInLast, text::lblInLast},
-               {lblSeconds, text::lblSeconds},
-               {PlayEnabled, text::PlayEnabled},
-               {grpTicker, text::grpTicker},
-               {TickerCheckBox, text::TickerCheckBox, text::TickerCheckBoxHint},
-               {lblTickerBytes, text::lblBytes},
-           });
+  Say(say,
+      {
+          {NotificationsCheckBox, text::NotificationsCheckBox, text::NotificationsCheckBoxHint},
+          {LessOrMore, {}, text::LessOrMoreHint},
+          {lblBytes, text::lblBytes},
+          {WhenDownload, text::WhenDownload, text::WhenDownloadHint},
+          {WhenUpload, text::WhenUpload, text::WhenUploadHint},
+          {lblInLast, text::lblInLast},
+          {lblSeconds, text::lblSeconds},
+          {PlayEnabled, text::PlayEnabled, text::PlayEnabledHint},
+          {grpTicker, text::grpTicker},
+          {TickerCheckBox, text::TickerCheckBox, text::TickerCheckBoxHint},
+          {lblTickerBytes, text::lblBytes},
+      });
   BytesSpin.SetHint(RangeOf(BytesSpin, say));
   BytesSec.SetHint(RangeOf(BytesSec, say));
   TickerSpin.SetHint(RangeOf(TickerSpin, say));
@@ -187,7 +189,11 @@ void NotificationPage::ReadControls() {
   WhenDownload.SetChecked(store.Read(rule.download));
   WhenUpload.SetChecked(store.Read(rule.upload));
   BytesSec.SetValue(store.Read(rule.seconds));
-  ShowChoice(action_.action, store.Read(rule.action));
+  // One that does not exist leaves the list without a choice: the one in it may be the other
+  // rule's.
+  const std::int64_t action = store.Read(rule.action);
+  const bool exists = action >= 0 && action < action_.action.Count();
+  action_.action.SetItemIndex(exists ? static_cast<int>(action) : -1);
   action_.message.SetText(store.Read(rule.message));
 }
 

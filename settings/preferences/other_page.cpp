@@ -83,16 +83,16 @@ void OtherPage::PlaceControls() {
 void OtherPage::Localise(const Translation& say) {
   Say(say, {
                {grpKeyboardLeds, text::grpKeyboardLeds},
-               {DLSwitchScr, text::DLSwitchScr},
-               {ULSwitchNum, text::ULSwitchNum},
+               {DLSwitchScr, text::DLSwitchScr, text::DLSwitchScrHint},
+               {ULSwitchNum, text::ULSwitchNum, text::ULSwitchNumHint},
                {lblKeyLedsLimit, text::lblKeyLedsLimit},
                {grpTransparency, text::grpTransparency},
                {AutoTransparentONOFF, text::AutoTransparentONOFF, text::AutoTransparentONOFFHint},
                {lblWin2kTransTrack, text::lblWin2kTransTrack},
                {Win2kTransTrack, {}, text::Win2kTransTrackHint},
-               {TransparentFade, text::TransparentFade},
+               {TransparentFade, text::TransparentFade, text::TransparentFadeHint},
                {grpExit, text::grpExit},
-               {AskOnExit, text::AskOnExit},
+               {AskOnExit, text::AskOnExit, text::AskOnExitHint},
            });
   spnKeyLedsLimit.SetHint(say(text::StepHint, {std::to_string(spnKeyLedsLimit.StepSize())}));
 }

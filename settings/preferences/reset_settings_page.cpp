@@ -89,11 +89,15 @@ void ResetSettingsPage::PlaceControls() {
 }
 
 void ResetSettingsPage::Localise(const Translation& say) {
-  for (std::size_t i = 0; i < kGroups.size(); ++i) groups_[i]->SetCaption(say(kGroups[i].text));
+  for (std::size_t i = 0; i < kGroups.size(); ++i) {
+    groups_[i]->SetCaption(say(kGroups[i].text));
+    groups_[i]->SetHint(
+        say(IsPeriod(kGroups[i].group) ? text::ResetPeriodHint : text::ResetOptionsHint));
+  }
   Say(say, {
                {lblReset, text::lblReset},
-               {SelectAll, text::SelectAll},
-               {btnResetSettings, text::btnResetSettings},
+               {SelectAll, text::SelectAll, text::SelectAllHint},
+               {btnResetSettings, text::btnResetSettings, text::btnResetSettingsHint},
                {ResetSettingPrg, text::ResetSettingPrg},
            });
 }
@@ -120,14 +124,19 @@ void ResetSettingsPage::btnResetSettingsClick() {
   platform::Clock& clock = context_.app.Platform().clock;
   ResetGroups(context_.store, groups, clock.Now());
   read_settings_();
-  const display::RunningMeter& meter = context_.meter;
-  meter.window.ApplyDisplaySettings();
-  if (groups.contains(ResetGroup::kNumericOther)) meter.line.SetAverageText(kAverageText);
-  meter.window.LineChanged();
+  if (!groups.empty()) ShowInMeter(groups.contains(ResetGroup::kNumericOther));
 
   btnResetSettings.SetEnabled(false);
   started_ = clock.SteadyMilliseconds();
   timer_.SetEnabled(true);
+}
+
+// The meter takes over what the controls have not pushed, as they had it already.
+void ResetSettingsPage::ShowInMeter(bool line_was_reset) {
+  const display::RunningMeter& meter = context_.meter;
+  meter.window.ApplyDisplaySettings();
+  if (line_was_reset) meter.line.SetAverageText(kAverageText);
+  meter.window.LineChanged();
 }
 
 // A step for each 5 ms that have passed: the system's timers may come more seldom.

@@ -30,6 +30,7 @@ class ResetSettingsPage final : public Page {
   void SelectAllClick();
   void GroupClick();
   void btnResetSettingsClick();
+  void ShowInMeter(bool line_was_reset);
   void Progress();
   void EndProgress();
 

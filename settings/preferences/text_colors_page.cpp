@@ -51,6 +51,7 @@ void TextColorsPage::Localise(const Translation& say) {
                {lblFontBackground, text::GraphColor_FontBackground},
                {FontBackground, text::GraphColor_FontBackground, text::ColorPanelHint},
                {lblFont, text::lblFont},
+               {FontChoose, {}, text::FontChooseHint},
            });
 }
 
@@ -59,8 +60,8 @@ void TextColorsPage::Read() {
   ReadFont();
 }
 
-// The name counts: another font may have come to stand at the stored index. One that is not
-// installed leaves the list without a choice.
+// The name counts, as the system reads it in small letters or capitals: another font may have come
+// to stand at the stored index. One that is not installed leaves the list without a choice.
 void TextColorsPage::ReadFont() {
   const std::int64_t index = context_.store.Read(setting::FontNameIndex);
   const std::string name = context_.store.Read(setting::FontName);
@@ -69,11 +70,15 @@ void TextColorsPage::ReadFont() {
     FontChoose.SetItemIndex(-1);
     FontChoose.SetItems(fonts);
   }
-  if (index >= 0 && index < std::ssize(fonts) && fonts[static_cast<std::size_t>(index)] == name) {
+  platform::Locale& locale = context_.app.Platform().locale;
+  const auto is_named = [&locale, wanted = locale.Lower(name)](const std::string& font) {
+    return locale.Lower(font) == wanted;
+  };
+  if (index >= 0 && index < std::ssize(fonts) && is_named(fonts[static_cast<std::size_t>(index)])) {
     FontChoose.SetItemIndex(static_cast<int>(index));
     return;
   }
-  const auto found = std::find(fonts.begin(), fonts.end(), name);
+  const auto found = std::find_if(fonts.begin(), fonts.end(), is_named);
   FontChoose.SetItemIndex(found != fonts.end() ? static_cast<int>(found - fonts.begin()) : -1);
 }
 

@@ -89,15 +89,15 @@ void TextOtherPage::Localise(const Translation& say) {
   rdoScaleUnits.SetItems(Texts(say, {text::ScaleUnit0, text::ScaleUnit1}));
   Say(say, {
                {grpNumericLine, text::grpNumericLine},
-               {chkTariffName, text::chkTariffName},
-               {chkConnLength, text::chkConnLength},
-               {chkTotalCost, text::chkTotalCost},
-               {rdoScaleUnits, text::rdoScaleUnits},
+               {chkTariffName, text::chkTariffName, text::chkTariffNameHint},
+               {chkConnLength, text::chkConnLength, text::chkConnLengthHint},
+               {chkTotalCost, text::chkTotalCost, text::chkTotalCostHint},
+               {rdoScaleUnits, text::rdoScaleUnits, text::rdoScaleUnitsHint},
                {grpWindowTitles, text::grpWindowTitles},
-               {Post0, text::Post0},
-               {Post1, text::Post1},
-               {Post2, text::Post2},
-               {Post3, text::Post3},
+               {Post0, text::Post0, text::Post0Hint},
+               {Post1, text::Post1, text::Post1Hint},
+               {Post2, text::Post2, text::Post2Hint},
+               {Post3, text::Post3, text::Post3Hint},
                {DefineButton, text::DefineButton, text::DefineButtonHint},
            });
 }

@@ -74,6 +74,7 @@ void T_frmPreferences::Localise() {
     page->Localise(say);
   }
   btnClose.SetCaption(say(text::btnClose));
+  btnClose.SetHint(say(text::btnCloseHint));
 }
 
 void T_frmPreferences::Open() {

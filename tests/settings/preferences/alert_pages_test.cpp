@@ -201,6 +201,11 @@ TEST_F(AlertPages, OddStoredValuesAreShownAndLeftAlone) {
     EXPECT_EQ(Changes(before, AllValues()), Values());
     TypeNew("DisplayMessage", std::string(255, 'z'));
     EXPECT_EQ(StoredText("MoreDisplayMessage"), std::string(254, 'z'));
+    Set("LessAction", 99);
+    User().Choose("LessOrMore", 0);
+    EXPECT_EQ(Widget("ActionComboBox").index, -1) << "the other rule's action";
+    EXPECT_FALSE(Widget("DisplayMessage").visible);
+    EXPECT_EQ(Stored("LessAction"), 99U);
   });
 }
 
@@ -212,6 +217,8 @@ TEST_F(AlertPages, AnAdapterIsTickedUnderItsNameAndTheMenuFollows) {
     auto& list = Widget("NIMListBox");
     EXPECT_EQ(list.items, (std::vector<std::string>{"Ethernet", "Radio X"}));
     EXPECT_TRUE(Widget("chkSelectALL").checked);
+    EXPECT_EQ(list.index, 0) << "the data are of the first one until another is chosen";
+    EXPECT_EQ(Widget("lblMTUValue").text, "1500");
     Check("Interfaces",
           {{"data",
             Select("NIMListBox", 1),

@@ -2,8 +2,10 @@
 
 #include <algorithm>
 #include <fstream>
+#include <functional>
 #include <iterator>
 #include <string>
+#include <vector>
 
 #include "tests/settings/preferences/preferences_world.h"
 #include "toolkit/layout.h"
@@ -78,6 +80,50 @@ TEST_F(Preferences, CloseEscAndTheCloseBoxOnlyHideIt) {
     const int raised = Widget(kForm).raised;
     Open();
     EXPECT_EQ(Widget(kForm).raised, raised + 1);
+  });
+}
+
+TEST_F(Preferences, TheStoredValuesAreReadInOneOrder) {
+  const std::vector<std::string> order = {
+      "BevelInner",   "vGridVisible",        "FormMagnet",     "GraphColor_Download",
+      "IconType",     "BevelWidth",          "GraphScaleType", "SpeedLimit",
+      "TrayIconFile", "GraphColor_Font",     "FontNameIndex",  "SOM1",
+      "SOM3",         "ScaleUnit",           "zdP1",           "WindowTitle",
+      "AskOnExit",    "TransparentFade",     "TickerActive",   "BAAlerts",
+      "LessByteWere", "NotificationsActive", "DLSwitchScr"};
+  RunOpen([&] {
+    Close();
+    std::vector<std::string> read;
+    machine.notebook.on_registry_read = [&](std::string_view name) { read.emplace_back(name); };
+    Open();
+    machine.notebook.on_registry_read = nullptr;
+    EXPECT_EQ(InOrder(read, order), order);
+    // The style of lines that are not shown, and the rule that is not chosen.
+    EXPECT_EQ(InOrder(read, {"cmbHLineStyle", "MoreByteWere"}), std::vector<std::string>());
+  });
+}
+
+TEST_F(Preferences, EveryControlHasAHintAndANumberSaysItsRange) {
+  RunOpen([&] {
+    const std::function<void(toolkit::Control&)> check = [&](toolkit::Control& control) {
+      for (toolkit::Control* child : control.Children()) check(*child);
+      using Kind = platform::memory::WidgetState::Kind;
+      if (!User().Exists(control.Name())) return;
+      const auto& widget = Widget(control.Name());
+      const bool is_worked =
+          widget.kind == Kind::kEdit || widget.kind == Kind::kList ||
+          widget.kind == Kind::kTrackBar ||
+          (widget.kind == Kind::kButton && !widget.IsButton(platform::ButtonKind::kGroup));
+      if (!is_worked) return;
+      EXPECT_NE(control.Hint(), "") << control.Name();
+      const auto* spin = dynamic_cast<const toolkit::SpinEdit*>(&control);
+      if (spin == nullptr || spin->Name() == "spnKeyLedsLimit") return;  // that one has no bounds
+      EXPECT_NE(control.Hint().find(std::to_string(spin->Highest())), std::string::npos)
+          << control.Name();
+    };
+    for (toolkit::Form* form : App().Forms()) {
+      if (form->Name() == kForm) check(*form);
+    }
   });
 }
 

@@ -298,6 +298,8 @@ TEST_F(PreferenceOptions, OpeningShowsWhatIsStoredAndChangesNoStoredValue) {
        "another form of clRed"},
       {"FontNameIndex", Number(0xFFFFFFFF), [&] { return Widget("FontChoose").text == "Tahoma"; },
        "the name counts"},
+      {"FontName", Text("COURIER new"), [&] { return Widget("FontChoose").text == "Courier New"; },
+       "capitals do not matter"},
       {"FontName", Text("No Such Font"), [&] { return Widget("FontChoose").index == -1; },
        "not installed"},
       {"Win2kTransparentRatio", Number(4000),

@@ -1,9 +1,11 @@
 // The running meter with its preferences, over a machine in memory.
 #pragma once
 
+#include <algorithm>
 #include <map>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "settings/preferences/unit_SettingsForm.h"
 #include "tests/display/meter.h"
@@ -61,6 +63,18 @@ class PreferencesTest : public MeterTest {
   }
   static std::string InSettings(const std::string& name) {
     return std::string(kSettingsKey) + "\\" + name;
+  }
+
+  // Those of `names` in `all`, in the order of their last places there.
+  static std::vector<std::string> InOrder(const std::vector<std::string>& all,
+                                          const std::vector<std::string>& names) {
+    std::vector<std::string> found;
+    for (auto name = all.rbegin(); name != all.rend(); ++name) {
+      const bool wanted = std::find(names.begin(), names.end(), *name) != names.end();
+      const bool is_new = std::find(found.begin(), found.end(), *name) == found.end();
+      if (wanted && is_new) found.insert(found.begin(), *name);
+    }
+    return found;
   }
 
  private:
