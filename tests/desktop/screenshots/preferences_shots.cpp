@@ -1,5 +1,6 @@
 // The pages of the preferences, and what they open.
 #include "tests/desktop/driver/preferences.h"
+#include "tests/desktop/driver/registry.h"
 #include "tests/desktop/screenshots/shots.h"
 
 namespace desktop {
@@ -34,7 +35,15 @@ void Turn(HWND window, PageRow row) {
 
 HWND OpenPreferences(Scene& scene) { return scene.Open({text::Settings1}, L"T_frmPreferences"); }
 
+// Sounds as after an installation, wherever the pictures are taken.
+void StoreInstalledSounds() {
+  const std::string folder = "C:\\Program Files\\Tremolux\\";
+  Store("LessPlayWavFile", folder + "Warning.wav");
+  Store("TickerWav", folder + "ticking.wav");
+}
+
 void Pages(Scene& scene) {
+  StoreInstalledSounds();
   const HWND window = OpenPreferences(scene);
   for (const auto& [row, name] : kPages) {
     Turn(window, row);
