@@ -52,8 +52,9 @@ void DrawSmooth(platform::Canvas& canvas, int side, Colour background, Point poi
     std::uint32_t sum[3] = {};
     bool covered = false;
     for (int part = 0; part < kPoints * kPoints; ++part) {
-      const std::optional<Colour> found = point((x * kPoints + part % kPoints + 0.5) * unit,
-                                                (y * kPoints + part / kPoints + 0.5) * unit);
+      const int column = x * kPoints + part % kPoints;
+      const int row = y * kPoints + part / kPoints;
+      const std::optional<Colour> found = point((column + 0.5) * unit, (row + 0.5) * unit);
       covered = covered || found;
       const Colour colour = found.value_or(background);
       for (int channel = 0; channel < 3; ++channel) sum[channel] += colour >> (8 * channel) & 0xFFU;

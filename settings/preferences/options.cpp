@@ -75,13 +75,15 @@ Option::Option(toolkit::TrackBar& bar, const IntegerSetting& setting, Push<std::
         bar.SetPosition(Nearest(context.store.Read(setting)));
       }) {}
 
-Option::Option(std::vector<toolkit::RadioButton*> buttons, const IntegerSetting& setting,
+Option::Option(const std::vector<toolkit::RadioButton*>& buttons, const IntegerSetting& setting,
                Push<std::int64_t> push)
     : connect_([buttons, setting, push = std::move(push)](Context& context) {
-        for (std::size_t i = 0; i < buttons.size(); ++i) {
-          buttons[i]->OnClick = [&context, setting, push, value = static_cast<std::int64_t>(i)] {
+        std::int64_t value = 0;
+        for (toolkit::RadioButton* button : buttons) {
+          button->OnClick = [&context, setting, push, value] {
             Change(context, setting, push, value);
           };
+          ++value;
         }
       }),
       read_([buttons, setting](Context& context) {
@@ -92,7 +94,7 @@ Option::Option(std::vector<toolkit::RadioButton*> buttons, const IntegerSetting&
 
 // A panel that the code gives another colour has no event of its own.
 Option::Option(toolkit::ColourPanel& panel, const ColourSetting& setting, const TextEntry& text,
-               Push<platform::Colour> push)
+               const Push<platform::Colour>& push)
     : connect_([&panel, setting, text, push](Context& context) {
         panel.OnClick = [&, setting, text, push] {
           const std::optional<platform::Colour> chosen = AskForColour(context, panel, text);

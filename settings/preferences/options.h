@@ -43,11 +43,11 @@ class Option {
   // A stored value outside the range is shown by the nearest end, but pushed as it is.
   Option(toolkit::TrackBar& bar, const IntegerSetting& setting, Push<std::int64_t> push = {});
   // Radio buttons that exclude each other.
-  Option(std::vector<toolkit::RadioButton*> buttons, const IntegerSetting& setting,
+  Option(const std::vector<toolkit::RadioButton*>& buttons, const IntegerSetting& setting,
          Push<std::int64_t> push = {});
   // A click asks for another colour; `text` is the caption of the colour popup.
   Option(toolkit::ColourPanel& panel, const ColourSetting& setting, const TextEntry& text,
-         Push<platform::Colour> push = {});
+         const Push<platform::Colour>& push = {});
 
  private:
   friend class Options;

@@ -9,32 +9,18 @@ constexpr const wchar_t* kQuestion = L"T_frmAreYouSure";
 
 class Leaving : public ProgramTest {
  protected:
-  static HWND AwaitForm(Meter& meter, const wchar_t* form) {
-    HWND window = nullptr;
-    Await("the window that asks", [&] {
-      window = FindTop(meter.program().id(), form);
-      return window != nullptr && ::GetForegroundWindow() == window;
-    });
-    return window;
-  }
   static void AwaitGone(HWND window) {
     Await("its end", [window] { return ::IsWindow(window) == FALSE; });
   }
   static void ClickOn(HWND form, const wchar_t* control) {
     Click(MiddleOf(AreaOf(FindControl(form, control))));
   }
-  // Small letters and digits.
-  static void Type(std::string_view text) {
-    for (const char letter : text) {
-      PressKey(static_cast<WORD>(letter >= 'a' ? letter - 'a' + 'A' : letter));
-    }
-  }
 };
 
 TEST_F(Leaving, NoStaysAndTheBoxIsStoredAllTheSame) {
   Meter& meter = Start();
   meter.Choose({"Exit"});
-  const HWND question = AwaitForm(meter, kQuestion);
+  const HWND question = meter.AwaitForm(kQuestion);
   EXPECT_EQ(TextOf(question), "Are you sure?");
   EXPECT_FALSE(::IsWindowEnabled(meter.window()));
   ::PostMessageW(meter.window(), WM_CLOSE, 0, 0);  // a second request
@@ -52,7 +38,7 @@ TEST_F(Leaving, ALockedMeterWantsThePasswordAndThenAsks) {
   Store("zdP", std::string("abc1"));
   Meter& meter = Start();
   ::PostMessageW(meter.window(), WM_CLOSE, 0, 0);
-  HWND prompt = AwaitForm(meter, kPrompt);
+  HWND prompt = meter.AwaitForm(kPrompt);
   EXPECT_EQ(static_cast<wchar_t>(
                 ::SendMessageW(FindControl(prompt, L"PassEdit"), EM_GETPASSWORDCHAR, 0, 0)),
             L'x');
@@ -64,9 +50,9 @@ TEST_F(Leaving, ALockedMeterWantsThePasswordAndThenAsks) {
   EXPECT_TRUE(meter.program().Running());
 
   ::PostMessageW(meter.window(), WM_CLOSE, 0, 0);
-  AwaitForm(meter, kPrompt);
+  meter.AwaitForm(kPrompt);
   Type("abc1");
-  AwaitForm(meter, kQuestion);
+  meter.AwaitForm(kQuestion);
   PressKey(VK_RETURN);
   EXPECT_EQ(meter.program().AwaitEnd(), 0U);
 }

@@ -15,18 +15,9 @@ constexpr const wchar_t* kPrompt = L"T_frmSecurity";
 
 class Preferences : public ProgramTest {
  protected:
-  static HWND AwaitForm(Meter& meter, const wchar_t* form) {
-    HWND window = nullptr;
-    Await("the window", [&] {
-      window = FindTop(meter.program().id(), form);
-      return window != nullptr && ::IsWindowVisible(window) != FALSE &&
-             ::GetForegroundWindow() == window;
-    });
-    return window;
-  }
   static HWND Open(Meter& meter) {
     meter.Choose({"Settings..."});
-    return AwaitForm(meter, kPreferences);
+    return meter.AwaitForm(kPreferences);
   }
   static void AwaitFocus(HWND window, const wchar_t* control) {
     Await("the keyboard in the control", [&] {
@@ -52,12 +43,6 @@ class Preferences : public ProgramTest {
       return stored && stored->Description() == value;
     });
   }
-  // Small letters and digits.
-  static void Type(std::string_view text) {
-    for (const char letter : text) {
-      PressKey(static_cast<WORD>(letter >= 'a' ? letter - 'a' + 'A' : letter));
-    }
-  }
   static int ShownPixels(HWND window, std::uint32_t colour) {
     const Picture picture = TakePicture(AreaOf(window));
     return static_cast<int>(std::count(picture.pixels.begin(), picture.pixels.end(), colour));
@@ -79,7 +64,7 @@ TEST_F(Preferences, EachKindOfControlWritesAndTheMeterFollows) {
 
   ChoosePage(window, PageRow::kGraphColors);
   ClickOn(window, L"BackgroundColor");
-  const HWND popup = AwaitForm(meter, L"ColourPopup");
+  const HWND popup = meter.AwaitForm(L"ColourPopup");
   EXPECT_EQ(TextOf(popup), "Background");
   AwaitFocus(popup, L"palette");
   PressKey(VK_END);  // the colour of buttons is none of the palette: this goes to its first
@@ -177,14 +162,14 @@ TEST_F(Preferences, OnceLockedOpenWithThePasswordOnly) {
   AwaitHidden(window);
 
   meter.Choose({"Settings..."});
-  HWND prompt = AwaitForm(meter, kPrompt);
+  HWND prompt = meter.AwaitForm(kPrompt);
   PressKey(VK_ESCAPE);
   Await("the prompt to go", [prompt] { return ::IsWindow(prompt) == FALSE; });
   EXPECT_EQ(::IsWindowVisible(window), FALSE);
   meter.Choose({"Settings..."});
-  prompt = AwaitForm(meter, kPrompt);
+  prompt = meter.AwaitForm(kPrompt);
   Type("abc1");
-  window = AwaitForm(meter, kPreferences);
+  window = meter.AwaitForm(kPreferences);
   EXPECT_EQ(::IsWindow(prompt), FALSE);
 }
 
@@ -218,7 +203,7 @@ TEST_F(Preferences, CutNoTextInAnyLanguage) {
         break;
       }
     }
-    EXPECT_EQ(CutTexts(AwaitForm(meter, kPreferences), meter.Scaled(11)), "");
+    EXPECT_EQ(CutTexts(meter.AwaitForm(kPreferences), meter.Scaled(11)), "");
   }
 }
 

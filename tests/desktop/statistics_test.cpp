@@ -32,18 +32,9 @@ class Statistics : public ProgramTest {
     ClipboardText();  // empties it
   }
 
-  static HWND AwaitForm(Meter& meter, const wchar_t* form) {
-    HWND window = nullptr;
-    Await("the window", [&] {
-      window = FindTop(meter.program().id(), form);
-      return window != nullptr && ::IsWindowVisible(window) != FALSE &&
-             ::GetForegroundWindow() == window;
-    });
-    return window;
-  }
   static HWND OpenMachine(Meter& meter) {
     meter.Choose({"DL-UL Statistics"});
-    return AwaitForm(meter, kMachine);
+    return meter.AwaitForm(kMachine);
   }
   static std::string Shown(HWND window, const wchar_t* control) {
     return TextOf(FindControl(window, control));
@@ -130,7 +121,7 @@ TEST_F(Statistics, AnAdaptersWindowIsModalAndShowsWhatIsStoredOfIt) {
     adapter = menu.Items({"Connection Statistics"}).at(0).text;
     menu.Choose({"Connection Statistics", adapter});
   }
-  const HWND window = AwaitForm(meter, kAdapter);
+  const HWND window = meter.AwaitForm(kAdapter);
   EXPECT_EQ(TextOf(window), adapter);
   EXPECT_EQ(::IsWindowEnabled(meter.window()), FALSE);
   RECT client{};
@@ -174,7 +165,7 @@ TEST_F(Statistics, NoTextIsCutInAnyLanguage) {
     Meter& meter = Start();
     OpenMenu menu = meter.Menu();
     menu.Choose({menu.Items().at(0).text});
-    const HWND window = AwaitForm(meter, kMachine);
+    const HWND window = meter.AwaitForm(kMachine);
     EXPECT_EQ(CutTexts(window, meter.Scaled(11)), "");
   }
 }

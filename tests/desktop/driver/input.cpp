@@ -66,6 +66,12 @@ void PressKey(WORD key) {
   Send({down, up});
 }
 
+void Type(std::string_view text) {
+  for (const char letter : text) {
+    PressKey(static_cast<WORD>(letter >= 'a' ? letter - 'a' + 'A' : letter));
+  }
+}
+
 void Drag(HWND window, POINT from, POINT to) {
   MoveMouse(from);
   PressLeft(from);

@@ -1,6 +1,8 @@
 // The user's hands: mouse and keyboard, as the system takes them from the devices.
 #pragma once
 
+#include <string_view>
+
 #include "tests/desktop/driver/win.h"
 
 namespace desktop {
@@ -14,6 +16,8 @@ void Click(POINT at);
 void DoubleClick(POINT at);
 void RightClick(POINT at);
 void PressKey(WORD key);
+// Small letters and digits.
+void Type(std::string_view text);
 
 // Takes a window by `from`, moves the pointer to `to` and lets go; for what follows the mouse as
 // the system's own moving and sizing does.

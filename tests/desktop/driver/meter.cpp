@@ -56,6 +56,16 @@ OpenMenu Meter::Menu() {
   return OpenMenu(program_.id());
 }
 
+HWND Meter::AwaitForm(const wchar_t* form) const {
+  HWND window = nullptr;
+  Await("the window in the foreground", [&] {
+    window = FindTop(program_.id(), form);
+    return window != nullptr && ::IsWindowVisible(window) != FALSE &&
+           ::GetForegroundWindow() == window;
+  });
+  return window;
+}
+
 HWND Meter::tray() const { return FindTop(program_.id(), L"TremoluxTray"); }
 
 RECT Meter::TrayArea() const {

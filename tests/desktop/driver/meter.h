@@ -36,6 +36,9 @@ class Meter {
   // Chooses from it.
   void Choose(const MenuPath& path) { Menu().Choose(path); }
 
+  // Waits until the program's window of this class has the foreground.
+  HWND AwaitForm(const wchar_t* form) const;
+
   // The window that hears of clicks on the icon in the notification area, and the icon's place on
   // the screen.
   [[nodiscard]] HWND tray() const;
