@@ -9,6 +9,7 @@
 #include "bench/windows/timing.h"
 #include "platform/windows/win32.h"
 #include "settings/preferences/unit_SettingsForm.h"
+#include "tests/desktop/driver/windows_of.h"
 
 namespace bench {
 namespace {
@@ -41,19 +42,11 @@ BOOL CALLBACK Collect(HWND window, LPARAM controls) {
   return TRUE;
 }
 
-BOOL CALLBACK CollectForm(HWND window, LPARAM controls) {
-  wchar_t name[64] = {};
-  ::GetClassNameW(window, name, 64);
-  if (std::wstring_view(name) == L"T_frmPreferences") {
-    ::EnumChildWindows(window, &Collect, controls);
-  }
-  return TRUE;
-}
-
 // How long the system takes to make as many empty controls of the same kinds and sizes.
 double MillisecondsOfBareControls(Report& report) {
   std::vector<BareControl> controls;
-  ::EnumThreadWindows(::GetCurrentThreadId(), &CollectForm, reinterpret_cast<LPARAM>(&controls));
+  ::EnumChildWindows(desktop::FindTop(::GetCurrentProcessId(), L"T_frmPreferences"), &Collect,
+                     reinterpret_cast<LPARAM>(&controls));
   HWND parent = nullptr;
   const double us = MicrosecondsOf([&] {
     parent = ::CreateWindowExW(0, L"STATIC", L"", WS_POPUP, 0, 0, 640, 480, nullptr, nullptr,

@@ -6,7 +6,8 @@
 
 namespace bench {
 
-// How long they take to be shown and painted with what is stored, and what 200 openings leave.
+// Reports the milliseconds until they are painted with what is stored, beside what the system takes
+// for as many empty controls, and what 200 openings leave. `meter` has no preferences open.
 void OpenPreferences(PlayedMeter& meter, Report& report);
 
 }  // namespace bench

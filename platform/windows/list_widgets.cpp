@@ -1,5 +1,6 @@
 #include "platform/windows/list_widgets.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "platform/windows/common_controls.h"
@@ -97,7 +98,7 @@ void ComboWidget::FitHeight() {
   const auto row = static_cast<int>(Send(CB_GETITEMHEIGHT, 0));
   Rect open = bounds_;
   open.height += kRowsDropped * row + 2;
-  int closed_row = bounds_.height - kFrame;
+  int closed_row = std::max(bounds_.height - kFrame, 1);
   // Where a theme has another frame, that is learned from the outcome. Each attempt makes the
   // system arrange the list anew, so the first one should do.
   for (int attempt = 0; attempt < 4 && closed_row > 0; ++attempt) {

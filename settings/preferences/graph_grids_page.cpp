@@ -1,7 +1,5 @@
 #include "settings/preferences/graph_grids_page.h"
 
-#include <string>
-
 #include "toolkit/layout.h"
 
 namespace settings::preferences {
@@ -73,7 +71,7 @@ void GraphGridsPage::PlaceControls() {
   constexpr FieldColumn kFields{kGroupTop + kRow + 2, 170};
   toolkit::ApplyLayout({
       {grpVertical, {kMargin, kMargin, kWidth, kHeight}},
-      {vGridsVisibleCheckBox, {kMargin, kGroupTop, kWidth - 2 * kMargin, kBoxHeight}},
+      {vGridsVisibleCheckBox, {kMargin, kGroupTop, kGroupWidth, kBoxHeight}},
       {lblVLineStyle, kFields.Label(0)},
       {cmbVLineStyle, kFields.Field(0, 150)},
       {lblVLineSpace, kFields.Label(1)},
@@ -81,7 +79,7 @@ void GraphGridsPage::PlaceControls() {
       {lblVLineColor, kFields.Label(2)},
       {vLineColor, kFields.Field(2, 80)},
       {grpHorizontal, {kMargin, kMargin + kHeight + kMargin, kWidth, kHeight}},
-      {hGridsVisibleCheckBox, {kMargin, kGroupTop, kWidth - 2 * kMargin, kBoxHeight}},
+      {hGridsVisibleCheckBox, {kMargin, kGroupTop, kGroupWidth, kBoxHeight}},
       {lblHLineStyle, kFields.Label(0)},
       {cmbHLineStyle, kFields.Field(0, 150)},
       {lblHLineSpace, kFields.Label(1)},
@@ -115,8 +113,7 @@ void GraphGridsPage::Localise(const Translation& say) {
           {hLineColor, text::hLineColor, text::ColorPanelHint},
       });
   for (toolkit::SpinEdit* spin : {&vLineSpace, &hLineSpace}) {
-    spin->SetHint(say(text::LineSpaceHint,
-                      {std::to_string(spin->Lowest()), std::to_string(spin->Highest())}));
+    spin->SetHint(RangeOf(*spin, say, text::LineSpaceHint));
   }
 }
 

@@ -102,7 +102,7 @@ void NotificationPage::PlaceTicker(int top) {
       {TickerSpin, {kLeftWidth + kMargin, kGroupTop, kNumberWidth, kFieldHeight}},
       {lblTickerBytes, {kUnitLeft, kGroupTop + 2, kWidth - kMargin - kUnitLeft, kBoxHeight}},
   });
-  ticker_sound_.Place({kMargin, kGroupTop + kFieldRow, kWidth - 2 * kMargin, kFieldHeight});
+  ticker_sound_.Place({kMargin, kGroupTop + kFieldRow, kGroupWidth, kFieldHeight});
 }
 
 void NotificationPage::ConnectHandlers() {

@@ -9,10 +9,11 @@ void Page::Say(const Translation& say, std::initializer_list<Wording> wordings) 
   }
 }
 
-std::string Page::RangeOf(const toolkit::SpinEdit& spin, const Translation& say) {
+std::string Page::RangeOf(const toolkit::SpinEdit& spin, const Translation& say,
+                          const TextEntry& steps_of_one) {
   const std::string lowest = std::to_string(spin.Lowest());
   const std::string highest = std::to_string(spin.Highest());
-  if (spin.StepSize() == 1) return say(text::SettingsForm::RangeHint, {lowest, highest});
+  if (spin.StepSize() == 1) return say(steps_of_one, {lowest, highest});
   return say(text::SettingsForm::RangeStepHint, {lowest, highest, std::to_string(spin.StepSize())});
 }
 

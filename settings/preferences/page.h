@@ -66,8 +66,11 @@ class Page : public toolkit::NotebookPage {
 
  protected:
   static void Say(const Translation& say, std::initializer_list<Wording> wordings);
-  // What can be entered, as a hint.
-  [[nodiscard]] static std::string RangeOf(const toolkit::SpinEdit& spin, const Translation& say);
+  // What can be entered, as a hint: the lowest and the highest number, put into `steps_of_one`
+  // where the number moves by one, else with its step.
+  [[nodiscard]] static std::string RangeOf(
+      const toolkit::SpinEdit& spin, const Translation& say,
+      const TextEntry& steps_of_one = text::SettingsForm::RangeHint);
 
   Context& context_;
 };

@@ -12,9 +12,6 @@ class Leaving : public ProgramTest {
   static void AwaitGone(HWND window) {
     Await("its end", [window] { return ::IsWindow(window) == FALSE; });
   }
-  static void ClickOn(HWND form, const wchar_t* control) {
-    Click(MiddleOf(AreaOf(FindControl(form, control))));
-  }
 };
 
 TEST_F(Leaving, NoStaysAndTheBoxIsStoredAllTheSame) {

@@ -33,10 +33,6 @@ class Preferences : public ProgramTest {
   static bool Shown(HWND window, const wchar_t* control) {
     return ::IsWindowVisible(FindControl(window, control)) != FALSE;
   }
-  static void ClickOn(HWND window, const wchar_t* control) {
-    Await("the control", [&] { return Shown(window, control); });
-    Click(MiddleOf(AreaOf(FindControl(window, control))));
-  }
   static void AwaitStored(const std::string& name, const std::string& value) {
     Await(name + " = " + value, [&] {
       const auto stored = Stored(kSettingsKey, name);

@@ -67,7 +67,7 @@ TEST_F(Statistics, TheMachinesWindowShowsWhatIsStoredAndResets) {
   const std::string since = Shown(window, L"InfoGroupBox");
   EXPECT_EQ(since.substr(0, 23), "Data transferred since ");
   Await("another second", [&] {
-    Click(MiddleOf(AreaOf(FindControl(window, L"Button3"))));
+    ClickOn(window, L"Button3");
     return Shown(window, L"InfoGroupBox") != since;
   });
   EXPECT_EQ(Shown(window, L"lblMonthlyDLUL"), "8");
@@ -81,20 +81,18 @@ TEST_F(Statistics, TheMachinesWindowShowsWhatIsStoredAndResets) {
 
 TEST_F(Statistics, TheMachinesWindowCopiesTheAddressAndClosesByEachWay) {
   Meter& meter = Start();
-  const auto middle = [](HWND window, const wchar_t* control) {
-    return MiddleOf(AreaOf(FindControl(window, control)));
-  };
   struct Way {
     const char* name;
     std::function<void(HWND)> take;
     bool copies = false;
   };
   const Way ways[] = {
-      {"Ok", [&](HWND w) { Click(middle(w, L"Button2")); }},
+      {"Ok", [](HWND w) { ClickOn(w, L"Button2"); }},
       {"Enter", [](HWND) { PressKey(VK_RETURN); }},
       {"Esc", [](HWND) { PressKey(VK_ESCAPE); }},
       {"the close box", [](HWND w) { ::PostMessageW(w, WM_SYSCOMMAND, SC_CLOSE, 0); }},
-      {"the right button on Copy", [&](HWND w) { RightClick(middle(w, L"Button1")); }, true},
+      {"the right button on Copy",
+       [](HWND w) { RightClick(MiddleOf(AreaOf(FindControl(w, L"Button1")))); }, true},
   };
   std::string address;
   for (const Way& way : ways) {
@@ -106,7 +104,7 @@ TEST_F(Statistics, TheMachinesWindowCopiesTheAddressAndClosesByEachWay) {
     EXPECT_EQ(ClipboardText(), way.copies ? address : "");
   }
   const HWND window = OpenMachine(meter);
-  Click(middle(window, L"Button1"));
+  ClickOn(window, L"Button1");
   // Not by opening the clipboard, which would keep the program out.
   Await("the copy", [] { return ::IsClipboardFormatAvailable(CF_UNICODETEXT) != FALSE; });
   EXPECT_EQ(ClipboardText(), address);
@@ -149,7 +147,7 @@ TEST_F(Statistics, TheTotalsOfTheRunFollowRealTrafficUntilTheReset) {
     return Shown(window, L"lblInfoTotalDLULUnit") == "MB" &&
            Shown(window, L"lblInfoTotalDLUL") == Shown(window, L"lblDailyDLUL");
   });
-  Click(MiddleOf(AreaOf(FindControl(window, L"Button3"))));
+  ClickOn(window, L"Button3");
   Await("the totals to begin anew", [&] {
     return Shown(window, L"lblInfoTotalDLULUnit") != "MB" &&
            Shown(window, L"lblDailyDLULUnit") == "MB";

@@ -4,7 +4,9 @@
 #include <vector>
 
 #include "platform/windows/system_error.h"
+#include "platform/windows/wide.h"
 #include "tests/desktop/driver/wait.h"
+#include "tests/desktop/driver/windows_of.h"
 
 namespace desktop {
 namespace {
@@ -49,6 +51,12 @@ void MoveMouse(POINT to) { Mouse(to, {0}); }
 void PressLeft(POINT at) { Mouse(at, {0, MOUSEEVENTF_LEFTDOWN}); }
 void ReleaseLeft(POINT at) { Mouse(at, {0, MOUSEEVENTF_LEFTUP}); }
 void Click(POINT at) { Mouse(at, {0, MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP}); }
+
+void ClickOn(HWND top, const wchar_t* control) {
+  Await("the control " + platform::windows::FromWide(control),
+        [&] { return ::IsWindowVisible(FindControl(top, control)) != FALSE; });
+  Click(MiddleOf(AreaOf(FindControl(top, control))));
+}
 
 void DoubleClick(POINT at) {
   Mouse(at,

@@ -13,6 +13,8 @@ void MoveMouse(POINT to);
 void PressLeft(POINT at);
 void ReleaseLeft(POINT at);
 void Click(POINT at);
+// The middle of a control that has published this name, once it is shown.
+void ClickOn(HWND top, const wchar_t* control);
 void DoubleClick(POINT at);
 void RightClick(POINT at);
 void PressKey(WORD key);

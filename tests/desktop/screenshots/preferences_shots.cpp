@@ -52,24 +52,33 @@ void Pages(Scene& scene) {
   scene.Close(window);
 }
 
-void ColorPopup(Scene& scene) {
+// A window that a page opens.
+struct Opened {
+  PageRow page;
+  const wchar_t* by;     // the control
+  const wchar_t* named;  // its class
+  const wchar_t* closed_by;
+  const char* picture;
+};
+
+void TakeOpened(Scene& scene, const Opened& opened) {
   const HWND window = OpenPreferences(scene);
-  Turn(window, PageRow::kGraphColors);
-  scene.Press(window, L"DownloadColor");
-  const HWND popup = scene.AwaitWindow(L"ColourPopup");
-  scene.Save("color-popup", Scene::Of(popup));
-  scene.Press(popup, L"btnColorCancel");
+  Turn(window, opened.page);
+  scene.Press(window, opened.by);
+  const HWND top = scene.AwaitWindow(opened.named);
+  scene.Save(opened.picture, Scene::Of(top));
+  scene.Press(top, opened.closed_by);
   scene.Close(window);
 }
 
+void ColorPopup(Scene& scene) {
+  TakeOpened(scene, {PageRow::kGraphColors, L"DownloadColor", L"ColourPopup", L"btnColorCancel",
+                     "color-popup"});
+}
+
 void TitleEditor(Scene& scene) {
-  const HWND window = OpenPreferences(scene);
-  Turn(window, PageRow::kTextOther);
-  scene.Press(window, L"DefineButton");
-  const HWND editor = scene.AwaitWindow(L"T_frmAddTitles");
-  scene.Save("window-titles", Scene::Of(editor));
-  scene.Press(editor, L"OkBtn");
-  scene.Close(window);
+  TakeOpened(scene,
+             {PageRow::kTextOther, L"DefineButton", L"T_frmAddTitles", L"OkBtn", "window-titles"});
 }
 
 }  // namespace

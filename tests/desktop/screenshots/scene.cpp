@@ -91,9 +91,7 @@ HWND Scene::Open(std::initializer_list<settings::TextEntry> path, const wchar_t*
 }
 
 void Scene::Press(HWND window, const wchar_t* control) {
-  const HWND found = FindControl(window, control);
-  if (found == nullptr) throw std::runtime_error("there is no " + FromWide(control));
-  Click(MiddleOf(AreaOf(found)));
+  ClickOn(window, control);
   PutPointerAway();
 }
 
