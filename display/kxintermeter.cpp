@@ -21,7 +21,8 @@ TKxInterMeter::TKxInterMeter(toolkit::Control& parent, std::string_view name)
     : Control(parent.App(), &parent, name), timer_(parent.App(), kScanPeriodMs, [this] {
         if (OnScan) OnScan();
       }) {
-  Attach(App().Platform().windowing.CreateSurface(PeerOf(parent), name, *this));
+  Attach(App().Platform().windowing.CreateSurface(PeerOf(parent), name,
+                                                  platform::SurfaceKind::kArea, *this));
   SetFont(kScaleFont);
 }
 

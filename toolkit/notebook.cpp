@@ -45,7 +45,7 @@ void Notebook::Rescale() {
 }
 
 NotebookPage::NotebookPage(Notebook& pages, std::string_view name)
-    : Panel(pages, name), pages_(pages) {
+    : Panel(pages, name, platform::SurfaceKind::kPage), pages_(pages) {
   pages_.Add(*this);
 }
 

@@ -1,6 +1,7 @@
 // An area with bevels that holds other controls.
 #pragma once
 
+#include "platform/windowing.h"
 #include "toolkit/bevel.h"
 #include "toolkit/control.h"
 
@@ -8,7 +9,8 @@ namespace toolkit {
 
 class Panel : public Control {
  public:
-  Panel(Control& parent, std::string_view name);
+  Panel(Control& parent, std::string_view name,
+        platform::SurfaceKind kind = platform::SurfaceKind::kArea);
 
   void SetBevels(BevelCut outer, BevelCut inner);
 

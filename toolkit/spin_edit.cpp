@@ -97,7 +97,8 @@ class SpinEdit::Arrow final : public Control {
         by_(by),
         wait_(App(), kRepeatsAfter, [this] { BeginRepeating(); }),
         repeat_(App(), kRepeatsEvery, [this] { spin_.Move(by_); }) {
-    Attach(App().Platform().windowing.CreateSurface(PeerOf(spin), name, *this));
+    Attach(App().Platform().windowing.CreateSurface(PeerOf(spin), name,
+                                                    platform::SurfaceKind::kArea, *this));
   }
   ~Arrow() override { Detach(); }
 
@@ -165,7 +166,8 @@ class SpinEdit::Arrow final : public Control {
 
 SpinEdit::SpinEdit(Control& parent, std::string_view name)
     : Control(parent.App(), &parent, std::string(name)) {
-  Attach(App().Platform().windowing.CreateSurface(PeerOf(parent), "", *this));
+  Attach(App().Platform().windowing.CreateSurface(PeerOf(parent), "", platform::SurfaceKind::kArea,
+                                                  *this));
   const std::string own(name);
   field_ = std::make_unique<Field>(*this, own);
   up_ = std::make_unique<Arrow>(*this, own + "Up", 1);

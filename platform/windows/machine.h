@@ -52,9 +52,9 @@ class Machine {
   MessageLoop message_loop_;
   Drawing drawing_;  // before those that draw
   Graphics graphics_{drawing_.fonts};
-  Windowing windowing_{drawing_};
-  Menus menus_{drawing_};
   Timers timers_;
+  Windowing windowing_{drawing_, timers_};
+  Menus menus_{drawing_};
   NotificationArea notification_area_;
   Sound sound_;
   Keyboard keyboard_;

@@ -1,6 +1,7 @@
 #include "platform/windows/widget_window.h"
 
 #include "platform/windows/dialog_keys.h"
+#include "platform/windows/late_widgets.h"
 #include "platform/windows/native_control.h"
 #include "platform/windows/wide.h"
 
@@ -47,7 +48,10 @@ HWND ControlOf(const Message& message) {
 
 }  // namespace
 
-HWND WidgetWindow::Of(Widget& widget) { return dynamic_cast<WidgetWindow&>(widget).hwnd(); }
+HWND WidgetWindow::Of(Widget& widget) {
+  if (const auto* late = dynamic_cast<LateWidget*>(&widget)) return Of(*late->Made());
+  return dynamic_cast<WidgetWindow&>(widget).hwnd();
+}
 
 void WidgetWindow::SetText(std::string_view text) {
   // The same text again would repaint and be read out again.

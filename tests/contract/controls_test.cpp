@@ -52,7 +52,8 @@ TEST_F(ControlsTest, ButtonsTextsAndSurfacesAreClicked) {
   const auto push_button = Button("push", ButtonKind::kPush, push);
   const auto painted_button = Button("painted", ButtonKind::kPainted, painted);
   const auto label = Placed(Windowing().CreateText(*dialog_, "text", {}, text));
-  const auto area = Placed(Windowing().CreateSurface(*dialog_, "surface", surface));
+  const auto area =
+      Placed(Windowing().CreateSurface(*dialog_, "surface", platform::SurfaceKind::kArea, surface));
   dialog_->Show(platform::Activation::kActivate);
   for (const char* name : {"push", "painted", "text", "surface"}) desk_->Press(name);
   EXPECT_EQ(push.clicks, 1);
@@ -313,7 +314,8 @@ TEST_F(ControlsTest, WhatIsHiddenOrDisabledDoesNotHearTheUser) {
   const auto group =
       Placed(Windowing().CreateButton(*dialog_, "group", ButtonKind::kGroup, silent), 60);
   const auto in_group = Windowing().CreateButton(*group, "in group", ButtonKind::kPush, on_group);
-  const auto surface = Placed(Windowing().CreateSurface(*dialog_, "surface", silent), 60);
+  const auto surface = Placed(
+      Windowing().CreateSurface(*dialog_, "surface", platform::SurfaceKind::kArea, silent), 60);
   const auto in_surface = Windowing().CreateEdit(*surface, "in surface", {}, on_surface);
   in_group->SetBounds({5, 20, 100, 22});
   in_surface->SetBounds({5, 5, 100, 22});

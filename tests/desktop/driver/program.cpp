@@ -24,6 +24,26 @@ std::wstring CurrentFolder() {
   return std::wstring(folder) + L"\\";
 }
 
+// A new process of `command`. Now and then Wine loses one before its program begins, which it calls
+// an internal error: nothing of the program has run then, so it is started again.
+PROCESS_INFORMATION StartProcess(const std::wstring& path, const std::wstring& command) {
+  constexpr int kAttempts = 5;
+  for (int attempt = 1;; ++attempt) {
+    std::wstring line = command;  // the system writes into it
+    STARTUPINFOW startup{};
+    startup.cb = sizeof(startup);
+    PROCESS_INFORMATION started{};
+    if (::CreateProcessW(path.c_str(), line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
+                         &startup, &started) != FALSE) {
+      return started;
+    }
+    const DWORD error = ::GetLastError();
+    if (error != ERROR_INTERNAL_ERROR || attempt == kAttempts) {
+      ThrowSystemError("CreateProcess", error);
+    }
+  }
+}
+
 }  // namespace
 
 std::wstring OwnFolder() {
@@ -48,14 +68,7 @@ bool ProgramRuns() {
 }
 
 Program::Program(const std::wstring& path, const std::wstring& arguments) {
-  std::wstring command = L"\"" + path + L"\" " + arguments;
-  STARTUPINFOW startup{};
-  startup.cb = sizeof(startup);
-  PROCESS_INFORMATION started{};
-  if (::CreateProcessW(path.c_str(), command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
-                       &startup, &started) == FALSE) {
-    ThrowSystemError("CreateProcess", ::GetLastError());
-  }
+  const PROCESS_INFORMATION started = StartProcess(path, L"\"" + path + L"\" " + arguments);
   ::CloseHandle(started.hThread);
   process_ = KernelHandle(started.hProcess);
   id_ = started.dwProcessId;
