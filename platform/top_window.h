@@ -58,7 +58,8 @@ enum class Activation { kActivate, kLeaveFocus };
 class TopWindow : public Widget {
  public:
   // Shows it; kLeaveFocus never takes the keyboard from the program that the user works in. A
-  // dialog that was hidden and is activated has the keyboard in its first control.
+  // dialog that was hidden and is activated has the keyboard in its first control; hidden again, it
+  // gives the keyboard back to the window that had it.
   virtual void Show(Activation activation) = 0;
 
   // Above all windows that are not topmost, without moving, sizing or activating it.

@@ -1,5 +1,6 @@
 #include "platform/windows/menus.h"
 
+#include "platform/windows/foreground.h"
 #include "platform/windows/gdi_canvas.h"
 #include "platform/windows/menu_tree.h"
 
@@ -33,11 +34,6 @@ class Foreground {
   HWND hwnd_;
   HWND before_ = nullptr;
 };
-
-// To whoever had it, unless a window of the program has taken it or the user has gone on elsewhere.
-void GiveForegroundBack(HWND hwnd, HWND before) {
-  if (before != nullptr && ::GetForegroundWindow() == hwnd) ::SetForegroundWindow(before);
-}
 
 UINT PopupFlags() {
   const UINT side = ::GetSystemMetrics(SM_MENUDROPALIGNMENT) != 0 ? TPM_RIGHTALIGN : TPM_LEFTALIGN;

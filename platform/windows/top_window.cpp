@@ -4,6 +4,7 @@
 
 #include "platform/windows/dialog_keys.h"
 #include "platform/windows/dpi.h"
+#include "platform/windows/foreground.h"
 #include "platform/windows/layered.h"
 #include "platform/windows/wide.h"
 
@@ -66,6 +67,7 @@ void TopWindow::SetVisible(bool visible) {
   if (visible && !Visible()) {
     Show(Activation::kLeaveFocus);
   } else {
+    if (!visible) GiveForegroundBack(hwnd(), std::exchange(foreground_before_, nullptr));
     WidgetOf::SetVisible(visible);
   }
 }
@@ -79,6 +81,7 @@ void TopWindow::Show(Activation activation) {
   }
   if (!Visible()) {
     last_focus_ = nullptr;
+    foreground_before_ = ::GetForegroundWindow();
     // Marks of keys and of the keyboard's place are shown as the user likes it.
     ::SendMessageW(hwnd(), WM_CHANGEUISTATE, MAKEWPARAM(UIS_INITIALIZE, 0), 0);
   }

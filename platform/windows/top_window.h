@@ -58,6 +58,7 @@ class TopWindow final : public WidgetOf<platform::TopWindow> {
   const bool bare_frame_;  // sizeable and without a caption: draws its own frame
   const bool takes_dialog_keys_;
   HWND last_focus_ = nullptr;  // the child that had the keyboard when the window was last active
+  HWND foreground_before_ = nullptr;  // what had the keyboard when this was shown with it
   SizeLimits limits_;
   Rect reported_bounds_;
   ULONGLONG declines_focus_until_ = 0;  // in ticks of the system

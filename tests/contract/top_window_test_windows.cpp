@@ -160,6 +160,31 @@ TEST_F(RealTopWindow, LayeredWindowsCameWithVersionFiveOfTheFamily) {
   EXPECT_FALSE(HasLayeredWindows(VER_PLATFORM_WIN32_WINDOWS, 5));
 }
 
+// One that always stays on top lies below the dialog, and would get it from the system.
+TEST_F(RealTopWindow, ADialogGivesTheKeyboardBackToTheWindowThatHadIt) {
+  window_->SetTopmost(true);
+  window_->Show(platform::Activation::kLeaveFocus);
+  platform::TopWindowEvents quiet;
+  const auto work = Windowing().CreateTopWindow({"work", "", Frame::kDialog}, nullptr, quiet);
+  const auto dialog = Windowing().CreateTopWindow({"dialog", "", Frame::kDialog}, nullptr, quiet);
+  work->Show(platform::Activation::kActivate);
+  dialog->Show(platform::Activation::kActivate);
+  ASSERT_EQ(::GetForegroundWindow(), WidgetWindow::Of(*dialog));
+  dialog->SetVisible(false);
+  EXPECT_EQ(::GetForegroundWindow(), WidgetWindow::Of(*work));
+
+  dialog->Show(platform::Activation::kActivate);
+  window_->Raise();
+  dialog->SetVisible(false);
+  EXPECT_EQ(::GetForegroundWindow(), Window()) << "the user had gone on elsewhere";
+
+  work->Raise();
+  dialog->Show(platform::Activation::kActivate);
+  work->SetVisible(false);
+  dialog->SetVisible(false);
+  EXPECT_NE(::GetForegroundWindow(), WidgetWindow::Of(*work)) << "it is not there any more";
+}
+
 TEST_F(RealTopWindow, OnlyTheShapeIsThereForTheMouse) {
   window_->Show(platform::Activation::kLeaveFocus);
   const Rect parts[] = {{0, 0, 274, 1}, {50, 40, 100, 50}};
