@@ -75,6 +75,9 @@ void T_frmBandWidthAlert::FormCreate() {
   Timer1.SetEnabled(true);
 }
 
+// The details come first in reading order; Enter is the answer.
+void T_frmBandWidthAlert::FormShow() { OkBtn.SetFocus(); }
+
 void T_frmBandWidthAlert::Localise() {
   SetCaption(language_.Text(text::Title));
   OkBtn.SetCaption(language_.Text(text::OkButton));

@@ -25,6 +25,7 @@ class T_frmBandWidthAlert final : public toolkit::Form {
 
  private:
   void FormCreate();
+  void FormShow() override;
   void Timer1Timer();
   void btnDetailsClick();
   void SetDetailsShown(bool shown);

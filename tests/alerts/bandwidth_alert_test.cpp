@@ -50,6 +50,14 @@ TEST_F(BandwidthAlert, ShowsABalloonAndItsWindowOnce) {
   EXPECT_TRUE(store.ReadBool("BAShow", false));
 }
 
+TEST_F(BandwidthAlert, EnterAnswersItsWindow) {
+  Check([&] {
+    EXPECT_EQ(machine.windowing.Focused(), "OkBtn");
+    machine.windowing.PressEnter("T_frmBandWidthAlert");
+  });
+  EXPECT_FALSE(machine.windowing.Exists("T_frmBandWidthAlert"));
+}
+
 TEST_F(BandwidthAlert, ASecondOneWhileTheFirstIsOpenRaisesIt) {
   Check([&] {
     store.WriteBool("BAShow", false);  // midnight
