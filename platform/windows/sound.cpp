@@ -1,5 +1,6 @@
 #include "platform/windows/sound.h"
 
+#include <algorithm>
 #include <memory>
 #include <string>
 
@@ -12,8 +13,10 @@
 namespace platform::windows {
 namespace {
 
-// Whether opening the file may take as long as a machine that does not answer.
-bool IsRemote(const std::wstring& path) {
+// Whether opening the file may take as long as a machine that does not answer. The system takes
+// slashes as well.
+bool IsRemote(std::wstring path) {
+  std::replace(path.begin(), path.end(), L'/', L'\\');
   if (path.starts_with(L"\\\\")) return true;
   const std::wstring root = path.substr(0, path.find(L'\\') + 1);
   return !root.empty() && ::GetDriveTypeW(root.c_str()) == DRIVE_REMOTE;
