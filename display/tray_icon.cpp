@@ -1,5 +1,7 @@
 #include "display/tray_icon.h"
 
+#include <utility>
+
 #include "toolkit/application.h"
 
 namespace display {
@@ -76,8 +78,9 @@ void TrayIcon::ChangePictures(const std::string& path) {
 }
 
 void TrayIcon::ShowScan(const engine::ScanAmounts& scan) {
-  kind_ = store_.Read(setting::IconType);
+  const std::int64_t kind_before = std::exchange(kind_, store_.Read(setting::IconType));
   if (kind_ == kActivityPictures) {
+    if (kind_before != kActivityPictures) LoadPictures();
     ShowActivity(ActivityOf(scan.ScanSumDL, scan.ScanSumUL));
   } else if (kind_ == kHistogram) {
     histogram_.Push(scan.ScanSumDL, scan.ScanSumUL);

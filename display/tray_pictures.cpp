@@ -12,7 +12,10 @@ std::optional<Picture> LoadPicture(platform::Files& files, const std::string& pa
   const std::optional<std::string> bytes = files.Load(path, kLargestFile);
   if (!bytes) return {};
   std::optional<Picture> picture = DecodeBitmap(*bytes);
-  if (picture && picture->size.width < kPictures * picture->size.height - 1) return {};
+  if (!picture) return {};
+  const int side = picture->size.height;
+  const int missing = std::max(1, side / 16);
+  if (picture->size.width < kPictures * side - missing) return {};
   return picture;
 }
 

@@ -16,8 +16,8 @@ enum class TrayActivity { kIdle = 0, kUpload = 1, kDownload = 2, kBoth = 3 };
 [[nodiscard]] TrayActivity ActivityOf(std::int64_t dl, std::int64_t ul);
 
 // A bitmap with four square pictures side by side, each as wide as the bitmap is high, the last one
-// perhaps a column less; 63 x 16 pixels is the usual size. The colour of its lower left corner is
-// see-through.
+// perhaps a sixteenth less; 63 x 16 pixels is the usual size. The colour of its lower left corner
+// is see-through.
 class TrayPictures {
  public:
   // Loads the file; when it is missing or no such bitmap, `fallback`; when that is none either, the

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -47,11 +49,13 @@ std::string BitmapOf(const std::vector<Colour>& columns, int height) {
   return bytes;
 }
 
-// 63 x 16 pixels: four pictures, each of one colour.
-std::string Pictures(std::vector<Colour> colours) {
+// 63 x 16 pixels, or so many times that: four pictures, each of one colour.
+std::string Pictures(std::vector<Colour> colours, int times = 1) {
   std::vector<Colour> columns;
-  for (int x = 0; x < 63; ++x) columns.push_back(colours[static_cast<std::size_t>(x / 16)]);
-  return BitmapOf(columns, 16);
+  for (int x = 0; x < 63 * times; ++x) {
+    columns.push_back(colours[static_cast<std::size_t>(x / (16 * times))]);
+  }
+  return BitmapOf(columns, 16 * times);
 }
 
 TEST(TrayHistory, LevelsFallWithTheBandsOfTheMaximumInSight) {
@@ -157,6 +161,18 @@ TEST_F(Tray, ClearGraphEmptiesTheHistogram) {
   });
 }
 
+TEST_F(Tray, PicturesMayBeAsLargeAsTheUserLikes) {
+  Set("IconType", 0U);
+  for (const int times : {1, 2, 4}) {
+    SCOPED_TRACE(times);
+    UsePictures(Pictures({0x111111, 0x222222, 0x333333, 0x444444}, times));
+    Run([&] {
+      Scan({100, 100});
+      EXPECT_EQ(At(3, 3), 0x444444U);
+    });
+  }
+}
+
 TEST_F(Tray, ActivityIsShownByFourPictures) {
   constexpr Colour kPictures[] = {0x111111, 0x222222, 0x333333, 0x444444};
   UsePictures(Pictures({kPictures[0], kPictures[1], kPictures[2], kPictures[3]}));
@@ -223,6 +239,11 @@ TEST_F(Tray, AnotherIconTypeIsLeftAlone) {
     Scan({10, 0});
     EXPECT_EQ(Bar(14, kRed), 5);
     EXPECT_EQ(Bar(13, kRed), 0) << "the history stood still meanwhile";
+
+    UsePictures(Pictures({1, 2, 0x333333, 4}));
+    Set("IconType", 0U);
+    Scan({10, 0});
+    EXPECT_EQ(At(3, 3), 0x333333U) << "the pictures are loaded when they are first wanted";
   });
 }
 
@@ -290,6 +311,53 @@ TEST(DecodeBitmap, ReadsPalettesAndRowsFromTheTop) {
   EXPECT_EQ(picture->At({0, 0}), 1U);
   EXPECT_EQ(picture->At({2, 0}), 3U);
   EXPECT_EQ(picture->At({1, 1}), 5U);
+}
+
+TEST(DecodeBitmap, ReadsColoursOfEveryWidth) {
+  struct Row {
+    const char* why;
+    std::uint32_t header;
+    std::uint32_t bits;
+    std::vector<std::uint32_t> masks;  // red, green, blue; without them the usual ones
+    std::uint32_t pixel;
+    std::optional<Colour> colour;
+  };
+  const std::vector<std::uint32_t> k565{0xF800, 0x7E0, 0x1F};
+  const std::vector<std::uint32_t> kRgb{0xFF0000, 0xFF00, 0xFF};
+  const Row rows[] = {
+      {"16 bits", 40, 16, {}, 0x7C10, 0x8400FF},
+      {"24 bits", 40, 24, {}, 0x112233, 0x332211},
+      {"32 bits", 40, 32, {}, 0xAA112233, 0x332211},
+      {"16 bits with masks", 40, 16, k565, 0x07FF, 0xFFFF00},
+      {"32 bits with masks", 40, 32, kRgb, 0xAA112233, 0x332211},
+      {"of version 4", 108, 32, kRgb, 0xAA112233, 0x332211},
+      {"of version 5, in another order", 124, 32, {0xFF, 0xFF00, 0xFF0000}, 0x112233, 0x112233},
+      {"ten bits a colour", 124, 32, {0x3FF00000, 0xFFC00, 0x3FF}, 0x3FF00001, 0x0000FF},
+      {"without green", 40, 32, {0xFF0000, 0, 0xFF}, 0x112233, 0x330011},
+      {"24 bits have no masks", 40, 24, kRgb, 0x112233, std::nullopt},
+  };
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.why);
+    std::string header;
+    Append(header, row.header, 4);
+    Append(header, 1, 4);
+    Append(header, 1, 4);
+    Append(header, 1, 2);
+    Append(header, row.bits, 2);
+    Append(header, row.masks.empty() ? 0 : 3, 4);
+    header.resize(40);
+    for (const std::uint32_t mask : row.masks) Append(header, mask, 4);
+    header.resize(std::max<std::size_t>(header.size(), row.header));
+    std::string bytes = "BM";
+    Append(bytes, 0, 8);
+    Append(bytes, static_cast<std::uint32_t>(14 + header.size()), 4);
+    bytes += header;
+    Append(bytes, row.pixel, 4);
+    const auto picture = DecodeBitmap(bytes);
+    ASSERT_EQ(picture.has_value(), row.colour.has_value());
+    if (!picture) continue;
+    EXPECT_EQ(picture->At({0, 0}), row.colour);
+  }
 }
 
 }  // namespace
