@@ -1,6 +1,6 @@
-// Widgets on a hidden page. They get their windows when the page is shown, or before that as soon as
-// nothing else is to be done: a window of many pages opens in the time that its first page takes,
-// and a moment later every control is there for screen readers all the same.
+// Widgets on a hidden page. They get their windows when the page is shown, or before that as soon
+// as nothing else is to be done: a window of many pages opens in the time that its first page
+// takes, and a moment later every control is there for screen readers all the same.
 #pragma once
 
 #include <functional>
