@@ -45,6 +45,23 @@ HWND MovingWindow(HWND window) {
   return info.hwndMoveSize;
 }
 
+// Moves the pointer, and waits until the window that follows it rests: a button that comes up
+// before that would end the move where the window is.
+void Pull(HWND window, POINT to) {
+  constexpr double kRestMs = 150;
+  RECT last = AreaOf(window);
+  Mouse(to, {0});
+  double since = SteadyMs();
+  Await("the rest of what follows the pointer", [&] {
+    const RECT now = AreaOf(window);
+    if (::EqualRect(&now, &last) == FALSE) {
+      last = now;
+      since = SteadyMs();
+    }
+    return SteadyMs() - since > kRestMs;
+  });
+}
+
 }  // namespace
 
 void MoveMouse(POINT to) { Mouse(to, {0}); }
@@ -92,8 +109,8 @@ void Drag(HWND window, POINT from, POINT to) {
     platform::windows::ThrowSystemError("no move began at the mouse, GetGUIThreadInfo",
                                         ::GetLastError());
   }
-  MoveMouse({(from.x + to.x) / 2, (from.y + to.y) / 2});
-  MoveMouse(to);
+  Pull(window, {(from.x + to.x) / 2, (from.y + to.y) / 2});
+  Pull(window, to);
   ReleaseLeft(to);
   Await("the end of the move", [window] { return MovingWindow(window) == nullptr; });
 }
