@@ -208,7 +208,7 @@ void SpinEdit::Typed() {
 void SpinEdit::Commit() {
   if (!typed_) return;
   const std::optional<std::int64_t> number = NumberOf(field_->Text());
-  Take(number ? std::clamp(*number, lowest_, highest_) : value_);
+  Take(number ? std::clamp(*number, lowest_, highest_) : shown_);
 }
 
 void SpinEdit::Move(int steps) {
@@ -228,6 +228,7 @@ void SpinEdit::Take(std::int64_t value) {
 
 void SpinEdit::Show() {
   typed_ = false;
+  shown_ = value_;
   field_->SetText(std::to_string(value_));
   if (field_->Focused()) field_->SelectAll();  // what is typed next is another number
 }

@@ -30,7 +30,7 @@ class SpinEdit : public Control {
 
   // It has another value. While a number is typed, this is fired for each that lies in the range;
   // one outside is moved into it when Enter is pressed or the keyboard goes elsewhere, and no
-  // number at all becomes the last value again.
+  // number at all becomes the value from before the typing again.
   std::function<void()> OnChange;
 
   void SetFocus() override;
@@ -58,7 +58,8 @@ class SpinEdit : public Control {
   std::int64_t highest_ = std::numeric_limits<std::int32_t>::max();
   std::int64_t step_ = 1;
   std::int64_t value_ = 0;
-  bool typed_ = false;  // the text has been changed since the value was last shown
+  std::int64_t shown_ = 0;  // the value that the typing began with
+  bool typed_ = false;      // the text has been changed since the value was last shown
   std::unique_ptr<Field> field_;
   std::unique_ptr<Arrow> up_, down_;
 };

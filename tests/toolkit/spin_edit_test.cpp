@@ -68,6 +68,19 @@ TEST_F(SpinEditTest, TakesWhatIsTypedAndKeepsItInTheRange) {
   }
 }
 
+TEST_F(SpinEditTest, EmptiedDigitByDigitItGoesBackToTheValueFromBefore) {
+  spin.SetValue(10000);
+  fired.clear();
+  spin.SetFocus();
+  for (const char* left : {"1000", "100", "10", "1", ""}) {
+    Peer("spin").text = left;
+    Peer("spin").events->OnChanged();
+  }
+  other.SetFocus();
+  EXPECT_EQ(Shown(), "10000");
+  EXPECT_EQ(fired, (std::vector<std::int64_t>{1000, 10000}));
+}
+
 TEST_F(SpinEditTest, StepsWithArrowsWheelAndPageKeys) {
   struct Row {
     const char* why;
