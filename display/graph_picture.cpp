@@ -66,30 +66,34 @@ void PaintScale(platform::Canvas& canvas, const GraphLook& look, const platform:
   }
 }
 
-// Edges on a bar of less than three columns would leave nothing of its own colour.
+// A bar of two columns has light on its top alone, so that one of them keeps its own colour.
 void PaintBar(platform::Canvas& canvas, const platform::Rect& bar, const BarColours& colours,
               bool edges) {
   canvas.Fill(bar, colours.face);
-  if (!edges || bar.width < 3) return;
+  if (!edges || bar.width < 2) return;
   canvas.Fill({bar.left, bar.top, bar.width, 1}, colours.light);
-  canvas.Fill({bar.left, bar.top, 1, bar.height}, colours.light);
+  if (bar.width > 2) canvas.Fill({bar.left, bar.top, 1, bar.height}, colours.light);
   canvas.Fill({bar.Right() - 1, bar.top, 1, bar.height}, colours.shadow);
 }
 
 // The smaller amount stands in front of the larger one and leaves its left column and its top
-// visible, so that both are seen whatever their sizes.
+// visible, so that both are seen whatever their sizes. Beside the smaller one that column has no
+// light: it is all that is left of the larger one's own colour when both are the same.
 void PaintPulse(platform::Canvas& canvas, const GraphLook& look, const platform::Rect& slot,
                 int in_height, int out_height) {
   const bool in_behind = in_height >= out_height;
+  const BarColours& behind = in_behind ? look.in : look.out;
   const int back = std::max(in_height, out_height);
   int front = std::min(in_height, out_height);
   const auto bar = [&slot](int inset, int height) {
     return platform::Rect{slot.left + inset, slot.Bottom() - height, slot.width - inset, height};
   };
-  if (back > 0) PaintBar(canvas, bar(0, back), in_behind ? look.in : look.out, look.pulse_3d);
+  if (back > 0) PaintBar(canvas, bar(0, back), behind, look.pulse_3d);
   if (front == back && front > 1) --front;
+  if (front <= 0) return;
   const int inset = slot.width > 1 ? 1 : 0;
-  if (front > 0) PaintBar(canvas, bar(inset, front), in_behind ? look.out : look.in, look.pulse_3d);
+  canvas.Fill({slot.left, slot.Bottom() - front, inset, front}, behind.face);
+  PaintBar(canvas, bar(inset, front), in_behind ? look.out : look.in, look.pulse_3d);
 }
 
 void PaintBars(platform::Canvas& canvas, const GraphLook& look, const platform::Rect& area,

@@ -213,6 +213,25 @@ TEST_F(Graph, EdgesAreDrawnIn3D) {
   });
 }
 
+// As a loopback counts, which moves the same both ways.
+TEST_F(Graph, EachOfTheSixColoursIsSeenIn3DAtEqualAmounts) {
+  Set("Pulse3D", 1);
+  for (const std::uint32_t width : {3U, 4U, 8U}) {
+    Set("PulseWidth", width);
+    for (const char* name :
+         {"GraphColor_Download", "GraphColor_DownloadLight", "GraphColor_DownloadShadow",
+          "GraphColor_Upload", "GraphColor_UploadLight", "GraphColor_UploadShadow"}) {
+      const std::string before = StoredText(name);
+      Set(name, "clFuchsia");
+      Run([&] {
+        Scan({1024, 1024});
+        EXPECT_GT(Count(*MeterTest::Graph(), 0xFF00FF), 0) << name << " at " << width;
+      });
+      Set(name, before);
+    }
+  }
+}
+
 TEST_F(Graph, GridLinesFallOnMultiplesOfTheirSpacing) {
   struct Row {
     const char* why;
