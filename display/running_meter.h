@@ -2,7 +2,6 @@
 #pragma once
 
 #include <cstdint>
-#include <string_view>
 
 #include "alerts/notifications.h"
 #include "display/adapter_menus.h"
@@ -20,9 +19,6 @@
 namespace display {
 
 class T_frmBrisanto;
-
-// The preferences stand on a floor above this one; by this name they are known to be open.
-inline constexpr std::string_view kPreferencesForm = "T_frmPreferences";
 
 // All belong to the meter window and live as long as it does.
 struct RunningMeter {

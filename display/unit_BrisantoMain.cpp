@@ -1,7 +1,5 @@
 #include "display/unit_BrisantoMain.h"
 
-#include <algorithm>
-
 #include "alerts/keyboard_leds.h"
 #include "display/about.h"
 #include "display/display_settings.h"
@@ -41,12 +39,6 @@ platform::TopWindowParams CreateParams() {
   params.frame = platform::Frame::kSizeableTool;
   params.bare_popup = true;
   return params;
-}
-
-bool IsOpen(const toolkit::Application& app, std::string_view form_name) {
-  return std::any_of(app.Forms().begin(), app.Forms().end(), [form_name](const auto* form) {
-    return form->Name() == form_name && form->Showing();
-  });
 }
 
 int LabelPoints(int window_width) {
@@ -294,9 +286,9 @@ void T_frmBrisanto::mnuTransparentClick() { transparency_.mnuTransparentClick();
 
 void T_frmBrisanto::Settings1Click() {
   if (!open_preferences_) return;
-  // Who has them open has given the password; they are only raised.
-  const bool asks = !IsOpen(App(), kPreferencesForm) && settings::LockEngaged(RegME);
-  if (asks && !settings::AskForPassword(App(), RegME, _ReadLangauge)) return;
+  // Asked also while they are open: whoever has just locked them may have left them so.
+  if (settings::LockEngaged(RegME) && !settings::AskForPassword(App(), RegME, _ReadLangauge))
+    return;
   open_preferences_();
 }
 

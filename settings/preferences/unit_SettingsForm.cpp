@@ -21,7 +21,7 @@ constexpr std::string_view kPlacementKey = "\\Software\\BrisantoNET\\Settings\\S
 }  // namespace
 
 T_frmPreferences::T_frmPreferences(toolkit::Application& app, const display::RunningMeter& meter)
-    : Form(app, display::kPreferencesForm, platform::Frame::kDialog),
+    : Form(app, "T_frmPreferences", platform::Frame::kDialog),
       context_(app, meter),
       TreeItems(*this, "TreeItems"),
       PrefNotebook(*this, "PrefNotebook"),

@@ -154,16 +154,20 @@ TEST_F(Preferences, OnceLockedOpenWithThePasswordOnly) {
   EXPECT_EQ(SettingText("zdP"), "abc1");
   EXPECT_EQ(TextOf(FindControl(window, L"LockBtn")), "Open");
   EXPECT_FALSE(Shown(window, L"AdminVerifyPass"));
-  PressKey(VK_ESCAPE);
+  const auto refuse = [&] {
+    meter.Choose({"Settings..."});
+    const HWND asking = meter.AwaitForm(kPrompt);
+    PressKey(VK_ESCAPE);
+    Await("the prompt to go", [asking] { return ::IsWindow(asking) == FALSE; });
+  };
+  refuse();
+  EXPECT_NE(::IsWindowVisible(window), FALSE) << "they stay open";
+  ClickOn(window, L"btnClose");
   AwaitHidden(window);
-
-  meter.Choose({"Settings..."});
-  HWND prompt = meter.AwaitForm(kPrompt);
-  PressKey(VK_ESCAPE);
-  Await("the prompt to go", [prompt] { return ::IsWindow(prompt) == FALSE; });
+  refuse();
   EXPECT_EQ(::IsWindowVisible(window), FALSE);
   meter.Choose({"Settings..."});
-  prompt = meter.AwaitForm(kPrompt);
+  const HWND prompt = meter.AwaitForm(kPrompt);
   Type("abc1");
   window = meter.AwaitForm(kPreferences);
   EXPECT_EQ(::IsWindow(prompt), FALSE);
