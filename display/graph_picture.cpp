@@ -66,14 +66,19 @@ void PaintScale(platform::Canvas& canvas, const GraphLook& look, const platform:
   }
 }
 
-// A bar of two columns has light on its top alone, so that one of them keeps its own colour.
+// Light at the left and on top, shadow at the right. One of two columns would lose half of its own
+// colour at each side, and has its shadow at the foot.
 void PaintBar(platform::Canvas& canvas, const platform::Rect& bar, const BarColours& colours,
               bool edges) {
   canvas.Fill(bar, colours.face);
   if (!edges || bar.width < 2) return;
   canvas.Fill({bar.left, bar.top, bar.width, 1}, colours.light);
-  if (bar.width > 2) canvas.Fill({bar.left, bar.top, 1, bar.height}, colours.light);
-  canvas.Fill({bar.Right() - 1, bar.top, 1, bar.height}, colours.shadow);
+  if (bar.width > 2) {
+    canvas.Fill({bar.left, bar.top, 1, bar.height}, colours.light);
+    canvas.Fill({bar.Right() - 1, bar.top, 1, bar.height}, colours.shadow);
+  } else if (bar.height > 2) {
+    canvas.Fill({bar.left, bar.Bottom() - 1, bar.width, 1}, colours.shadow);
+  }
 }
 
 // The smaller amount stands in front of the larger one and leaves its left column and its top
