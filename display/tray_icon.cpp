@@ -1,7 +1,5 @@
 #include "display/tray_icon.h"
 
-#include <utility>
-
 #include "toolkit/application.h"
 
 namespace display {
@@ -45,10 +43,15 @@ void TrayIcon::LoadPictures(const std::string& path) {
   shown_activity_.reset();
 }
 
+void TrayIcon::TakeKind(std::int64_t type) {
+  if (type == kind_) return;
+  if (type == kActivityPictures) LoadPictures();
+  kind_ = type;
+}
+
 void TrayIcon::ShowStart() {
-  kind_ = store_.Read(setting::IconType);
+  TakeKind(store_.Read(setting::IconType));
   if (kind_ == kActivityPictures) {
-    LoadPictures();
     ShowActivity(TrayActivity::kIdle);
   } else {
     ShowHistogram(TrayHistogram());
@@ -57,9 +60,8 @@ void TrayIcon::ShowStart() {
 
 void TrayIcon::ChangeKind(std::int64_t type) {
   if (type == kind_) return;
-  kind_ = type;
+  TakeKind(type);
   if (kind_ == kActivityPictures) {
-    LoadPictures();
     ShowActivity(TrayActivity::kIdle);
   } else {
     ShowHistogram(kind_ == kHistogram ? histogram_ : TrayHistogram());
@@ -78,9 +80,8 @@ void TrayIcon::ChangePictures(const std::string& path) {
 }
 
 void TrayIcon::ShowScan(const engine::ScanAmounts& scan) {
-  const std::int64_t kind_before = std::exchange(kind_, store_.Read(setting::IconType));
+  TakeKind(store_.Read(setting::IconType));
   if (kind_ == kActivityPictures) {
-    if (kind_before != kActivityPictures) LoadPictures();
     ShowActivity(ActivityOf(scan.ScanSumDL, scan.ScanSumUL));
   } else if (kind_ == kHistogram) {
     histogram_.Push(scan.ScanSumDL, scan.ScanSumUL);

@@ -63,6 +63,8 @@ class TrayIcon final : public alerts::Balloons, private platform::TrayIconEvents
   void OnTrayClick() override;
   void OnTrayMenu(platform::Point screen) override;
 
+  // Another kind counts from here on; its pictures are loaded.
+  void TakeKind(std::int64_t type);
   void LoadPictures(const std::string& path);
   void ShowActivity(TrayActivity activity);
   void ShowHistogram(const TrayHistogram& histogram);

@@ -287,8 +287,8 @@ void T_frmBrisanto::mnuTransparentClick() { transparency_.mnuTransparentClick();
 void T_frmBrisanto::Settings1Click() {
   if (!open_preferences_) return;
   // Asked also while they are open: whoever has just locked them may have left them so.
-  if (settings::LockEngaged(RegME) && !settings::AskForPassword(App(), RegME, _ReadLangauge))
-    return;
+  const bool asks = settings::LockEngaged(RegME);
+  if (asks && !settings::AskForPassword(App(), RegME, _ReadLangauge)) return;
   open_preferences_();
 }
 

@@ -10,6 +10,7 @@
 
 namespace platform {
 
+// What a surface is among its siblings.
 enum class SurfaceKind {
   kArea,
   // One of many of which the user sees one: what lies on a hidden one may get its windows, and

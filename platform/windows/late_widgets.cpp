@@ -43,10 +43,11 @@ void LateWidgets::Forget(const Surface& page) {
 }
 
 void LateWidgets::MakeSome() {
-  do {
-    if (!waiting_.empty()) Make(*waiting_.front());
-  } while (!waiting_.empty() && !SomethingWaits());
-  if (waiting_.empty()) idle_.reset();
+  while (!waiting_.empty()) {
+    Make(*waiting_.front());
+    if (SomethingWaits()) return;
+  }
+  idle_.reset();
 }
 
 void LateWidgets::Make(LateWidget& widget) {

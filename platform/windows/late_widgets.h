@@ -3,8 +3,10 @@
 // takes, and a moment later every control is there for screen readers all the same.
 #pragma once
 
+#include <cstddef>
 #include <functional>
 #include <memory>
+#include <span>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -24,7 +26,10 @@ class LateWidgets {
   // `timers` outlives this.
   explicit LateWidgets(platform::Timers& timers) : timers_(timers) {}
 
+  // From here on it waits. Should the system refuse a timer (SetTimer), then until its page is
+  // shown.
   void Add(LateWidget& widget);
+  // It waits no more: it is made, or goes.
   void Remove(LateWidget& widget) { std::erase(waiting_, &widget); }
   // Makes those of `page`, in the order in which they were added: that of Tab. Throws
   // std::runtime_error when the system refuses a window; that widget stays without one.
@@ -138,8 +143,8 @@ class LateOf : public Interface, public LateWidget {
       const auto call = std::move(kept_[i]);
       call(*made_);
     }
-    kept_.clear();
-    kept_.shrink_to_fit();
+    kept_ = {};
+    make_ = nullptr;
   }
 
  private:

@@ -49,7 +49,10 @@ HWND ControlOf(const Message& message) {
 }  // namespace
 
 HWND WidgetWindow::Of(Widget& widget) {
-  if (const auto* late = dynamic_cast<LateWidget*>(&widget)) return Of(*late->Made());
+  if (const auto* late = dynamic_cast<LateWidget*>(&widget)) {
+    late->Need();
+    return Of(*late->Made());
+  }
   return dynamic_cast<WidgetWindow&>(widget).hwnd();
 }
 

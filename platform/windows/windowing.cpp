@@ -59,14 +59,9 @@ template <class Late, class Interface>
 std::unique_ptr<Interface> Windowing::Make(Widget& parent,
                                            std::function<std::unique_ptr<Interface>(HWND)> make) {
   Surface* page = HiddenPage(parent);
-  if (page == nullptr) return make(WindowOf(parent));
+  if (page == nullptr) return make(WidgetWindow::Of(parent));
   return std::make_unique<Late>(
       late_, *page, [&parent, make = std::move(make)] { return make(WidgetWindow::Of(parent)); });
-}
-
-HWND Windowing::WindowOf(Widget& parent) {
-  if (const auto* late = dynamic_cast<LateWidget*>(&parent)) late->Need();
-  return WidgetWindow::Of(parent);
 }
 
 std::unique_ptr<Widget> Windowing::CreateSurface(Widget& parent, std::string_view name,
@@ -117,12 +112,12 @@ std::unique_ptr<ItemList> Windowing::CreateList(Widget& parent, std::string_view
 
 std::unique_ptr<Tree> Windowing::CreateTree(Widget& parent, std::string_view name,
                                             WidgetEvents& events) {
-  return std::make_unique<TreeWidget>(WindowOf(parent), name, drawing_, events);
+  return std::make_unique<TreeWidget>(WidgetWindow::Of(parent), name, drawing_, events);
 }
 
 std::unique_ptr<Tabs> Windowing::CreateTabs(Widget& parent, std::string_view name,
                                             WidgetEvents& events) {
-  return std::make_unique<TabsWidget>(WindowOf(parent), name, drawing_, events);
+  return std::make_unique<TabsWidget>(WidgetWindow::Of(parent), name, drawing_, events);
 }
 
 std::unique_ptr<TrackBar> Windowing::CreateTrackBar(Widget& parent, std::string_view name,

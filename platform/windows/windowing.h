@@ -51,8 +51,6 @@ class Windowing final : public platform::Windowing {
   template <class Late, class Interface>
   [[nodiscard]] std::unique_ptr<Interface> Make(
       Widget& parent, std::function<std::unique_ptr<Interface>(HWND)> make);
-  // The window of a parent, which is made if it is late.
-  [[nodiscard]] HWND WindowOf(Widget& parent);
 
   Drawing& drawing_;
   LateWidgets late_;
