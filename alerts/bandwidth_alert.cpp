@@ -5,7 +5,7 @@
 #include "alerts/bandwidth_limit.h"
 #include "alerts/unit_BandWidthAlert.h"
 #include "engine/product.h"
-#include "settings/texts.h"
+#include "language/texts.h"
 #include "toolkit/application.h"
 
 namespace alerts {
@@ -18,7 +18,7 @@ constexpr int kBalloonSeconds = 15;
 }  // namespace
 
 BandwidthAlert::BandwidthAlert(toolkit::Application& app, settings::Store& store,
-                               display::Quantity& quantity, const settings::Language& language,
+                               quantity::Quantity& quantity, const language::Language& language,
                                Reactions& reactions, toolkit::PopupMenu& menu)
     : app_(app),
       store_(store),
@@ -46,7 +46,7 @@ void BandwidthAlert::BandwidthAlertExecute() {
 void BandwidthAlert::ShowMessage() {
   // No blank between the two parts, unlike the titles of the notifications.
   const std::string title =
-      std::string(engine::kProductTitle) + language_.Text(settings::text::MainForm::S4);
+      std::string(engine::kProductTitle) + language_.Text(language::text::MainForm::S4);
   reactions_.Warn(title, store_.Read(setting::BAMessage), kBalloonSeconds);
   menu_.CloseThen([this] { ShowWindow(); });
 }

@@ -2,11 +2,11 @@
 #pragma once
 
 #include "alerts/reactions.h"
-#include "display/quantity/quantity.h"
-#include "settings/language.h"
+#include "language/language.h"
+#include "quantity/quantity.h"
 #include "settings/store.h"
 #include "toolkit/action.h"
-#include "toolkit/popup_menu.h"
+#include "toolkit/menus/popup_menu.h"
 
 namespace toolkit {
 class Application;
@@ -17,8 +17,8 @@ namespace alerts {
 class BandwidthAlert {
  public:
   // All outlive the alert. `menu` is closed before the window shows.
-  BandwidthAlert(toolkit::Application& app, settings::Store& store, display::Quantity& quantity,
-                 const settings::Language& language, Reactions& reactions,
+  BandwidthAlert(toolkit::Application& app, settings::Store& store, quantity::Quantity& quantity,
+                 const language::Language& language, Reactions& reactions,
                  toolkit::PopupMenu& menu);
 
   // The scan's step. Returns when the window that it may show is closed; scans go on meanwhile.
@@ -34,8 +34,8 @@ class BandwidthAlert {
 
   toolkit::Application& app_;
   settings::Store& store_;
-  display::Quantity& quantity_;
-  const settings::Language& language_;
+  quantity::Quantity& quantity_;
+  const language::Language& language_;
   Reactions& reactions_;
   toolkit::PopupMenu& menu_;
 };

@@ -4,14 +4,14 @@
 #include <initializer_list>
 #include <string>
 
+#include "language/texts.h"
 #include "settings/counter_text.h"
-#include "settings/texts.h"
 
 namespace alerts {
 namespace {
 
 namespace setting = settings::setting;
-namespace text = settings::text::BandwidthStatisticsForm;
+namespace text = language::text::BandwidthStatisticsForm;
 
 // Blue, green, red.
 constexpr platform::Colour kLightRed = 0x9999FF;
@@ -27,17 +27,17 @@ platform::Colour ColourOf(bool counts) {
   return counts ? platform::colour::kLime : platform::colour::kSilver;
 }
 
-const settings::TextEntry& TypeText(LimitPeriod period) {
-  static constexpr std::array<const settings::TextEntry*, 3> kTexts = {&text::Daily, &text::Weekly,
+const language::TextEntry& TypeText(LimitPeriod period) {
+  static constexpr std::array<const language::TextEntry*, 3> kTexts = {&text::Daily, &text::Weekly,
                                                                        &text::Monthly};
   return *kTexts[static_cast<std::size_t>(period)];
 }
 
 // The parts of a hint stand on lines of their own.
-std::string HintOf(const settings::Language& language,
-                   std::initializer_list<settings::TextEntry> parts) {
+std::string HintOf(const language::Language& language,
+                   std::initializer_list<language::TextEntry> parts) {
   std::string hint;
-  for (const settings::TextEntry& part : parts) {
+  for (const language::TextEntry& part : parts) {
     if (&part != parts.begin()) hint += '\r';
     hint += language.Text(part);
   }
@@ -67,12 +67,12 @@ void BandwidthDetails::Row::SetFontColour(platform::Colour colour) {
 }
 
 void BandwidthDetails::Row::Show(const std::string& quantity) {
-  value.SetCaption(display::GetToken(quantity, "|", 1));
-  unit.SetCaption(display::GetToken(quantity, "|", 2));
+  value.SetCaption(quantity::GetToken(quantity, "|", 1));
+  unit.SetCaption(quantity::GetToken(quantity, "|", 2));
 }
 
 BandwidthDetails::BandwidthDetails(toolkit::Control& parent, settings::Store& store,
-                                   display::Quantity& quantity, const settings::Language& language)
+                                   quantity::Quantity& quantity, const language::Language& language)
     : store_(store),
       quantity_(quantity),
       language_(language),
@@ -108,8 +108,8 @@ void BandwidthDetails::SetBounds(const platform::Rect& bounds) {
 
 void BandwidthDetails::Localise() {
   group_.SetCaption(language_.Text(text::Details));
-  const auto localise = [this](Row& row, const settings::TextEntry& caption,
-                               std::initializer_list<settings::TextEntry> hint) {
+  const auto localise = [this](Row& row, const language::TextEntry& caption,
+                               std::initializer_list<language::TextEntry> hint) {
     row.caption.SetCaption(language_.Text(caption));
     row.caption.SetHint(HintOf(language_, hint));
   };

@@ -6,19 +6,19 @@
 #include <optional>
 
 #include "alerts/bandwidth_limit.h"
-#include "display/quantity/quantity.h"
-#include "settings/language.h"
+#include "language/language.h"
+#include "quantity/quantity.h"
 #include "settings/store.h"
-#include "toolkit/group_box.h"
-#include "toolkit/label.h"
+#include "toolkit/controls/group_box.h"
+#include "toolkit/controls/label.h"
 
 namespace alerts {
 
 class BandwidthDetails {
  public:
   // All outlive the details.
-  BandwidthDetails(toolkit::Control& parent, settings::Store& store, display::Quantity& quantity,
-                   const settings::Language& language);
+  BandwidthDetails(toolkit::Control& parent, settings::Store& store, quantity::Quantity& quantity,
+                   const language::Language& language);
 
   // Design pixels; at least 200 wide and 134 high.
   void SetBounds(const platform::Rect& bounds);
@@ -49,8 +49,8 @@ class BandwidthDetails {
   void ShowLeft(std::int64_t left);
 
   settings::Store& store_;
-  display::Quantity& quantity_;
-  const settings::Language& language_;
+  quantity::Quantity& quantity_;
+  const language::Language& language_;
 
   toolkit::GroupBox group_;
   Row limit_;

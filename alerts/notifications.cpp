@@ -50,7 +50,7 @@ const Notifications::Rule Notifications::kMore{setting::MoreIsPlay, setting::Mor
                                                setting::MoreAction, setting::MoreDisplayMessage};
 
 Notifications::Notifications(toolkit::Application& app, settings::Store& store,
-                             const settings::Language& language, Reactions& reactions)
+                             const language::Language& language, Reactions& reactions)
     : TimeOutTimer(app, kTimerMs, [this] { TimeOutTimerTimer(); }),
       store_(store),
       language_(language),
@@ -102,7 +102,7 @@ void Notifications::Execute(const Rule& rule) {
   const std::int64_t action = store_.Read(rule.action);
   if (action == kDisplayMessage) {
     const std::string title =
-        std::string(engine::kProductTitle) + " " + language_.Text(settings::text::MainForm::S3);
+        std::string(engine::kProductTitle) + " " + language_.Text(language::text::MainForm::S3);
     reactions_.Warn(title, store_.Read(rule.message), kBalloonSeconds);
   } else if (action == kShutdownComputer) {
     reactions_.ShutDownComputer();

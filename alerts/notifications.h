@@ -5,7 +5,7 @@
 
 #include "alerts/reactions.h"
 #include "engine/traffic_state.h"
-#include "settings/language.h"
+#include "language/language.h"
 #include "settings/store.h"
 #include "toolkit/action.h"
 #include "toolkit/timer.h"
@@ -16,7 +16,7 @@ class Notifications {
  public:
   // All outlive the notifications.
   Notifications(toolkit::Application& app, settings::Store& store,
-                const settings::Language& language, Reactions& reactions);
+                const language::Language& language, Reactions& reactions);
 
   // The scan's step: counts the scans in a row that were at or below, at or above the stored number
   // of bytes. Switched off, it stops the timer and leaves the counts as they are.
@@ -42,7 +42,7 @@ class Notifications {
                    const toolkit::Action& action);
 
   settings::Store& store_;
-  const settings::Language& language_;
+  const language::Language& language_;
   Reactions& reactions_;
 
   // Scans in a row that the rule holds for.

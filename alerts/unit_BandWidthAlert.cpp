@@ -2,14 +2,14 @@
 
 #include <array>
 
-#include "settings/texts.h"
+#include "language/texts.h"
 #include "toolkit/application.h"
-#include "toolkit/image_list.h"
+#include "toolkit/menus/image_list.h"
 
 namespace alerts {
 namespace {
 
-namespace text = settings::text::BandwidthAlert;
+namespace text = language::text::BandwidthAlert;
 
 // Design pixels of the client area.
 constexpr int kWidth = 337;
@@ -41,8 +41,8 @@ constexpr toolkit::ImageList kImages(kWarning, kPalette);
 }  // namespace
 
 T_frmBandWidthAlert::T_frmBandWidthAlert(toolkit::Application& app, settings::Store& store,
-                                         display::Quantity& quantity,
-                                         const settings::Language& language)
+                                         quantity::Quantity& quantity,
+                                         const language::Language& language)
     : Form(app, kBandWidthAlertForm, platform::Frame::kTool),
       language_(language),
       Image1(*this, "Image1", kImages, toolkit::kImageSize),

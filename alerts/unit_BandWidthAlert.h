@@ -2,12 +2,12 @@
 #pragma once
 
 #include "alerts/bandwidth_details.h"
-#include "alerts/refresh_faults.h"
-#include "toolkit/button.h"
-#include "toolkit/edit.h"
-#include "toolkit/form.h"
-#include "toolkit/panel.h"
-#include "toolkit/sign.h"
+#include "toolkit/controls/button.h"
+#include "toolkit/controls/edit.h"
+#include "toolkit/controls/panel.h"
+#include "toolkit/controls/sign.h"
+#include "toolkit/forms/form.h"
+#include "toolkit/refresh_faults.h"
 #include "toolkit/timer.h"
 
 namespace alerts {
@@ -19,7 +19,7 @@ class T_frmBandWidthAlert final : public toolkit::Form {
   // Made hidden, its figures filled in with the first tick. All outlive the
   // window.
   T_frmBandWidthAlert(toolkit::Application& app, settings::Store& store,
-                      display::Quantity& quantity, const settings::Language& language);
+                      quantity::Quantity& quantity, const language::Language& language);
 
   void Localise() override;
 
@@ -31,7 +31,7 @@ class T_frmBandWidthAlert final : public toolkit::Form {
   void SetDetailsShown(bool shown);
   void LocaliseDetailsButton();
 
-  const settings::Language& language_;
+  const language::Language& language_;
 
   toolkit::Sign Image1;
   toolkit::Panel MessagePanel;
@@ -39,7 +39,7 @@ class T_frmBandWidthAlert final : public toolkit::Form {
   toolkit::Button btnDetails;
   toolkit::Button OkBtn;
   BandwidthDetails details_;
-  RefreshFaults faults_;
+  toolkit::RefreshFaults faults_;
   toolkit::Timer Timer1;
   bool details_shown_ = false;
 };

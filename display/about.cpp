@@ -4,24 +4,24 @@
 
 #include "display/program_image.h"
 #include "engine/product.h"
-#include "settings/texts.h"
+#include "language/texts.h"
 #include "toolkit/about_box.h"
 #include "toolkit/application.h"
 
 namespace display {
 namespace {
 
-namespace text = settings::text::AboutForm;
+namespace text = language::text::AboutForm;
 
-toolkit::AboutTexts Texts(const settings::Language& language) {
-  const settings::Translation say = language.Chosen();
+toolkit::AboutTexts Texts(const language::Language& language) {
+  const language::Translation say = language.Chosen();
   return {say(text::Title), std::string(engine::kProductTitle),
           say(text::lblVersion, {engine::kVersion}), say(text::lblDescription), say(text::OkBtn)};
 }
 
 }  // namespace
 
-void ShowAbout(toolkit::Application& app, const settings::Language& language) {
+void ShowAbout(toolkit::Application& app, const language::Language& language) {
   if (app.Modals().Raise(toolkit::AboutBox::kName)) return;
   toolkit::AboutBox box(app, kProgramImage, [&language] { return Texts(language); });
   app.Modals().Show(box);

@@ -1,7 +1,7 @@
 // The about box of this program.
 #pragma once
 
-#include "settings/language.h"
+#include "language/language.h"
 
 namespace toolkit {
 class Application;
@@ -10,6 +10,6 @@ class Application;
 namespace display {
 
 // Returns when it is closed. One that is open already is raised.
-void ShowAbout(toolkit::Application& app, const settings::Language& language);
+void ShowAbout(toolkit::Application& app, const language::Language& language);
 
 }  // namespace display

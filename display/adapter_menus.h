@@ -7,7 +7,7 @@
 
 #include "engine/interface_sampler.h"
 #include "settings/store.h"
-#include "toolkit/popup_menu.h"
+#include "toolkit/menus/popup_menu.h"
 
 namespace display {
 

@@ -1,10 +1,10 @@
 // Takes the stored options of the display over into the parts that show them.
 #pragma once
 
-#include "display/kxintermeter.h"
+#include "display/graph/kxintermeter.h"
 #include "settings/store.h"
+#include "toolkit/controls/label.h"
 #include "toolkit/hint_window.h"
-#include "toolkit/label.h"
 
 namespace display {
 

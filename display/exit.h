@@ -1,7 +1,7 @@
 // The end of the program at the user's wish.
 #pragma once
 
-#include "settings/language.h"
+#include "language/language.h"
 #include "settings/store.h"
 
 namespace toolkit {
@@ -15,7 +15,7 @@ namespace display {
 class Exit {
  public:
   // All outlive it.
-  Exit(toolkit::Application& app, settings::Store& store, const settings::Language& language)
+  Exit(toolkit::Application& app, settings::Store& store, const language::Language& language)
       : app_(app), store_(store), language_(language) {}
 
   // Asks what there is to ask, while scans go on, and ends the program unless the user stays. What
@@ -29,7 +29,7 @@ class Exit {
 
   toolkit::Application& app_;
   settings::Store& store_;
-  const settings::Language& language_;
+  const language::Language& language_;
 };
 
 }  // namespace display

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "platform/hot_keys.h"
-#include "toolkit/short_cut.h"
+#include "toolkit/menus/short_cut.h"
 
 namespace toolkit {
 class Application;

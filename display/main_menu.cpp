@@ -5,7 +5,7 @@
 namespace display {
 namespace {
 
-namespace text = settings::text;
+namespace text = language::text;
 
 using Item = toolkit::MenuItem* MainMenu::*;
 
@@ -17,7 +17,7 @@ constexpr bool kSeparatorBefore = true;
 struct Row {
   Item item;
   Item parent;
-  settings::TextEntry text;
+  language::TextEntry text;
   int image = kNoImage;
   bool separator_before = false;
 };
@@ -68,8 +68,8 @@ MainMenu::MainMenu(toolkit::Application& app) : popup(app, kMenuImages) {
   Transparent1->Hint = text::MainForm::Transparent1Hint.english;
 }
 
-void MainMenu::Localise(const settings::Language& language) {
-  const settings::Translation say = language.Chosen();
+void MainMenu::Localise(const language::Language& language) {
+  const language::Translation say = language.Chosen();
   for (const Row& row : kRows) (this->*row.item)->Caption = say(row.text);
   Transparent1->Hint = say(text::MainForm::Transparent1Hint);
 }

@@ -1,8 +1,8 @@
 // The menu of the meter window and of the tray icon.
 #pragma once
 
-#include "settings/language.h"
-#include "toolkit/popup_menu.h"
+#include "language/language.h"
+#include "toolkit/menus/popup_menu.h"
 
 namespace display {
 
@@ -11,7 +11,7 @@ struct MainMenu {
   explicit MainMenu(toolkit::Application& app);
 
   // Gives every item its text in the user's language.
-  void Localise(const settings::Language& language);
+  void Localise(const language::Language& language);
 
   toolkit::PopupMenu popup;
 

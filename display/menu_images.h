@@ -1,7 +1,7 @@
 // The pictures of the main menu.
 #pragma once
 
-#include "toolkit/image_list.h"
+#include "toolkit/menus/image_list.h"
 
 namespace display {
 

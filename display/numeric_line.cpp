@@ -7,7 +7,7 @@ namespace display {
 namespace {
 
 namespace setting = settings::setting;
-namespace text = settings::text;
+namespace text = language::text;
 
 constexpr settings::BooleanSetting kModes[] = {setting::SOM1, setting::SOM2, setting::SOM3};
 

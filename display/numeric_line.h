@@ -4,9 +4,9 @@
 #include <cstdint>
 #include <string>
 
-#include "display/quantity/quantity.h"
 #include "engine/traffic_state.h"
-#include "settings/language.h"
+#include "language/language.h"
+#include "quantity/quantity.h"
 #include "settings/store.h"
 
 namespace display {
@@ -14,7 +14,8 @@ namespace display {
 class NumericLine {
  public:
   // All outlive the line.
-  NumericLine(settings::Store& store, Quantity& quantity, const settings::Language& language)
+  NumericLine(settings::Store& store, quantity::Quantity& quantity,
+              const language::Language& language)
       : store_(store), quantity_(quantity), language_(language) {}
 
   // The averaging period in scans. Another one than before starts the average anew.
@@ -56,8 +57,8 @@ class NumericLine {
   [[nodiscard]] std::string IdleText(const settings::BooleanSetting& mode, bool bits);
 
   settings::Store& store_;
-  Quantity& quantity_;
-  const settings::Language& language_;
+  quantity::Quantity& quantity_;
+  const language::Language& language_;
 
   // Looked up anew, and remembered.
   std::string AverageStart();

@@ -1,7 +1,7 @@
 // The program's icon as a picture; a test compares it with the icon file.
 #pragma once
 
-#include "toolkit/image_list.h"
+#include "toolkit/menus/image_list.h"
 
 namespace display {
 

@@ -5,16 +5,16 @@
 
 #include "alerts/notifications.h"
 #include "display/adapter_menus.h"
-#include "display/kxintermeter.h"
+#include "display/graph/kxintermeter.h"
 #include "display/numeric_line.h"
-#include "display/title_posting.h"
+#include "display/titles/posting.h"
 #include "display/transparency.h"
-#include "display/tray_icon.h"
-#include "settings/language.h"
+#include "display/tray/tray_icon.h"
+#include "language/language.h"
 #include "settings/store.h"
-#include "toolkit/docking_magnet.h"
+#include "toolkit/controls/label.h"
+#include "toolkit/forms/docking_magnet.h"
 #include "toolkit/hint_window.h"
-#include "toolkit/label.h"
 
 namespace display {
 
@@ -24,7 +24,7 @@ class T_frmBrisanto;
 struct RunningMeter {
   T_frmBrisanto& window;
   settings::Store& store;
-  settings::Language& language;
+  language::Language& language;
   TKxInterMeter& graph;
   toolkit::Label& label;  // shows the numeric line
   NumericLine& line;

@@ -4,7 +4,7 @@
 #include <utility>
 #include <vector>
 
-#include "display/graph_shape.h"
+#include "display/graph/shape.h"
 #include "toolkit/application.h"
 
 namespace display {

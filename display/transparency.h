@@ -5,11 +5,11 @@
 #include <cstdint>
 #include <optional>
 
-#include "display/kxintermeter.h"
+#include "display/graph/kxintermeter.h"
 #include "display/main_menu.h"
 #include "settings/store.h"
-#include "toolkit/form.h"
-#include "toolkit/panel.h"
+#include "toolkit/controls/panel.h"
+#include "toolkit/forms/form.h"
 
 namespace display {
 

@@ -1,20 +1,20 @@
 #include "display/unit_AreYouSureForm.h"
 
-#include "settings/texts.h"
-#include "toolkit/layout.h"
+#include "language/texts.h"
+#include "toolkit/controls/layout.h"
 
 namespace display {
 namespace {
 
 namespace setting = settings::setting;
-namespace text = settings::text::AreYouSure;
+namespace text = language::text::AreYouSure;
 
 constexpr platform::Size kClientSize{277, 102};  // design pixels
 
 }  // namespace
 
 T_frmAreYouSure::T_frmAreYouSure(toolkit::Application& app, settings::Store& store,
-                                 const settings::Language& language)
+                                 const language::Language& language)
     : Form(app, kAreYouSureForm, platform::Frame::kDialog),
       store_(store),
       language_(language),
@@ -47,7 +47,7 @@ void T_frmAreYouSure::FormCreate() {
 }
 
 void T_frmAreYouSure::Localise() {
-  const settings::Translation say = language_.Chosen();
+  const language::Translation say = language_.Chosen();
   SetCaption(say(text::Title));
   lblQuestion1.SetCaption(say(text::lblQuestion1));
   lblQuestion2.SetCaption(say(text::lblQuestion2));

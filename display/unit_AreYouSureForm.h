@@ -3,13 +3,13 @@
 
 #include <string_view>
 
-#include "settings/language.h"
+#include "language/language.h"
 #include "settings/store.h"
-#include "toolkit/button.h"
-#include "toolkit/check_box.h"
-#include "toolkit/form.h"
-#include "toolkit/label.h"
-#include "toolkit/sign.h"
+#include "toolkit/controls/button.h"
+#include "toolkit/controls/check_box.h"
+#include "toolkit/controls/label.h"
+#include "toolkit/controls/sign.h"
+#include "toolkit/forms/form.h"
 
 namespace display {
 
@@ -20,7 +20,7 @@ class T_frmAreYouSure final : public toolkit::Form {
  public:
   // Made hidden; shown by the modal stack. All outlive it.
   T_frmAreYouSure(toolkit::Application& app, settings::Store& store,
-                  const settings::Language& language);
+                  const language::Language& language);
 
   void Localise() override;
 
@@ -30,7 +30,7 @@ class T_frmAreYouSure final : public toolkit::Form {
   void AskCheckClick();
 
   settings::Store& store_;
-  const settings::Language& language_;
+  const language::Language& language_;
 
   toolkit::Sign Image1;
   toolkit::Label lblQuestion1;

@@ -3,15 +3,15 @@
 #include "alerts/keyboard_leds.h"
 #include "display/about.h"
 #include "display/display_settings.h"
-#include "display/grid_lines.h"
-#include "display/unit_AddTitlesForm.h"
+#include "display/graph/grid_lines.h"
+#include "display/titles/unit_AddTitlesForm.h"
 #include "engine/local_ip.h"
 #include "engine/product.h"
 #include "settings/administrator_lock.h"
 #include "settings/unit_SecurityForm.h"
 #include "toolkit/application.h"
 #include "toolkit/design_pixels.h"
-#include "toolkit/placement.h"
+#include "toolkit/forms/placement.h"
 
 namespace display {
 namespace {
@@ -173,7 +173,7 @@ void T_frmBrisanto::InitAdapters() { adapter_menus_.Add(sampler_.InitAdapters())
 
 void T_frmBrisanto::LocaliseControls() {
   _MainMenu.Localise(_ReadLangauge);
-  _tlkInterMeter.SetCaption(_ReadLangauge.Text(settings::text::MainForm::_tlkInterMeter));
+  _tlkInterMeter.SetCaption(_ReadLangauge.Text(language::text::MainForm::_tlkInterMeter));
 }
 
 void T_frmBrisanto::Localise() {

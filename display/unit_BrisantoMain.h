@@ -13,29 +13,29 @@
 #include "alerts/ticker.h"
 #include "display/adapter_menus.h"
 #include "display/exit.h"
+#include "display/graph/kxintermeter.h"
 #include "display/hot_keys.h"
-#include "display/kxintermeter.h"
 #include "display/main_menu.h"
 #include "display/numeric_line.h"
-#include "display/quantity/quantity.h"
 #include "display/running_meter.h"
 #include "display/statistics_windows.h"
-#include "display/title_posting.h"
+#include "display/titles/posting.h"
 #include "display/transparency.h"
-#include "display/tray_icon.h"
+#include "display/tray/tray_icon.h"
 #include "engine/error_log.h"
 #include "engine/interface_sampler.h"
 #include "engine/program.h"
 #include "engine/scan_cycle.h"
 #include "engine/statistics.h"
 #include "engine/traffic_state.h"
-#include "settings/language.h"
+#include "language/language.h"
+#include "quantity/quantity.h"
 #include "settings/store.h"
-#include "toolkit/docking_magnet.h"
-#include "toolkit/form.h"
-#include "toolkit/label.h"
-#include "toolkit/panel.h"
-#include "toolkit/placement_saver.h"
+#include "toolkit/controls/label.h"
+#include "toolkit/controls/panel.h"
+#include "toolkit/forms/docking_magnet.h"
+#include "toolkit/forms/form.h"
+#include "toolkit/forms/placement_saver.h"
 
 namespace display {
 
@@ -127,8 +127,8 @@ class T_frmBrisanto final : public toolkit::Form,
   std::vector<std::string> CommonMemo;
   engine::ErrorLog error_log_;
   settings::Store RegME;
-  settings::Language _ReadLangauge;
-  Quantity quantity_;
+  language::Language _ReadLangauge;
+  quantity::Quantity quantity_;
 
   engine::TrafficState traffic_;
   engine::Statistics statistics_;

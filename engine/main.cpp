@@ -8,9 +8,9 @@
 #include "engine/error_log.h"
 #include "engine/program.h"
 #include "platform/windows/entry.h"
-#include "platform/windows/files.h"
 #include "platform/windows/machine.h"
-#include "settings/preferences/unit_SettingsForm.h"
+#include "platform/windows/services/files.h"
+#include "preferences/unit_SettingsForm.h"
 #include "toolkit/application.h"
 
 namespace {
@@ -20,7 +20,7 @@ int Run() {
   toolkit::Application app(machine.platform());
   return engine::RunProgram(machine.platform(), [&app] {
     auto meter = std::make_unique<display::T_frmBrisanto>(app);
-    meter->SetPreferences(settings::preferences::PreferencesOf(app, meter->Parts()));
+    meter->SetPreferences(preferences::PreferencesOf(app, meter->Parts()));
     return meter;
   });
 }

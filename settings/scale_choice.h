@@ -7,8 +7,8 @@
 #include <optional>
 #include <string_view>
 
+#include "language/texts.h"
 #include "settings/store.h"
-#include "settings/texts.h"
 
 namespace settings {
 
@@ -23,7 +23,7 @@ inline constexpr std::size_t kCustomScale = 16;
 
 // By the stored "GraphScaleType".
 inline constexpr std::array<ScaleChoice, 17> kScaleChoices = {{
-    {text::SettingsForm::S13.english, true, 0},
+    {language::text::SettingsForm::S13.english, true, 0},
     {"14.4     kbps [ Analog Modem ]", false, 1800},
     {"33.6     kbps [ Analog Modems ]", false, 4200},
     {"48.0     kbps [ Analog Modems ]", false, 6000},
@@ -40,7 +40,7 @@ inline constexpr std::array<ScaleChoice, 17> kScaleChoices = {{
     // The limit is that of 47.436 Mbit/s, although the text says 47.736; both are meant to stay.
     {"47.736 mbps [ DS3 ]", false, 5929500},
     {"100      mbps [ LAN ]", false, 12500000},
-    {text::SettingsForm::S14.english, false, 0},
+    {language::text::SettingsForm::S14.english, false, 0},
 }};
 
 struct AppliedScale {

@@ -1,9 +1,9 @@
 #include "settings/unit_SecurityForm.h"
 
+#include "language/texts.h"
 #include "settings/administrator_lock.h"
-#include "settings/texts.h"
 #include "toolkit/application.h"
-#include "toolkit/layout.h"
+#include "toolkit/controls/layout.h"
 
 namespace settings {
 namespace {
@@ -12,7 +12,8 @@ constexpr platform::Size kClientSize{300, 138};  // design pixels
 
 }  // namespace
 
-T_frmSecurity::T_frmSecurity(toolkit::Application& app, Store& store, const Language& language)
+T_frmSecurity::T_frmSecurity(toolkit::Application& app, Store& store,
+                             const language::Language& language)
     : Form(app, kSecurityForm, platform::Frame::kDialog),
       store_(store),
       language_(language),
@@ -43,19 +44,19 @@ void T_frmSecurity::FormCreate() {
 }
 
 void T_frmSecurity::Localise() {
-  const Translation say = language_.Chosen();
-  SetCaption(say(text::Security::Title));
-  St1.SetCaption(say(text::Security::St1));
-  St2.SetCaption(say(text::Security::St2));
-  St3.SetCaption(say(text::Security::St3));
-  CancelButton.SetCaption(say(text::Security::CancelButton));
+  const language::Translation say = language_.Chosen();
+  SetCaption(say(language::text::Security::Title));
+  St1.SetCaption(say(language::text::Security::St1));
+  St2.SetCaption(say(language::text::Security::St2));
+  St3.SetCaption(say(language::text::Security::St3));
+  CancelButton.SetCaption(say(language::text::Security::CancelButton));
 }
 
 void T_frmSecurity::PassEditChange() {
   if (PasswordMatches(store_, PassEdit.Text())) EndModal(toolkit::ModalResult::kOk);
 }
 
-bool AskForPassword(toolkit::Application& app, Store& store, const Language& language) {
+bool AskForPassword(toolkit::Application& app, Store& store, const language::Language& language) {
   if (app.Modals().Raise(kSecurityForm)) return false;
   T_frmSecurity prompt(app, store, language);
   return app.Modals().Show(prompt) == toolkit::ModalResult::kOk;

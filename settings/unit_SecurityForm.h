@@ -3,13 +3,13 @@
 
 #include <string_view>
 
-#include "settings/language.h"
+#include "language/language.h"
 #include "settings/store.h"
-#include "toolkit/button.h"
-#include "toolkit/edit.h"
-#include "toolkit/form.h"
-#include "toolkit/label.h"
-#include "toolkit/sign.h"
+#include "toolkit/controls/button.h"
+#include "toolkit/controls/edit.h"
+#include "toolkit/controls/label.h"
+#include "toolkit/controls/sign.h"
+#include "toolkit/forms/form.h"
 
 namespace settings {
 
@@ -19,7 +19,7 @@ inline constexpr std::string_view kSecurityForm = "T_frmSecurity";
 class T_frmSecurity final : public toolkit::Form {
  public:
   // Made hidden; shown by the modal stack. All outlive the prompt.
-  T_frmSecurity(toolkit::Application& app, Store& store, const Language& language);
+  T_frmSecurity(toolkit::Application& app, Store& store, const language::Language& language);
 
   void Localise() override;
 
@@ -28,7 +28,7 @@ class T_frmSecurity final : public toolkit::Form {
   void PassEditChange();
 
   Store& store_;
-  const Language& language_;
+  const language::Language& language_;
 
   toolkit::Sign Image1;
   toolkit::Label St1;
@@ -41,6 +41,6 @@ class T_frmSecurity final : public toolkit::Form {
 // Asks for the administrator's password and returns whether it was given; scans go on meanwhile.
 // There is one prompt at a time: while it is open, a second request raises it and is refused.
 [[nodiscard]] bool AskForPassword(toolkit::Application& app, Store& store,
-                                  const Language& language);
+                                  const language::Language& language);
 
 }  // namespace settings

@@ -21,7 +21,7 @@ FiguresSource FiguresSource::Adapter(settings::Store& store, std::string_view ca
 }
 
 Figures FiguresSource::Read(const engine::CounterGroup& group,
-                            alerts::RefreshFaults& faults) const {
+                            toolkit::RefreshFaults& faults) const {
   Figures figures;
   figures.max_dl = Read(group.max_dl, faults);
   figures.max_ul = Read(group.max_ul, faults);
@@ -31,7 +31,7 @@ Figures FiguresSource::Read(const engine::CounterGroup& group,
 }
 
 std::optional<std::int64_t> FiguresSource::Read(const settings::CounterSetting& counter,
-                                                alerts::RefreshFaults& faults) const {
+                                                toolkit::RefreshFaults& faults) const {
   std::optional<std::int64_t> figure;
   faults.Try([&] { figure = store_.ReadCounter(key_, Name(counter)); });
   return figure;

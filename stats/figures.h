@@ -6,9 +6,9 @@
 #include <string>
 #include <string_view>
 
-#include "alerts/refresh_faults.h"
 #include "engine/counter_group.h"
 #include "settings/store.h"
+#include "toolkit/refresh_faults.h"
 
 namespace stats {
 
@@ -33,9 +33,9 @@ class FiguresSource {
 
   // A figure that cannot be read is nothing, and a fault.
   [[nodiscard]] Figures Read(const engine::CounterGroup& group,
-                             alerts::RefreshFaults& faults) const;
+                             toolkit::RefreshFaults& faults) const;
   [[nodiscard]] std::optional<std::int64_t> Read(const settings::CounterSetting& counter,
-                                                 alerts::RefreshFaults& faults) const;
+                                                 toolkit::RefreshFaults& faults) const;
   // Throws what the store throws.
   void WriteZero(const settings::CounterSetting& counter) const;
 

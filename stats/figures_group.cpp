@@ -4,12 +4,12 @@
 #include <cstdint>
 #include <optional>
 
-#include "settings/texts.h"
+#include "language/texts.h"
 
 namespace stats {
 namespace {
 
-namespace text = settings::text::BandwidthStatisticsForm;
+namespace text = language::text::BandwidthStatisticsForm;
 
 constexpr std::string_view kZero = "0,0";
 
@@ -22,8 +22,8 @@ constexpr int kUnitWidth = 36;
 constexpr int kGap = 4;
 
 struct RowText {
-  settings::TextEntry caption;
-  settings::TextEntry hint;
+  language::TextEntry caption;
+  language::TextEntry hint;
 };
 
 constexpr std::array<RowText, kFigureCount> kTexts = {{{text::MaxDLRate, text::MaxDLRateHint},
@@ -70,7 +70,7 @@ void FiguresGroup::Arrange(const platform::Rect& bounds, int below) {
   }
 }
 
-void FiguresGroup::Localise(const settings::Translation& say) {
+void FiguresGroup::Localise(const language::Translation& say) {
   for (std::size_t i = 0; i < kFigureCount; ++i) {
     const std::string hint = say(kTexts[i].hint);
     rows_[i].caption.SetCaption(say(kTexts[i].caption));
@@ -79,14 +79,14 @@ void FiguresGroup::Localise(const settings::Translation& say) {
   }
 }
 
-void FiguresGroup::Show(const Figures& figures, const display::Quantity& quantity) {
+void FiguresGroup::Show(const Figures& figures, const quantity::Quantity& quantity) {
   const std::array<std::optional<std::int64_t>, kFigureCount> bytes = {
       figures.max_dl, figures.max_ul, figures.total_dl, figures.total_ul, figures.Total()};
   for (std::size_t i = 0; i < kFigureCount; ++i) {
     if (!bytes[i]) continue;
     const std::string formatted = quantity.FormatQuantity(*bytes[i]);
-    rows_[i].value.SetCaption(display::GetToken(formatted, "|", 1));
-    rows_[i].unit.SetCaption(display::GetToken(formatted, "|", 2));
+    rows_[i].value.SetCaption(quantity::GetToken(formatted, "|", 1));
+    rows_[i].unit.SetCaption(quantity::GetToken(formatted, "|", 2));
   }
 }
 

@@ -6,11 +6,11 @@
 #include <string>
 #include <string_view>
 
-#include "display/quantity/quantity.h"
-#include "settings/language.h"
+#include "language/language.h"
+#include "quantity/quantity.h"
 #include "stats/figures.h"
-#include "toolkit/group_box.h"
-#include "toolkit/label.h"
+#include "toolkit/controls/group_box.h"
+#include "toolkit/controls/label.h"
 
 namespace stats {
 
@@ -45,10 +45,10 @@ class FiguresGroup : public toolkit::GroupBox {
   void Arrange(const platform::Rect& bounds, int below);
 
   // Captions and hints of the rows; the title is the owner's.
-  void Localise(const settings::Translation& say);
+  void Localise(const language::Translation& say);
 
   // A row whose figure is nothing keeps its text.
-  void Show(const Figures& figures, const display::Quantity& quantity);
+  void Show(const Figures& figures, const quantity::Quantity& quantity);
 
   // The values alone, with the comma that a zero is always written with; the units stay.
   void ShowZeros();

@@ -4,13 +4,13 @@
 #include <utility>
 
 #include "engine/local_ip.h"
-#include "settings/texts.h"
-#include "toolkit/layout.h"
+#include "language/texts.h"
+#include "toolkit/controls/layout.h"
 
 namespace stats {
 namespace {
 
-namespace text = settings::text::BandwidthStatisticsForm;
+namespace text = language::text::BandwidthStatisticsForm;
 
 constexpr int kRefreshMs = 500;
 
@@ -93,7 +93,7 @@ void StatisticsForm::Arrange() {
 }
 
 void StatisticsForm::Localise() {
-  const settings::Translation say = context_.language.Chosen();
+  const language::Translation say = context_.language.Chosen();
   InfoTab.SetCaption(say(text::InfoTab));
   InfoGroup.SetCaption(say(text::InfoGroup));
   IpLabel.SetCaption(say(address_caption_));
@@ -113,7 +113,7 @@ void StatisticsForm::Localise() {
   LocaliseSince(say);
 }
 
-void StatisticsForm::LocaliseSince(const settings::Translation& say) {
+void StatisticsForm::LocaliseSince(const language::Translation& say) {
   if (!since_shown_) {
     InfoGroupBox.SetCaption(say(text::InfoGroupBox));
     return;

@@ -4,20 +4,20 @@
 
 #include <string_view>
 
-#include "alerts/refresh_faults.h"
-#include "display/quantity/quantity.h"
 #include "engine/traffic_state.h"
-#include "settings/language.h"
+#include "language/language.h"
+#include "quantity/quantity.h"
 #include "settings/store.h"
 #include "stats/figures.h"
 #include "stats/figures_group.h"
 #include "toolkit/application.h"
-#include "toolkit/button.h"
-#include "toolkit/form.h"
-#include "toolkit/group_box.h"
-#include "toolkit/label.h"
-#include "toolkit/page_control.h"
-#include "toolkit/placement_saver.h"
+#include "toolkit/controls/button.h"
+#include "toolkit/controls/group_box.h"
+#include "toolkit/controls/label.h"
+#include "toolkit/controls/page_control.h"
+#include "toolkit/forms/form.h"
+#include "toolkit/forms/placement_saver.h"
+#include "toolkit/refresh_faults.h"
 #include "toolkit/timer.h"
 
 namespace stats {
@@ -26,8 +26,8 @@ namespace stats {
 struct StatisticsContext {
   toolkit::Application& app;
   settings::Store& store;
-  display::Quantity& quantity;
-  const settings::Language& language;
+  quantity::Quantity& quantity;
+  const language::Language& language;
   engine::TrafficState& traffic;
 };
 
@@ -40,7 +40,7 @@ class StatisticsForm : public toolkit::Form {
   struct Kind {
     std::string_view form_name;
     std::string_view placement_key;
-    settings::TextEntry address_caption;
+    language::TextEntry address_caption;
     std::string_view address;  // before the first refresh
   };
 
@@ -68,7 +68,7 @@ class StatisticsForm : public toolkit::Form {
 
   StatisticsContext context_;
   FiguresSource source_;
-  alerts::RefreshFaults faults_;
+  toolkit::RefreshFaults faults_;
 
   // In reading order, which is that of Tab.
   toolkit::PageControl PageControl1;
@@ -91,9 +91,9 @@ class StatisticsForm : public toolkit::Form {
 
  private:
   void CopyAddress();
-  void LocaliseSince(const settings::Translation& say);
+  void LocaliseSince(const language::Translation& say);
 
-  settings::TextEntry address_caption_;
+  language::TextEntry address_caption_;
   bool copied_by_click_ = false;  // and the release of the mouse has not come, if any comes
   // The start of the run that this window knows.
   platform::DateTime since_date_;

@@ -2,14 +2,14 @@
 
 #include <algorithm>
 
-#include "settings/texts.h"
-#include "toolkit/layout.h"
+#include "language/texts.h"
+#include "toolkit/controls/layout.h"
 
 namespace stats {
 namespace {
 
 namespace setting = settings::setting;
-namespace text = settings::text::BandwidthStatisticsForm;
+namespace text = language::text::BandwidthStatisticsForm;
 
 // Design pixels: the size on the screen, and what the controls need inside the frame.
 constexpr platform::Size kSize{265, 258};
@@ -64,7 +64,7 @@ void T_frmConnInfo::FormCreate() {
 
 void T_frmConnInfo::Localise() {
   StatisticsForm::Localise();
-  const settings::Translation say = context_.language.Chosen();
+  const language::Translation say = context_.language.Chosen();
   SetCaption(say(text::Title));
   BandwidthTab.SetCaption(say(text::BandwidthTab));
   Label1.SetCaption(say(text::Label1));

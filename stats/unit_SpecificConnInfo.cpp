@@ -1,13 +1,13 @@
 #include "stats/unit_SpecificConnInfo.h"
 
+#include "language/texts.h"
 #include "settings/adapter_values.h"
-#include "settings/texts.h"
 
 namespace stats {
 namespace {
 
 namespace setting = settings::setting;
-namespace text = settings::text::BandwidthStatisticsForm;
+namespace text = language::text::BandwidthStatisticsForm;
 
 // Design pixels.
 constexpr platform::Size kClientSize{261, 264};

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "toolkit/layout.h"
+#include "toolkit/controls/layout.h"
 
 namespace toolkit {
 namespace {

@@ -5,10 +5,10 @@
 #include <string>
 #include <string_view>
 
-#include "toolkit/button.h"
-#include "toolkit/form.h"
-#include "toolkit/label.h"
-#include "toolkit/sign.h"
+#include "toolkit/controls/button.h"
+#include "toolkit/controls/label.h"
+#include "toolkit/controls/sign.h"
+#include "toolkit/forms/form.h"
 
 namespace toolkit {
 

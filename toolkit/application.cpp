@@ -1,6 +1,6 @@
 #include "toolkit/application.h"
 
-#include "toolkit/form.h"
+#include "toolkit/forms/form.h"
 
 namespace toolkit {
 

@@ -11,8 +11,8 @@
 #include <vector>
 
 #include "platform/platform.h"
+#include "toolkit/forms/modal_stack.h"
 #include "toolkit/hint_window.h"
-#include "toolkit/modal_stack.h"
 
 namespace toolkit {
 

@@ -6,7 +6,7 @@
 #include <string>
 
 #include "toolkit/application.h"
-#include "toolkit/bevel.h"
+#include "toolkit/controls/bevel.h"
 
 namespace toolkit {
 namespace {

@@ -5,7 +5,7 @@
 #include <optional>
 
 #include "platform/colour.h"
-#include "toolkit/control.h"
+#include "toolkit/controls/control.h"
 
 namespace toolkit {
 

@@ -3,11 +3,11 @@
 #include <algorithm>
 
 #include "toolkit/application.h"
-#include "toolkit/button.h"
 #include "toolkit/colour_palette.h"
-#include "toolkit/form.h"
-#include "toolkit/layout.h"
-#include "toolkit/panel.h"
+#include "toolkit/controls/button.h"
+#include "toolkit/controls/layout.h"
+#include "toolkit/controls/panel.h"
+#include "toolkit/forms/form.h"
 
 namespace toolkit {
 namespace {

@@ -5,9 +5,9 @@
 #include <vector>
 
 #include "toolkit/application.h"
-#include "toolkit/control.h"
+#include "toolkit/controls/control.h"
 #include "toolkit/design_pixels.h"
-#include "toolkit/form.h"
+#include "toolkit/forms/form.h"
 
 namespace toolkit {
 namespace {

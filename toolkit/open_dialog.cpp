@@ -1,7 +1,7 @@
 #include "toolkit/open_dialog.h"
 
 #include "toolkit/application.h"
-#include "toolkit/form.h"
+#include "toolkit/forms/form.h"
 
 namespace toolkit {
 

@@ -8,8 +8,8 @@
 
 #include "bench/native/memory_meter.h"
 #include "bench/report.h"
-#include "display/graph_picture.h"
-#include "display/quantity/quantity.h"
+#include "display/graph/picture.h"
+#include "quantity/quantity.h"
 #include "settings/store.h"
 
 namespace bench {
@@ -28,7 +28,7 @@ BENCHMARK(Scan)->Arg(4)->Arg(16)->Arg(64);
 void FormatQuantity(benchmark::State& state) {
   platform::memory::Machine machine;
   settings::Store store(machine.registry, machine.files);
-  display::Quantity quantity(store, machine.locale);
+  quantity::Quantity quantity(store, machine.locale);
   std::int64_t bytes = 1;
   for (auto iteration : state) {
     benchmark::DoNotOptimize(quantity.FormatQuantity(bytes));

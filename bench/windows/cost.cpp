@@ -4,7 +4,7 @@
 
 #include "bench/windows/bare_scan.h"
 #include "bench/windows/timing.h"
-#include "display/tray_icon.h"
+#include "display/tray/tray_icon.h"
 #include "settings/store.h"
 
 namespace bench {

@@ -8,7 +8,7 @@
 #include "bench/windows/own_resources.h"
 #include "bench/windows/timing.h"
 #include "platform/windows/win32.h"
-#include "settings/preferences/unit_SettingsForm.h"
+#include "preferences/unit_SettingsForm.h"
 #include "tests/desktop/driver/windows_of.h"
 
 namespace bench {
@@ -66,7 +66,7 @@ double MillisecondsOfBareControls(Report& report) {
 }  // namespace
 
 void OpenPreferences(PlayedMeter& meter, Report& report) {
-  using settings::preferences::T_frmPreferences;
+  using preferences::T_frmPreferences;
   std::optional<T_frmPreferences> window;
   const auto open_ms = [&] {
     return MicrosecondsOf([&] {

@@ -10,8 +10,8 @@
 #include "alerts/reactions.h"
 #include "alerts/system_manager.h"
 #include "engine/traffic_state.h"
+#include "language/language.h"
 #include "platform/memory/machine.h"
-#include "settings/language.h"
 #include "settings/store.h"
 #include "toolkit/application.h"
 
@@ -30,7 +30,7 @@ class AlertsTest : public testing::Test, private alerts::Balloons {
   platform::memory::Machine machine;
   toolkit::Application app{machine.Platform()};
   settings::Store store{machine.registry, machine.files};
-  settings::Language language{store, machine.files, machine.locale};
+  language::Language language{store, machine.files, machine.locale};
   alerts::SystemManager manager{app};
   alerts::Reactions reactions{machine.sound, *this, manager.shutdown};
   std::vector<platform::memory::Balloon> balloons;

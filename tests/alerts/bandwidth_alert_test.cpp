@@ -27,7 +27,7 @@ class BandwidthAlert : public test::AlertsTest {
     return machine.windowing.Find(name);
   }
 
-  display::Quantity quantity{store, machine.locale};
+  quantity::Quantity quantity{store, machine.locale};
   toolkit::ImageList images;
   toolkit::PopupMenu menu{app, images};
   alerts::BandwidthAlert alert{app, store, quantity, language, reactions, menu};

@@ -3,8 +3,8 @@
 #include <stdexcept>
 #include <string>
 
-#include "platform/windows/common_controls.h"
 #include "platform/windows/wide.h"
+#include "platform/windows/widgets/common_controls.h"
 
 namespace contract {
 namespace {

@@ -4,9 +4,9 @@
 #include <stdexcept>
 #include <vector>
 
-#include "platform/windows/layered.h"
 #include "platform/windows/machine.h"
-#include "platform/windows/widget_window.h"
+#include "platform/windows/widgets/widget_window.h"
+#include "platform/windows/windows/layered.h"
 
 namespace contract {
 namespace {

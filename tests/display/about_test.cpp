@@ -6,7 +6,7 @@
 #include "display/program_image.h"
 #include "platform/memory/canvas.h"
 #include "tests/display/meter.h"
-#include "toolkit/layout.h"
+#include "toolkit/controls/layout.h"
 
 namespace {
 

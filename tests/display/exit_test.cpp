@@ -8,7 +8,7 @@
 #include "display/unit_AreYouSureForm.h"
 #include "settings/unit_SecurityForm.h"
 #include "tests/display/meter.h"
-#include "toolkit/layout.h"
+#include "toolkit/controls/layout.h"
 
 namespace {
 

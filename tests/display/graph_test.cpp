@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "display/graph_picture.h"
-#include "display/graph_scale.h"
+#include "display/graph/picture.h"
+#include "display/graph/scale.h"
 #include "tests/display/meter.h"
 
 namespace {

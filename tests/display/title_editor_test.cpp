@@ -4,9 +4,9 @@
 #include <string>
 #include <vector>
 
-#include "display/unit_AddTitlesForm.h"
+#include "display/titles/unit_AddTitlesForm.h"
 #include "tests/display/meter.h"
-#include "toolkit/layout.h"
+#include "toolkit/controls/layout.h"
 
 namespace {
 

@@ -1,7 +1,6 @@
-#include "display/title_posting.h"
-
 #include <gtest/gtest.h>
 
+#include "display/titles/posting.h"
 #include "tests/display/meter.h"
 
 namespace {

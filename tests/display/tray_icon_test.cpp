@@ -1,4 +1,4 @@
-#include "display/tray_icon.h"
+#include "display/tray/tray_icon.h"
 
 #include <gtest/gtest.h>
 

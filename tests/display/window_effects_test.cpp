@@ -3,7 +3,7 @@
 
 #include <numeric>
 
-#include "display/graph_shape.h"
+#include "display/graph/shape.h"
 #include "tests/display/meter.h"
 
 namespace {

@@ -8,7 +8,7 @@
 #include "settings/administrator_lock.h"
 #include "settings/unit_SecurityForm.h"
 #include "toolkit/application.h"
-#include "toolkit/layout.h"
+#include "toolkit/controls/layout.h"
 
 namespace settings {
 namespace {

@@ -3,7 +3,7 @@
 #include <memory>
 
 #include "tests/stats/stats_world.h"
-#include "toolkit/layout.h"
+#include "toolkit/controls/layout.h"
 
 namespace {
 

@@ -7,10 +7,10 @@
 #include <string_view>
 #include <vector>
 
-#include "display/quantity/quantity.h"
 #include "engine/traffic_state.h"
+#include "language/language.h"
 #include "platform/memory/machine.h"
-#include "settings/language.h"
+#include "quantity/quantity.h"
 #include "settings/store.h"
 #include "stats/unit_ConnInfo.h"
 #include "stats/unit_SpecificConnInfo.h"
@@ -71,8 +71,8 @@ class StatsTest : public testing::Test {
   platform::memory::Machine machine;
   toolkit::Application app{machine.Platform()};
   settings::Store store{machine.registry, machine.files};
-  settings::Language language{store, machine.files, machine.locale};
-  display::Quantity quantity{store, machine.locale};
+  language::Language language{store, machine.files, machine.locale};
+  quantity::Quantity quantity{store, machine.locale};
   engine::TrafficState traffic;
   stats::StatisticsContext context{app, store, quantity, language, traffic};
   std::vector<std::string> errors;

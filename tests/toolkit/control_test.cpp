@@ -1,15 +1,15 @@
-#include "toolkit/control.h"
+#include "toolkit/controls/control.h"
 
 #include <gtest/gtest.h>
 
 #include "platform/memory/machine.h"
 #include "toolkit/application.h"
+#include "toolkit/controls/label.h"
+#include "toolkit/controls/panel.h"
 #include "toolkit/design_pixels.h"
-#include "toolkit/form.h"
-#include "toolkit/label.h"
-#include "toolkit/panel.h"
-#include "toolkit/placement.h"
-#include "toolkit/popup_menu.h"
+#include "toolkit/forms/form.h"
+#include "toolkit/forms/placement.h"
+#include "toolkit/menus/popup_menu.h"
 
 namespace toolkit {
 namespace {

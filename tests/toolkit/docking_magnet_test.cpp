@@ -1,10 +1,10 @@
-#include "toolkit/docking_magnet.h"
+#include "toolkit/forms/docking_magnet.h"
 
 #include <gtest/gtest.h>
 
 #include "platform/memory/machine.h"
 #include "toolkit/application.h"
-#include "toolkit/form.h"
+#include "toolkit/forms/form.h"
 
 namespace toolkit {
 namespace {

@@ -7,7 +7,7 @@
 
 #include "platform/memory/machine.h"
 #include "toolkit/application.h"
-#include "toolkit/form.h"
+#include "toolkit/forms/form.h"
 
 namespace toolkit {
 

@@ -1,4 +1,4 @@
-#include "toolkit/modal_stack.h"
+#include "toolkit/forms/modal_stack.h"
 
 #include <gtest/gtest.h>
 
@@ -8,7 +8,7 @@
 
 #include "platform/memory/machine.h"
 #include "toolkit/application.h"
-#include "toolkit/form.h"
+#include "toolkit/forms/form.h"
 #include "toolkit/timer.h"
 
 namespace toolkit {

@@ -1,13 +1,13 @@
 // Pages with and without tabs, the order of Tab, the layout.
 #include "tests/toolkit/form_fixture.h"
-#include "toolkit/button.h"
-#include "toolkit/edit.h"
-#include "toolkit/group_box.h"
-#include "toolkit/label.h"
-#include "toolkit/layout.h"
-#include "toolkit/notebook.h"
-#include "toolkit/page_control.h"
-#include "toolkit/spin_edit.h"
+#include "toolkit/controls/button.h"
+#include "toolkit/controls/edit.h"
+#include "toolkit/controls/group_box.h"
+#include "toolkit/controls/label.h"
+#include "toolkit/controls/layout.h"
+#include "toolkit/controls/notebook.h"
+#include "toolkit/controls/page_control.h"
+#include "toolkit/controls/spin_edit.h"
 
 namespace toolkit {
 namespace {

@@ -1,4 +1,4 @@
-#include "toolkit/popup_menu.h"
+#include "toolkit/menus/popup_menu.h"
 
 #include <gtest/gtest.h>
 
@@ -6,7 +6,7 @@
 
 #include "platform/memory/machine.h"
 #include "toolkit/application.h"
-#include "toolkit/form.h"
+#include "toolkit/forms/form.h"
 
 namespace toolkit {
 namespace {

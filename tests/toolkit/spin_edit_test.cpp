@@ -1,11 +1,11 @@
-#include "toolkit/spin_edit.h"
+#include "toolkit/controls/spin_edit.h"
 
 #include <functional>
 #include <limits>
 #include <vector>
 
 #include "tests/toolkit/form_fixture.h"
-#include "toolkit/button.h"
+#include "toolkit/controls/button.h"
 
 namespace toolkit {
 namespace {

@@ -3,17 +3,17 @@
 #include <vector>
 
 #include "tests/toolkit/form_fixture.h"
-#include "toolkit/button.h"
-#include "toolkit/check_box.h"
-#include "toolkit/check_list_box.h"
-#include "toolkit/colour_panel.h"
-#include "toolkit/edit.h"
-#include "toolkit/list_box.h"
-#include "toolkit/page_control.h"
-#include "toolkit/radio_group.h"
-#include "toolkit/spin_edit.h"
-#include "toolkit/track_bar.h"
-#include "toolkit/tree_view.h"
+#include "toolkit/controls/button.h"
+#include "toolkit/controls/check_box.h"
+#include "toolkit/controls/check_list_box.h"
+#include "toolkit/controls/colour_panel.h"
+#include "toolkit/controls/edit.h"
+#include "toolkit/controls/list_box.h"
+#include "toolkit/controls/page_control.h"
+#include "toolkit/controls/radio_group.h"
+#include "toolkit/controls/spin_edit.h"
+#include "toolkit/controls/track_bar.h"
+#include "toolkit/controls/tree_view.h"
 
 namespace toolkit {
 namespace {

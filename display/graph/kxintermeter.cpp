@@ -1,0 +1,106 @@
+#include "display/graph/kxintermeter.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "toolkit/application.h"
+
+namespace display {
+namespace {
+
+constexpr int kScanPeriodMs = 1000;
+// Samples; wider than any screen with bars of one pixel.
+constexpr std::size_t kLongestHistory = 4096;
+// Design pixels; beyond it nothing changes any more.
+constexpr std::int64_t kWidestDrawn = 1000;
+const platform::FontSpec kScaleFont{"Small Fonts", 9, true};
+
+}  // namespace
+
+TKxInterMeter::TKxInterMeter(toolkit::Control& parent, std::string_view name)
+    : Control(parent.App(), &parent, name), timer_(parent.App(), kScanPeriodMs, [this] {
+        if (OnScan) OnScan();
+      }) {
+  Attach(App().Platform().windowing.CreateSurface(PeerOf(parent), name,
+                                                  platform::SurfaceKind::kArea, *this));
+  SetFont(kScaleFont);
+}
+
+void TKxInterMeter::Clear() {
+  history_.clear();
+  Changed();
+}
+
+void TKxInterMeter::SetTestWrite(std::int32_t bytes) {
+  // What the 32 bits of the inputs cannot hold arrives as less than nothing.
+  history_.push_back({std::max(0, test_read_), std::max(0, bytes)});
+  if (history_.size() > kLongestHistory) history_.pop_front();
+  test_read_ = 0;
+  Changed();
+}
+
+int TKxInterMeter::FramePixels() { return FrameWidth(Look()); }
+
+void TKxInterMeter::Rescale() {
+  Control::Rescale();
+  Changed();
+}
+
+void TKxInterMeter::Changed() {
+  picture_is_old_ = true;
+  Invalidate();
+}
+
+void TKxInterMeter::OnPaint(platform::Canvas& canvas) {
+  App().Guard([&] {
+    if (Picture() != nullptr) canvas.Draw(*picture_, {0, 0});
+  });
+}
+
+const platform::Bitmap* TKxInterMeter::Picture() {
+  const platform::Size size = ClientPixels();
+  if (size.width <= 0 || size.height <= 0) return nullptr;
+  if (picture_is_old_ || picture_ == nullptr || picture_->Extent() != size) Compose(size);
+  return picture_.get();
+}
+
+void TKxInterMeter::Compose(platform::Size size) {
+  if (picture_ == nullptr || picture_->Extent() != size) {
+    picture_ = App().Platform().graphics.CreateBitmap(size);
+    if (picture_ == nullptr) return;
+  }
+  picture_is_old_ = false;
+  const GraphLook look = Look();
+  const std::size_t fit = std::min(SamplesThatFit(look, size.width), history_.size());
+  const std::vector<GraphSample> samples(history_.end() - static_cast<std::ptrdiff_t>(fit),
+                                         history_.end());
+  platform::Canvas& canvas = picture_->GetCanvas();
+  PaintGraph(canvas, look, samples, {AutoScale, SpeedLimit, ZeroBased, ScaleUnits},
+             App().Platform().locale.DecimalSeparator());
+  if (OnDisplay) OnDisplay(canvas);
+}
+
+GraphLook TKxInterMeter::Look() {
+  const auto pixels = [this](std::int64_t design) {
+    return Scale(static_cast<int>(std::clamp(design, -kWidestDrawn, kWidestDrawn)));
+  };
+  GraphLook look;
+  look.in = {InColor, InLight, InShadow};
+  look.out = {OutColor, OutLight, OutShadow};
+  look.background = DisplayColor;
+  look.border = BorderColor;
+  look.bevel_inner = BevelInner;
+  look.bevel_outer = BevelOuter;
+  look.bevel_width = pixels(BevelWidth);
+  look.border_width = pixels(BorderWidth);
+  look.pulse_3d = Pulse3D;
+  look.pulse_width = pixels(PulseWidth);
+  look.pulse_space = pixels(PulseSpace);
+  look.scale_show = ScaleShow;
+  look.scale_on_right = ScalePosition == display::ScalePosition::kRight;
+  look.font = Scale(Font());
+  look.font_colour = FontColour();
+  return look;
+}
+
+}  // namespace display

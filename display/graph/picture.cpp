@@ -1,0 +1,143 @@
+#include "display/graph/picture.h"
+
+#include <algorithm>
+#include <string>
+
+namespace display {
+namespace {
+
+constexpr int kScaleGap = 3;  // pixels between scale text and bars
+
+// What a user or a damaged store may have put in is drawn as the nearest width that can be drawn.
+int PulseWidth(const GraphLook& look) { return std::max(1, look.pulse_width); }
+int SlotWidth(const GraphLook& look) { return PulseWidth(look) + std::max(0, look.pulse_space); }
+
+platform::Rect PaintFrame(platform::Canvas& canvas, const GraphLook& look) {
+  const platform::Size size = canvas.Extent();
+  const platform::Rect all{0, 0, size.width, size.height};
+  canvas.Fill(all, look.background);
+  const platform::Rect border =
+      toolkit::DrawBevel(canvas, all, look.bevel_outer, look.bevel_width, look.background);
+  const platform::Rect inner = border.Shrunk(std::max(0, look.border_width));
+  if (look.border_width > 0) {
+    canvas.Fill(border, look.border);
+    canvas.Fill(inner, look.background);
+  }
+  return toolkit::DrawBevel(canvas, inner, look.bevel_inner, look.bevel_width, look.background);
+}
+
+// The column of the scale is as wide as its widest text, so that the bars do not jump sideways when
+// the scale changes.
+struct ScaleColumn {
+  platform::Rect column;  // empty: no scale
+  platform::Rect bars;
+};
+
+ScaleColumn DivideArea(platform::Canvas& canvas, const GraphLook& look, const platform::Rect& area,
+                       std::string_view decimal_separator) {
+  const std::string widest = "88" + std::string(decimal_separator) + "8 MB";
+  const platform::Size text = canvas.TextSize(widest, look.font);
+  const int width = text.width + 2 * kScaleGap;
+  // A meter too small for scale and bars shows the bars.
+  if (!look.scale_show || width * 2 > area.width || text.height > area.height) return {{}, area};
+  ScaleColumn divided{area, area};
+  divided.column.width = width;
+  divided.bars.width -= width;
+  if (look.scale_on_right) {
+    divided.column.left = divided.bars.Right();
+  } else {
+    divided.bars.left += width;
+  }
+  return divided;
+}
+
+void PaintScale(platform::Canvas& canvas, const GraphLook& look, const platform::Rect& column,
+                const GraphScale& scale, ScaleUnits units, std::string_view decimal_separator) {
+  const int height = canvas.TextSize("8", look.font).height;
+  const auto write = [&](int top, std::int64_t amount) {
+    canvas.Text({column.left + kScaleGap, top, column.width - 2 * kScaleGap, height},
+                ScaleText(amount, units, decimal_separator), look.font, look.font_colour,
+                platform::TextAlign::kRight);
+  };
+  write(column.top, scale.high);
+  if (column.height >= 2 * height) write(column.Bottom() - height, scale.low);
+  if (column.height >= 4 * height) {
+    write(column.top + (column.height - height) / 2, scale.low + (scale.high - scale.low) / 2);
+  }
+}
+
+// Light at the left and on top, shadow at the right. One of two columns would lose half of its own
+// colour at each side, and has its shadow at the foot.
+void PaintBar(platform::Canvas& canvas, const platform::Rect& bar, const BarColours& colours,
+              bool edges) {
+  canvas.Fill(bar, colours.face);
+  if (!edges || bar.width < 2) return;
+  canvas.Fill({bar.left, bar.top, bar.width, 1}, colours.light);
+  if (bar.width > 2) {
+    canvas.Fill({bar.left, bar.top, 1, bar.height}, colours.light);
+    canvas.Fill({bar.Right() - 1, bar.top, 1, bar.height}, colours.shadow);
+  } else if (bar.height > 2) {
+    canvas.Fill({bar.left, bar.Bottom() - 1, bar.width, 1}, colours.shadow);
+  }
+}
+
+// The smaller amount stands in front of the larger one and leaves its left column and its top
+// visible, so that both are seen whatever their sizes. Beside the smaller one that column has no
+// light: it is all that is left of the larger one's own colour when both are the same.
+void PaintPulse(platform::Canvas& canvas, const GraphLook& look, const platform::Rect& slot,
+                int in_height, int out_height) {
+  const bool in_behind = in_height >= out_height;
+  const BarColours& behind = in_behind ? look.in : look.out;
+  const int back = std::max(in_height, out_height);
+  int front = std::min(in_height, out_height);
+  const auto bar = [&slot](int inset, int height) {
+    return platform::Rect{slot.left + inset, slot.Bottom() - height, slot.width - inset, height};
+  };
+  if (back > 0) PaintBar(canvas, bar(0, back), behind, look.pulse_3d);
+  if (front == back && front > 1) --front;
+  if (front <= 0) return;
+  const int inset = slot.width > 1 ? 1 : 0;
+  canvas.Fill({slot.left, slot.Bottom() - front, inset, front}, behind.face);
+  PaintBar(canvas, bar(inset, front), in_behind ? look.out : look.in, look.pulse_3d);
+}
+
+void PaintBars(platform::Canvas& canvas, const GraphLook& look, const platform::Rect& area,
+               std::span<const GraphSample> samples, const GraphScale& scale) {
+  const int width = PulseWidth(look);
+  int right = area.Right();
+  for (auto sample = samples.rbegin(); sample != samples.rend() && right > area.left; ++sample) {
+    const int left = std::max(right - width, area.left);
+    PaintPulse(canvas, look, {left, area.top, right - left, area.height},
+               scale.HeightOf(sample->in, area.height), scale.HeightOf(sample->out, area.height));
+    right -= SlotWidth(look);
+  }
+}
+
+}  // namespace
+
+int FrameWidth(const GraphLook& look) {
+  const int bevels = (look.bevel_inner != toolkit::BevelCut::kNone ? 1 : 0) +
+                     (look.bevel_outer != toolkit::BevelCut::kNone ? 1 : 0);
+  return bevels * std::max(0, look.bevel_width) + std::max(0, look.border_width);
+}
+
+std::size_t SamplesThatFit(const GraphLook& look, int width) {
+  return static_cast<std::size_t>((std::max(0, width) + SlotWidth(look) - 1) / SlotWidth(look));
+}
+
+void PaintGraph(platform::Canvas& canvas, const GraphLook& look,
+                std::span<const GraphSample> samples, const ScaleRule& choice,
+                std::string_view decimal_separator) {
+  const platform::Rect area = PaintFrame(canvas, look);
+  if (area.Empty()) return;
+  const ScaleColumn divided = DivideArea(canvas, look, area, decimal_separator);
+  const std::size_t fit = SamplesThatFit(look, divided.bars.width);
+  const std::span<const GraphSample> in_sight = samples.last(std::min(fit, samples.size()));
+  const GraphScale scale = ScaleFor(in_sight, choice);
+  if (!divided.column.Empty()) {
+    PaintScale(canvas, look, divided.column, scale, choice.units, decimal_separator);
+  }
+  PaintBars(canvas, look, divided.bars, in_sight, scale);
+}
+
+}  // namespace display

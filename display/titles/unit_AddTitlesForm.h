@@ -1,0 +1,51 @@
+// The editor of the window titles into which the numeric line is posted.
+#pragma once
+
+#include <string_view>
+
+#include "display/titles/posting.h"
+#include "language/language.h"
+#include "toolkit/controls/button.h"
+#include "toolkit/controls/edit.h"
+#include "toolkit/controls/label.h"
+#include "toolkit/controls/list_box.h"
+#include "toolkit/forms/form.h"
+#include "toolkit/forms/placement_saver.h"
+
+namespace display {
+
+inline constexpr std::string_view kAddTitlesForm = "T_frmAddTitles";
+
+// What is edited is kept whichever way it closes: stored in the list's file, as far as that can be
+// written, and taken over by the posting.
+class T_frmAddTitles final : public toolkit::Form {
+ public:
+  // Made hidden, with the lines of the file; shown by the modal stack. All outlive it.
+  T_frmAddTitles(toolkit::Application& app, TitlePosting& posting,
+                 const language::Language& language);
+  ~T_frmAddTitles() override;
+
+  void Localise() override;
+
+ private:
+  void FormCreate();
+  void btnAddClick();
+  void btnRemoveClick();
+  void OkBtnClick();
+  void FormDestroy();
+  void FormEndSession() override;
+  void Save();
+
+  TitlePosting& posting_;
+  const language::Language& language_;
+
+  toolkit::ListBox WindowTitlesListbox;
+  toolkit::Button btnRemove;
+  toolkit::Label AddNewLabel;
+  toolkit::Edit AddNew;
+  toolkit::Button btnAdd;
+  toolkit::Button OkBtn;
+  toolkit::PlacementSaver placement_saver_;
+};
+
+}  // namespace display

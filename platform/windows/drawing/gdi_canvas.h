@@ -1,0 +1,37 @@
+// Drawing with GDI.
+#pragma once
+
+#include "platform/canvas.h"
+#include "platform/windows/drawing/font_cache.h"
+#include "platform/windows/drawing/gdi.h"
+
+namespace platform::windows {
+
+// The flag of DrawText for an alignment.
+[[nodiscard]] UINT GdiAlign(TextAlign align);
+
+// Draws on a device context, which is lent; so are the fonts.
+class GdiCanvas final : public Canvas {
+ public:
+  GdiCanvas(HDC dc, Size extent, FontCache& fonts) : dc_(dc), extent_(extent), fonts_(fonts) {}
+
+  [[nodiscard]] Size Extent() const override { return extent_; }
+  void Fill(const Rect& area, Colour colour) override;
+  void Line(Point from, Point to, Colour colour, PenStyle style) override;
+  void Text(const Rect& box, std::string_view text, const FontSpec& font, Colour colour,
+            TextAlign align) override;
+  [[nodiscard]] Size TextSize(std::string_view text, const FontSpec& font) override;
+  // As Text, but placed and marked as DrawText's `format` says.
+  void FormattedText(const Rect& box, std::string_view text, const FontSpec& font, Colour colour,
+                     UINT format);
+  [[nodiscard]] HDC dc() const { return dc_; }
+  // The bitmap must come from this folder's Graphics.
+  void Draw(const Bitmap& bitmap, Point at) override;
+
+ private:
+  HDC dc_;
+  Size extent_;
+  FontCache& fonts_;
+};
+
+}  // namespace platform::windows

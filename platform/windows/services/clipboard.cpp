@@ -1,0 +1,70 @@
+#include "platform/windows/services/clipboard.h"
+
+#include <cstring>
+
+#include "platform/windows/handle.h"
+#include "platform/windows/wide.h"
+#include "platform/windows/win32.h"
+
+namespace platform::windows {
+namespace {
+
+struct WindowKind {
+  using Raw = HWND;
+  static constexpr Raw None() { return nullptr; }
+  static void Close(Raw window) { ::DestroyWindow(window); }
+};
+
+struct MemoryKind {
+  using Raw = HGLOBAL;
+  static constexpr Raw None() { return nullptr; }
+  static void Close(Raw memory) { ::GlobalFree(memory); }
+};
+using Memory = Handle<MemoryKind>;
+
+// The clipboard, open for as long as this lives; tests false when another program keeps it open.
+class OpenedClipboard {
+ public:
+  explicit OpenedClipboard(HWND owner) : opened_(::OpenClipboard(owner) != FALSE) {}
+  ~OpenedClipboard() {
+    if (opened_) ::CloseClipboard();
+  }
+  OpenedClipboard(const OpenedClipboard&) = delete;
+  OpenedClipboard& operator=(const OpenedClipboard&) = delete;
+  explicit operator bool() const { return opened_; }
+
+ private:
+  bool opened_;
+};
+
+// The text with a terminating NUL, in the kind of memory that the clipboard takes.
+Memory ToMemory(std::string_view text) {
+  const std::wstring wide = ToWide(text);
+  const std::size_t size = (wide.size() + 1) * sizeof(wchar_t);
+  Memory memory(::GlobalAlloc(GMEM_MOVEABLE, size));
+  if (!memory) return {};
+  void* target = ::GlobalLock(memory.get());
+  if (target == nullptr) return {};
+  std::memcpy(target, wide.c_str(), size);
+  ::GlobalUnlock(memory.get());
+  return memory;
+}
+
+}  // namespace
+
+bool Clipboard::SetText(std::string_view text) {
+  // Emptying makes the opener the owner, and without one the system takes no data. A window without
+  // a place on the screen serves; the text stays when it is gone.
+  const Handle<WindowKind> owner(::CreateWindowExW(0, L"STATIC", L"", 0, 0, 0, 0, 0, HWND_MESSAGE,
+                                                   nullptr, ::GetModuleHandleW(nullptr), nullptr));
+  if (!owner) return false;
+  Memory memory = ToMemory(text);
+  if (!memory) return false;
+  const OpenedClipboard clipboard(owner.get());
+  if (!clipboard || ::EmptyClipboard() == FALSE) return false;
+  if (::SetClipboardData(CF_UNICODETEXT, memory.get()) == nullptr) return false;
+  (void)memory.release();  // the clipboard's from now on
+  return true;
+}
+
+}  // namespace platform::windows

@@ -1,0 +1,139 @@
+#include "platform/windows/services/files.h"
+
+#include <algorithm>
+
+#include "platform/file_mask.h"
+#include "platform/windows/kernel_handle.h"
+#include "platform/windows/wide.h"
+
+namespace platform::windows {
+namespace {
+
+struct FindKind {
+  using Raw = HANDLE;
+  static Raw None() { return INVALID_HANDLE_VALUE; }
+  static void Close(Raw handle) { ::FindClose(handle); }
+};
+using FindHandle = Handle<FindKind>;
+
+constexpr std::size_t kLongestPath = 32767;  // of the system, in UTF-16 units
+constexpr DWORD kLargestPiece = 1U << 20;    // what one read or write call is asked for
+
+// All bytes of an open file, which has `size` of them.
+std::optional<std::string> ReadAll(HANDLE file, std::size_t size) {
+  std::string bytes(size, '\0');
+  std::size_t done = 0;
+  while (done < size) {
+    const auto piece = static_cast<DWORD>(std::min<std::size_t>(size - done, kLargestPiece));
+    DWORD read = 0;
+    if (::ReadFile(file, bytes.data() + done, piece, &read, nullptr) == FALSE) return std::nullopt;
+    if (read == 0) break;  // it became shorter meanwhile
+    done += read;
+  }
+  bytes.resize(done);
+  return bytes;
+}
+
+bool WriteAll(HANDLE file, std::string_view bytes) {
+  while (!bytes.empty()) {
+    const auto piece = static_cast<DWORD>(std::min<std::size_t>(bytes.size(), kLargestPiece));
+    DWORD written = 0;
+    if (::WriteFile(file, bytes.data(), piece, &written, nullptr) == FALSE || written == 0) {
+      return false;
+    }
+    bytes.remove_prefix(written);
+  }
+  return ::FlushFileBuffers(file) != FALSE;
+}
+
+// A file with these bytes; none is left behind when that fails.
+bool WriteNew(const std::wstring& path, std::string_view bytes) {
+  FileHandle file(::CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS,
+                                FILE_ATTRIBUTE_NORMAL, nullptr));
+  if (!file) return false;
+  if (WriteAll(file.get(), bytes)) return true;
+  file = FileHandle();
+  ::DeleteFileW(path.c_str());
+  return false;
+}
+
+// The path with its last name spelled as the file has it that is there, if one is.
+std::wstring AsSpelled(const std::wstring& path) {
+  WIN32_FIND_DATAW entry{};
+  const FindHandle find(::FindFirstFileW(path.c_str(), &entry));
+  return find ? path.substr(0, path.find_last_of(L"\\/:") + 1) + entry.cFileName : path;
+}
+
+bool IsFolder(const std::wstring& path) {
+  const DWORD attributes = ::GetFileAttributesW(path.c_str());
+  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+}
+
+}  // namespace
+
+std::string Files::ProgramPath() {
+  std::wstring path(MAX_PATH, L'\0');
+  for (;;) {
+    const DWORD length =
+        ::GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size()));
+    // A path that fills the buffer was cut.
+    if (length < path.size() || path.size() >= kLongestPath) {
+      path.resize(length);
+      return FromWide(path);
+    }
+    path.resize(std::min(path.size() * 2, kLongestPath));
+  }
+}
+
+std::string Files::ProgramFolder() {
+  const std::string path = ProgramPath();
+  return path.substr(0, path.rfind('\\') + 1);
+}
+
+bool Files::Exists(std::string_view path) {
+  const DWORD attributes = ::GetFileAttributesW(ToWide(path).c_str());
+  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
+}
+
+std::optional<std::string> Files::Load(std::string_view path, std::size_t limit) {
+  const FileHandle file(::CreateFileW(ToWide(path).c_str(), GENERIC_READ,
+                                      FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                                      nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+  if (!file) return std::nullopt;
+  LARGE_INTEGER size{};
+  if (::GetFileSizeEx(file.get(), &size) == FALSE || size.QuadPart < 0 ||
+      static_cast<ULONGLONG>(size.QuadPart) > limit) {
+    return std::nullopt;
+  }
+  return ReadAll(file.get(), static_cast<std::size_t>(size.QuadPart));
+}
+
+// Written beside the file first: on a full disk what was there stays.
+bool Files::Save(std::string_view path, std::string_view bytes) {
+  const std::wstring target = ToWide(path);
+  const std::wstring draft = target + L".new";
+  if (target.empty() || IsFolder(target) || !WriteNew(draft, bytes)) return false;
+  const std::wstring name = AsSpelled(target);
+  if (::MoveFileExW(draft.c_str(), name.c_str(), MOVEFILE_REPLACE_EXISTING) != FALSE) return true;
+  ::DeleteFileW(draft.c_str());
+  return false;
+}
+
+std::vector<std::string> Files::List(std::string_view folder, std::string_view mask) {
+  std::wstring all = ToWide(folder);
+  if (!all.empty() && all.back() != L'\\') all += L'\\';
+  all += L'*';
+  std::vector<std::string> names;
+  WIN32_FIND_DATAW entry{};
+  const FindHandle find(::FindFirstFileW(all.c_str(), &entry));
+  if (!find) return names;
+  do {
+    if ((entry.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0) continue;
+    std::string name = FromWide(entry.cFileName);
+    if (MatchesMask(name, mask)) names.push_back(std::move(name));
+  } while (::FindNextFileW(find.get(), &entry) != FALSE);
+  std::sort(names.begin(), names.end());
+  return names;
+}
+
+}  // namespace platform::windows

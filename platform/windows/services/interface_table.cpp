@@ -1,0 +1,38 @@
+#include "platform/windows/services/interface_table.h"
+
+#include <cstddef>
+
+#include "platform/windows/library.h"
+
+namespace platform::windows {
+
+static_assert(sizeof(InterfaceRow) == sizeof(MIB_IFROW));
+static_assert(offsetof(InterfaceRow, dwIndex) == offsetof(MIB_IFROW, dwIndex));
+static_assert(offsetof(InterfaceRow, dwInOctets) == offsetof(MIB_IFROW, dwInOctets));
+static_assert(offsetof(InterfaceRow, dwOutOctets) == offsetof(MIB_IFROW, dwOutOctets));
+static_assert(offsetof(InterfaceRow, bDescr) == offsetof(MIB_IFROW, bDescr));
+static_assert(kInterfaceTableHead == offsetof(MIB_IFTABLE, table));
+static_assert(kInsufficientBuffer == ERROR_INSUFFICIENT_BUFFER);
+
+// This program links to the library, so it is loaded already.
+InterfaceTable::InterfaceTable()
+    : get_entry_(Function<GetEntry>(::GetModuleHandleW(L"iphlpapi.dll"), "GetIfEntry2")) {}
+
+std::uint32_t InterfaceTable::Read(std::span<std::byte> buffer, std::uint32_t& size) {
+  auto needed = static_cast<ULONG>(buffer.size());
+  auto* table = buffer.empty() ? nullptr : reinterpret_cast<MIB_IFTABLE*>(buffer.data());
+  const DWORD result = ::GetIfTable(table, &needed, FALSE);
+  if (result == NO_ERROR || result == ERROR_INSUFFICIENT_BUFFER) size = needed;
+  return result;
+}
+
+std::optional<bool> InterfaceTable::IsFilter(std::uint32_t index) {
+  // A system that lacks the call has no such filters either.
+  if (get_entry_ == nullptr) return false;
+  MIB_IF_ROW2 row{};
+  row.InterfaceIndex = index;
+  if (get_entry_(&row) != NO_ERROR) return std::nullopt;
+  return row.InterfaceAndOperStatusFlags.FilterInterface != 0;
+}
+
+}  // namespace platform::windows

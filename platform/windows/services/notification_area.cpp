@@ -1,0 +1,11 @@
+#include "platform/windows/services/notification_area.h"
+
+#include "platform/windows/services/tray_icon.h"
+
+namespace platform::windows {
+
+std::unique_ptr<TrayIcon> NotificationArea::CreateIcon(TrayIconEvents& events) {
+  return std::make_unique<ShellTrayIcon>(class_, events);
+}
+
+}  // namespace platform::windows

@@ -1,0 +1,54 @@
+#include "platform/windows/services/screen.h"
+
+#include "platform/windows/drawing/gdi.h"
+
+namespace platform::windows {
+namespace {
+
+BOOL CALLBACK Collect(HMONITOR monitor, HDC, LPRECT, LPARAM list) noexcept {
+  try {
+    reinterpret_cast<std::vector<HMONITOR>*>(list)->push_back(monitor);
+  } catch (...) {
+    return FALSE;  // out of memory: those so far must do
+  }
+  return TRUE;
+}
+
+}  // namespace
+
+std::vector<Monitor> Screen::Monitors() {
+  const HMONITOR primary = ::MonitorFromPoint({0, 0}, MONITOR_DEFAULTTOPRIMARY);
+  std::vector<HMONITOR> handles;
+  ::EnumDisplayMonitors(nullptr, nullptr, &Collect, reinterpret_cast<LPARAM>(&handles));
+  std::vector<Monitor> monitors{Describe(primary)};
+  for (const HMONITOR handle : handles) {
+    if (handle != primary) monitors.push_back(Describe(handle));
+  }
+  return monitors;
+}
+
+Monitor Screen::MonitorOf(const Rect& area) {
+  const RECT rect = ToRect(area);
+  return Describe(::MonitorFromRect(&rect, MONITOR_DEFAULTTONEAREST));
+}
+
+Colour Screen::Resolve(Colour colour) { return ToColorref(colour); }
+
+Point Screen::Pointer() {
+  POINT at{};
+  ::GetCursorPos(&at);
+  return {static_cast<int>(at.x), static_cast<int>(at.y)};
+}
+
+Monitor Screen::Describe(HMONITOR monitor) const {
+  MONITORINFO info{};
+  info.cbSize = sizeof(info);
+  if (!::GetMonitorInfoW(monitor, &info)) {
+    // The monitor went away between the two calls.
+    info.rcMonitor = {0, 0, ::GetSystemMetrics(SM_CXSCREEN), ::GetSystemMetrics(SM_CYSCREEN)};
+    info.rcWork = info.rcMonitor;
+  }
+  return {FromRect(info.rcMonitor), FromRect(info.rcWork), dpi_.Of(monitor)};
+}
+
+}  // namespace platform::windows

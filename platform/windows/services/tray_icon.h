@@ -1,0 +1,54 @@
+// One icon of the notification area and the hidden window that hears of it.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "platform/notification_area.h"
+#include "platform/windows/drawing/icon_maker.h"
+#include "platform/windows/windows/native_window.h"
+// After the system's header, which it needs.
+#include <shellapi.h>
+
+namespace platform::windows {
+
+// A top window, though never shown: the shell tells only those that it started anew.
+class ShellTrayIcon final : public TrayIcon, public NativeWindow {
+ public:
+  // `events` outlives it.
+  ShellTrayIcon(const WindowClass& window_class, TrayIconEvents& events);
+  ~ShellTrayIcon() override;
+
+  void SetPicture(const Bitmap& picture) override;
+  void SetPicture(const Bitmap& picture, Colour see_through) override;
+  void SetHint(std::string_view hint) override;
+  void ShowBalloon(std::string_view title, std::string_view text, BalloonIcon icon,
+                   int seconds) override;
+  [[nodiscard]] int PictureSize() const override;
+
+ protected:
+  std::optional<LRESULT> Handle(const Message& message) override;
+
+ private:
+  void Show(Icon icon);
+  // Adds the icon; a shell that is too busy is asked again a little later.
+  void Add();
+  // The first picture is handed over only when the program's windows are painted: the shell may
+  // take its time, and the user waits for the windows.
+  void AddLater(UINT milliseconds);
+  void Modify(UINT parts);
+  [[nodiscard]] NOTIFYICONDATAW Data(UINT parts) const;
+  void Report(const Message& message);
+  void ReportKeySelect();
+
+  TrayIconEvents& events_;
+  const UINT taskbar_created_;
+  IconMaker icons_;
+  Icon icon_;
+  std::wstring hint_;
+  bool added_ = false;
+  bool waiting_ = false;      // the timer is going to add it
+  LONG last_key_select_ = 0;  // message time, ms
+};
+
+}  // namespace platform::windows

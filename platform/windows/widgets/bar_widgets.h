@@ -1,0 +1,33 @@
+// Sliders and progress bars.
+#pragma once
+
+#include "platform/controls.h"
+#include "platform/windows/widgets/native_control.h"
+
+namespace platform::windows {
+
+class TrackBarWidget final : public WidgetOf<TrackBar, NativeControl> {
+ public:
+  TrackBarWidget(HWND parent, std::string_view name, Drawing& drawing, WidgetEvents& events);
+
+  void SetRange(int lowest, int highest, int page) override;
+  void SetPosition(int position) override;
+  [[nodiscard]] int Position() const override;
+
+  [[nodiscard]] KeyRole Role() const override { return KeyRole::kStop; }
+
+  std::optional<LRESULT> HandleNotification(const Message& message) override;
+
+ private:
+  int reported_ = 0;
+};
+
+class ProgressBarWidget final : public WidgetOf<ProgressBar, NativeControl> {
+ public:
+  ProgressBarWidget(HWND parent, std::string_view name, Drawing& drawing, WidgetEvents& events);
+
+  void SetRange(int lowest, int highest) override;
+  void SetPosition(int position) override;
+};
+
+}  // namespace platform::windows

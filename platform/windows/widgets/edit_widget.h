@@ -1,0 +1,47 @@
+// Edits.
+#pragma once
+
+#include "platform/controls.h"
+#include "platform/windows/widgets/native_control.h"
+
+namespace platform::windows {
+
+class EditWidget final : public WidgetOf<Edit, NativeControl> {
+ public:
+  EditWidget(HWND parent, std::string_view name, const EditStyle& style, Drawing& drawing,
+             WidgetEvents& events);
+
+  void SetText(std::string_view text) override;
+  [[nodiscard]] std::string Text() const override;
+  void SetMaxLength(int characters) override;
+  void SetReadOnly(bool read_only) override;
+  void SelectAll() override;
+
+  [[nodiscard]] KeyRole Role() const override { return KeyRole::kStop; }
+  [[nodiscard]] KeyTaker TakerOf(WPARAM key) override;
+  void Reached() override;
+
+  std::optional<LRESULT> HandleNotification(const Message& message) override;
+
+ protected:
+  std::optional<LRESULT> Handle(const Message& message) override;
+  // The system's look of an edit that cannot be changed, unless it was given a colour of its own.
+  [[nodiscard]] Colour Background() const override;
+
+ private:
+  [[nodiscard]] std::wstring WideText() const;
+  void Changed();
+  // What the user may enter of `text`, which has come to be in it.
+  [[nodiscard]] std::wstring CutToLimit(const std::wstring& text);
+  // Whether a control message is kept from the edit.
+  [[nodiscard]] bool Keeps(const Message& message);
+  void Turned(const Message& wheel);
+
+  const EditKind kind_;
+  int max_length_ = 0;  // characters; 0 for none
+  std::wstring known_;  // the text as it was last set or reported
+  bool read_only_ = false;
+  int wheel_rest_ = 0;  // less than a notch, of wheels that turn in smaller steps
+};
+
+}  // namespace platform::windows

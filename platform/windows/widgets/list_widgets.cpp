@@ -1,0 +1,262 @@
+#include "platform/windows/widgets/list_widgets.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "platform/windows/wide.h"
+#include "platform/windows/widgets/common_controls.h"
+
+namespace platform::windows {
+namespace {
+
+// While it lives, the window is not repainted; then in one go.
+class Frozen {
+ public:
+  explicit Frozen(HWND hwnd) : hwnd_(hwnd) { ::SendMessageW(hwnd, WM_SETREDRAW, FALSE, 0); }
+  ~Frozen() {
+    ::SendMessageW(hwnd_, WM_SETREDRAW, TRUE, 0);
+    ::InvalidateRect(hwnd_, nullptr, TRUE);
+  }
+  Frozen(const Frozen&) = delete;
+  Frozen& operator=(const Frozen&) = delete;
+
+ private:
+  HWND hwnd_;
+};
+
+LPARAM Pointer(const std::wstring& text) { return reinterpret_cast<LPARAM>(text.c_str()); }
+
+constexpr int kRowsDropped = 12;
+
+// Whether a font shows pictures in the place of letters.
+bool IsSymbolFont(HDC dc, const SharedFont& font) {
+  if (!font) return false;
+  const Selection selected(dc, font->get());
+  TEXTMETRICW metrics{};
+  return ::GetTextMetricsW(dc, &metrics) != FALSE && metrics.tmCharSet == SYMBOL_CHARSET;
+}
+
+}  // namespace
+
+ListBoxWidget::ListBoxWidget(HWND parent, std::string_view name, Drawing& drawing,
+                             WidgetEvents& events)
+    : WidgetOf(drawing, events) {
+  CreateControl(L"LISTBOX",
+                {kStopChild | WS_VSCROLL | LBS_NOTIFY | LBS_HASSTRINGS | LBS_NOINTEGRALHEIGHT,
+                 WS_EX_CLIENTEDGE},
+                parent);
+  PublishName(name);
+  StartReporting();
+}
+
+void ListBoxWidget::SetItems(std::span<const std::string> items) {
+  const Frozen frozen(hwnd());
+  Send(LB_RESETCONTENT);
+  for (const std::string& item : items) Send(LB_ADDSTRING, 0, Pointer(ToWide(item)));
+}
+
+int ListBoxWidget::Count() const { return static_cast<int>(Send(LB_GETCOUNT)); }
+
+void ListBoxWidget::SetIndex(int index) {
+  if (index != Index()) Send(LB_SETCURSEL, static_cast<WPARAM>(index));
+}
+
+int ListBoxWidget::Index() const { return static_cast<int>(Send(LB_GETCURSEL)); }
+
+std::optional<LRESULT> ListBoxWidget::HandleNotification(const Message& message) {
+  if (message.id != WM_COMMAND) return WidgetOf::HandleNotification(message);
+  if (HIWORD(message.w) == LBN_SELCHANGE) events().OnChanged();
+  return 0;
+}
+
+ComboWidget::ComboWidget(HWND parent, std::string_view name, ListKind kind, Drawing& drawing,
+                         WidgetEvents& events)
+    : WidgetOf(drawing, events), kind_(kind) {
+  DWORD style = kStopChild | WS_VSCROLL | CBS_DROPDOWNLIST | CBS_HASSTRINGS;
+  if (kind == ListKind::kFontCombo) style |= CBS_OWNERDRAWFIXED;
+  CreateControl(L"COMBOBOX", {style, 0}, parent);
+  Send(CB_SETMINVISIBLE, kRowsDropped);
+  PublishName(name);
+  StartReporting();
+}
+
+void ComboWidget::SetBounds(const Rect& bounds) {
+  bounds_ = bounds;
+  FitHeight();
+}
+
+void ComboWidget::SetFont(const FontSpec& font) {
+  WidgetOf::SetFont(font);
+  FitHeight();
+}
+
+void ComboWidget::FitHeight() {
+  constexpr auto kClosedRow = static_cast<WPARAM>(-1);
+  // Pixels that a closed list has above and below its row, at every resolution.
+  constexpr int kFrame = 6;
+  if (bounds_ == Rect{}) return;
+  const auto row = static_cast<int>(Send(CB_GETITEMHEIGHT, 0));
+  Rect open = bounds_;
+  open.height += kRowsDropped * row + 2;
+  int closed_row = std::max(bounds_.height - kFrame, 1);
+  // Where a theme has another frame, that is learned from the outcome. Each attempt makes the
+  // system arrange the list anew, so the first one should do.
+  for (int attempt = 0; attempt < 4 && closed_row > 0; ++attempt) {
+    Send(CB_SETITEMHEIGHT, kClosedRow, closed_row);
+    WidgetOf::SetBounds(open);
+    const int too_low = bounds_.height - Bounds().height;
+    if (too_low == 0) break;
+    closed_row += too_low;
+  }
+  if (kind_ == ListKind::kFontCombo) {
+    Send(CB_SETITEMHEIGHT, 0, Send(CB_GETITEMHEIGHT, kClosedRow));
+  }
+}
+
+void ComboWidget::SetItems(std::span<const std::string> items) {
+  const Frozen frozen(hwnd());
+  Send(CB_RESETCONTENT);
+  for (const std::string& item : items) Send(CB_ADDSTRING, 0, Pointer(ToWide(item)));
+}
+
+int ComboWidget::Count() const { return static_cast<int>(Send(CB_GETCOUNT)); }
+
+void ComboWidget::SetIndex(int index) {
+  if (index != Index()) Send(CB_SETCURSEL, static_cast<WPARAM>(index));
+}
+
+int ComboWidget::Index() const { return static_cast<int>(Send(CB_GETCURSEL)); }
+
+KeyTaker ComboWidget::TakerOf(WPARAM /*key*/) {
+  return Send(CB_GETDROPPEDSTATE) != 0 ? KeyTaker::kWindow : KeyTaker::kDialog;
+}
+
+std::optional<LRESULT> ComboWidget::HandleNotification(const Message& message) {
+  if (message.id == WM_DRAWITEM) {
+    DrawRow(*reinterpret_cast<const DRAWITEMSTRUCT*>(message.l));
+    return TRUE;
+  }
+  if (message.id != WM_COMMAND) return WidgetOf::HandleNotification(message);
+  if (HIWORD(message.w) == CBN_SELCHANGE) events().OnChanged();
+  return 0;
+}
+
+void ComboWidget::DrawRow(const DRAWITEMSTRUCT& item) {
+  const bool selected = (item.itemState & ODS_SELECTED) != 0;
+  const Rect area = FromRect(item.rcItem);
+  GdiCanvas canvas(item.hDC, {area.Right(), area.Bottom()}, drawing().fonts);
+  canvas.Fill(area, selected ? colour::kHighlight : background());
+  if (static_cast<int>(item.itemID) < 0) return;
+  std::wstring text(static_cast<std::size_t>(Send(CB_GETLBTEXTLEN, item.itemID)) + 1, L'\0');
+  const LRESULT length = Send(CB_GETLBTEXT, item.itemID, reinterpret_cast<LPARAM>(text.data()));
+  text.resize(static_cast<std::size_t>(length < 0 ? 0 : length));
+  const std::string name = FromWide(text);
+  FontSpec own = font();
+  own.face = name;
+  if (IsSymbolFont(item.hDC, drawing().fonts.Get(own))) own.face = font().face;
+  const Rect inside{area.left + 2, area.top, area.width - 4, area.height};
+  const Colour colour = !Enabled() ? colour::kGrayText
+                        : selected ? colour::kHighlightText
+                                   : text_colour();
+  canvas.Text(inside, name, own, colour, TextAlign::kLeft);
+}
+
+CheckListWidget::CheckListWidget(HWND parent, std::string_view name, Drawing& drawing,
+                                 WidgetEvents& events)
+    : WidgetOf(drawing, events) {
+  constexpr DWORD kList = LVS_REPORT | LVS_NOCOLUMNHEADER | LVS_SINGLESEL | LVS_SHOWSELALWAYS;
+  CreateControl(WC_LISTVIEWW, {kStopChild | kList, WS_EX_CLIENTEDGE}, parent);
+  constexpr DWORD kExtended = LVS_EX_CHECKBOXES | LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER;
+  Send(LVM_SETEXTENDEDLISTVIEWSTYLE, kExtended, kExtended);
+  LVCOLUMNW column{};
+  column.mask = LVCF_WIDTH;
+  Send(LVM_INSERTCOLUMNW, 0, reinterpret_cast<LPARAM>(&column));
+  PublishName(name);
+  StartReporting();
+}
+
+void CheckListWidget::SetItems(std::span<const std::string> items) {
+  const Quiet quiet(*this);
+  const Frozen frozen(hwnd());
+  Send(LVM_DELETEALLITEMS);
+  for (std::size_t row = 0; row < items.size(); ++row) {
+    std::wstring text = ToWide(items[row]);
+    LVITEMW item{};
+    item.mask = LVIF_TEXT;
+    item.iItem = static_cast<int>(row);
+    item.pszText = text.data();
+    Send(LVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&item));
+  }
+  reported_index_ = -1;
+}
+
+int CheckListWidget::Count() const { return static_cast<int>(Send(LVM_GETITEMCOUNT)); }
+
+void CheckListWidget::SetIndex(int index) {
+  const Quiet quiet(*this);
+  constexpr UINT kBoth = LVIS_SELECTED | LVIS_FOCUSED;
+  LVITEMW state{};
+  state.stateMask = kBoth;
+  state.state = index < 0 ? 0 : kBoth;
+  // To none: all rows lose it.
+  Send(LVM_SETITEMSTATE, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&state));
+  if (index >= 0) Send(LVM_ENSUREVISIBLE, static_cast<WPARAM>(index), FALSE);
+  reported_index_ = Index();
+}
+
+int CheckListWidget::Index() const {
+  return static_cast<int>(Send(LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED));
+}
+
+void CheckListWidget::SetChecked(int row, bool checked) {
+  const Quiet quiet(*this);
+  LVITEMW state{};
+  state.stateMask = LVIS_STATEIMAGEMASK;
+  state.state = INDEXTOSTATEIMAGEMASK(checked ? 2U : 1U);
+  Send(LVM_SETITEMSTATE, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&state));
+}
+
+bool CheckListWidget::Checked(int row) const {
+  return Send(LVM_GETITEMSTATE, static_cast<WPARAM>(row), LVIS_STATEIMAGEMASK) ==
+         static_cast<LRESULT>(INDEXTOSTATEIMAGEMASK(2));
+}
+
+std::optional<LRESULT> CheckListWidget::HandleNotification(const Message& message) {
+  if (message.id != WM_NOTIFY) return WidgetOf::HandleNotification(message);
+  if (!IsQuiet()) RowChanged(*reinterpret_cast<const NMHDR*>(message.l));
+  return std::nullopt;
+}
+
+void CheckListWidget::RowChanged(const NMHDR& notification) {
+  if (notification.code == NM_CLICK) {  // also beside the rows, which deselects
+    ReportIndex();
+    return;
+  }
+  if (notification.code != LVN_ITEMCHANGED) return;
+  const auto& change = reinterpret_cast<const NMLISTVIEW&>(notification);
+  if ((change.uChanged & LVIF_STATE) == 0) return;
+  const UINT box_before = change.uOldState & LVIS_STATEIMAGEMASK;
+  if (box_before != 0 && box_before != (change.uNewState & LVIS_STATEIMAGEMASK)) {
+    events().OnRowChecked(change.iItem);
+    return;
+  }
+  // When the selection moves, a row loses it first.
+  if ((change.uNewState & LVIS_SELECTED) != 0) ReportIndex();
+}
+
+void CheckListWidget::ReportIndex() {
+  const int index = Index();
+  if (std::exchange(reported_index_, index) != index) events().OnChanged();
+}
+
+std::optional<LRESULT> CheckListWidget::Handle(const Message& message) {
+  if (message.id == WM_SIZE && Reporting()) {
+    const Lifetime::Watch watch(lifetime());
+    const std::optional<LRESULT> answer = WidgetOf::Handle(message);
+    if (!watch.Gone()) Send(LVM_SETCOLUMNWIDTH, 0, ClientSize().width);
+    return answer;
+  }
+  return WidgetOf::Handle(message);
+}
+
+}  // namespace platform::windows

@@ -1,0 +1,29 @@
+// A row of tabs.
+#pragma once
+
+#include "platform/controls.h"
+#include "platform/windows/widgets/native_control.h"
+
+namespace platform::windows {
+
+class TabsWidget final : public WidgetOf<Tabs, NativeControl> {
+ public:
+  TabsWidget(HWND parent, std::string_view name, Drawing& drawing, WidgetEvents& events);
+
+  void SetItems(std::span<const std::string> captions) override;
+  void SetIndex(int index) override;
+  [[nodiscard]] int Index() const override;
+  [[nodiscard]] Rect PageArea() const override;
+  [[nodiscard]] Colour PageColour() const override;
+
+  [[nodiscard]] KeyRole Role() const override { return KeyRole::kStop; }
+  // Chooses, for the user, the next tab (1) or the one before (-1), around the ends.
+  void Step(int by);
+
+  std::optional<LRESULT> HandleNotification(const Message& message) override;
+
+ private:
+  [[nodiscard]] int Count() const;
+};
+
+}  // namespace platform::windows

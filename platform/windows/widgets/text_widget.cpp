@@ -1,0 +1,66 @@
+#include "platform/windows/widgets/text_widget.h"
+
+#include "platform/windows/windows/bare_frame.h"
+
+namespace platform::windows {
+namespace {
+
+WindowStyle StyleOf(const TextStyle& text) {
+  WindowStyle style{WS_CHILD | WS_CLIPSIBLINGS | WS_GROUP | SS_NOTIFY, 0};
+  if (text.align == TextAlign::kCentre) style.style |= SS_CENTER;
+  if (text.align == TextAlign::kRight) style.style |= SS_RIGHT;
+  if (!text.wraps) style.style |= SS_CENTERIMAGE;
+  if (!text.mnemonic) style.style |= SS_NOPREFIX;
+  if (text.border == Border::kSunken) style.extended = WS_EX_STATICEDGE;
+  return style;
+}
+
+// As DrawText takes it.
+UINT FormatOf(const TextStyle& text, HWND hwnd) {
+  UINT format = GdiAlign(text.align);
+  format |= text.wraps ? DT_WORDBREAK : DT_SINGLELINE | DT_VCENTER;
+  if (!text.mnemonic) return format | DT_NOPREFIX;
+  // The user may want the marks only once a key was pressed.
+  const LRESULT hidden = ::SendMessageW(hwnd, WM_QUERYUISTATE, 0, 0) & UISF_HIDEACCEL;
+  return hidden != 0 ? format | DT_HIDEPREFIX : format;
+}
+
+}  // namespace
+
+TextWidget::TextWidget(HWND parent, std::string_view name, const TextStyle& style, Drawing& drawing,
+                       WidgetEvents& events)
+    : WidgetOf(drawing, events), style_(style) {
+  CreateControl(L"STATIC", StyleOf(style), parent);
+  PublishName(name);
+  StartReporting();
+}
+
+std::optional<LRESULT> TextWidget::Handle(const Message& message) {
+  switch (message.id) {
+    case WM_NCHITTEST:
+      // The control itself would let the mouse through to its parent.
+      return OnSizingEdge(hwnd(), message.l) ? HTTRANSPARENT : HTCLIENT;
+    case WM_SETTEXT:
+    case WM_ENABLE:
+    case WM_UPDATEUISTATE:
+      return WithoutControl(message);
+    default:
+      return WidgetOf::Handle(message);
+  }
+}
+
+LRESULT TextWidget::WithoutControl(const Message& message) {
+  const LRESULT answer = ::DefWindowProcW(hwnd(), message.id, message.w, message.l);
+  Invalidate();
+  return answer;
+}
+
+void TextWidget::PaintContent(GdiCanvas& canvas) {
+  const Size size = canvas.Extent();
+  // So that letters do not touch the frame; grows with the screen's dpi as the font does.
+  const int room = style_.border == Border::kSunken ? font().height / 4 : 0;
+  canvas.FormattedText({room, 0, size.width - 2 * room, size.height}, Text(), font(),
+                       Enabled() ? text_colour() : colour::kGrayText, FormatOf(style_, hwnd()));
+}
+
+}  // namespace platform::windows

@@ -1,0 +1,135 @@
+// The window behind a widget: what all kinds of widgets have in common.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "platform/widget.h"
+#include "platform/windows/drawing/drawing.h"
+#include "platform/windows/windows/mouse.h"
+#include "platform/windows/windows/native_window.h"
+
+namespace platform::windows {
+
+// What a window is to the keys of a dialog (dialog_keys.h).
+enum class KeyRole {
+  kNone,
+  kStop,   // Tab stops at it
+  kPush,   // and Enter presses it
+  kRadio,  // one of several between which the arrow keys move
+};
+
+// Who gets a key that was pressed in a window.
+enum class KeyTaker { kDialog, kWindow, kNobody };
+
+class WidgetWindow : public NativeWindow {
+ public:
+  // Of a widget that this folder made; the system's own window behind it. A late one gets it now;
+  // throws std::runtime_error when the system refuses that.
+  [[nodiscard]] static HWND Of(Widget& widget);
+  // The object behind a window; null when it is none of this program's widgets.
+  [[nodiscard]] static WidgetWindow* Of(HWND hwnd) {
+    return dynamic_cast<WidgetWindow*>(NativeWindow::Of(hwnd));
+  }
+
+  // As Widget says.
+  void SetText(std::string_view text);
+  [[nodiscard]] std::string Text() const;
+  void SetBounds(const Rect& bounds);
+  [[nodiscard]] Rect Bounds() const;
+  [[nodiscard]] Size ClientSize() const;
+  void SetVisible(bool visible);
+  [[nodiscard]] bool Visible() const;
+  void SetEnabled(bool enabled);
+  [[nodiscard]] bool Enabled() const;
+  void SetFont(const FontSpec& font);
+  void SetColours(Colour text, Colour background);
+  void Focus();
+  [[nodiscard]] bool HasFocus() const;
+  void Invalidate();
+  [[nodiscard]] Point ToScreen(Point client) const;
+
+  // For the keys of a dialog.
+  [[nodiscard]] virtual KeyRole Role() const { return KeyRole::kNone; }
+  // Whether "&" in its text marks a key.
+  [[nodiscard]] virtual bool MarksKey() const { return false; }
+  // Asked for Enter and Esc before anything else happens with them.
+  [[nodiscard]] virtual KeyTaker TakerOf(WPARAM /*key*/) { return KeyTaker::kDialog; }
+  // The keyboard came to it by Tab.
+  virtual void Reached() {}
+
+ protected:
+  // `drawing` and `events` outlive this.
+  WidgetWindow(Drawing& drawing, WidgetEvents& events, Capture capture = Capture::kHere)
+      : drawing_(drawing), events_(events), mouse_(capture) {}
+  ~WidgetWindow() override { ForgetName(); }
+
+  std::optional<LRESULT> Handle(const Message& message) override;
+
+  // Paints the client area; the canvas has the background already.
+  virtual void PaintContent(GdiCanvas& canvas) { events_.OnPaint(canvas); }
+  // What a DrawThemeParentBackground of a child or the painting of the window itself asks for.
+  void PaintOn(HDC target, const RECT& shown);
+
+  // What the system tells the parent of a control goes to the control.
+  [[nodiscard]] std::optional<LRESULT> ToControl(const Message& message);
+
+  // Reports are made from here on, so that nothing is heard of a widget that its maker does not
+  // hold yet.
+  void StartReporting();
+  [[nodiscard]] bool Reporting() const { return reporting_; }
+
+  // Lets another process find the window by the widget's name: GetProp with it is not null.
+  void PublishName(std::string_view name);
+  void ForgetName();
+  void ReportSize();
+  void ReportMouse(const Message& message) { mouse_.Report(hwnd(), message, events_, lifetime()); }
+
+  [[nodiscard]] Drawing& drawing() const { return drawing_; }
+  [[nodiscard]] WidgetEvents& events() const { return events_; }
+  [[nodiscard]] Colour text_colour() const { return text_colour_; }
+  [[nodiscard]] Colour background() const { return background_; }
+  [[nodiscard]] const FontSpec& font() const { return font_; }
+
+ private:
+  [[nodiscard]] std::optional<LRESULT> HandleReports(const Message& message);
+  void Paint();
+
+  Drawing& drawing_;
+  WidgetEvents& events_;
+  bool reporting_ = false;
+  Mouse mouse_;
+  Size reported_size_;
+  std::wstring published_name_;
+  FontSpec font_;
+  SharedFont native_font_;  // the control goes on using it
+  Colour text_colour_ = colour::kWindowText;
+  Colour background_ = colour::kButtonFace;
+};
+
+// Implements `Interface`, which is Widget or extends it, over `Window`, which is WidgetWindow or
+// extends it.
+template <class Interface, class Window = WidgetWindow>
+class WidgetOf : public Interface, public Window {
+ public:
+  void SetText(std::string_view text) override { Window::SetText(text); }
+  [[nodiscard]] std::string Text() const override { return Window::Text(); }
+  void SetBounds(const Rect& bounds) override { Window::SetBounds(bounds); }
+  [[nodiscard]] Rect Bounds() const override { return Window::Bounds(); }
+  [[nodiscard]] Size ClientSize() const override { return Window::ClientSize(); }
+  void SetVisible(bool visible) override { Window::SetVisible(visible); }
+  [[nodiscard]] bool Visible() const override { return Window::Visible(); }
+  void SetEnabled(bool enabled) override { Window::SetEnabled(enabled); }
+  [[nodiscard]] bool Enabled() const override { return Window::Enabled(); }
+  void SetFont(const FontSpec& font) override { Window::SetFont(font); }
+  void SetColours(Colour text, Colour background) override { Window::SetColours(text, background); }
+  void Focus() override { Window::Focus(); }
+  [[nodiscard]] bool HasFocus() const override { return Window::HasFocus(); }
+  void Invalidate() override { Window::Invalidate(); }
+  [[nodiscard]] Point ToScreen(Point client) const override { return Window::ToScreen(client); }
+
+ protected:
+  using Window::Window;
+};
+
+}  // namespace platform::windows

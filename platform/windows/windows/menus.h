@@ -1,0 +1,58 @@
+// Popup menus, drawn by the program.
+#pragma once
+
+#include "platform/menus.h"
+#include "platform/windows/dpi.h"
+#include "platform/windows/drawing/drawing.h"
+#include "platform/windows/windows/native_window.h"
+
+namespace platform::windows {
+
+// Gets the messages of the open menu. A window of its own, so that a menu that is opened from the
+// notification area brings none of the program's windows to the front.
+class MenuWindow final : public NativeWindow {
+ public:
+  MenuWindow(const WindowClass& window_class, Drawing& drawing);
+
+  // As Menus. `dpi` is that of the place.
+  [[nodiscard]] int Popup(Point at, const std::vector<MenuEntry>& entries, MenuPainter& painter,
+                          int dpi);
+  void Cancel();
+
+ protected:
+  std::optional<LRESULT> Handle(const Message& message) override;
+
+ private:
+  // The menu that is open.
+  struct Session {
+    MenuPainter& painter;
+    int dpi;
+    const MenuEntry* highlighted = nullptr;
+  };
+
+  void Measure(MEASUREITEMSTRUCT& item);
+  void Draw(const DRAWITEMSTRUCT& item);
+  void Select(const Message& message);
+  void Highlight(const MenuEntry* entry, const Rect& area);
+
+  Drawing& drawing_;
+  Session* session_ = nullptr;  // on the stack of Popup
+};
+
+class Menus final : public platform::Menus {
+ public:
+  // `drawing` outlives this.
+  explicit Menus(Drawing& drawing) : window_(window_class_, drawing) {}
+
+  // A second menu while one is open does not open: 0.
+  [[nodiscard]] int Popup(TopWindow& owner, Point at, const std::vector<MenuEntry>& entries,
+                          MenuPainter& painter) override;
+  void Cancel() override { window_.Cancel(); }
+
+ private:
+  MonitorDpi dpi_;
+  WindowClass window_class_{"TremoluxMenu"};
+  MenuWindow window_;
+};
+
+}  // namespace platform::windows

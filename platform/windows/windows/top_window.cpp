@@ -1,0 +1,291 @@
+#include "platform/windows/windows/top_window.h"
+
+#include <utility>
+
+#include "platform/windows/dpi.h"
+#include "platform/windows/wide.h"
+#include "platform/windows/windows/dialog_keys.h"
+#include "platform/windows/windows/foreground.h"
+#include "platform/windows/windows/layered.h"
+
+namespace platform::windows {
+namespace {
+
+// The system menu's "move", begun by the caption: 61458.
+constexpr WPARAM kMoveByCaption = SC_MOVE | HTCAPTION;
+static_assert(kMoveByCaption == 61458);
+
+// Under Wine a window manager may offer the focus to each window that appears, in milliseconds from
+// then. Whether the window takes it, it is asked with a click on a menu bar, which none has here.
+constexpr ULONGLONG kOffersFocusWithin = 2000;
+
+WindowStyle StyleOf(const TopWindowParams& params) {
+  constexpr DWORD kAll = WS_POPUP | WS_CLIPCHILDREN | WS_CLIPSIBLINGS;
+  constexpr DWORD kCaption = WS_CAPTION | WS_SYSMENU;
+  WindowStyle style;
+  switch (params.frame) {
+    case Frame::kSizeableTool:
+      style = {kAll | kCaption | WS_THICKFRAME, WS_EX_TOOLWINDOW};
+      break;
+    case Frame::kTool:
+      style = {kAll | kCaption, WS_EX_TOOLWINDOW};
+      break;
+    case Frame::kDialog:
+      style = {kAll | kCaption, WS_EX_DLGMODALFRAME};
+      break;
+    case Frame::kHint:
+      // Only a layered window lets the mouse through to the windows of other programs.
+      return {kAll, WS_EX_TOOLWINDOW | WS_EX_TOPMOST | WS_EX_NOACTIVATE | WS_EX_TRANSPARENT |
+                        WS_EX_LAYERED};
+  }
+  // A caption is a border and a dialog frame; without the latter the border stays.
+  if (params.bare_popup) style.style &= ~static_cast<DWORD>(WS_DLGFRAME);
+  return style;
+}
+
+}  // namespace
+
+TopWindow::TopWindow(const WindowClass& window_class, const TopWindowParams& params, HWND owner,
+                     Drawing& drawing, TopWindowEvents& events)
+    : WidgetOf(drawing, events),
+      events_(events),
+      frame_(params.frame),
+      bare_frame_(params.frame == Frame::kSizeableTool && params.bare_popup),
+      takes_dialog_keys_(params.frame != Frame::kHint && !params.bare_popup) {
+  Create(window_class, StyleOf(params), owner, ToWide(params.caption));
+  if (bare_frame_) BareFrame::TakeOver(hwnd());
+  if (frame_ == Frame::kHint) ::SetLayeredWindowAttributes(hwnd(), 0, 255, LWA_ALPHA);
+  // The system has given a sizeable window its own smallest size, and the frame is to be taken
+  // anew now that the messages arrive here.
+  ::SetWindowPos(hwnd(), nullptr, 0, 0, 0, 0,
+                 SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOOWNERZORDER | SWP_FRAMECHANGED);
+  reported_bounds_ = Bounds();
+  StartReporting();
+}
+
+void TopWindow::SetVisible(bool visible) {
+  if (visible && !Visible()) {
+    Show(Activation::kLeaveFocus);
+  } else {
+    if (!visible) GiveForegroundBack(hwnd(), std::exchange(foreground_before_, nullptr));
+    WidgetOf::SetVisible(visible);
+  }
+}
+
+void TopWindow::Show(Activation activation) {
+  // Not ShowWindow to activate: the first call of a process follows the shortcut that started it.
+  if (activation == Activation::kLeaveFocus) {
+    declines_focus_until_ = ::GetTickCount64() + kOffersFocusWithin;
+    ::ShowWindow(hwnd(), SW_SHOWNOACTIVATE);
+    return;
+  }
+  if (!Visible()) {
+    last_focus_ = nullptr;
+    foreground_before_ = ::GetForegroundWindow();
+    // Marks of keys and of the keyboard's place are shown as the user likes it.
+    ::SendMessageW(hwnd(), WM_CHANGEUISTATE, MAKEWPARAM(UIS_INITIALIZE, 0), 0);
+  }
+  ::SetWindowPos(hwnd(), nullptr, 0, 0, 0, 0,
+                 SWP_SHOWWINDOW | SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER);
+  Raise();
+}
+
+void TopWindow::SetTopmost(bool topmost) {
+  const Rect own = Bounds();
+  ::SetWindowPos(hwnd(), topmost ? HWND_TOPMOST : HWND_NOTOPMOST, own.left, own.top, own.width,
+                 own.height, SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE);
+}
+
+bool TopWindow::Topmost() const {
+  return (::GetWindowLongPtrW(hwnd(), GWL_EXSTYLE) & WS_EX_TOPMOST) != 0;
+}
+
+void TopWindow::SetSizeLimits(Size smallest, Size largest) { limits_ = {smallest, largest}; }
+
+void TopWindow::SetClientSize(Size client) {
+  // By what it has too much or too little; of a window without an inside nothing can be learned.
+  for (int attempt = 0; attempt < 2 && ClientSize() != client; ++attempt) {
+    const Rect outer = Bounds();
+    const Size inner = ClientSize();
+    SetBounds({outer.left, outer.top, outer.width + client.width - inner.width,
+               outer.height + client.height - inner.height});
+  }
+}
+
+void TopWindow::BeginDrag() {
+  // Moves of the mouse may be delivered while the drag goes on, and each of them asks again.
+  if (dragging_) return;
+  dragging_ = true;
+  const Lifetime::Watch watch(lifetime());
+  ::ReleaseCapture();
+  ::SendMessageW(hwnd(), WM_SYSCOMMAND, kMoveByCaption, 0);
+  if (!watch.Gone()) dragging_ = false;
+}
+
+void TopWindow::SetAlpha(std::uint8_t alpha) { SetWindowOpacity(hwnd(), alpha); }
+
+bool TopWindow::UnderPointer() const {
+  POINT pointer{};
+  if (!::GetCursorPos(&pointer)) return false;
+  return ::GetAncestor(::WindowFromPoint(pointer), GA_ROOT) == hwnd();
+}
+
+void TopWindow::Raise() {
+  if (::IsIconic(hwnd())) ::ShowWindow(hwnd(), SW_RESTORE);
+  ::SetForegroundWindow(hwnd());
+}
+
+int TopWindow::Dpi() const { return DpiOfWindow(hwnd()); }
+
+std::optional<LRESULT> TopWindow::Handle(const Message& message) {
+  if (const auto answer = HandleKind(message)) return answer;
+  if (Reporting()) {
+    if (const auto answer = HandleWindow(message)) return answer;
+    if (const auto answer = HandleSystem(message)) return answer;
+    if (const auto answer = HandleDrag(message)) return answer;
+  }
+  return WidgetOf::Handle(message);
+}
+
+std::optional<LRESULT> TopWindow::HandleKind(const Message& message) {
+  if (frame_ == Frame::kHint) {
+    if (message.id == WM_MOUSEACTIVATE) return MA_NOACTIVATE;
+    if (message.id == WM_NCHITTEST) return HTTRANSPARENT;
+  }
+  if (message.id == WM_MOUSEACTIVATE && LOWORD(message.l) == HTMENU && DeclinesFocus()) {
+    return MA_NOACTIVATE;
+  }
+  if (message.id == WM_GETMINMAXINFO) {
+    LimitSize(*reinterpret_cast<MINMAXINFO*>(message.l));
+    return 0;
+  }
+  return bare_frame_ ? BareFrame::Handle(hwnd(), message, limits_) : std::nullopt;
+}
+
+bool TopWindow::DeclinesFocus() {
+  return ::GetTickCount64() < std::exchange(declines_focus_until_, 0);
+}
+
+std::optional<LRESULT> TopWindow::HandleWindow(const Message& message) {
+  switch (message.id) {
+    case WM_CLOSE:
+      events_.OnClose();  // the system would destroy the window
+      return 0;
+    case WM_ACTIVATE:
+      if (LOWORD(message.w) == WA_INACTIVE) RememberFocus();
+      events_.OnActivate(LOWORD(message.w) != WA_INACTIVE);
+      return std::nullopt;
+    case WM_SETFOCUS:
+      RestoreFocus();
+      return 0;
+    case WM_WINDOWPOSCHANGED:
+      return HandlePlaced(message);
+    case WM_DPICHANGED:
+      return HandleDpi(message);
+    default:
+      return std::nullopt;
+  }
+}
+
+std::optional<LRESULT> TopWindow::HandleSystem(const Message& message) {
+  switch (message.id) {
+    case WM_DISPLAYCHANGE:
+      events_.OnDisplayChange();
+      return 0;
+    case WM_POWERBROADCAST:
+      if (message.w == PBT_APMRESUMEAUTOMATIC) events_.OnResume();
+      return TRUE;
+    case WM_QUERYENDSESSION:
+      return TRUE;
+    case WM_ENDSESSION:
+      if (message.w != FALSE) events_.OnEndSession();
+      return 0;
+    case WM_SYSCOLORCHANGE:
+    case WM_THEMECHANGED:
+    case WM_SETTINGCHANGE:
+      // What is painted in system colours looks different now.
+      ::RedrawWindow(hwnd(), nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME | RDW_ALLCHILDREN);
+      events_.OnSettingChange();
+      return 0;
+    default:
+      return std::nullopt;
+  }
+}
+
+std::optional<LRESULT> TopWindow::HandleDrag(const Message& message) {
+  switch (message.id) {
+    case WM_ENTERSIZEMOVE:
+      drag_.Begin(Bounds());
+      return std::nullopt;
+    case WM_EXITSIZEMOVE:
+      EndDrag();
+      return 0;
+    case WM_MOVING: {
+      auto* proposed = reinterpret_cast<RECT*>(message.l);
+      Rect bounds = drag_.Moving(FromRect(*proposed));
+      events_.OnMoving(bounds);
+      *proposed = ToRect(bounds);
+      return TRUE;
+    }
+    default:
+      return std::nullopt;
+  }
+}
+
+void TopWindow::EndDrag() {
+  const Lifetime::Watch watch(lifetime());
+  const Rect bounds = Bounds();
+  if (drag_.MovedByOthers(bounds)) {
+    Rect wanted = bounds;
+    events_.OnMoving(wanted);
+    if (watch.Gone()) return;
+    if (wanted != bounds) SetBounds(wanted);
+    if (watch.Gone()) return;
+  }
+  drag_.End();
+  events_.OnDragEnded();
+}
+
+void TopWindow::RememberFocus() {
+  const HWND focus = ::GetFocus();
+  if (focus != nullptr && ::IsChild(hwnd(), focus)) last_focus_ = focus;
+}
+
+void TopWindow::RestoreFocus() {
+  if (!takes_dialog_keys_) return;
+  if (::IsChild(hwnd(), last_focus_) && IsUsable(last_focus_)) {
+    ::SetFocus(last_focus_);
+  } else {
+    FocusFirst(hwnd());
+  }
+}
+
+LRESULT TopWindow::HandlePlaced(const Message& message) {
+  const Lifetime::Watch watch(lifetime());
+  const LRESULT answer = CallSystem(message);  // reports the size of the client area
+  if (watch.Gone() || hwnd() == nullptr || ::IsIconic(hwnd())) return answer;
+  const Rect bounds = Bounds();
+  if (bounds == reported_bounds_) return answer;
+  reported_bounds_ = bounds;
+  events_.OnPlaced();
+  return answer;
+}
+
+LRESULT TopWindow::HandleDpi(const Message& message) {
+  const Lifetime::Watch watch(lifetime());
+  // The width of the frame depends on the resolution, also where the size does not change.
+  ::SetWindowPos(hwnd(), nullptr, 0, 0, 0, 0,
+                 SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
+  if (watch.Gone()) return 0;
+  events_.OnDpiChanged(LOWORD(message.w), FromRect(*reinterpret_cast<const RECT*>(message.l)));
+  return 0;
+}
+
+void TopWindow::LimitSize(MINMAXINFO& info) const {
+  if (!Reporting()) info.ptMinTrackSize = {0, 0};  // it is made without a size
+  if (limits_.largest == Size{}) return;
+  info.ptMinTrackSize = {limits_.smallest.width, limits_.smallest.height};
+  info.ptMaxTrackSize = {limits_.largest.width, limits_.largest.height};
+}
+
+}  // namespace platform::windows

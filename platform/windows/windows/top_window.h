@@ -1,0 +1,70 @@
+// Windows of their own on the desktop.
+#pragma once
+
+#include "platform/top_window.h"
+#include "platform/windows/widgets/widget_window.h"
+#include "platform/windows/windows/bare_frame.h"
+#include "platform/windows/windows/drag_watch.h"
+#include "platform/windows/windows/window_shape.h"
+
+namespace platform::windows {
+
+class TopWindow final : public WidgetOf<platform::TopWindow> {
+ public:
+  // `owner` stays below it; never null.
+  TopWindow(const WindowClass& window_class, const TopWindowParams& params, HWND owner,
+            Drawing& drawing, TopWindowEvents& events);
+
+  void SetVisible(bool visible) override;
+  void Show(Activation activation) override;
+  void SetTopmost(bool topmost) override;
+  [[nodiscard]] bool Topmost() const override;
+  void SetSizeLimits(Size smallest, Size largest) override;
+  void SetClientSize(Size client) override;
+  void BeginDrag() override;
+  [[nodiscard]] bool Dragging() const override { return drag_.Active(); }
+  void SetAlpha(std::uint8_t alpha) override;
+  void SetShape(std::span<const Rect> parts) override { shape_.Set(hwnd(), parts); }
+  void ResetShape() override { shape_.Reset(hwnd()); }
+  [[nodiscard]] bool UnderPointer() const override;
+  void Raise() override;
+  [[nodiscard]] int Dpi() const override;
+
+  // Whether it has the keys of a dialog: with a caption, and when the program wants the keyboard.
+  [[nodiscard]] bool TakesDialogKeys() const { return takes_dialog_keys_; }
+  void CancelKey() { events_.OnCancelKey(); }
+
+ protected:
+  std::optional<LRESULT> Handle(const Message& message) override;
+
+ private:
+  // Each gives nothing for a message of another kind.
+  [[nodiscard]] std::optional<LRESULT> HandleKind(const Message& message);
+  [[nodiscard]] std::optional<LRESULT> HandleWindow(const Message& message);
+  [[nodiscard]] std::optional<LRESULT> HandleSystem(const Message& message);
+  [[nodiscard]] std::optional<LRESULT> HandleDrag(const Message& message);
+  // Keeps in mind where the keyboard was, and puts it there again.
+  void RememberFocus();
+  void RestoreFocus();
+  LRESULT HandlePlaced(const Message& message);
+  void EndDrag();
+  LRESULT HandleDpi(const Message& message);
+  // Once after it was shown without taking the focus.
+  [[nodiscard]] bool DeclinesFocus();
+  void LimitSize(MINMAXINFO& info) const;
+
+  TopWindowEvents& events_;
+  const Frame frame_;
+  const bool bare_frame_;  // sizeable and without a caption: draws its own frame
+  const bool takes_dialog_keys_;
+  HWND last_focus_ = nullptr;  // the child that had the keyboard when the window was last active
+  HWND foreground_before_ = nullptr;  // what had the keyboard when this was shown with it
+  SizeLimits limits_;
+  Rect reported_bounds_;
+  ULONGLONG declines_focus_until_ = 0;  // in ticks of the system
+  bool dragging_ = false;               // inside BeginDrag
+  DragWatch drag_;
+  WindowShape shape_;
+};
+
+}  // namespace platform::windows

@@ -1,0 +1,30 @@
+// Shows the four activity pictures of the tray icon; a click on it chooses others.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "display/tray/pictures.h"
+#include "toolkit/controls/control.h"
+
+namespace preferences {
+
+class PicturePanel final : public toolkit::Control {
+ public:
+  PicturePanel(toolkit::Control& parent, std::string_view name);
+
+  // Shows the pictures of a file, or else of `fallback`, or else none.
+  void Load(const std::string& path, const std::string& fallback);
+
+  // Design pixels of the whole panel.
+  static constexpr int kWidth = 94;
+  static constexpr int kHeight = 26;
+
+ protected:
+  void OnPaint(platform::Canvas& canvas) override;
+
+ private:
+  display::TrayPictures pictures_;
+};
+
+}  // namespace preferences

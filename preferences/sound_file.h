@@ -1,0 +1,45 @@
+// A line that chooses a sound file: its path, a button that opens the file dialog and one that
+// plays the sound.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+#include "language/language.h"
+#include "platform/geometry.h"
+#include "toolkit/controls/button.h"
+#include "toolkit/controls/edit.h"
+
+namespace preferences {
+
+class SoundFile {
+ public:
+  struct Names {
+    std::string_view path, open, play;
+  };
+  // `parent` outlives it.
+  SoundFile(toolkit::Control& parent, const Names& names);
+
+  // Design pixels of the whole line.
+  void Place(const platform::Rect& line);
+  void Localise(const language::Translation& say);
+
+  // Empty for silence.
+  [[nodiscard]] const std::string& Path() const { return path_.Text(); }
+  void SetPath(std::string_view path) { path_.SetText(path); }
+  void SetEnabled(bool enabled);
+
+  // The path is another one, chosen or typed.
+  std::function<void()> OnChange;
+
+ private:
+  void Choose();
+
+  toolkit::Edit path_;
+  toolkit::Button open_;
+  toolkit::Button play_;
+  std::string title_, sounds_, all_files_;
+};
+
+}  // namespace preferences

@@ -1,0 +1,147 @@
+#include "quantity/quantity.h"
+
+#include <array>
+#include <cstddef>
+
+#include "platform/text.h"
+
+namespace quantity {
+namespace {
+
+struct Range {
+  std::int64_t from;   // inclusive
+  std::int64_t up_to;  // exclusive
+  int divisions;       // by 1024
+  std::size_t keep;    // characters of the number
+};
+
+// The next unit begins at 1000 of the one before. Each upper bound is one short of the next lower
+// one, so 102399, 1023999 and so on have no text at all, on purpose; the tests hold these gaps.
+constexpr Range kPositiveRanges[] = {
+    {1, 1024, 1, 3},
+    {1024, 10240, 1, 3},
+    {10240, 102399, 1, 4},
+    {102400, 1023999, 1, 5},
+    {1024000, 10239999, 2, 4},
+    {10240000, 102399999, 2, 5},
+    {102400000, 1023999999, 2, 6},
+    {1024000000, 10239999999, 3, 5},
+    {10240000000, 102399999999, 3, 6},
+    {102400000000, 1023999999999, 3, 7},
+    {1024000000000, 10239999999999, 4, 6},
+    {10240000000000, 102399999999999, 4, 7},
+    {102400000000000, 1023999999999999, 4, 8},
+};
+
+// No exact mirror of the positive ones: the gaps lie at -1023 and at the round numbers. One more
+// character is kept, for the sign. The first range takes zero in as well, but not of bits.
+constexpr Range kNegativeRanges[] = {
+    {-1022, 1, 1, 4},
+    {-10240, -1024, 1, 4},
+    {-102399, -10240, 1, 5},
+    {-1023999, -102400, 1, 6},
+    {-10239999, -1024000, 2, 5},
+    {-102399999, -10240000, 2, 6},
+    {-1023999999, -102400000, 2, 7},
+    {-10239999999, -1024000000, 3, 6},
+    {-102399999999, -10240000000, 3, 7},
+    {-1023999999999, -102400000000, 3, 8},
+    {-10239999999999, -1024000000000, 4, 7},
+    {-102399999999999, -10240000000000, 4, 8},
+    {-1023999999999999, -102400000000000, 4, 9},
+};
+
+enum class Unit { kBytes, kBits };
+
+struct UnitWords {
+  std::string_view zero;
+  std::array<std::string_view, 4> by_divisions;
+};
+
+// The zero text of bits lacks the final "s" that all their other texts have; it is meant to.
+constexpr UnitWords kByteWords = {"0,0|kB|", {"|kB|", "|MB|", "|GB|", "|TB|"}};
+constexpr UnitWords kBitWords = {"0,0|kbit|", {"|kbits|", "|Mbits|", "|Gbits|", "|Tbits|"}};
+
+bool Matches(const Range& range, std::int64_t n) { return range.from <= n && n < range.up_to; }
+
+// n / 1024^divisions in ten-thousandths, rounded to the nearest, ties to even. Exact: a factor of
+// 16 is taken out of 10000, so that the product fits into 64 bits for every n of the ranges.
+std::int64_t TenThousandths(std::int64_t n, int divisions) {
+  const std::uint64_t product = static_cast<std::uint64_t>(n < 0 ? -n : n) * 625;
+  const int shift = 10 * divisions - 4;
+  const std::uint64_t half = std::uint64_t{1} << (shift - 1);
+  const std::uint64_t rest = product & ((half << 1) - 1);
+  std::uint64_t rounded = product >> shift;
+  if (rest > half || (rest == half && rounded % 2 == 1)) ++rounded;
+  return static_cast<std::int64_t>(rounded);
+}
+
+// Cut, not rounded, to the characters that the range keeps.
+std::string NumberText(std::int64_t n, const Range& range, std::string_view separator) {
+  const std::int64_t value = TenThousandths(n, range.divisions);
+  std::string text = n < 0 ? "-" : "";
+  text += std::to_string(value / 10000);
+  if (value % 10000 != 0) {
+    std::string decimals = std::to_string(10000 + value % 10000).substr(1);
+    decimals.erase(decimals.find_last_not_of('0') + 1);
+    text += separator;
+    text += decimals;
+  }
+  return platform::CutCharacters(text, range.keep);
+}
+
+// Eight bits a byte; an amount too large for that wraps.
+std::int64_t Amount(std::int64_t bytes, Unit unit) {
+  if (unit == Unit::kBytes) return bytes;
+  return static_cast<std::int64_t>(static_cast<std::uint64_t>(bytes) * 8);
+}
+
+}  // namespace
+
+std::string Quantity::FormatQuantity(std::int64_t bytes) const {
+  return Format(bytes, Sign::kPositiveOnly);
+}
+
+std::string Quantity::FormatSignedQuantity(std::int64_t bytes) const {
+  return Format(bytes, Sign::kBoth);
+}
+
+std::string Quantity::Format(std::int64_t bytes, Sign sign) const {
+  const Unit unit = store_.Read(settings::setting::ScaleUnit) == 0 ? Unit::kBytes : Unit::kBits;
+  const UnitWords& words = unit == Unit::kBytes ? kByteWords : kBitWords;
+  const std::int64_t n = Amount(bytes, unit);
+  const bool zero_is_in_no_range = sign == Sign::kPositiveOnly || unit == Unit::kBits;
+  if (n == 0 && zero_is_in_no_range) return std::string(words.zero);
+
+  const auto text_of = [&](const Range& range) {
+    return NumberText(n, range, locale_.DecimalSeparator()) +
+           std::string(words.by_divisions[static_cast<std::size_t>(range.divisions - 1)]);
+  };
+  // No two ranges overlap, so the first that matches is the only one.
+  for (const Range& range : kPositiveRanges) {
+    if (Matches(range, n)) return text_of(range);
+  }
+  if (sign == Sign::kPositiveOnly) return {};
+  for (const Range& range : kNegativeRanges) {
+    if (Matches(range, n)) return text_of(range);
+  }
+  return {};
+}
+
+std::string GetToken(std::string_view S, std::string_view Delimiter, int Index) {
+  const std::size_t taken_off = platform::CutCharacters(Delimiter, 1).size();
+  std::string_view token;
+  for (int i = 0; i < Index; ++i) {
+    const std::size_t at = Delimiter.empty() ? std::string_view::npos : S.find(Delimiter);
+    if (at == std::string_view::npos) return {};  // the rest stays, so no later piece is found
+    token = S.substr(0, at);
+    S.remove_prefix(at + taken_off);
+  }
+  return std::string(token);
+}
+
+std::string NumberAndUnit(std::string_view quantity) {
+  return GetToken(quantity, "|", 1) + ' ' + GetToken(quantity, "|", 2);
+}
+
+}  // namespace quantity

@@ -1,0 +1,24 @@
+// A check box; OnClick is its change handler.
+#pragma once
+
+#include "platform/controls.h"
+#include "toolkit/controls/control.h"
+
+namespace toolkit {
+
+class CheckBox : public Control {
+ public:
+  CheckBox(Control& parent, std::string_view name);
+
+  [[nodiscard]] bool Checked() const { return checked_; }
+  void SetChecked(bool checked);
+
+ protected:
+  void Clicked() override;
+
+ private:
+  platform::Button* button_;  // the peer, owned by Control
+  bool checked_ = false;
+};
+
+}  // namespace toolkit

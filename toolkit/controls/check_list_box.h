@@ -1,0 +1,31 @@
+// A list with a check box in each row.
+#pragma once
+
+#include "toolkit/controls/list_control.h"
+
+namespace toolkit {
+
+class CheckListBox : public ListControl {
+ public:
+  CheckListBox(Control& parent, std::string_view name)
+      : ListControl(parent, name, platform::ListKind::kCheckBox) {}
+
+  // False for a row that does not exist.
+  [[nodiscard]] bool Checked(int row) const;
+  void SetChecked(int row, bool checked);
+
+  // A row was ticked or unticked.
+  std::function<void(int row)> OnClickCheck;
+
+ protected:
+  void OnRowChecked(int row) override;
+  void ItemsShown() override;
+  void RowRemoved(int row) override;
+
+ private:
+  void FireCheck(int row);
+
+  std::vector<bool> checks_;
+};
+
+}  // namespace toolkit

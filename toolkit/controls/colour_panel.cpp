@@ -1,0 +1,23 @@
+#include "toolkit/controls/colour_panel.h"
+
+#include "toolkit/application.h"
+#include "toolkit/controls/bevel.h"
+
+namespace toolkit {
+
+ColourPanel::ColourPanel(Control& parent, std::string_view name)
+    : Control(parent.App(), &parent, name) {
+  Attach(App().Platform().windowing.CreateButton(PeerOf(parent), name,
+                                                 platform::ButtonKind::kPainted, *this));
+}
+
+void ColourPanel::OnPaint(platform::Canvas& canvas) {
+  App().Guard([&] {
+    const platform::Size size = canvas.Extent();
+    const platform::Rect inside =
+        DrawBevel(canvas, {0, 0, size.width, size.height}, BevelCut::kLowered, 1, Colour());
+    canvas.Fill(inside, Enabled() ? Colour() : platform::colour::kButtonFace);
+  });
+}
+
+}  // namespace toolkit

@@ -1,0 +1,18 @@
+// A sunken panel that shows a colour. It can be clicked, also with the keyboard; its caption is not
+// seen but says to screen readers what the colour is for.
+#pragma once
+
+#include "toolkit/controls/control.h"
+
+namespace toolkit {
+
+// The colour that it shows is its background colour.
+class ColourPanel : public Control {
+ public:
+  ColourPanel(Control& parent, std::string_view name);
+
+ protected:
+  void OnPaint(platform::Canvas& canvas) override;
+};
+
+}  // namespace toolkit

@@ -1,0 +1,207 @@
+#include "toolkit/controls/control.h"
+
+#include <algorithm>
+
+#include "toolkit/application.h"
+#include "toolkit/design_pixels.h"
+#include "toolkit/forms/form.h"
+#include "toolkit/menus/popup_menu.h"
+
+namespace toolkit {
+
+Control::Control(Application& app, Control* parent, std::string_view name)
+    : app_(app), parent_(parent), name_(name) {
+  if (parent_ == nullptr) {
+    visible_ = false;  // forms are shown when they are ready
+    return;
+  }
+  parent_->children_.push_back(this);
+  font_ = parent_->font_;
+  colour_ = parent_->colour_;
+}
+
+Control::~Control() {
+  app_.Hints().Forget(*this);
+  if (parent_ != nullptr) std::erase(parent_->children_, this);
+}
+
+void Control::Attach(std::unique_ptr<platform::Widget> peer) {
+  peer_ = std::move(peer);
+  ApplyFont();
+  peer_->SetColours(font_colour_, colour_);
+  if (parent_ != nullptr) peer_->SetVisible(visible_);
+}
+
+Form& Control::ParentForm() { return parent_->ParentForm(); }
+
+void Control::SetBounds(const platform::Rect& bounds) {
+  if (bounds == bounds_) return;
+  bounds_ = bounds;
+  if (align_ == Align::kNone) {
+    ApplyBounds();
+  } else {
+    ParentRearranges();
+  }
+}
+
+void Control::SetAlign(Align align) {
+  if (align == align_) return;
+  align_ = align;
+  if (align_ == Align::kNone) ApplyBounds();
+  ParentRearranges();
+}
+
+void Control::SetCaption(std::string_view caption) {
+  if (caption == caption_) return;
+  caption_ = caption;
+  peer_->SetText(caption_);
+  CaptionChanged();
+}
+
+void Control::SetVisible(bool visible) {
+  if (visible == visible_) return;
+  visible_ = visible;
+  peer_->SetVisible(visible_);
+  ParentRearranges();
+}
+
+void Control::SetEnabled(bool enabled) {
+  if (enabled == enabled_) return;
+  enabled_ = enabled;
+  peer_->SetEnabled(enabled_);
+  EnabledChanged();
+}
+
+void Control::SetColour(platform::Colour colour) {
+  if (colour == colour_) return;
+  colour_ = colour;
+  peer_->SetColours(font_colour_, colour_);
+}
+
+void Control::SetFontColour(platform::Colour colour) {
+  if (colour == font_colour_) return;
+  font_colour_ = colour;
+  peer_->SetColours(font_colour_, colour_);
+}
+
+void Control::SetFont(const platform::FontSpec& font) {
+  if (font == font_) return;
+  font_ = font;
+  ApplyFont();
+}
+
+void Control::SetHint(std::string_view hint) {
+  if (hint == hint_) return;
+  hint_ = hint;
+  app_.Hints().TextChanged(*this);
+  HintChanged();
+}
+
+void Control::Fire(const std::function<void()>& handler) {
+  if (!handler) return;
+  const std::function<void()> kept = handler;  // it may go with the control
+  app_.Guard(kept);
+}
+
+void Control::Invalidate() { peer_->Invalidate(); }
+
+platform::Size Control::ClientPixels() const { return peer_->ClientSize(); }
+
+int Control::Scale(int design_pixels) { return ScaleTo(ParentForm().Dpi(), design_pixels); }
+int Control::Unscale(int pixels) { return UnscaleFrom(ParentForm().Dpi(), pixels); }
+platform::Rect Control::Scale(const platform::Rect& design) {
+  return {Scale(design.left), Scale(design.top), Scale(design.width), Scale(design.height)};
+}
+platform::FontSpec Control::Scale(const platform::FontSpec& design) {
+  return {design.face, Scale(design.height), design.bold};
+}
+
+void Control::ApplyBounds() {
+  if (peer_ && parent_ != nullptr) peer_->SetBounds(Scale(bounds_));
+}
+
+void Control::ApplyFont() { peer_->SetFont(Scale(font_)); }
+
+void Control::ParentRearranges() {
+  if (parent_ != nullptr) parent_->ArrangeChildren(parent_->ChildArea());
+}
+
+void Control::ArrangeChildren(const platform::Rect& area) {
+  platform::Rect left = area;
+  for (Control* child : children_) {
+    if (child->align_ != Align::kBottom || !child->visible_) continue;
+    const int height = std::min(Scale(child->bounds_.height), left.height);
+    child->peer_->SetBounds({left.left, left.Bottom() - height, left.width, height});
+    left.height -= height;
+  }
+  for (Control* child : children_) {
+    if (child->align_ == Align::kClient && child->visible_) child->peer_->SetBounds(left);
+  }
+}
+
+platform::Rect Control::ChildArea() const {
+  const platform::Size size = peer_->ClientSize();
+  return {0, 0, size.width, size.height};
+}
+
+void Control::Rescale() {
+  ApplyFont();
+  if (align_ == Align::kNone) ApplyBounds();
+  for (Control* child : children_) child->Rescale();
+  ArrangeChildren(ChildArea());
+}
+
+void Control::OnMouseMove(const platform::MouseEvent& event) {
+  app_.Guard([&] {
+    if (OnMouseMoved) OnMouseMoved(event);
+  });
+}
+
+void Control::OnMouseUp(const platform::MouseEvent& event) {
+  if (!OnMouseReleased) return;
+  const auto kept = OnMouseReleased;  // it may go with the control
+  app_.Guard([&] { kept(event); });
+}
+
+void Control::OnDoubleClick(const platform::MouseEvent& /*event*/) {
+  app_.Guard([&] {
+    if (OnDblClick) OnDblClick();
+  });
+}
+
+void Control::OnMouseEnter() {
+  app_.Guard([&] {
+    app_.Hints().PointerOn(*this);
+    if (OnMouseEntered) OnMouseEntered();
+  });
+}
+
+void Control::OnMouseLeave() {
+  app_.Guard([&] {
+    app_.Hints().PointerOff(*this);
+    if (OnMouseLeft) OnMouseLeft();
+  });
+}
+
+void Control::OnContextMenu(platform::Point screen) {
+  app_.Guard([&] {
+    for (Control* control = this; control != nullptr; control = control->parent_) {
+      if (control->popup_menu_ == nullptr) continue;
+      control->popup_menu_->Popup(screen, control->ParentForm());
+      return;
+    }
+  });
+}
+
+void Control::OnClicked() {
+  app_.Guard([&] { Clicked(); });
+}
+
+void Control::OnResize(platform::Size /*size*/) {
+  app_.Guard([&] {
+    ArrangeChildren(ChildArea());
+    Resized();
+  });
+}
+
+}  // namespace toolkit

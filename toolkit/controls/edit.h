@@ -1,0 +1,50 @@
+// Edits of one line or several.
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "platform/controls.h"
+#include "toolkit/controls/control.h"
+
+namespace toolkit {
+
+class Edit : public Control {
+ public:
+  Edit(Control& parent, std::string_view name, const platform::EditStyle& style = {});
+
+  [[nodiscard]] const std::string& Text() const { return text_; }
+  void SetText(std::string_view text);
+
+  // Characters that the user can enter; 0 for no limit.
+  void SetMaxLength(int characters) { edit_->SetMaxLength(characters); }
+  void SetReadOnly(bool read_only) { edit_->SetReadOnly(read_only); }
+  void SelectAll() { edit_->SelectAll(); }
+
+  std::function<void()> OnChange;
+
+ protected:
+  // The user has changed the text.
+  virtual void TextEntered() { Fire(OnChange); }
+  void OnChanged() override;
+
+ private:
+  platform::Edit* edit_;  // the peer, owned by Control
+  std::string text_;
+};
+
+// Shows "x" for every character.
+class PasswordEdit : public Edit {
+ public:
+  PasswordEdit(Control& parent, std::string_view name)
+      : Edit(parent, name, {platform::EditKind::kPassword}) {}
+};
+
+// Lines end with "\n".
+class Memo : public Edit {
+ public:
+  Memo(Control& parent, std::string_view name, platform::Border border = platform::Border::kSunken)
+      : Edit(parent, name, {platform::EditKind::kMemo, border}) {}
+};
+
+}  // namespace toolkit

@@ -1,0 +1,23 @@
+// A text.
+#pragma once
+
+#include "platform/controls.h"
+#include "toolkit/controls/control.h"
+
+namespace toolkit {
+
+inline constexpr platform::TextStyle kCentredText{platform::TextAlign::kCentre};
+// A caption before the control that its marked letter leads to.
+inline constexpr platform::TextStyle kCaptionText{.mnemonic = true};
+inline constexpr platform::TextStyle kWrappedText{.wraps = true};
+// A value in a sunken box.
+inline constexpr platform::TextStyle kSunkenText{platform::TextAlign::kRight,
+                                                 platform::Border::kSunken};
+
+// Without a style one line, centred. A click on it is OnClick.
+class Label : public Control {
+ public:
+  Label(Control& parent, std::string_view name, const platform::TextStyle& style = kCentredText);
+};
+
+}  // namespace toolkit

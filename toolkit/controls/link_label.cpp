@@ -1,0 +1,39 @@
+#include "toolkit/controls/link_label.h"
+
+#include <algorithm>
+
+#include "toolkit/application.h"
+
+namespace toolkit {
+namespace {
+
+// Readable on light and on dark; schemes give the system's colour of links without a care for that.
+constexpr platform::Colour kLinkColour = 0xCC6600;
+// Design pixels that the mark of the keyboard takes on the left.
+constexpr int kIndent = 4;
+
+}  // namespace
+
+LinkLabel::LinkLabel(Control& parent, std::string_view name)
+    : Control(parent.App(), &parent, name) {
+  Attach(App().Platform().windowing.CreateButton(PeerOf(parent), name,
+                                                 platform::ButtonKind::kPainted, *this));
+  SetFontColour(kLinkColour);
+}
+
+void LinkLabel::OnPaint(platform::Canvas& canvas) {
+  App().Guard([&] {
+    const platform::Size size = canvas.Extent();
+    canvas.Fill({0, 0, size.width, size.height}, Colour());
+    const platform::Colour colour = Enabled() ? FontColour() : platform::colour::kGrayText;
+    const platform::FontSpec font = Scale(Font());
+    const int left = Scale(kIndent);
+    canvas.Text({left, 0, size.width - left, size.height}, Caption(), font, colour,
+                platform::TextAlign::kLeft);
+    const platform::Size text = canvas.TextSize(Caption(), font);
+    const int below = std::min((size.height + text.height) / 2, size.height) - 1;
+    canvas.Line({left, below}, {left + text.width, below}, colour);
+  });
+}
+
+}  // namespace toolkit

@@ -1,0 +1,20 @@
+// A text that opens something.
+#pragma once
+
+#include <string_view>
+
+#include "toolkit/controls/control.h"
+
+namespace toolkit {
+
+// Looks like a text and is pressed like a button, also with the keyboard: OnClick.
+class LinkLabel : public Control {
+ public:
+  LinkLabel(Control& parent, std::string_view name);
+
+ protected:
+  void OnPaint(platform::Canvas& canvas) override;
+  void CaptionChanged() override { Invalidate(); }
+};
+
+}  // namespace toolkit

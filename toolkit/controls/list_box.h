@@ -1,0 +1,27 @@
+// Lists that stand open, and lists that drop down.
+#pragma once
+
+#include "toolkit/controls/list_control.h"
+
+namespace toolkit {
+
+class ListBox : public ListControl {
+ public:
+  ListBox(Control& parent, std::string_view name)
+      : ListControl(parent, name, platform::ListKind::kBox) {}
+};
+
+class ComboBox : public ListControl {
+ public:
+  ComboBox(Control& parent, std::string_view name)
+      : ListControl(parent, name, platform::ListKind::kCombo) {}
+};
+
+// Shows each row in the font that it names.
+class FontComboBox : public ListControl {
+ public:
+  FontComboBox(Control& parent, std::string_view name)
+      : ListControl(parent, name, platform::ListKind::kFontCombo) {}
+};
+
+}  // namespace toolkit

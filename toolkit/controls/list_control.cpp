@@ -1,0 +1,57 @@
+#include "toolkit/controls/list_control.h"
+
+#include <utility>
+
+#include "toolkit/application.h"
+
+namespace toolkit {
+
+ListControl::ListControl(Control& parent, std::string_view name, platform::ListKind kind)
+    : Control(parent.App(), &parent, name) {
+  auto list = App().Platform().windowing.CreateList(PeerOf(parent), name, kind, *this);
+  list_ = list.get();
+  Attach(std::move(list));
+  SetColour(platform::colour::kWindow);
+}
+
+void ListControl::SetItems(std::span<const std::string> items) {
+  items_.assign(items.begin(), items.end());
+  ShowItems(index_ < Count() ? index_ : -1);
+}
+
+void ListControl::Add(std::string_view item) {
+  items_.emplace_back(item);
+  ShowItems(index_);
+}
+
+void ListControl::Remove(int row) {
+  if (row < 0 || row >= Count()) return;
+  items_.erase(items_.begin() + row);
+  RowRemoved(row);
+  const int behind = index_ > row ? index_ - 1 : index_;
+  ShowItems(index_ == row ? -1 : behind);
+}
+
+// Moving up with its row is no change of the selection, losing it is.
+void ListControl::ShowItems(int index) {
+  list_->SetItems(items_);
+  list_->SetIndex(index);
+  ItemsShown();
+  const bool lost = index_ >= 0 && index < 0;
+  index_ = index;
+  if (lost) Fire(OnChange);
+}
+
+void ListControl::SetItemIndex(int index) {
+  const int wanted = index >= 0 && index < Count() ? index : -1;
+  if (wanted == index_) return;
+  index_ = wanted;
+  list_->SetIndex(index_);
+  Fire(OnChange);
+}
+
+void ListControl::OnChanged() {
+  if (std::exchange(index_, list_->Index()) != index_) Fire(OnChange);
+}
+
+}  // namespace toolkit

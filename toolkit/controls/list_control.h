@@ -1,0 +1,51 @@
+// What lists of every kind have in common: rows and a selected one.
+#pragma once
+
+#include <functional>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "platform/controls.h"
+#include "toolkit/controls/control.h"
+
+namespace toolkit {
+
+class ListControl : public Control {
+ public:
+  [[nodiscard]] const std::vector<std::string>& Items() const { return items_; }
+  // Replaces the rows. The selection stays at its row, if there still is one of that number; boxes
+  // keep their ticks in the same way.
+  void SetItems(std::span<const std::string> items);
+  void Add(std::string_view item);
+  // Removes a row; with the selected one the selection goes.
+  void Remove(int row);
+  void Clear() { SetItems({}); }
+  [[nodiscard]] int Count() const { return static_cast<int>(items_.size()); }
+
+  // -1 for none; so is every row that does not exist.
+  [[nodiscard]] int ItemIndex() const { return index_; }
+  void SetItemIndex(int index);
+
+  // Another row is selected.
+  std::function<void()> OnChange;
+
+ protected:
+  ListControl(Control& parent, std::string_view name, platform::ListKind kind);
+
+  void OnChanged() override;
+  [[nodiscard]] platform::ItemList& List() const { return *list_; }
+  // The peer has new rows, without ticks.
+  virtual void ItemsShown() {}
+  // A row was removed, the others are to move up.
+  virtual void RowRemoved(int /*row*/) {}
+
+ private:
+  void ShowItems(int index);
+
+  platform::ItemList* list_;  // the peer, owned by Control
+  std::vector<std::string> items_;
+  int index_ = -1;
+};
+
+}  // namespace toolkit

@@ -1,0 +1,26 @@
+// An area with bevels that holds other controls.
+#pragma once
+
+#include "platform/windowing.h"
+#include "toolkit/controls/bevel.h"
+#include "toolkit/controls/control.h"
+
+namespace toolkit {
+
+class Panel : public Control {
+ public:
+  Panel(Control& parent, std::string_view name,
+        platform::SurfaceKind kind = platform::SurfaceKind::kArea);
+
+  void SetBevels(BevelCut outer, BevelCut inner);
+
+ protected:
+  void OnPaint(platform::Canvas& canvas) override;
+  [[nodiscard]] platform::Rect ChildArea() const override;
+
+ private:
+  BevelCut outer_ = BevelCut::kNone;
+  BevelCut inner_ = BevelCut::kNone;
+};
+
+}  // namespace toolkit

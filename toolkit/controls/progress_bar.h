@@ -1,0 +1,23 @@
+// How far something has come.
+#pragma once
+
+#include "platform/controls.h"
+#include "toolkit/controls/control.h"
+
+namespace toolkit {
+
+// From 0 to 100 at first.
+class ProgressBar : public Control {
+ public:
+  ProgressBar(Control& parent, std::string_view name);
+
+  void SetRange(int lowest, int highest) { bar_->SetRange(lowest, highest); }
+  [[nodiscard]] int Position() const { return position_; }
+  void SetPosition(int position);
+
+ private:
+  platform::ProgressBar* bar_;  // the peer, owned by Control
+  int position_ = 0;
+};
+
+}  // namespace toolkit

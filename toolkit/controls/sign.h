@@ -1,0 +1,31 @@
+// The picture beside the text of a dialog.
+#pragma once
+
+#include "toolkit/controls/panel.h"
+#include "toolkit/menus/image_list.h"
+
+namespace toolkit {
+
+inline constexpr int kSignSize = 32;  // design pixels, both ways
+
+class Sign : public Panel {
+ public:
+  enum class Picture { kQuestion, kLock };
+
+  // Give it bounds of kSignSize.
+  Sign(Control& parent, std::string_view name, Picture picture)
+      : Panel(parent, name), picture_(picture) {}
+  // The first image of a list that outlives the sign, in the middle of the bounds; `side` of it in
+  // design pixels.
+  Sign(Control& parent, std::string_view name, const ImageList& images, int side = kSignSize)
+      : Panel(parent, name), images_(&images), side_(side) {}
+
+ private:
+  void OnPaint(platform::Canvas& canvas) override;
+
+  Picture picture_ = Picture::kQuestion;
+  const ImageList* images_ = nullptr;  // not owned; null for one of the pictures
+  int side_ = kSignSize;
+};
+
+}  // namespace toolkit

@@ -1,0 +1,34 @@
+// A slider.
+#pragma once
+
+#include <functional>
+
+#include "platform/controls.h"
+#include "toolkit/controls/control.h"
+
+namespace toolkit {
+
+class TrackBar : public Control {
+ public:
+  TrackBar(Control& parent, std::string_view name);
+
+  // `page` is the step of the page keys. Moves the position into the range.
+  void SetRange(int lowest, int highest, int page);
+  [[nodiscard]] int Position() const { return position_; }
+  // Moved into the range.
+  void SetPosition(int position);
+
+  // It has another position.
+  std::function<void()> OnChange;
+
+ protected:
+  void OnChanged() override;
+
+ private:
+  platform::TrackBar* bar_;  // the peer, owned by Control
+  int lowest_ = 0;
+  int highest_ = 100;
+  int position_ = 0;
+};
+
+}  // namespace toolkit

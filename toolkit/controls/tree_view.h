@@ -1,0 +1,36 @@
+// A tree, all of it expanded.
+#pragma once
+
+#include <functional>
+#include <span>
+
+#include "platform/controls.h"
+#include "toolkit/controls/control.h"
+
+namespace toolkit {
+
+class TreeView : public Control {
+ public:
+  TreeView(Control& parent, std::string_view name);
+
+  // Replaces the items; the selection stays at its number, if there still is such an item.
+  void SetItems(std::span<const platform::TreeItem> items);
+  // The number of the selected item, as it stands in the expanded tree; -1 for none.
+  [[nodiscard]] int ItemIndex() const { return index_; }
+  void SetItemIndex(int index);
+  // Expands what the user has collapsed.
+  void FullExpand() { tree_->ExpandAll(); }
+
+  // Another item is selected.
+  std::function<void()> OnChange;
+
+ protected:
+  void OnChanged() override;
+
+ private:
+  platform::Tree* tree_;  // the peer, owned by Control
+  int count_ = 0;
+  int index_ = -1;
+};
+
+}  // namespace toolkit

@@ -1,0 +1,88 @@
+// A window of the program.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string_view>
+#include <vector>
+
+#include "platform/top_window.h"
+#include "toolkit/controls/control.h"
+#include "toolkit/forms/form_component.h"
+#include "toolkit/forms/modal_stack.h"
+
+namespace toolkit {
+
+class Form : public Control {
+ public:
+  // Made hidden. `owner` (null: the application) stays below it.
+  Form(Application& app, const platform::TopWindowParams& params, Form* owner = nullptr);
+  // The same for a window that has a name and a frame, and gets its caption later.
+  Form(Application& app, std::string_view name, platform::Frame frame);
+  ~Form() override;
+
+  [[nodiscard]] Form& ParentForm() override { return *this; }
+
+  // An activated form has the keyboard in its first control.
+  void Show(platform::Activation activation = platform::Activation::kActivate);
+  void Hide();
+  [[nodiscard]] bool Showing() const { return Window().Visible(); }
+  void Raise() { Window().Raise(); }
+  // As by its close box.
+  void Close();
+
+  // Ends the modal loop that shows this form; without one nothing happens.
+  void EndModal(ModalResult result);
+
+  // Position and size on the screen, frame included, in real pixels.
+  [[nodiscard]] platform::Rect WindowBounds() const { return Window().Bounds(); }
+  void SetWindowBounds(const platform::Rect& bounds) { Window().SetBounds(bounds); }
+  // The size inside the frame, in design pixels; kept when the resolution changes.
+  void SetClientSize(platform::Size design);
+  // Into the middle of the work area: of the monitor that its owner is on, or else of the first.
+  void CentreOnScreen();
+
+  [[nodiscard]] int Dpi() const { return Window().Dpi(); }
+  [[nodiscard]] platform::TopWindow& Window() const { return *window_; }
+
+  // Lets the user go on dragging the form by one of its controls.
+  void BeginDrag() { Window().BeginDrag(); }
+
+  // Gives every control its text in the user's language: called by the form itself when it is made,
+  // and by the application when another language was chosen. It closes and destroys no form.
+  virtual void Localise() {}
+
+ protected:
+  // The user or the system asks to close the form; so does Esc. As it stands: a modal form ends
+  // with kCancel, another one hides.
+  virtual void FormClose();
+  virtual void FormResize() {}
+  // Moved or sized, by whomever.
+  virtual void FormPlaced() {}
+  virtual void FormShow() {}
+  virtual void FormDpiChanged() {}
+  virtual void FormDisplayChange() {}
+  virtual void FormResumed() {}
+  virtual void FormEndSession() {}
+  virtual void FormSettingChange() {}
+  // Children do not cover this area.
+  virtual void FormPaint(platform::Canvas& canvas);
+
+ private:
+  friend class FormComponent;
+
+  // Forwards the reports of the native window, each inside the guard.
+  class Events;
+
+  void Resized() override;
+  void ChangeDpi(const platform::Rect& bounds);
+
+  Form* owner_;                                // not owned; null for the application
+  std::optional<platform::Size> client_size_;  // design pixels; none for one that the user sizes
+  std::unique_ptr<Events> events_;
+  std::vector<FormComponent*> components_;  // each takes itself out
+  platform::TopWindow* window_ = nullptr;   // the peer, owned by Control
+};
+
+}  // namespace toolkit

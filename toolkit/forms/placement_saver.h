@@ -1,0 +1,55 @@
+// Keeps the place of a form from one run to the next.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/screen.h"
+#include "toolkit/forms/form_component.h"
+
+namespace toolkit {
+
+// Stores position and size, in pixels of the screen with the resolution that they are meant for, as
+// the DWORD values "Left", "Top", "Width", "Height" and "Dpi" of a key of the user's registry:
+// after every move or resize (while the user drags, at its end), when the form closes, and when it
+// is destroyed. A registry that refuses is not reported.
+//
+// What is stored is the place where the form is wanted. While that is on no monitor the form stands
+// somewhere in view; that place is not stored, and when the monitor is back, so is the form.
+class PlacementSaver final : public FormComponent {
+ public:
+  enum class Restores { kPlaceAndSize, kPlace };
+
+  // `key` is under HKEY_CURRENT_USER.
+  PlacementSaver(Form& form, std::string_view key, Restores what = Restores::kPlaceAndSize);
+  ~PlacementSaver() override;
+
+  // Gives the form its stored place, or leaves it where it is. Nothing is saved before this.
+  void Restore();
+
+  void FormPlaced() override;
+  void FormDragEnded() override;
+  void FormDisplayChanged() override;
+  void FormClosing() override;
+  void FormSessionEnds() override;
+
+ private:
+  // The stored bounds; the form's own where nothing, or nothing sensible, is stored.
+  [[nodiscard]] platform::Rect Stored();
+  // Puts the form where it is wanted, or else into view.
+  void Place();
+  void TakePlace(bool dragged);
+  void Save() noexcept;
+  [[nodiscard]] bool MonitorsChanged();
+
+  std::string key_;
+  Restores restores_;
+  bool active_ = false;
+  bool placing_ = false;    // what is heard of is its own doing
+  bool displaced_ = false;  // the form stands where it is not wanted
+  platform::Rect wanted_;
+  std::vector<platform::Monitor> monitors_;  // as they were when the form was last placed
+};
+
+}  // namespace toolkit

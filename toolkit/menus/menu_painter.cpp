@@ -1,0 +1,153 @@
+#include "toolkit/menus/menu_painter.h"
+
+#include <algorithm>
+
+#include "platform/text.h"
+#include "toolkit/application.h"
+#include "toolkit/design_pixels.h"
+
+namespace toolkit {
+namespace {
+
+// Design pixels.
+constexpr int kIconWidth = 24;
+constexpr int kItemHeight = 22;
+constexpr int kSeparatorHeight = 5;
+constexpr int kTextIndent = 6;
+constexpr int kShortCutGap = 24;
+constexpr int kArrowWidth = 18;
+constexpr int kLargestText = 480;  // a longer one is cut: a menu has to fit on the screen
+const platform::FontSpec kFont{"Tahoma", 11, false};
+
+platform::FontSpec FontAt(int dpi) { return {kFont.face, ScaleTo(dpi, kFont.height), kFont.bold}; }
+
+// The text as it is read: "&&" is one ampersand, a single one only marks the key.
+std::string ShownText(std::string_view text) {
+  std::string shown;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (text[i] == '&') ++i;
+    if (i < text.size()) shown += text[i];
+  }
+  return shown;
+}
+
+// Where the key that "&" marks begins in the shown text; npos for none.
+std::size_t MnemonicAt(std::string_view text) {
+  std::size_t shown = 0;
+  for (std::size_t i = 0; i + 1 < text.size(); ++i, ++shown) {
+    if (text[i] != '&') continue;
+    if (text[i + 1] != '&') return shown;
+    ++i;
+  }
+  return std::string_view::npos;
+}
+
+// The text, or as much of it as fits with an ellipsis behind it.
+std::string Fitted(const std::string& text, int width, platform::Canvas& canvas,
+                   const platform::FontSpec& font) {
+  if (canvas.TextSize(text, font).width <= width) return text;
+  std::size_t fits = 0;
+  std::size_t too_many = text.size();
+  const auto cut = [&](std::size_t characters) {
+    return platform::CutCharacters(text, characters) + "\xE2\x80\xA6";
+  };
+  while (fits + 1 < too_many) {
+    const std::size_t middle = (fits + too_many) / 2;
+    (canvas.TextSize(cut(middle), font).width <= width ? fits : too_many) = middle;
+  }
+  return cut(fits);
+}
+
+// A check mark: two strokes, each two pixels thick at 96 dpi.
+void PaintCheck(platform::Canvas& canvas, platform::Point centre, int dpi,
+                platform::Colour colour) {
+  const int unit = std::max(1, ScaleTo(dpi, 1));
+  for (int step = 0; step < 7; ++step) {
+    const int x = centre.x + (step - 3) * unit;
+    const int rise = step < 2 ? step : 4 - step;  // down to the right, then up
+    canvas.Fill({x, centre.y + rise * unit, unit, 2 * unit}, colour);
+  }
+}
+
+void PaintDot(platform::Canvas& canvas, platform::Point centre, int dpi, platform::Colour colour) {
+  const int unit = std::max(1, ScaleTo(dpi, 1));
+  canvas.Fill({centre.x - 3 * unit, centre.y - 2 * unit, 6 * unit, 4 * unit}, colour);
+  canvas.Fill({centre.x - 2 * unit, centre.y - 3 * unit, 4 * unit, 6 * unit}, colour);
+}
+
+platform::Colour TextColour(const platform::MenuEntry& entry,
+                            const platform::MenuEntryState& state) {
+  if (!entry.enabled) return platform::colour::kGrayText;
+  return state.highlighted ? platform::colour::kHighlightText : platform::colour::kMenuText;
+}
+
+}  // namespace
+
+platform::Size MenuPainter::Measure(const platform::MenuEntry& entry, platform::Canvas& canvas,
+                                    int dpi) {
+  if (entry.separator) return {ScaleTo(dpi, kIconWidth), ScaleTo(dpi, kSeparatorHeight)};
+  const platform::FontSpec font = FontAt(dpi);
+  int width =
+      ScaleTo(dpi, kIconWidth + 2 * kTextIndent + kArrowWidth) +
+      std::min(canvas.TextSize(ShownText(entry.text), font).width, ScaleTo(dpi, kLargestText));
+  if (!entry.shortcut.empty()) {
+    width += ScaleTo(dpi, kShortCutGap) + canvas.TextSize(entry.shortcut, font).width;
+  }
+  return {width, ScaleTo(dpi, kItemHeight)};
+}
+
+void MenuPainter::Paint(const platform::MenuEntry& entry, const platform::MenuEntryState& state,
+                        platform::Canvas& canvas, const platform::Rect& area) {
+  const int dpi = state.dpi;
+  const platform::Rect column{area.left, area.top, ScaleTo(dpi, kIconWidth), area.height};
+  canvas.Fill(area, platform::colour::kMenu);
+  canvas.Fill(column, platform::colour::kButtonFace);
+  const int text_left = column.Right() + ScaleTo(dpi, kTextIndent);
+  if (entry.separator) {
+    const int y = area.top + area.height / 2;
+    canvas.Line({text_left, y}, {area.Right(), y}, platform::colour::kButtonShadow);
+    return;
+  }
+  const bool marked = state.highlighted && entry.enabled;
+  if (marked) canvas.Fill(area, platform::colour::kHighlight);
+  PaintMark(entry, state, canvas, column);
+  const platform::FontSpec font = FontAt(dpi);
+  const platform::Colour colour = TextColour(entry, state);
+  const int text_right = area.Right() - ScaleTo(dpi, kArrowWidth);
+  const platform::Rect box{text_left, area.top, text_right - text_left, area.height};
+  const std::string shown = Fitted(ShownText(entry.text), box.width, canvas, font);
+  canvas.Text(box, shown, font, colour, platform::TextAlign::kLeft);
+  canvas.Text(box, entry.shortcut, font, colour, platform::TextAlign::kRight);
+  const std::size_t mnemonic = MnemonicAt(entry.text);
+  if (mnemonic < shown.size()) {
+    const int before = canvas.TextSize(shown.substr(0, mnemonic), font).width;
+    const int width = canvas.TextSize(shown.substr(mnemonic, 1), font).width;
+    const int y = area.top + (area.height + canvas.TextSize(shown, font).height) / 2 - 1;
+    canvas.Line({text_left + before, y}, {text_left + before + width, y}, colour);
+  }
+}
+
+void MenuPainter::PaintMark(const platform::MenuEntry& entry, const platform::MenuEntryState& state,
+                            platform::Canvas& canvas, const platform::Rect& column) {
+  const platform::Point centre{column.left + column.width / 2, column.top + column.height / 2};
+  if (entry.checked) {
+    const platform::Colour colour = TextColour(entry, state);
+    if (entry.radio) {
+      PaintDot(canvas, centre, state.dpi, colour);
+    } else {
+      PaintCheck(canvas, centre, state.dpi, colour);
+    }
+  } else if (entry.image >= 0) {
+    const int half = ScaleTo(state.dpi, kImageSize) / 2;
+    images_.Draw(entry.image, canvas, {centre.x - half, centre.y - half}, state.dpi);
+  }
+}
+
+void MenuPainter::Highlighted(const platform::MenuEntry* entry, const platform::Rect& area) {
+  app_.Guard([&] {
+    const int dpi = app_.Platform().screen.MonitorOf(area).dpi;
+    app_.Hints().ShowBeside(entry != nullptr ? entry->hint : std::string_view(), area, dpi);
+  });
+}
+
+}  // namespace toolkit

@@ -1,0 +1,119 @@
+#include "toolkit/menus/popup_menu.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "toolkit/application.h"
+#include "toolkit/forms/form.h"
+
+namespace toolkit {
+namespace {
+
+constexpr std::string_view kSeparator = "-";
+
+std::string DoubleAmpersands(std::string_view text) {
+  std::string doubled;
+  for (const char c : text) {
+    doubled += c;
+    if (c == '&') doubled += c;
+  }
+  return doubled;
+}
+
+// Numbers the items as they stand and remembers which is which.
+class EntryBuilder {
+ public:
+  using Item = std::shared_ptr<MenuItem>;
+
+  [[nodiscard]] std::vector<platform::MenuEntry> Build(const std::vector<Item>& items) {
+    std::vector<platform::MenuEntry> entries;
+    for (const Item& item : items) entries.push_back(EntryOf(item));
+    return entries;
+  }
+
+  // The item behind an id; null when there is none or it was removed.
+  [[nodiscard]] Item ItemOf(int id) const {
+    const auto index = static_cast<std::size_t>(id) - 1;
+    return id > 0 && index < items_.size() ? items_[index].lock() : nullptr;
+  }
+
+ private:
+  platform::MenuEntry EntryOf(const Item& item) {
+    items_.push_back(item);
+    platform::MenuEntry entry;
+    entry.id = static_cast<int>(items_.size());
+    entry.separator = !item->Literal && item->Caption == kSeparator;
+    entry.text = item->Literal ? DoubleAmpersands(item->Caption) : item->Caption;
+    entry.shortcut = ShortCutText(item->ShortCut);
+    entry.hint = item->Hint;
+    entry.enabled = item->Enabled;
+    entry.checked = item->Checked();
+    entry.radio = item->RadioItem;
+    entry.image = item->ImageIndex;
+    entry.children = Build(item->Children());
+    return entry;
+  }
+
+  std::vector<std::weak_ptr<MenuItem>> items_;
+};
+
+// Marks a menu as open until its choice is made, also when that fails.
+class OpenScope {
+ public:
+  explicit OpenScope(bool& open) : open_(open) { open_ = true; }
+  ~OpenScope() { End(); }
+  OpenScope(const OpenScope&) = delete;
+  OpenScope& operator=(const OpenScope&) = delete;
+  void End() const { open_ = false; }
+
+ private:
+  bool& open_;
+};
+
+}  // namespace
+
+void MenuItem::SetChecked(bool checked) {
+  checked_ = checked;
+  if (!checked || !RadioItem || parent_ == nullptr) return;
+  for (const auto& sibling : parent_->children_) {
+    if (sibling.get() != this && sibling->RadioItem) sibling->checked_ = false;
+  }
+}
+
+MenuItem& MenuItem::Add(std::string_view caption) {
+  children_.push_back(std::make_shared<MenuItem>(caption));
+  children_.back()->parent_ = this;
+  return *children_.back();
+}
+
+PopupMenu::PopupMenu(Application& app, const ImageList& images)
+    : app_(app), painter_(app, images) {}
+
+void PopupMenu::Popup(platform::Point screen, Form& owner) {
+  if (open_) return;
+  const OpenScope scope(open_);
+  if (OnPopup) app_.Guard(OnPopup);
+  EntryBuilder builder;
+  const std::vector<platform::MenuEntry> entries = builder.Build(Items.Children());
+  const int id = app_.Platform().menus.Popup(owner.Window(), screen, entries, painter_);
+  scope.End();
+  if (const auto waiting = std::exchange(next_, {}); !waiting.empty()) {
+    for (const auto& next : waiting) app_.Guard(next);
+    return;
+  }
+  // Scans go on while the menu is open and may have replaced the adapter items; the one that is
+  // held here outlives its handler.
+  const std::shared_ptr<MenuItem> item = builder.ItemOf(id);
+  if (item != nullptr && item->OnClick) app_.Guard(item->OnClick);
+}
+
+void PopupMenu::CloseThen(const std::function<void()>& next) {
+  if (!open_) {
+    next();
+    return;
+  }
+  next_.push_back(next);
+  app_.Platform().menus.Cancel();
+}
+
+}  // namespace toolkit

@@ -1,0 +1,69 @@
+// The meter window, its menu and its icon.
+#include <vector>
+
+#include "tests/desktop/driver/registry.h"
+#include "tools/screenshots/shots.h"
+
+namespace desktop {
+namespace {
+
+namespace text = language::text::MainForm;
+
+void MeterInItsModes(Scene& scene) {
+  struct Mode {
+    language::TextEntry item;
+    const char* name;
+  };
+  static constexpr Mode kModes[] = {
+      {text::mnuGraphMode, "meter-graph"},
+      {text::mnuTextMode, "meter-numeric"},
+      {text::mnuTextandGraph, "meter-graph-and-numeric"},
+  };
+  scene.FillGraph();
+  for (const Mode& mode : kModes) {
+    scene.Choose({text::GraphDisplayOptions1, mode.item});
+    Scene::AwaitPainted();
+    scene.Save(mode.name, Scene::Of(scene.meter().window()));
+  }
+}
+
+// Beside the meter that it came from.
+void MenuOfTheMeter(Scene& scene) {
+  OpenMenu menu = scene.meter().Menu();
+  (void)menu.Items(scene.Path({text::GraphDisplayOptions1}));
+  scene.Save("menu", scene.OfAll());
+  menu.Leave();
+}
+
+// The icon shows the last 14 seconds.
+void Histogram(Scene& scene) {
+  AwaitScans(15);
+  scene.Save("tray-histogram", TakePicture(scene.meter().TrayArea()).Enlarged(8));
+}
+
+// Idle, upload, download, both.
+void ActivityPictures(Scene& scene) {
+  scene.Restart([] { Store("IconType", 0U); });
+  std::vector<Picture> pictures;
+  for (const Flow flow : {Flow::kNothing, Flow::kUpload, Flow::kDownload, Flow::kBoth}) {
+    scene.waves().Set(flow);
+    AwaitScans(4);
+    pictures.push_back(TakePicture(scene.meter().TrayArea()));
+  }
+  scene.Save("tray-pictures", Beside(pictures).Enlarged(8));
+  scene.Restart([] { Store("IconType", 1U); });
+}
+
+}  // namespace
+
+std::span<const Shot> MeterShots() {
+  static constexpr Shot kShots[] = {
+      {"meter", MeterInItsModes, Languages::kEnglish},
+      {"menu", MenuOfTheMeter},
+      {"tray-histogram", Histogram, Languages::kEnglish},
+      {"tray-pictures", ActivityPictures, Languages::kEnglish},
+  };
+  return kShots;
+}
+
+}  // namespace desktop

@@ -1,0 +1,74 @@
+// The statistics of the machine and of an adapter, one tab beside the other.
+#include <vector>
+
+#include "platform/text.h"
+#include "tests/desktop/driver/registry.h"
+#include "tests/desktop/driver/windows_of.h"
+#include "tools/screenshots/shots.h"
+// Behind the system's own header, which it needs.
+#include <commctrl.h>
+
+namespace desktop {
+namespace {
+
+namespace text = language::text::MainForm;
+
+Picture OfAllTabs(HWND window) {
+  const HWND tabs = FindControl(window, L"PageControl1");
+  const auto count = static_cast<int>(::SendMessageW(tabs, TCM_GETITEMCOUNT, 0, 0));
+  std::vector<Picture> pictures;
+  for (int tab = 0; tab < count; ++tab) {
+    ::SendMessageW(tabs, TCM_SETCURFOCUS, static_cast<WPARAM>(tab), 0);
+    Scene::AwaitPainted();
+    pictures.push_back(Scene::Of(window));
+  }
+  return Beside(pictures);
+}
+
+// Some weeks of use, and most of a limit of 20 gigabytes a month gone.
+void DlUlStatistics(Scene& scene) {
+  scene.Restart([] {
+    Store("CurrentDayTotalDL", std::string("734003200"));
+    Store("CurrentDayTotalUL", std::string("52428800"));
+    Store("CurrentWeekTotalDL", std::string("4509715660"));
+    Store("CurrentWeekTotalUL", std::string("322122547"));
+    Store("CurrentMonthTotalDL", std::string("15032385536"));
+    Store("CurrentMonthTotalUL", std::string("1288490188"));
+    Store("MoreThan", 20U);
+    Store("AlertsMoreThan", 2U);
+    Store("BADayWeekMonth", 2U);
+    Store("baDownload", 1U);
+    Store("baUpload", 1U);
+  });
+  const HWND window = scene.Open({text::ConnectionInformations1}, L"T_frmConnInfo");
+  scene.Save("dl-ul-statistics", OfAllTabs(window));
+  scene.Close(window);
+}
+
+void AdapterStatistics(Scene& scene) {
+  {
+    OpenMenu menu = scene.meter().Menu();
+    MenuPath path = scene.Path({text::conenctionMonitor1});
+    for (const MenuItem& item : menu.Items(path)) {
+      if (platform::AsciiLower(item.text) != scene.waves().adapter()) continue;
+      path.push_back(item.text);
+      break;
+    }
+    menu.Choose(path);
+  }
+  const HWND window = scene.AwaitWindow(L"T_frmSpecificConnInfo");
+  scene.Save("adapter-statistics", OfAllTabs(window));
+  scene.Close(window);
+}
+
+}  // namespace
+
+std::span<const Shot> StatisticsShots() {
+  static constexpr Shot kShots[] = {
+      {"dl-ul-statistics", DlUlStatistics},
+      {"adapter-statistics", AdapterStatistics},
+  };
+  return kShots;
+}
+
+}  // namespace desktop
