@@ -1,10 +1,12 @@
-# floor(<target> <folder> [<floors below>...])
+# floor(<target> <folders> [<floors below>...])
 #
-# A static library of all sources directly in <folder>; header-only while the folder has none.
+# A static library of all sources directly in the folders (a list); header-only while they have none.
 # Sources are found at configure time, so that a new file needs no second entry here.
-function(floor target folder)
-  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/${folder}/*.cpp)
-  list(FILTER sources EXCLUDE REGEX "/engine/main\\.cpp$")
+function(floor target folders)
+  list(TRANSFORM folders APPEND "/*.cpp")
+  list(TRANSFORM folders PREPEND "${CMAKE_SOURCE_DIR}/")
+  file(GLOB sources CONFIGURE_DEPENDS ${folders})
+  list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")
   if(sources)
     add_library(${target} STATIC ${sources})
     target_link_libraries(${target} PUBLIC tremolux_options ${ARGN})

@@ -1,5 +1,9 @@
 # The Windows side: the thin layer and the executable.
-floor(windows platform/windows platform)
+set(windows_folders platform/windows)
+foreach(folder services windows widgets drawing)
+  list(APPEND windows_folders platform/windows/${folder})
+endforeach()
+floor(windows "${windows_folders}" platform)
 if(TARGET windows)
   get_target_property(windows_type windows TYPE)
   if(windows_type STREQUAL "STATIC_LIBRARY")

@@ -48,10 +48,12 @@ function(read_headers_once target)
   endif()
 endfunction()
 
-# test_program(<name> <folder> [<libraries>...]): one executable of all tests of a folder, so that
-# every test file runs by being there.
-function(test_program name folder)
-  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/${folder}/*.cpp)
+# test_program(<name> <folders> [<libraries>...]): one executable of all tests of the folders (a
+# list), so that every test file runs by being there.
+function(test_program name folders)
+  list(TRANSFORM folders APPEND "/*.cpp")
+  list(TRANSFORM folders PREPEND "${CMAKE_SOURCE_DIR}/")
+  file(GLOB sources CONFIGURE_DEPENDS ${folders})
   # The contract tests run against the system that the build is for.
   if(WIN32)
     list(FILTER sources EXCLUDE REGEX "_memory\\.cpp$")
@@ -95,7 +97,7 @@ if(WIN32)
   include(cmake/desktop_tests.cmake)
 
   # Not a test: takes the pictures of the documentation.
-  floor(screenshot_scenes tests/desktop/screenshots desktop_driver settings)
+  floor(screenshot_scenes tools/screenshots desktop_driver settings)
   add_executable(screenshots $<TARGET_OBJECTS:screenshot_scenes>)
   target_link_libraries(screenshots PRIVATE desktop_driver settings)
   target_link_options(screenshots PRIVATE -municode)
@@ -104,12 +106,12 @@ else()
   test_program(platform_tests tests/platform memory)
   test_program(contract_tests tests/contract memory)
   test_program(toolkit_tests tests/toolkit toolkit memory)
-  test_program(settings_tests tests/settings settings memory)
+  test_program(settings_tests "tests/settings;tests/language" settings memory)
   test_program(engine_tests tests/engine engine memory)
-  test_program(quantity_tests tests/display/quantity quantity memory)
+  test_program(quantity_tests tests/quantity quantity memory)
   test_program(alerts_tests tests/alerts alerts memory)
   test_program(stats_tests tests/stats stats memory)
   test_program(display_tests tests/display display memory)
-  test_program(preferences_tests tests/settings/preferences preferences memory)
+  test_program(preferences_tests tests/preferences preferences memory)
   test_program(house_tests tests/house)
 endif()

@@ -113,7 +113,7 @@ void NumericLine::UpdateAverage(const engine::ScanAmounts& scan) {
 }
 
 std::string NumericLine::Amount(std::int64_t bytes) {
-  return NumberAndUnit(quantity_.FormatQuantity(bytes));
+  return quantity::NumberAndUnit(quantity_.FormatQuantity(bytes));
 }
 
 bool NumericLine::ReadMode(const settings::BooleanSetting& mode) {

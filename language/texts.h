@@ -1,4 +1,4 @@
-// The catalogue of what the user reads. settings/texts.inc holds the texts themselves; code names
+// The catalogue of what the user reads. language/texts.inc holds the texts themselves; code names
 // one by its constant, as in `text::Security::Title`.
 #pragma once
 

@@ -56,7 +56,7 @@ def main():
     for size, image in zip(SIZES, images):
         directory += struct.pack("<BBBBHHII", size % 256, size % 256, 0, 0, 1, 32, len(image), offset)
         offset += len(image)
-    path = pathlib.Path(__file__).with_name("tremolux.ico")
+    path = pathlib.Path(__file__).parents[1] / "assets" / "tremolux.ico"
     path.write_bytes(directory + b"".join(images))
 
 

@@ -35,7 +35,7 @@ def write(name, seconds, sample):
     frames = b"".join(
         struct.pack("<h", round(32767 * max(-1.0, min(1.0, sample(index / RATE)))))
         for index in range(round(seconds * RATE)))
-    with wave.open(str(pathlib.Path(__file__).with_name(name)), "wb") as file:
+    with wave.open(str(pathlib.Path(__file__).parents[1] / "assets" / name), "wb") as file:
         file.setnchannels(1)
         file.setsampwidth(2)
         file.setframerate(RATE)

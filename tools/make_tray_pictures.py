@@ -50,7 +50,7 @@ def main():
         for y in reversed(range(HEIGHT)))
     header = struct.pack("<IiiHHIIiiII", 40, WIDTH, HEIGHT, 1, 24, 0, len(pixels), 2835, 2835, 0, 0)
     start = 14 + len(header)
-    path = pathlib.Path(__file__).parent / "Icons" / "default.bmp"
+    path = pathlib.Path(__file__).parents[1] / "assets" / "Icons" / "default.bmp"
     path.parent.mkdir(exist_ok=True)
     path.write_bytes(struct.pack("<2sIHHI", b"BM", start + len(pixels), 0, 0, start) + header + pixels)
 

@@ -259,8 +259,8 @@ TEST(GetToken, CutsAPieceOut) {
     SCOPED_TRACE(row.why);
     EXPECT_EQ(GetToken(row.text, row.delimiter, row.index), row.token);
   }
-  EXPECT_EQ(display::NumberAndUnit("1,5|kB|"), "1,5 kB");
-  EXPECT_EQ(display::NumberAndUnit(""), " ") << "an amount without a text leaves its blank";
+  EXPECT_EQ(quantity::NumberAndUnit("1,5|kB|"), "1,5 kB");
+  EXPECT_EQ(quantity::NumberAndUnit(""), " ") << "an amount without a text leaves its blank";
 }
 
 }  // namespace

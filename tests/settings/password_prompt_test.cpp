@@ -35,7 +35,7 @@ class PasswordPrompt : public testing::Test {
   platform::memory::Machine machine;
   toolkit::Application app{machine.Platform()};
   Store store{machine.registry, machine.files};
-  Language language{store, machine.files, machine.locale};
+  language::Language language{store, machine.files, machine.locale};
 };
 
 TEST_F(PasswordPrompt, OpensWithTheLastLetterOfTheRightPassword) {
