@@ -104,16 +104,6 @@ TEST_F(Titles, TheListIsReadHoweverItWasWritten) {
   machine.files.Remove("C:\\Program Files\\Tremolux\\WindowTitles.tit");
 }
 
-TEST_F(Titles, ALongListIsWrittenAndReadBack) {
-  display::TitleLines lines;
-  for (int i = 0; i < 10000; ++i) lines.push_back("title " + std::to_string(i) + "\xC3\xA4");
-  lines.emplace_back("");
-  lines.emplace_back("last");
-  ASSERT_TRUE(display::SaveTitleLines(machine.files, lines));
-  EXPECT_TRUE(machine.files.BytesBesideProgram(kListFile)->starts_with("title 0\xC3\xA4\r\n"));
-  EXPECT_EQ(display::LoadTitleLines(machine.files, machine.locale), lines);
-}
-
 TEST_F(Titles, ModeThreeFollowsTheWindowInFront) {
   const WindowId notes = Add("Notes");
   const WindowId mail = Add("Mail");
