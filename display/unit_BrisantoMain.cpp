@@ -188,10 +188,10 @@ void T_frmBrisanto::SetPreferences(std::function<void()> open) {
 }
 
 RunningMeter T_frmBrisanto::Parts() {
-  return {*this,          RegME,          _ReadLangauge, _tlkInterMeter,
-          _tlkDLULMeter,  numeric_line_,  _TrayIcon,     transparency_,
-          _FormMagnet,    title_posting_, App().Hints(), traffic_.SpeedCap,
-          adapter_menus_, notifications_};
+  return {*this,         RegME,         _ReadLangauge,     _tlkInterMeter,
+          _tlkDLULMeter, numeric_line_, _TrayIcon,         transparency_,
+          _FormMagnet,   App().Hints(), traffic_.SpeedCap, adapter_menus_,
+          notifications_};
 }
 
 void T_frmBrisanto::ApplyDisplaySettings() {
