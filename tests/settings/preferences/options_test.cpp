@@ -400,9 +400,10 @@ TEST_F(PreferenceOptions, PostedTitlesStayWhateverIsChosenUntilTheEnd) {
 TEST_F(PreferenceOptions, AnotherLanguageCountsAtOnceInAllWindows) {
   machine.files.PutBesideProgram("Languages\\Pirate.lng",
                                  "[MainForm]\nS1=Booty\n[SettingsForm]\nTitle=Rigging\n"
+                                 "LanguageName=Arrr\n"
                                  "chkShowHints=Parrot\nTreeItem0=Captain\n");
   RunOpen([&] {
-    EXPECT_EQ(Widget("cmbLanguage").items, (std::vector<std::string>{"English", "Pirate"}));
+    EXPECT_EQ(Widget("cmbLanguage").items, (std::vector<std::string>{"English", "Arrr"}));
     User().Choose("cmbLanguage", 1);
     EXPECT_EQ(StoredText("Language"), "Pirate");
     EXPECT_EQ(Line(), "[ Booty DL:0,0 kB UL:0,0 kB ]");
@@ -414,8 +415,8 @@ TEST_F(PreferenceOptions, AnotherLanguageCountsAtOnceInAllWindows) {
     Close();
     machine.files.PutBesideProgram("Languages\\Aaa.lng", "");
     Open();
-    EXPECT_EQ(Widget("cmbLanguage").items.size(), 3U);
-    EXPECT_EQ(Widget("cmbLanguage").text, "Pirate");
+    EXPECT_EQ(Widget("cmbLanguage").items, (std::vector<std::string>{"English", "Aaa", "Arrr"}));
+    EXPECT_EQ(Widget("cmbLanguage").text, "Arrr");
   });
 }
 
