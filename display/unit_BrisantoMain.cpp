@@ -188,10 +188,10 @@ void T_frmBrisanto::SetPreferences(std::function<void()> open) {
 }
 
 RunningMeter T_frmBrisanto::Parts() {
-  return {*this,          RegME,          _ReadLangauge, _tlkInterMeter,
-          _tlkDLULMeter,  numeric_line_,  _TrayIcon,     transparency_,
-          _FormMagnet,    title_posting_, App().Hints(), traffic_.SpeedCap,
-          adapter_menus_, notifications_};
+  return {*this,         RegME,         _ReadLangauge,     _tlkInterMeter,
+          _tlkDLULMeter, numeric_line_, _TrayIcon,         transparency_,
+          _FormMagnet,   App().Hints(), traffic_.SpeedCap, adapter_menus_,
+          notifications_};
 }
 
 void T_frmBrisanto::ApplyDisplaySettings() {
@@ -206,7 +206,7 @@ void T_frmBrisanto::ApplyDisplaySettings() {
   ShowLine();
   ApplyAlwaysOnTop();
   ApplyWindowMode();
-  title_posting_.SetLines(LoadTitleLines(App().Platform().files, App().Platform().locale));
+  title_posting_.SetLines(LoadTitleFile(App().Platform().files, App().Platform().locale).lines);
   _TrayIcon.ShowStart();
   transparency_.ApplyShape();
 }
@@ -300,7 +300,7 @@ void T_frmBrisanto::AboutBrisantoXP1Click() { ShowAbout(App(), _ReadLangauge); }
 
 void T_frmBrisanto::EditTitles() {
   if (App().Modals().Raise(kAddTitlesForm)) return;
-  T_frmAddTitles editor(App(), title_posting_, _ReadLangauge);
+  T_frmAddTitles editor(App(), title_posting_, _TrayIcon, _ReadLangauge);
   App().Modals().Show(editor);
 }
 

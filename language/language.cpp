@@ -54,6 +54,13 @@ std::vector<std::string> Language::Names() const {
   return names;
 }
 
+std::string Language::OwnName(const std::string& name) const {
+  constexpr const TextEntry& entry = text::SettingsForm::LanguageName;
+  const std::shared_ptr<const LanguageFile> file = Load(name);
+  const std::string_view own = file->Find(entry.section, entry.key).value_or("");
+  return own.empty() ? name : std::string(own);
+}
+
 std::size_t Language::IndexIn(const std::vector<std::string>& names) const {
   const std::string name = store_.Read(settings::setting::Language);
   for (std::size_t i = 0; i < names.size(); ++i) {

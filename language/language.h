@@ -60,6 +60,9 @@ class Language {
   // The languages that the user can choose from: English, which needs no file, and the files found,
   // sorted. Names without folder and ending.
   [[nodiscard]] std::vector<std::string> Names() const;
+  // How a language of that name calls itself, by its file; the name itself when the file has no
+  // word.
+  [[nodiscard]] std::string OwnName(const std::string& name) const;
   // Which of `names` is in use; English's when the stored language is not among them.
   [[nodiscard]] std::size_t IndexIn(const std::vector<std::string>& names) const;
 

@@ -20,7 +20,11 @@ class Files {
 
   // Whether `path` is a file (not a folder).
   [[nodiscard]] virtual bool Exists(std::string_view path) = 0;
-  // The bytes of a file; nothing when it cannot be read or is larger than `limit` bytes.
+  // Whether nothing bears this name, neither file nor folder. False also where the system does not
+  // tell (GetFileAttributes).
+  [[nodiscard]] virtual bool Missing(std::string_view path) = 0;
+  // The bytes of a file; nothing when it is missing, cannot be read or is larger than `limit`
+  // bytes.
   [[nodiscard]] virtual std::optional<std::string> Load(std::string_view path,
                                                         std::size_t limit) = 0;
   // Replaces the file, made when missing. False when refused, on a full disk too; the old file then

@@ -33,9 +33,13 @@ std::string Files::ProgramFolder() { return std::string(FolderOf(program_path_))
 
 bool Files::Exists(std::string_view path) { return files_.contains(FoldCase(path)); }
 
+bool Files::Missing(std::string_view path) {
+  return !Exists(path) && !folders_.contains(FoldFolder(path));
+}
+
 std::optional<std::string> Files::Load(std::string_view path, std::size_t limit) {
   ++loads;
-  if (notebook_.Fails()) return std::nullopt;
+  if (notebook_.Fails() || held_.contains(FoldCase(path))) return std::nullopt;
   std::optional<std::string> bytes = Bytes(path);
   if (bytes && bytes->size() > limit) return std::nullopt;
   return bytes;
@@ -46,7 +50,8 @@ bool Files::Save(std::string_view path, std::string_view bytes) {
   const std::string folder = FoldFolder(FolderOf(path));
   const bool refused = notebook_.Fails() || !folders_.contains(folder) ||
                        folders_.contains(FoldFolder(path)) || NameOf(path).empty() ||
-                       unwritable_.contains(folder) || unwritable_.contains(FoldFolder(path));
+                       unwritable_.contains(folder) || unwritable_.contains(FoldFolder(path)) ||
+                       held_.contains(FoldCase(path));
   if (refused) return false;
   Put(path, bytes);
   return true;
@@ -101,6 +106,14 @@ void Files::SetWritable(std::string_view path, bool writable) {
     unwritable_.erase(FoldFolder(path));
   } else {
     unwritable_.insert(FoldFolder(path));
+  }
+}
+
+void Files::SetHeld(std::string_view path, bool held) {
+  if (held) {
+    held_.insert(FoldCase(path));
+  } else {
+    held_.erase(FoldCase(path));
   }
 }
 

@@ -62,12 +62,26 @@ TEST_F(Files, AFolderIsNoFile) {
   EXPECT_TRUE(files().List(folder_, "*").empty());
 }
 
+TEST_F(Files, AFileThatCannotBeReadIsNotMissing) {
+  const std::string path = folder_ + "a.txt";
+  EXPECT_TRUE(files().Missing(path));
+  EXPECT_TRUE(files().Missing(folder_ + "missing\\a.txt"));
+  ASSERT_TRUE(files().Save(path, "x"));
+  world_->HoldFile(path, [&] {
+    EXPECT_EQ(files().Load(path, 100), std::nullopt);
+    EXPECT_FALSE(files().Missing(path));
+  });
+  EXPECT_EQ(files().Load(path, 100), "x");
+  world_->MakeFolder(folder_ + "inner");
+  EXPECT_FALSE(files().Missing(folder_ + "inner"));
+}
+
 TEST_F(Files, ARefusedSaveIsReported) {
   EXPECT_FALSE(files().Save(folder_ + "missing\\a.txt", "x"));
   EXPECT_FALSE(files().Save("", "x"));
   const std::string path = folder_ + "a.txt";
   ASSERT_TRUE(files().Save(path, "before"));
-  world_->KeepFromWriting(path, [&] { EXPECT_FALSE(files().Save(path, "after")); });
+  world_->HoldFile(path, [&] { EXPECT_FALSE(files().Save(path, "after")); });
   EXPECT_EQ(files().Load(path, 100), "before");
   EXPECT_EQ(files().List(folder_, "*"), std::vector<std::string>{"a.txt"}) << "something is left";
   EXPECT_TRUE(files().Save(path, "after"));

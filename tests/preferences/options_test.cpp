@@ -370,12 +370,40 @@ TEST_F(PreferenceOptions, AutostartFollowsItsBoxAlsoWhenTheBoxFollowsTheStore) {
   });
 }
 
+TEST_F(PreferenceOptions, PostedTitlesStayWhateverIsChosenUntilTheEnd) {
+  const platform::WindowId notes = machine.other_windows.Add("Notes");
+  const platform::WindowId bar = machine.other_windows.Add("Mail | Inbox");
+  const auto title = [&](platform::WindowId window) {
+    return machine.other_windows.Find(window).title;
+  };
+  machine.files.PutBesideProgram("WindowTitles.tit", "note\n");
+  RunOpen([&] {
+    ChoosePage("Numeric Other");
+    User().Press("Post2");
+    Scan({});
+    const std::string posted = title(notes);
+    EXPECT_NE(posted, "Notes");
+    User().Press("Post0");
+    EXPECT_EQ(title(notes), posted);
+    User().Press("Post2");
+    ChoosePage("Reset Settings");
+    User().Press("R6");
+    User().Press("btnResetSettings");
+    EXPECT_EQ(Stored("WindowTitle"), 0U);
+    Scan({});
+    EXPECT_EQ(title(notes), posted);
+    EXPECT_EQ(title(bar), "Mail | Inbox");
+  });
+  EXPECT_EQ(title(notes), "Notes");
+}
+
 TEST_F(PreferenceOptions, AnotherLanguageCountsAtOnceInAllWindows) {
   machine.files.PutBesideProgram("Languages\\Pirate.lng",
                                  "[MainForm]\nS1=Booty\n[SettingsForm]\nTitle=Rigging\n"
+                                 "LanguageName=Arrr\n"
                                  "chkShowHints=Parrot\nTreeItem0=Captain\n");
   RunOpen([&] {
-    EXPECT_EQ(Widget("cmbLanguage").items, (std::vector<std::string>{"English", "Pirate"}));
+    EXPECT_EQ(Widget("cmbLanguage").items, (std::vector<std::string>{"English", "Arrr"}));
     User().Choose("cmbLanguage", 1);
     EXPECT_EQ(StoredText("Language"), "Pirate");
     EXPECT_EQ(Line(), "[ Booty DL:0,0 kB UL:0,0 kB ]");
@@ -387,8 +415,8 @@ TEST_F(PreferenceOptions, AnotherLanguageCountsAtOnceInAllWindows) {
     Close();
     machine.files.PutBesideProgram("Languages\\Aaa.lng", "");
     Open();
-    EXPECT_EQ(Widget("cmbLanguage").items.size(), 3U);
-    EXPECT_EQ(Widget("cmbLanguage").text, "Pirate");
+    EXPECT_EQ(Widget("cmbLanguage").items, (std::vector<std::string>{"English", "Aaa", "Arrr"}));
+    EXPECT_EQ(Widget("cmbLanguage").text, "Arrr");
   });
 }
 

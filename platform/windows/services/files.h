@@ -10,6 +10,7 @@ class Files : public platform::Files {
   [[nodiscard]] std::string ProgramPath() override;
   [[nodiscard]] std::string ProgramFolder() override;
   [[nodiscard]] bool Exists(std::string_view path) override;
+  [[nodiscard]] bool Missing(std::string_view path) override;
   [[nodiscard]] std::optional<std::string> Load(std::string_view path, std::size_t limit) override;
   bool Save(std::string_view path, std::string_view bytes) override;
   [[nodiscard]] std::vector<std::string> List(std::string_view folder,
