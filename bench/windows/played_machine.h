@@ -60,6 +60,9 @@ class MovingTable final : public platform::InterfaceTable {
   }
 
   [[nodiscard]] std::optional<bool> IsFilter(std::uint32_t /*index*/) override { return false; }
+  [[nodiscard]] std::optional<platform::LongOctets> Octets(std::uint32_t /*index*/) override {
+    return std::nullopt;
+  }
 
  private:
   platform::InterfaceTable& real_;
