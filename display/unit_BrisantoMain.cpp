@@ -194,12 +194,14 @@ RunningMeter T_frmBrisanto::Parts() {
           adapter_menus_, notifications_};
 }
 
-void T_frmBrisanto::ApplyDisplaySettings() {
+void T_frmBrisanto::ApplyDisplaySettings(ScaleTaken scale) {
   if (RegME.Read(setting::StartIconMode)) _TrayIcon.LoadPictures();
   ApplyGraphAppearance(RegME, _tlkInterMeter);
   _FormMagnet.Active = RegME.Read(setting::FormMagnet);
   ApplyHints(RegME, App().Hints());
-  ApplyScale(RegME, _tlkInterMeter, traffic_.SpeedCap);
+  if (scale == ScaleTaken::kFromStore) {
+    ApplyScale(settings::ReadScale(RegME), _tlkInterMeter, &traffic_.SpeedCap);
+  }
   ApplyLabelAppearance(RegME, _tlkDLULMeter);
   numeric_line_.SetAveragePeriod(RegME.Read(setting::AvarageTime));
   numeric_line_.Reset();
