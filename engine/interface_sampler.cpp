@@ -90,7 +90,8 @@ bool InterfaceSampler::RowCountChanged() {
 }
 
 ScanAmounts InterfaceSampler::SampleInterfaces(platform::DateTime today) {
-  reader_.ReadInterfaceTable(state_.interface_table);
+  // Rows that RowCountChanged has not seen wait for the next scan.
+  reader_.ReadInterfaceTable(state_.interface_table, NewRows::kLeaveOut);
   ScanAmounts scan;
   // An adapter came or went since the row count was looked at. Rows and counters may belong to
   // different adapters now; the next scan seeds them anew, this one measures nothing.
