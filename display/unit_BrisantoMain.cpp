@@ -50,7 +50,7 @@ int LabelPoints(int window_width) {
 
 T_frmBrisanto::T_frmBrisanto(toolkit::Application& app)
     : Form(app, CreateParams()),
-      error_log_(app.Platform().files, CommonMemo),
+      error_log_(app.Platform().files, app.Platform().locale, CommonMemo),
       RegME(app.Platform().registry, app.Platform().files),
       _ReadLangauge(RegME, app.Platform().files, app.Platform().locale),
       quantity_(RegME, app.Platform().locale),

@@ -181,6 +181,17 @@ TEST_F(Store, ACounterThatIsNoNumberIsAnError) {
   }
 }
 
+TEST_F(Store, ALongTextThatIsNoNumberIsQuotedByItsBeginning) {
+  machine.registry.Set(kSettings, "InfoMaxDL", RegistryValue::Text(std::string(65536, '\x07')));
+  try {
+    (void)store.Read(setting::InfoMaxDL);
+    ADD_FAILURE() << "read as a number";
+  } catch (const settings::ConversionError& error) {
+    EXPECT_EQ(error.what(), "'" + std::string(100, '\x07') +
+                                "' and so on, 65536 bytes, is not a valid integer value");
+  }
+}
+
 TEST_F(Store, AutostartWritesTheRunValueOnlyWhereTheKeyExists) {
   const std::string program = machine.files.ProgramPath();
   settings::StartWithWindows(store, program, true);
