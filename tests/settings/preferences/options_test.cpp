@@ -400,6 +400,9 @@ TEST_F(PreferenceOptions, AnotherLanguageCountsAtOnceInAllWindows) {
     EXPECT_EQ(Widget("chkShowHints").text, "Parrot");
     EXPECT_EQ(Widget("TreeItems").items[0], "Captain");
     EXPECT_EQ(Widget("TreeItems").index, 0);
+    machine.files.PutBesideProgram("Languages\\Pirate.lng", "[SettingsForm]\nTitle=Sails\n");
+    User().Choose("cmbLanguage", 1);
+    EXPECT_EQ(Widget(kForm).text, "Sails") << "chosen again, the edited file is read";
     // A file that came while the window was closed.
     Close();
     machine.files.PutBesideProgram("Languages\\Aaa.lng", "");
