@@ -120,7 +120,6 @@ class PlayedMachine {
       .interface_table = table,
       .registry = registry,
       .sockets = real_.platform().sockets,
-      .single_instance = real_.platform().single_instance,
       .clock = real_.platform().clock,
       .files = real_.platform().files,
       .locale = real_.platform().locale,
