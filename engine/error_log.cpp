@@ -47,15 +47,16 @@ std::string ErrorLog::Path() const { return files_.ProgramFolder() + "err.log"; 
 
 void ErrorLog::Append(std::string_view message) {
   const std::string line = OnOneLine(message);
-  std::optional<std::uint64_t> size = files_.Size(Path());
-  if (size && *size + line.size() + kLineEnd.size() > kErrorLogLimit) {
+  const auto size = files_.Size(Path());
+  const bool full = size && *size + line.size() + kLineEnd.size() > kErrorLogLimit;
+  if (full) {
     if (!files_.Rename(Path(), files_.ProgramFolder() + "err.old.log")) return;
     CommonMemo_.clear();
-    size.reset();
   }
-  if (size && size == size_) {
+  const bool there = size && !full;
+  if (there && *size == size_) {
     AppendLine(line);
-  } else if (!size || TakeOver()) {
+  } else if (!there || TakeOver()) {
     Rewrite(line);
   }
 }
@@ -63,7 +64,7 @@ void ErrorLog::Append(std::string_view message) {
 void ErrorLog::AppendLine(const std::string& line) {
   CommonMemo_.push_back(line);
   const std::string bytes = TextOf({line});
-  if (files_.Append(Path(), bytes)) *size_ += bytes.size();
+  if (files_.Append(Path(), bytes)) size_ += bytes.size();
 }
 
 // False for a file that cannot be read: what is in it must not be lost.

@@ -3,7 +3,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -41,7 +40,7 @@ class ErrorLog {
   std::vector<std::string>& CommonMemo_;
   // The size that the file had when this log last wrote it. As long as it has, the file is what
   // `CommonMemo` holds, and a line is written behind it without reading it anew.
-  std::optional<std::uint64_t> size_;
+  std::uint64_t size_ = ~std::uint64_t{0};
 };
 
 }  // namespace engine

@@ -34,8 +34,8 @@ class PlayedTrayIcon {
   void Update() {
     ++seconds_;
     engine::ScanAmounts scan;
-    scan.ScanSumDL = 5000 + 37 * (seconds_ % 101);
-    scan.ScanSumUL = 700 + 11 * (seconds_ % 73);
+    scan.ScanSumDL = PlayedBytesIn(seconds_);
+    scan.ScanSumUL = PlayedBytesOut(seconds_);
     icon_.ShowScan(scan);
   }
 
