@@ -50,7 +50,7 @@ class PlayedTrayIcon {
   toolkit::Application app_{machine_.platform()};
   settings::Store store_{machine_.registry, machine_.platform().files};
   display::TrayIcon icon_{app_, store_};
-  int seconds_ = 0;
+  std::uint32_t seconds_ = 0;
 };
 
 }  // namespace

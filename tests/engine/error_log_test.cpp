@@ -47,7 +47,7 @@ TEST_F(ErrorLog, KeepsTheLinesOfAFileThatIsThere) {
     SCOPED_TRACE(row.why);
     memo = {"what the memo held before"};
     machine.files.PutBesideProgram("err.log", row.bytes);
-    log.Append("new");
+    engine::ErrorLog(machine.files, machine.locale, memo).Append("new");
     EXPECT_EQ(File(), row.after);
   }
 }
