@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <fstream>
 #include <functional>
+#include <iterator>
 #include <string>
 #include <utility>
 #include <vector>
@@ -233,7 +235,11 @@ TEST_F(PreferenceOptions, OfTheNumericLineWorkedOnceWriteTheirValueAndShowInTheM
 
 TEST_F(PreferenceOptions, OfTrayIconAndWindowWorkedOnceWriteTheirValueAndShowInTheMeter) {
   Set("Transparent2k", 1);
+  std::ifstream icons(SOURCE_FOLDER "/assets/Icons/default.bmp", std::ios::binary);
+  machine.files.PutBesideProgram("Icons\\default.bmp",
+                                 std::string(std::istreambuf_iterator<char>(icons), {}));
   RunOpen([&] {
+    Scan({5000, 800});  // so that the histogram is not the empty one
     const auto pictures = [&] { return machine.notification_area.picture_updates; };
     int before = 0;
     const auto pictured = [&](std::function<void()> act) {
