@@ -17,8 +17,11 @@ class Files : public platform::Files {
   [[nodiscard]] std::string ProgramPath() override { return program_path_; }
   [[nodiscard]] std::string ProgramFolder() override;
   [[nodiscard]] bool Exists(std::string_view path) override;
+  [[nodiscard]] std::optional<std::uint64_t> Size(std::string_view path) override;
   [[nodiscard]] std::optional<std::string> Load(std::string_view path, std::size_t limit) override;
   bool Save(std::string_view path, std::string_view bytes) override;
+  bool Append(std::string_view path, std::string_view bytes) override;
+  bool Rename(std::string_view from, std::string_view to) override;
   [[nodiscard]] std::vector<std::string> List(std::string_view folder,
                                               std::string_view mask) override;
 
@@ -36,11 +39,13 @@ class Files : public platform::Files {
   // A folder in which nothing can be written, or a file that cannot be replaced, or again can.
   void SetWritable(std::string_view path, bool writable);
 
-  // Loads and saves that were asked for.
+  // Loads and saves that were asked for, whole files.
   int loads = 0;
   int saves = 0;
 
  private:
+  [[nodiscard]] bool CanBeWritten(std::string_view path) const;
+
   struct File {
     std::string name;  // without folder, as it was first written
     std::string bytes;
