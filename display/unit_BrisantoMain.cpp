@@ -50,7 +50,7 @@ int LabelPoints(int window_width) {
 
 T_frmBrisanto::T_frmBrisanto(toolkit::Application& app)
     : Form(app, CreateParams()),
-      error_log_(app.Platform().files, CommonMemo),
+      error_log_(app.Platform().files, app.Platform().locale, CommonMemo),
       RegME(app.Platform().registry, app.Platform().files),
       _ReadLangauge(RegME, app.Platform().files, app.Platform().locale),
       quantity_(RegME, app.Platform().locale),
@@ -194,12 +194,14 @@ RunningMeter T_frmBrisanto::Parts() {
           notifications_};
 }
 
-void T_frmBrisanto::ApplyDisplaySettings() {
+void T_frmBrisanto::ApplyDisplaySettings(ScaleTaken scale) {
   if (RegME.Read(setting::StartIconMode)) _TrayIcon.LoadPictures();
   ApplyGraphAppearance(RegME, _tlkInterMeter);
   _FormMagnet.Active = RegME.Read(setting::FormMagnet);
   ApplyHints(RegME, App().Hints());
-  ApplyScale(RegME, _tlkInterMeter, traffic_.SpeedCap);
+  if (scale == ScaleTaken::kFromStore) {
+    ApplyScale(settings::ReadScale(RegME), _tlkInterMeter, &traffic_.SpeedCap);
+  }
   ApplyLabelAppearance(RegME, _tlkDLULMeter);
   numeric_line_.SetAveragePeriod(RegME.Read(setting::AvarageTime));
   numeric_line_.Reset();

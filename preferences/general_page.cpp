@@ -48,6 +48,7 @@ GeneralPage::GeneralPage(toolkit::Notebook& notebook, Context& context)
        [this](const Meter& m, std::int64_t scans) { AvarageTrackBarChange(m, scans); }},
   });
   cmbLanguage.OnChange = [this] { LanguageChange(); };
+  cmbLanguage.OnChosenAgain = cmbLanguage.OnChange;  // its file may have changed
 }
 
 void GeneralPage::PlaceControls() {

@@ -12,21 +12,20 @@ int DpiOfSystem() {
 
 int DpiOfWindow(HWND hwnd) {
   using GetDpi = UINT(WINAPI*)(HWND);
-  const auto get = Function<GetDpi>(::GetModuleHandleW(L"user32.dll"), "GetDpiForWindow");
+  static const auto get = Function<GetDpi>(::GetModuleHandleW(L"user32.dll"), "GetDpiForWindow");
   const UINT dpi = get != nullptr ? get(hwnd) : 0;
   return dpi != 0 ? static_cast<int>(dpi) : DpiOfSystem();
 }
 
 MonitorDpi::MonitorDpi()
-    : library_(::LoadLibraryExW(L"shcore.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32)) {}
+    : library_(::LoadLibraryExW(L"shcore.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32)),
+      get_(Function<GetDpi>(library_.get(), "GetDpiForMonitor")) {}
 
 int MonitorDpi::Of(HMONITOR monitor) const {
-  using GetDpi = HRESULT(WINAPI*)(HMONITOR, int, UINT*, UINT*);
   constexpr int kEffective = 0;  // MDT_EFFECTIVE_DPI
   UINT x = 0;
   UINT y = 0;
-  const auto get = Function<GetDpi>(library_.get(), "GetDpiForMonitor");
-  if (get == nullptr || FAILED(get(monitor, kEffective, &x, &y)) || y == 0) return DpiOfSystem();
+  if (get_ == nullptr || FAILED(get_(monitor, kEffective, &x, &y)) || y == 0) return DpiOfSystem();
   return static_cast<int>(y);
 }
 

@@ -19,7 +19,10 @@ class MonitorDpi {
   [[nodiscard]] int Of(HMONITOR monitor) const;
 
  private:
+  using GetDpi = HRESULT(WINAPI*)(HMONITOR, int, UINT*, UINT*);
+
   Library library_;  // none before Windows 8.1
+  GetDpi get_;       // of it; may be null
 };
 
 }  // namespace platform::windows

@@ -38,6 +38,27 @@ TEST_F(Files, WhatIsSavedIsLoaded) {
   }
 }
 
+TEST_F(Files, WhatIsAppendedStandsBehindTheRest) {
+  const std::string path = folder_ + "a.txt";
+  EXPECT_FALSE(files().Append(path, "x")) << "no file is made";
+  EXPECT_EQ(files().Size(path), std::nullopt);
+  ASSERT_TRUE(files().Save(path, "12"));
+  EXPECT_TRUE(files().Append(path, "345"));
+  EXPECT_EQ(files().Load(path, 100), "12345");
+  EXPECT_EQ(files().Size(path), 5U);
+  world_->KeepFromWriting(path, [&] { EXPECT_FALSE(files().Append(path, "6")); });
+  EXPECT_EQ(files().Size(folder_.substr(0, folder_.size() - 1)), std::nullopt) << "a folder";
+}
+
+TEST_F(Files, ARenamedFileReplacesTheOneOfThatName) {
+  ASSERT_TRUE(files().Save(folder_ + "new.txt", "new"));
+  ASSERT_TRUE(files().Save(folder_ + "old.txt", "old"));
+  EXPECT_TRUE(files().Rename(folder_ + "new.txt", folder_ + "old.txt"));
+  EXPECT_EQ(files().List(folder_, "*"), std::vector<std::string>{"old.txt"});
+  EXPECT_EQ(files().Load(folder_ + "old.txt", 100), "new");
+  EXPECT_FALSE(files().Rename(folder_ + "missing.txt", folder_ + "old.txt"));
+}
+
 TEST_F(Files, ALargerFileThanTheLimitIsNotLoaded) {
   const std::string path = folder_ + "a.txt";
   ASSERT_TRUE(files().Save(path, "12345"));

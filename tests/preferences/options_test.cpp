@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <fstream>
 #include <functional>
+#include <iterator>
 #include <string>
 #include <utility>
 #include <vector>
@@ -175,6 +177,23 @@ TEST_F(PreferenceOptions, TheCustomSpeedIsAnEighthOfWhatIsShownAndOutlastsAFixed
   });
 }
 
+TEST_F(PreferenceOptions, NeitherALookNorAResetChangesTheScaleOrTheCap) {
+  Set("GraphScaleType", 16);
+  Set("SpeedLimit", 128000);
+  RunOpen([&] {
+    EXPECT_EQ(Meter().graph.SpeedLimit, 16000) << "as at the start";
+    EXPECT_EQ(Meter().SpeedCap, 0) << "a fresh run has no cap";
+    ChoosePage("Graph Other");
+    User().PressKey("CustomScale", platform::Key::kUp);
+    EXPECT_EQ(Meter().SpeedCap, 128128);
+    ChoosePage("Reset Settings");
+    User().Press("R3");
+    User().Press("btnResetSettings");
+    EXPECT_EQ(Meter().graph.SpeedLimit, 128128);
+    EXPECT_EQ(Meter().SpeedCap, 128128);
+  });
+}
+
 TEST_F(PreferenceOptions, OfTheNumericLineWorkedOnceWriteTheirValueAndShowInTheMeter) {
   RunOpen([&] {
     Check({
@@ -216,7 +235,11 @@ TEST_F(PreferenceOptions, OfTheNumericLineWorkedOnceWriteTheirValueAndShowInTheM
 
 TEST_F(PreferenceOptions, OfTrayIconAndWindowWorkedOnceWriteTheirValueAndShowInTheMeter) {
   Set("Transparent2k", 1);
+  std::ifstream icons(SOURCE_FOLDER "/assets/Icons/default.bmp", std::ios::binary);
+  machine.files.PutBesideProgram("Icons\\default.bmp",
+                                 std::string(std::istreambuf_iterator<char>(icons), {}));
   RunOpen([&] {
+    Scan({5000, 800});  // so that the histogram is not the empty one
     const auto pictures = [&] { return machine.notification_area.picture_updates; };
     int before = 0;
     const auto pictured = [&](std::function<void()> act) {
@@ -411,6 +434,9 @@ TEST_F(PreferenceOptions, AnotherLanguageCountsAtOnceInAllWindows) {
     EXPECT_EQ(Widget("chkShowHints").text, "Parrot");
     EXPECT_EQ(Widget("TreeItems").items[0], "Captain");
     EXPECT_EQ(Widget("TreeItems").index, 0);
+    machine.files.PutBesideProgram("Languages\\Pirate.lng", "[SettingsForm]\nTitle=Sails\n");
+    User().Choose("cmbLanguage", 1);
+    EXPECT_EQ(Widget(kForm).text, "Sails") << "chosen again, the edited file is read";
     // A file that came while the window was closed.
     Close();
     machine.files.PutBesideProgram("Languages\\Aaa.lng", "");
