@@ -66,15 +66,14 @@ void BandwidthDetails::Row::SetFontColour(platform::Colour colour) {
   for (toolkit::Label* label : {&caption, &value, &unit}) label->SetFontColour(colour);
 }
 
-void BandwidthDetails::Row::Show(const std::string& quantity) {
-  value.SetCaption(quantity::GetToken(quantity, "|", 1));
-  unit.SetCaption(quantity::GetToken(quantity, "|", 2));
+void BandwidthDetails::Row::Show(const quantity::QuantityText& text) {
+  value.SetCaption(text.number);
+  unit.SetCaption(text.unit);
 }
 
 BandwidthDetails::BandwidthDetails(toolkit::Control& parent, settings::Store& store,
-                                   quantity::Quantity& quantity, const language::Language& language)
+                                   const language::Language& language)
     : store_(store),
-      quantity_(quantity),
       language_(language),
       group_(parent, "Details"),
       limit_(group_, "StaticText63", "lblBandwidthLimit", "lblBandwidthLimitUnit",
@@ -125,31 +124,31 @@ void BandwidthDetails::Localise() {
            {text::B16Hint0, text::B16Hint1, text::B16Hint2, text::B16Hint3, text::B16Hint4});
 }
 
-void BandwidthDetails::Refresh() {
+void BandwidthDetails::Refresh(const quantity::Formatter& format) {
   const bool download = store_.Read(setting::baDownload);
   const bool upload = store_.Read(setting::baUpload);
   current_dl_.SetFontColour(ColourOf(download));
   current_ul_.SetFontColour(ColourOf(upload));
   const std::optional<std::int64_t> limit = LimitBytes(store_);
-  if (limit) limit_.Show(quantity_.FormatQuantity(*limit));
+  if (limit) limit_.Show(format.Text(*limit));
   const std::optional<LimitPeriod> period = ReadLimitPeriod(store_);
   if (!period) return;
   type_.value.SetCaption(language_.Text(TypeText(*period)));
   const std::int64_t dl = PeriodTotalDL(store_, *period);
   const std::int64_t ul = PeriodTotalUL(store_, *period);
-  current_dl_.Show(quantity_.FormatQuantity(dl));
-  current_ul_.Show(quantity_.FormatQuantity(ul));
+  current_dl_.Show(format.Text(dl));
+  current_ul_.Show(format.Text(ul));
   if (!limit || (!download && !upload)) return;
   std::int64_t left = *limit;
   if (download) left = settings::WrappingSubtract(left, dl);
   if (upload) left = settings::WrappingSubtract(left, ul);
-  ShowLeft(left);
+  ShowLeft(left, format);
 }
 
 // Once red, the row stays so while its window is open: the limit was exceeded.
-void BandwidthDetails::ShowLeft(std::int64_t left) {
+void BandwidthDetails::ShowLeft(std::int64_t left, const quantity::Formatter& format) {
   if (left < 0) left_.SetFontColour(kLightRed);
-  left_.Show(quantity_.FormatSignedQuantity(left));
+  left_.Show(format.SignedText(left));
 }
 
 }  // namespace alerts

@@ -17,7 +17,7 @@ namespace alerts {
 class BandwidthDetails {
  public:
   // All outlive the details.
-  BandwidthDetails(toolkit::Control& parent, settings::Store& store, quantity::Quantity& quantity,
+  BandwidthDetails(toolkit::Control& parent, settings::Store& store,
                    const language::Language& language);
 
   // Design pixels; at least 200 wide and 134 high.
@@ -29,7 +29,7 @@ class BandwidthDetails {
   // Shows the stored figures. A stored unit or period that does not exist
   // leaves its rows at their text. Throws settings::ConversionError when a
   // stored total is no number.
-  void Refresh();
+  void Refresh(const quantity::Formatter& format);
 
  private:
   // One row: what it is, the value, its unit.
@@ -38,18 +38,16 @@ class BandwidthDetails {
         std::string_view unit_name, platform::Colour colour);
 
     void SetFontColour(platform::Colour colour);
-    // "1,5|kB|" into value and unit.
-    void Show(const std::string& quantity);
+    void Show(const quantity::QuantityText& text);
 
     toolkit::Label caption;
     toolkit::Label value;
     toolkit::Label unit;
   };
 
-  void ShowLeft(std::int64_t left);
+  void ShowLeft(std::int64_t left, const quantity::Formatter& format);
 
   settings::Store& store_;
-  quantity::Quantity& quantity_;
   const language::Language& language_;
 
   toolkit::GroupBox group_;

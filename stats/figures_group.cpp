@@ -79,14 +79,14 @@ void FiguresGroup::Localise(const language::Translation& say) {
   }
 }
 
-void FiguresGroup::Show(const Figures& figures, const quantity::Quantity& quantity) {
+void FiguresGroup::Show(const Figures& figures, const quantity::Formatter& format) {
   const std::array<std::optional<std::int64_t>, kFigureCount> bytes = {
       figures.max_dl, figures.max_ul, figures.total_dl, figures.total_ul, figures.Total()};
   for (std::size_t i = 0; i < kFigureCount; ++i) {
     if (!bytes[i]) continue;
-    const std::string formatted = quantity.FormatQuantity(*bytes[i]);
-    rows_[i].value.SetCaption(quantity::GetToken(formatted, "|", 1));
-    rows_[i].unit.SetCaption(quantity::GetToken(formatted, "|", 2));
+    const quantity::QuantityText text = format.Text(*bytes[i]);
+    rows_[i].value.SetCaption(text.number);
+    rows_[i].unit.SetCaption(text.unit);
   }
 }
 

@@ -48,7 +48,7 @@ class FiguresGroup : public toolkit::GroupBox {
   void Localise(const language::Translation& say);
 
   // A row whose figure is nothing keeps its text.
-  void Show(const Figures& figures, const quantity::Quantity& quantity);
+  void Show(const Figures& figures, const quantity::Formatter& format);
 
   // The values alone, with the comma that a zero is always written with; the units stay.
   void ShowZeros();

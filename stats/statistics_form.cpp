@@ -135,14 +135,14 @@ void StatisticsForm::RestartSince() {
   ShowSince();
 }
 
-void StatisticsForm::ShowFigures(const Figures& info) {
+void StatisticsForm::ShowFigures(const Figures& info, const quantity::Formatter& format) {
   // The other window may have reset.
   const engine::TrafficState& traffic = context_.traffic;
   if (traffic.RunStartDate != since_date_ || traffic.RunStartTime != since_time_) ShowSince();
-  InfoGroupBox.Show(info, context_.quantity);
-  DailyGroupBox.Show(source_.Read(engine::kDayGroup, faults_), context_.quantity);
-  WeeklyGroupBox.Show(source_.Read(engine::kWeekGroup, faults_), context_.quantity);
-  MonthlyGroupBox.Show(source_.Read(engine::kMonthGroup, faults_), context_.quantity);
+  InfoGroupBox.Show(info, format);
+  DailyGroupBox.Show(source_.Read(engine::kDayGroup, faults_), format);
+  WeeklyGroupBox.Show(source_.Read(engine::kWeekGroup, faults_), format);
+  MonthlyGroupBox.Show(source_.Read(engine::kMonthGroup, faults_), format);
 }
 
 void StatisticsForm::Button1MouseUp(const platform::MouseEvent& event) {

@@ -51,7 +51,7 @@ class StatisticsForm : public toolkit::Form {
   void Arrange();
 
   // Takes the rows of all pages anew; `info` are those of the page Info.
-  void ShowFigures(const Figures& info);
+  void ShowFigures(const Figures& info, const quantity::Formatter& format);
   // Writes the start of the run above the figures of the page Info.
   void ShowSince();
   // The run begins now, for both windows.

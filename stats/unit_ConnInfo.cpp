@@ -25,7 +25,7 @@ T_frmConnInfo::T_frmConnInfo(const StatisticsContext& context)
       host_address_(context.app.Platform().sockets, context.app.Platform().clock),
       BandwidthTab(PageControl1, "BandwidthTab"),
       Label1(BandwidthTab, "Label1"),
-      details_(BandwidthTab, context.store, context.quantity, context.language),
+      details_(BandwidthTab, context.store, context.language),
       ISBAShown(BandwidthTab, "ISBAShown") {
   SetDesignSize();
   Arrange();
@@ -88,9 +88,11 @@ void T_frmConnInfo::Timer1Timer() {
   ISBAShown.SetChecked(context_.store.Read(setting::BAShow));
   // The totals are those of this run: the stored ones of this kind are an adapter's alone.
   const engine::TrafficState& traffic = context_.traffic;
+  const quantity::Formatter format = context_.quantity.ForStep();
   ShowFigures({source_.Read(setting::InfoMaxDL, faults_), source_.Read(setting::InfoMaxUL, faults_),
-               traffic.RunTotalDL, traffic.RunTotalUL});
-  faults_.Try([this] { details_.Refresh(); });
+               traffic.RunTotalDL, traffic.RunTotalUL},
+              format);
+  faults_.Try([&] { details_.Refresh(format); });
   faults_.Tell();
 }
 

@@ -42,7 +42,8 @@ void T_frmSpecificConnInfo::Timer1Timer() {
       settings::AdapterName(Caption()) + std::string(settings::kMacAddressSuffix);
   IpAddress.SetCaption(
       context_.store.ReadString(settings::KeyIndex::kAdapterDatas, name, kNoAddress));
-  ShowFigures(source_.Read(engine::kInfoGroup, faults_));
+  const quantity::Formatter format = context_.quantity.ForStep();
+  ShowFigures(source_.Read(engine::kInfoGroup, faults_), format);
   faults_.Tell();
 }
 
