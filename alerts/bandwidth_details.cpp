@@ -27,7 +27,7 @@ platform::Colour ColourOf(bool counts) {
   return counts ? platform::colour::kLime : platform::colour::kSilver;
 }
 
-const language::TextEntry& TypeText(LimitPeriod period) {
+const language::TextEntry& TypeText(engine::Period period) {
   static constexpr std::array<const language::TextEntry*, 3> kTexts = {&text::Daily, &text::Weekly,
                                                                        &text::Monthly};
   return *kTexts[static_cast<std::size_t>(period)];
@@ -131,7 +131,7 @@ void BandwidthDetails::Refresh(const quantity::Formatter& format) {
   current_ul_.SetFontColour(ColourOf(upload));
   const std::optional<std::int64_t> limit = LimitBytes(store_);
   if (limit) limit_.Show(format.Text(*limit));
-  const std::optional<LimitPeriod> period = ReadLimitPeriod(store_);
+  const std::optional<engine::Period> period = ReadLimitPeriod(store_);
   if (!period) return;
   type_.value.SetCaption(language_.Text(TypeText(*period)));
   const std::int64_t dl = PeriodTotalDL(store_, *period);

@@ -26,10 +26,10 @@ constexpr platform::TextStyle kAddressText{platform::TextAlign::kLeft, platform:
 }  // namespace
 
 StatisticsForm::StatisticsForm(const StatisticsContext& context, const Kind& kind,
-                               FiguresSource source)
+                               engine::CounterOwner counters)
     : Form(context.app, kind.form_name, platform::Frame::kTool),
       context_(context),
-      source_(std::move(source)),
+      counters_(std::move(counters)),
       PageControl1(*this, "PageControl1"),
       InfoTab(PageControl1, "InfoTab"),
       InfoGroup(InfoTab, "InfoGroup"),
@@ -140,9 +140,9 @@ void StatisticsForm::ShowFigures(const Figures& info, const quantity::Formatter&
   const engine::TrafficState& traffic = context_.traffic;
   if (traffic.RunStartDate != since_date_ || traffic.RunStartTime != since_time_) ShowSince();
   InfoGroupBox.Show(info, format);
-  DailyGroupBox.Show(source_.Read(engine::kDayGroup, faults_), format);
-  WeeklyGroupBox.Show(source_.Read(engine::kWeekGroup, faults_), format);
-  MonthlyGroupBox.Show(source_.Read(engine::kMonthGroup, faults_), format);
+  DailyGroupBox.Show(ReadFigures(counters_, engine::kDayGroup, faults_), format);
+  WeeklyGroupBox.Show(ReadFigures(counters_, engine::kWeekGroup, faults_), format);
+  MonthlyGroupBox.Show(ReadFigures(counters_, engine::kMonthGroup, faults_), format);
 }
 
 void StatisticsForm::Button1MouseUp(const platform::MouseEvent& event) {

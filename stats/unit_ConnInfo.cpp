@@ -21,7 +21,7 @@ T_frmConnInfo::T_frmConnInfo(const StatisticsContext& context)
     : StatisticsForm(context,
                      {kConnInfoForm, "\\Software\\BrisantoNET\\Settings\\ConnInfoScreen",
                       text::IpLabel, "127.0.0.1"},
-                     FiguresSource::Machine(context.store)),
+                     engine::CounterOwner::Machine(context.store)),
       host_address_(context.app.Platform().sockets, context.app.Platform().clock),
       BandwidthTab(PageControl1, "BandwidthTab"),
       Label1(BandwidthTab, "Label1"),
@@ -89,9 +89,10 @@ void T_frmConnInfo::Timer1Timer() {
   // The totals are those of this run: the stored ones of this kind are an adapter's alone.
   const engine::TrafficState& traffic = context_.traffic;
   const quantity::Formatter format = context_.quantity.ForStep();
-  ShowFigures({source_.Read(setting::InfoMaxDL, faults_), source_.Read(setting::InfoMaxUL, faults_),
-               traffic.RunTotalDL, traffic.RunTotalUL},
-              format);
+  ShowFigures(
+      {ReadFigure(counters_, setting::InfoMaxDL, faults_),
+       ReadFigure(counters_, setting::InfoMaxUL, faults_), traffic.RunTotalDL, traffic.RunTotalUL},
+      format);
   faults_.Try([&] { details_.Refresh(format); });
   faults_.Tell();
 }
@@ -104,8 +105,8 @@ void T_frmConnInfo::Button3Click() {
     adapter.MaxIn = 0;
     adapter.MaxOut = 0;
   }
-  source_.WriteZero(setting::InfoMaxDL);
-  source_.WriteZero(setting::InfoMaxUL);
+  counters_.Reset(setting::InfoMaxDL);
+  counters_.Reset(setting::InfoMaxUL);
   traffic.RunTotalDL = 0;
   traffic.RunTotalUL = 0;
 }

@@ -6,7 +6,6 @@
 namespace stats {
 namespace {
 
-namespace setting = settings::setting;
 namespace text = language::text::BandwidthStatisticsForm;
 
 // Design pixels.
@@ -23,7 +22,7 @@ T_frmSpecificConnInfo::T_frmSpecificConnInfo(const StatisticsContext& context,
           context,
           {kSpecificConnInfoForm, "\\Software\\BrisantoNET\\Settings\\SpecificConnInfoScreen",
            text::MacLabel, "-----------"},
-          FiguresSource::Adapter(context.store, description)) {
+          engine::CounterOwner::AdapterWindow(context.store, description)) {
   SetCaption(description);
   SetClientSize(kClientSize);
   Arrange();
@@ -43,16 +42,13 @@ void T_frmSpecificConnInfo::Timer1Timer() {
   IpAddress.SetCaption(
       context_.store.ReadString(settings::KeyIndex::kAdapterDatas, name, kNoAddress));
   const quantity::Formatter format = context_.quantity.ForStep();
-  ShowFigures(source_.Read(engine::kInfoGroup, faults_), format);
+  ShowFigures(ReadFigures(counters_, engine::kInfoGroup, faults_), format);
   faults_.Tell();
 }
 
 void T_frmSpecificConnInfo::Button3Click() {
   RestartSince();
-  for (const settings::CounterSetting& counter :
-       {setting::InfoTotalDL, setting::InfoTotalUL, setting::InfoMaxDL, setting::InfoMaxUL}) {
-    source_.WriteZero(counter);
-  }
+  counters_.Reset(engine::kInfoGroup);
 }
 
 }  // namespace stats
