@@ -20,8 +20,7 @@ constexpr platform::Colour kLightRed = 0x9999FF;
 constexpr int kMargin = 8;
 constexpr int kRowHeight = 21;
 constexpr int kRowStep = 23;
-constexpr int kUnitWidth = 48;
-constexpr int kGap = 3;
+constexpr quantity::FigureRow::Columns kColumns{48, 3, 55};
 
 platform::Colour ColourOf(bool counts) {
   return counts ? platform::colour::kLime : platform::colour::kSilver;
@@ -44,70 +43,45 @@ std::string HintOf(const language::Language& language,
   return hint;
 }
 
-constexpr platform::TextStyle kCaption{platform::TextAlign::kLeft, platform::Border::kSunken};
+constexpr platform::TextStyle kText{platform::TextAlign::kLeft, platform::Border::kSunken};
 
 }  // namespace
-
-BandwidthDetails::Row::Row(toolkit::Control& parent, std::string_view caption_name,
-                           std::string_view value_name, std::string_view unit_name,
-                           platform::Colour colour)
-    : caption(parent, caption_name, kCaption),
-      value(parent, value_name, toolkit::kSunkenText),
-      unit(parent, unit_name, kCaption) {
-  for (toolkit::Label* label : {&caption, &value, &unit}) {
-    label->SetColour(platform::colour::kBlack);
-  }
-  SetFontColour(colour);
-  value.SetCaption("0,0");
-  unit.SetCaption("kB");
-}
-
-void BandwidthDetails::Row::SetFontColour(platform::Colour colour) {
-  for (toolkit::Label* label : {&caption, &value, &unit}) label->SetFontColour(colour);
-}
-
-void BandwidthDetails::Row::Show(const quantity::QuantityText& text) {
-  value.SetCaption(text.number);
-  unit.SetCaption(text.unit);
-}
 
 BandwidthDetails::BandwidthDetails(toolkit::Control& parent, settings::Store& store,
                                    const language::Language& language)
     : store_(store),
       language_(language),
       group_(parent, "Details"),
-      limit_(group_, "StaticText63", "lblBandwidthLimit", "lblBandwidthLimitUnit",
-             platform::colour::kLime),
-      type_(group_, "StaticText66", "lblBandwidthType", "", platform::colour::kLime),
-      current_dl_(group_, "StaticText68", "lblBandwidthCurrDLTotal", "lblBandwidthCurrDLTotalUnit",
-                  platform::colour::kSilver),
-      current_ul_(group_, "StaticText3", "lblBandwidthCurrULTotal", "lblBandwidthCurrULTotalUnit",
-                  platform::colour::kSilver),
-      left_(group_, "StaticText71", "lblBandwidthLeft", "lblBandwidthLeftUnit",
-            platform::colour::kLime) {
+      limit_(group_, {"StaticText63", "lblBandwidthLimit", "lblBandwidthLimitUnit"}, kText, kText),
+      type_(group_, {"StaticText66", "lblBandwidthType", ""}, kText, kText),
+      current_dl_(group_,
+                  {"StaticText68", "lblBandwidthCurrDLTotal", "lblBandwidthCurrDLTotalUnit"}, kText,
+                  kText),
+      current_ul_(group_, {"StaticText3", "lblBandwidthCurrULTotal", "lblBandwidthCurrULTotalUnit"},
+                  kText, kText),
+      left_(group_, {"StaticText71", "lblBandwidthLeft", "lblBandwidthLeftUnit"}, kText, kText) {
+  for (quantity::FigureRow* row : {&limit_, &type_, &current_dl_, &current_ul_, &left_}) {
+    row->SetColour(platform::colour::kBlack);
+    row->SetFontColour(platform::colour::kLime);
+  }
+  current_dl_.SetFontColour(platform::colour::kSilver);
+  current_ul_.SetFontColour(platform::colour::kSilver);
   type_.unit.SetVisible(false);
   type_.value.SetCaption("Daily");
 }
 
 void BandwidthDetails::SetBounds(const platform::Rect& bounds) {
   group_.SetBounds(bounds);
-  const int inner = bounds.width - 2 * kMargin;
-  const int caption = (inner - kUnitWidth - 2 * kGap) * 55 / 100;
-  const int value = inner - caption - kUnitWidth - 2 * kGap;
   int top = toolkit::GroupBox::kTitleHeight + 3;
-  for (Row* row : {&limit_, &type_, &current_dl_, &current_ul_, &left_}) {
-    const int value_left = kMargin + caption + kGap;
-    const int value_width = row == &type_ ? value + kGap + kUnitWidth : value;
-    row->caption.SetBounds({kMargin, top, caption, kRowHeight});
-    row->value.SetBounds({value_left, top, value_width, kRowHeight});
-    row->unit.SetBounds({value_left + value + kGap, top, kUnitWidth, kRowHeight});
+  for (quantity::FigureRow* row : {&limit_, &type_, &current_dl_, &current_ul_, &left_}) {
+    row->Place({kMargin, top, bounds.width - 2 * kMargin, kRowHeight}, kColumns);
     top += kRowStep;
   }
 }
 
 void BandwidthDetails::Localise() {
   group_.SetCaption(language_.Text(text::Details));
-  const auto localise = [this](Row& row, const language::TextEntry& caption,
+  const auto localise = [this](quantity::FigureRow& row, const language::TextEntry& caption,
                                std::initializer_list<language::TextEntry> hint) {
     row.caption.SetCaption(language_.Text(caption));
     row.caption.SetHint(HintOf(language_, hint));

@@ -7,10 +7,10 @@
 
 #include "alerts/bandwidth_limit.h"
 #include "language/language.h"
+#include "quantity/figure_row.h"
 #include "quantity/quantity.h"
 #include "settings/store.h"
 #include "toolkit/controls/group_box.h"
-#include "toolkit/controls/label.h"
 
 namespace alerts {
 
@@ -32,30 +32,17 @@ class BandwidthDetails {
   void Refresh(const quantity::Formatter& format);
 
  private:
-  // One row: what it is, the value, its unit.
-  struct Row {
-    Row(toolkit::Control& parent, std::string_view caption_name, std::string_view value_name,
-        std::string_view unit_name, platform::Colour colour);
-
-    void SetFontColour(platform::Colour colour);
-    void Show(const quantity::QuantityText& text);
-
-    toolkit::Label caption;
-    toolkit::Label value;
-    toolkit::Label unit;
-  };
-
   void ShowLeft(std::int64_t left, const quantity::Formatter& format);
 
   settings::Store& store_;
   const language::Language& language_;
 
   toolkit::GroupBox group_;
-  Row limit_;
-  Row type_;  // its value is as wide as value and unit of the others
-  Row current_dl_;
-  Row current_ul_;
-  Row left_;
+  quantity::FigureRow limit_;
+  quantity::FigureRow type_;  // without a unit
+  quantity::FigureRow current_dl_;
+  quantity::FigureRow current_ul_;
+  quantity::FigureRow left_;
 };
 
 }  // namespace alerts
