@@ -163,7 +163,7 @@ void MenuWindow::Highlight(const MenuEntry* entry, const Rect& area) {
 int Menus::Popup(TopWindow& /*owner*/, Point at, const std::vector<MenuEntry>& entries,
                  MenuPainter& painter) {
   const HMONITOR monitor = ::MonitorFromPoint({at.x, at.y}, MONITOR_DEFAULTTONEAREST);
-  return window_.Popup(at, entries, painter, dpi_.Of(monitor));
+  return window_.Popup(at, entries, painter, DpiOfMonitor(monitor));
 }
 
 }  // namespace platform::windows
