@@ -5,7 +5,7 @@
 #include <string>
 
 #include "language/texts.h"
-#include "settings/counter_text.h"
+#include "platform/wrapping.h"
 
 namespace alerts {
 namespace {
@@ -114,8 +114,8 @@ void BandwidthDetails::Refresh(const quantity::Formatter& format) {
   current_ul_.Show(format.Text(ul));
   if (!limit || (!download && !upload)) return;
   std::int64_t left = *limit;
-  if (download) left = settings::WrappingSubtract(left, dl);
-  if (upload) left = settings::WrappingSubtract(left, ul);
+  if (download) left = platform::WrappingSubtract(left, dl);
+  if (upload) left = platform::WrappingSubtract(left, ul);
   ShowLeft(left, format);
 }
 

@@ -1,6 +1,6 @@
 #include "alerts/bandwidth_limit.h"
 
-#include "settings/counter_text.h"
+#include "platform/wrapping.h"
 
 namespace alerts {
 namespace {
@@ -19,7 +19,7 @@ std::optional<std::int64_t> CountedTotal(settings::Store& store) {
   if (!period) return {};
   std::int64_t total = 0;
   if (download) total = PeriodTotalDL(store, *period);
-  if (upload) total = settings::WrappingAdd(total, PeriodTotalUL(store, *period));
+  if (upload) total = platform::WrappingAdd(total, PeriodTotalUL(store, *period));
   return total;
 }
 

@@ -1,7 +1,7 @@
 #include "display/numeric_line.h"
 
 #include "engine/product.h"
-#include "settings/counter_text.h"
+#include "platform/wrapping.h"
 
 namespace display {
 namespace {
@@ -104,8 +104,8 @@ void NumericLine::Update(const engine::ScanAmounts& scan) {
 void NumericLine::UpdateAverage(const engine::ScanAmounts& scan,
                                 const quantity::Formatter& format) {
   if (scans_summed_ < AvarageTime) {
-    sum_dl_ = settings::WrappingAdd(sum_dl_, scan.ScanSumDL);
-    sum_ul_ = settings::WrappingAdd(sum_ul_, scan.ScanSumUL);
+    sum_dl_ = platform::WrappingAdd(sum_dl_, scan.ScanSumDL);
+    sum_ul_ = platform::WrappingAdd(sum_ul_, scan.ScanSumUL);
     ++scans_summed_;
     return;
   }

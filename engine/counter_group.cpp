@@ -1,13 +1,13 @@
 #include "engine/counter_group.h"
 
+#include "platform/wrapping.h"
 #include "settings/adapter_values.h"
-#include "settings/counter_text.h"
 
 namespace engine {
 
+using platform::WrappingAdd;
 using settings::CounterSetting;
 using settings::KeyIndex;
-using settings::WrappingAdd;
 
 CounterOwner CounterOwner::Machine(settings::Store& store) {
   return {store, KeyIndex::kSettings, "", MaxRule::kGreater};

@@ -2,6 +2,8 @@
 
 #include <charconv>
 
+#include "platform/wrapping.h"
+
 namespace settings {
 
 ConversionError::ConversionError(std::string_view text)
@@ -24,7 +26,7 @@ std::int64_t ParseCounter(std::string_view text) {
 std::string CounterText(std::int64_t value) {
   // The smallest number has no absolute value in 64 bits. Its text keeps the sign, so that what is
   // written can be read again: digits beyond the range would fail every later scan.
-  return std::to_string(WrappingAbs(value));
+  return std::to_string(platform::WrappingAbs(value));
 }
 
 }  // namespace settings

@@ -1,12 +1,12 @@
 #include "stats/figures.h"
 
-#include "settings/counter_text.h"
+#include "platform/wrapping.h"
 
 namespace stats {
 
 std::optional<std::int64_t> Figures::Total() const {
   if (!total_dl || !total_ul) return std::nullopt;
-  return settings::WrappingAdd(*total_dl, *total_ul);
+  return platform::WrappingAdd(*total_dl, *total_ul);
 }
 
 std::optional<std::int64_t> ReadFigure(const engine::CounterOwner& owner,

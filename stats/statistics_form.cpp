@@ -3,9 +3,9 @@
 #include <string>
 #include <utility>
 
-#include "engine/local_ip.h"
 #include "language/texts.h"
 #include "toolkit/controls/layout.h"
+#include "toolkit/copy_text.h"
 
 namespace stats {
 namespace {
@@ -154,7 +154,7 @@ void StatisticsForm::Button1MouseUp(const platform::MouseEvent& event) {
 }
 
 void StatisticsForm::CopyAddress() {
-  engine::CopyText(App().Platform().clipboard, IpAddress.Caption());
+  toolkit::CopyText(App().Platform().clipboard, IpAddress.Caption());
 }
 
 }  // namespace stats

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "language/texts.h"
+#include "settings/placement_keys.h"
 #include "toolkit/controls/layout.h"
 
 namespace stats {
@@ -18,10 +19,9 @@ constexpr platform::Size kSmallestClient{258, 228};
 }  // namespace
 
 T_frmConnInfo::T_frmConnInfo(const StatisticsContext& context)
-    : StatisticsForm(context,
-                     {kConnInfoForm, "\\Software\\BrisantoNET\\Settings\\ConnInfoScreen",
-                      text::IpLabel, "127.0.0.1"},
-                     engine::CounterOwner::Machine(context.store)),
+    : StatisticsForm(
+          context, {kConnInfoForm, settings::placement_key::kConnInfo, text::IpLabel, "127.0.0.1"},
+          engine::CounterOwner::Machine(context.store)),
       host_address_(context.app.Platform().sockets, context.app.Platform().clock),
       BandwidthTab(PageControl1, "BandwidthTab"),
       Label1(BandwidthTab, "Label1"),

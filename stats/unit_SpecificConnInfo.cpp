@@ -2,6 +2,7 @@
 
 #include "language/texts.h"
 #include "settings/adapter_values.h"
+#include "settings/placement_keys.h"
 
 namespace stats {
 namespace {
@@ -18,11 +19,10 @@ constexpr std::string_view kNoAddress = "00-00-00-00-00";
 
 T_frmSpecificConnInfo::T_frmSpecificConnInfo(const StatisticsContext& context,
                                              std::string_view description)
-    : StatisticsForm(
-          context,
-          {kSpecificConnInfoForm, "\\Software\\BrisantoNET\\Settings\\SpecificConnInfoScreen",
-           text::MacLabel, "-----------"},
-          engine::CounterOwner::AdapterWindow(context.store, description)) {
+    : StatisticsForm(context,
+                     {kSpecificConnInfoForm, settings::placement_key::kSpecificConnInfo,
+                      text::MacLabel, "-----------"},
+                     engine::CounterOwner::AdapterWindow(context.store, description)) {
   SetCaption(description);
   SetClientSize(kClientSize);
   Arrange();
