@@ -1,5 +1,6 @@
 #include "platform/windows/windows/menus.h"
 
+#include "platform/windows/dpi.h"
 #include "platform/windows/drawing/gdi_canvas.h"
 #include "platform/windows/windows/foreground.h"
 #include "platform/windows/windows/menu_tree.h"
