@@ -52,10 +52,9 @@ void BandwidthAlert::ShowMessage() {
 }
 
 void BandwidthAlert::ShowWindow() {
-  if (app_.Modals().Raise(kBandWidthAlertForm)) return;
   try {
-    T_frmBandWidthAlert window(app_, store_, quantity_, language_);
-    app_.Modals().Show(window);
+    app_.Modals().ShowOnce<T_frmBandWidthAlert>(kBandWidthAlertForm, app_, store_, quantity_,
+                                                language_);
   } catch (const std::exception&) {
     // The balloon has told already; the scan goes on.
     return;

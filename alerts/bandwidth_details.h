@@ -7,17 +7,17 @@
 
 #include "alerts/bandwidth_limit.h"
 #include "language/language.h"
+#include "quantity/figure_row.h"
 #include "quantity/quantity.h"
 #include "settings/store.h"
 #include "toolkit/controls/group_box.h"
-#include "toolkit/controls/label.h"
 
 namespace alerts {
 
 class BandwidthDetails {
  public:
   // All outlive the details.
-  BandwidthDetails(toolkit::Control& parent, settings::Store& store, quantity::Quantity& quantity,
+  BandwidthDetails(toolkit::Control& parent, settings::Store& store,
                    const language::Language& language);
 
   // Design pixels; at least 200 wide and 134 high.
@@ -29,35 +29,20 @@ class BandwidthDetails {
   // Shows the stored figures. A stored unit or period that does not exist
   // leaves its rows at their text. Throws settings::ConversionError when a
   // stored total is no number.
-  void Refresh();
+  void Refresh(const quantity::Formatter& format);
 
  private:
-  // One row: what it is, the value, its unit.
-  struct Row {
-    Row(toolkit::Control& parent, std::string_view caption_name, std::string_view value_name,
-        std::string_view unit_name, platform::Colour colour);
-
-    void SetFontColour(platform::Colour colour);
-    // "1,5|kB|" into value and unit.
-    void Show(const std::string& quantity);
-
-    toolkit::Label caption;
-    toolkit::Label value;
-    toolkit::Label unit;
-  };
-
-  void ShowLeft(std::int64_t left);
+  void ShowLeft(std::int64_t left, const quantity::Formatter& format);
 
   settings::Store& store_;
-  quantity::Quantity& quantity_;
   const language::Language& language_;
 
   toolkit::GroupBox group_;
-  Row limit_;
-  Row type_;  // its value is as wide as value and unit of the others
-  Row current_dl_;
-  Row current_ul_;
-  Row left_;
+  quantity::FigureRow limit_;
+  quantity::FigureRow type_;  // without a unit
+  quantity::FigureRow current_dl_;
+  quantity::FigureRow current_ul_;
+  quantity::FigureRow left_;
 };
 
 }  // namespace alerts

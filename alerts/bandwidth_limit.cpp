@@ -1,8 +1,6 @@
 #include "alerts/bandwidth_limit.h"
 
-#include <array>
-
-#include "settings/counter_text.h"
+#include "platform/wrapping.h"
 
 namespace alerts {
 namespace {
@@ -12,30 +10,16 @@ namespace setting = settings::setting;
 constexpr std::int64_t kDefaultMoreThan = 0;  // the preferences show another one
 constexpr std::int64_t kUnits = 3;            // kilobytes, megabytes, gigabytes
 
-struct PeriodCounters {
-  const settings::CounterSetting& dl;
-  const settings::CounterSetting& ul;
-};
-
-const PeriodCounters& CountersOf(LimitPeriod period) {
-  static constexpr std::array<PeriodCounters, 3> kCounters = {{
-      {setting::CurrentDayTotalDL, setting::CurrentDayTotalUL},
-      {setting::CurrentWeekTotalDL, setting::CurrentWeekTotalUL},
-      {setting::CurrentMonthTotalDL, setting::CurrentMonthTotalUL},
-  }};
-  return kCounters[static_cast<std::size_t>(period)];
-}
-
 // What counts towards the limit; nothing when no direction does or the period does not exist.
 std::optional<std::int64_t> CountedTotal(settings::Store& store) {
   const bool download = store.Read(setting::baDownload);
   const bool upload = store.Read(setting::baUpload);
   if (!download && !upload) return {};
-  const std::optional<LimitPeriod> period = ReadLimitPeriod(store);
+  const std::optional<engine::Period> period = ReadLimitPeriod(store);
   if (!period) return {};
   std::int64_t total = 0;
   if (download) total = PeriodTotalDL(store, *period);
-  if (upload) total = settings::WrappingAdd(total, PeriodTotalUL(store, *period));
+  if (upload) total = platform::WrappingAdd(total, PeriodTotalUL(store, *period));
   return total;
 }
 
@@ -49,18 +33,18 @@ std::optional<std::int64_t> LimitBytes(settings::Store& store) {
   return number * (std::int64_t{1024} << (10 * unit));
 }
 
-std::optional<LimitPeriod> ReadLimitPeriod(settings::Store& store) {
+std::optional<engine::Period> ReadLimitPeriod(settings::Store& store) {
   const std::int64_t stored = store.Read(setting::BADayWeekMonth);
-  if (stored < 0 || stored > static_cast<std::int64_t>(LimitPeriod::kMonth)) return {};
-  return static_cast<LimitPeriod>(stored);
+  if (stored < 0 || stored >= std::ssize(engine::kPeriods)) return {};
+  return engine::kPeriods[static_cast<std::size_t>(stored)];
 }
 
-std::int64_t PeriodTotalDL(settings::Store& store, LimitPeriod period) {
-  return store.Read(CountersOf(period).dl);
+std::int64_t PeriodTotalDL(settings::Store& store, engine::Period period) {
+  return store.Read(engine::CountersOf(period).total_dl);
 }
 
-std::int64_t PeriodTotalUL(settings::Store& store, LimitPeriod period) {
-  return store.Read(CountersOf(period).ul);
+std::int64_t PeriodTotalUL(settings::Store& store, engine::Period period) {
+  return store.Read(engine::CountersOf(period).total_ul);
 }
 
 void CheckBandwidthAlert(settings::Store& store, const std::function<void()>& alert) {

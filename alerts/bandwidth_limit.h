@@ -5,6 +5,7 @@
 #include <functional>
 #include <optional>
 
+#include "engine/periods.h"
 #include "settings/store.h"
 
 namespace alerts {
@@ -12,16 +13,13 @@ namespace alerts {
 // The limit in bytes; nothing for a stored unit that does not exist. Wraps like all sums.
 [[nodiscard]] std::optional<std::int64_t> LimitBytes(settings::Store& store);
 
-// The stored period that the limit is for.
-enum class LimitPeriod { kDay = 0, kWeek = 1, kMonth = 2 };
-
-// Nothing for a stored period that does not exist.
-[[nodiscard]] std::optional<LimitPeriod> ReadLimitPeriod(settings::Store& store);
+// The period that the limit is for; nothing for a stored one that does not exist.
+[[nodiscard]] std::optional<engine::Period> ReadLimitPeriod(settings::Store& store);
 
 // What moved so far in the period. Throws settings::ConversionError when a stored total is no
 // number.
-[[nodiscard]] std::int64_t PeriodTotalDL(settings::Store& store, LimitPeriod period);
-[[nodiscard]] std::int64_t PeriodTotalUL(settings::Store& store, LimitPeriod period);
+[[nodiscard]] std::int64_t PeriodTotalDL(settings::Store& store, engine::Period period);
+[[nodiscard]] std::int64_t PeriodTotalUL(settings::Store& store, engine::Period period);
 
 // The scan's step: when the counted total has reached the limit, marks the alert as shown
 // ("BAShow") and then runs `alert`. Once in a period: every reset of a day, week or month clears

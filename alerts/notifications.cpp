@@ -1,9 +1,10 @@
 #include "alerts/notifications.h"
 
-#include <optional>
+#include <algorithm>
 #include <string>
 
 #include "engine/product.h"
+#include "settings/flag_once.h"
 
 namespace alerts {
 namespace {
@@ -15,39 +16,31 @@ constexpr int kBalloonSeconds = 30;
 // Of both rules, in this spelling, whatever the preferences show for the first one.
 constexpr std::string_view kDefaultWave = "warning.wav";
 
-// A flag that is read when it is first needed, and once.
-class FlagOnce {
- public:
-  FlagOnce(settings::Store& store, const settings::BooleanSetting& flag)
-      : store_(store), flag_(flag) {}
-  [[nodiscard]] bool Get() {
-    if (!value_) value_ = store_.Read(flag_);
-    return *value_;
+// A rule during one scan.
+struct WatchedRule {
+  [[nodiscard]] bool WatchesSomething() { return downloaded.Get() || uploaded.Get(); }
+
+  // The threshold is that of a single scan, not of the whole time, though the dialog's wording
+  // sounds like it.
+  void Count(const engine::ScanAmounts& scan) {
+    const std::int64_t threshold = store.Read(rule.bytes);
+    CountIf(rule.qualifies(scan.ScanSumUL, threshold), uploaded, ul_ticks);
+    CountIf(rule.qualifies(scan.ScanSumDL, threshold), downloaded, dl_ticks);
   }
 
- private:
-  settings::Store& store_;
-  const settings::BooleanSetting& flag_;
-  std::optional<bool> value_;
-};
+  static void CountIf(bool qualifies, settings::FlagOnce& watched, std::int64_t& ticks) {
+    ticks = qualifies && watched.Get() ? ticks + 1 : 0;
+  }
 
-void CountIf(bool amount_qualifies, FlagOnce& watched, std::int64_t& ticks) {
-  ticks = amount_qualifies && watched.Get() ? ticks + 1 : 0;
-}
+  settings::Store& store;
+  const TrafficRule& rule;
+  std::int64_t& ul_ticks;
+  std::int64_t& dl_ticks;
+  settings::FlagOnce downloaded{store, rule.downloaded};
+  settings::FlagOnce uploaded{store, rule.uploaded};
+};
 
 }  // namespace
-
-struct Notifications::Rule {
-  const settings::BooleanSetting& is_play;
-  const settings::TextSetting& wave;
-  const settings::IntegerSetting& action;
-  const settings::TextSetting& message;
-};
-
-const Notifications::Rule Notifications::kLess{setting::LessIsPlay, setting::LessPlayWavFile,
-                                               setting::LessAction, setting::LessDisplayMessage};
-const Notifications::Rule Notifications::kMore{setting::MoreIsPlay, setting::MorePlayWavFile,
-                                               setting::MoreAction, setting::MoreDisplayMessage};
 
 Notifications::Notifications(toolkit::Application& app, settings::Store& store,
                              const language::Language& language, Reactions& reactions)
@@ -59,43 +52,33 @@ Notifications::Notifications(toolkit::Application& app, settings::Store& store,
   MoreNotification.OnExecute = [this] { MoreNotificationExecute(); };
 }
 
-// An amount equal to the threshold counts for both rules. The threshold is that of a single scan,
-// not of the whole time, though the dialog's wording sounds like it.
 void Notifications::CheckNotifications(const engine::ScanAmounts& scan) {
-  FlagOnce less_downloaded(store_, setting::LessDownloaded);
-  FlagOnce less_uploaded(store_, setting::LessUploaded);
-  FlagOnce more_downloaded(store_, setting::MoreDownloaded);
-  FlagOnce more_uploaded(store_, setting::MoreUploaded);
-  const bool watching =
-      store_.Read(setting::NotificationsActive) && (less_downloaded.Get() || less_uploaded.Get() ||
-                                                    more_downloaded.Get() || more_uploaded.Get());
+  WatchedRule rules[] = {{store_, kLessRule, LessUploadedTicks, LessDownloadedTicks},
+                         {store_, kMoreRule, MoreUploadedTicks, MoreDownloadedTicks}};
+  const bool watching = store_.Read(setting::NotificationsActive) &&
+                        std::ranges::any_of(rules, &WatchedRule::WatchesSomething);
   TimeOutTimer.SetEnabled(watching);
   if (!watching) return;
-  const std::int64_t less = store_.Read(setting::LessByteWere);
-  CountIf(scan.ScanSumUL <= less, less_uploaded, LessUploadedTicks);
-  CountIf(scan.ScanSumDL <= less, less_downloaded, LessDownloadedTicks);
-  const std::int64_t more = store_.Read(setting::MoreByteWere);
-  CountIf(scan.ScanSumUL >= more, more_uploaded, MoreUploadedTicks);
-  CountIf(scan.ScanSumDL >= more, more_downloaded, MoreDownloadedTicks);
+  for (WatchedRule& rule : rules) rule.Count(scan);
 }
 
 // With both directions due the reaction runs twice in the same second: each
 // direction is told of by itself.
 void Notifications::TimeOutTimerTimer() {
-  FireWhenDue(LessUploadedTicks, setting::LessNotSecs, LessNotification);
-  FireWhenDue(LessDownloadedTicks, setting::LessNotSecs, LessNotification);
-  FireWhenDue(MoreUploadedTicks, setting::MoreNotSecs, MoreNotification);
-  FireWhenDue(MoreDownloadedTicks, setting::MoreNotSecs, MoreNotification);
+  FireWhenDue(LessUploadedTicks, kLessRule, LessNotification);
+  FireWhenDue(LessDownloadedTicks, kLessRule, LessNotification);
+  FireWhenDue(MoreUploadedTicks, kMoreRule, MoreNotification);
+  FireWhenDue(MoreDownloadedTicks, kMoreRule, MoreNotification);
 }
 
-void Notifications::FireWhenDue(std::int64_t& ticks, const settings::IntegerSetting& seconds,
+void Notifications::FireWhenDue(std::int64_t& ticks, const TrafficRule& rule,
                                 const toolkit::Action& action) {
-  if (ticks < store_.Read(seconds)) return;
+  if (ticks < store_.Read(rule.seconds)) return;
   ticks = 0;
   action.Execute();
 }
 
-void Notifications::Execute(const Rule& rule) {
+void Notifications::Execute(const TrafficRule& rule) {
   if (store_.Read(rule.is_play)) {
     reactions_.PlayWave(store_.ReadWith(rule.wave, store_.ProgramFile(kDefaultWave)));
   }

@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "alerts/reactions.h"
+#include "alerts/traffic_rule.h"
 #include "engine/traffic_state.h"
 #include "language/language.h"
 #include "settings/store.h"
@@ -29,17 +30,12 @@ class Notifications {
   toolkit::Action MoreNotification{"MoreNotification"};
 
  private:
-  struct Rule;
-  static const Rule kLess;
-  static const Rule kMore;
-
   void TimeOutTimerTimer();
-  void LessNotificationExecute() { Execute(kLess); }
-  void MoreNotificationExecute() { Execute(kMore); }
+  void LessNotificationExecute() { Execute(kLessRule); }
+  void MoreNotificationExecute() { Execute(kMoreRule); }
 
-  void Execute(const Rule& rule);
-  void FireWhenDue(std::int64_t& ticks, const settings::IntegerSetting& seconds,
-                   const toolkit::Action& action);
+  void Execute(const TrafficRule& rule);
+  void FireWhenDue(std::int64_t& ticks, const TrafficRule& rule, const toolkit::Action& action);
 
   settings::Store& store_;
   const language::Language& language_;

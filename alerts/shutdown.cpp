@@ -7,23 +7,6 @@ namespace {
 
 constexpr std::string_view kShutdownPrivilege = "SeShutdownPrivilege";
 
-// The flags of ExitWindowsEx.
-std::uint32_t FlagsOf(ExitType type) {
-  switch (type) {
-    case ExitType::xLogoff:
-      return 0;
-    case ExitType::xReboot:
-      return 2;
-    case ExitType::xShutDown:
-      return 1;
-    case ExitType::xPowerOff:
-      return 8;
-    case ExitType::xForce:
-      return 4;
-  }
-  return 0;
-}
-
 }  // namespace
 
 std::uint32_t Shutdown::Execute() {
@@ -31,7 +14,7 @@ std::uint32_t Shutdown::Execute() {
   if (Confirm && (!OnConfirm || !OnConfirm(ConfirmText))) return 0;
   platform::Session& session = app_.Platform().session;
   session.SetPrivilege(kShutdownPrivilege, platform::Privilege::kEnable);
-  const std::uint32_t result = session.EndSession(FlagsOf(Exittype));
+  const std::uint32_t result = session.EndSession(static_cast<std::uint32_t>(Exittype));
   session.SetPrivilege(kShutdownPrivilege, platform::Privilege::kDisable);
   if (result == 0) {
     app_.Terminate();

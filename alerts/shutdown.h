@@ -12,7 +12,14 @@ class Application;
 
 namespace alerts {
 
-enum class ExitType { xLogoff, xReboot, xShutDown, xPowerOff, xForce };
+// By the flag of ExitWindowsEx.
+enum class ExitType : std::uint32_t {
+  xLogoff = 0,
+  xReboot = 2,
+  xShutDown = 1,
+  xPowerOff = 8,
+  xForce = 4,
+};
 
 class Shutdown {
  public:

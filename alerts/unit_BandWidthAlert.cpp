@@ -44,13 +44,14 @@ T_frmBandWidthAlert::T_frmBandWidthAlert(toolkit::Application& app, settings::St
                                          quantity::Quantity& quantity,
                                          const language::Language& language)
     : Form(app, kBandWidthAlertForm, platform::Frame::kTool),
+      quantity_(quantity),
       language_(language),
       Image1(*this, "Image1", kImages, toolkit::kImageSize),
       MessagePanel(*this, "MessagePanel"),
       Memo1(MessagePanel, "Memo1", platform::Border::kNone),
       btnDetails(*this, "btnDetails"),
       OkBtn(*this, "OkBtn"),
-      details_(*this, store, quantity, language),
+      details_(*this, store, language),
       Timer1(app, kRefreshMs, [this] { Timer1Timer(); }) {
   Image1.SetBounds({8, 8, 40, 60});
   Image1.SetBevels(toolkit::BevelCut::kRaised, toolkit::BevelCut::kNone);
@@ -86,7 +87,7 @@ void T_frmBandWidthAlert::Localise() {
 }
 
 void T_frmBandWidthAlert::Timer1Timer() {
-  faults_.Try([this] { details_.Refresh(); });
+  faults_.Try([this] { details_.Refresh(quantity_.ForStep()); });
   faults_.Tell();
 }
 

@@ -31,6 +31,7 @@ class T_frmBandWidthAlert final : public toolkit::Form {
   void SetDetailsShown(bool shown);
   void LocaliseDetailsButton();
 
+  quantity::Quantity& quantity_;
   const language::Language& language_;
 
   toolkit::Sign Image1;

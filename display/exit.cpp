@@ -21,8 +21,8 @@ bool Exit::MayLeave() {
 }
 
 bool Exit::AskWhetherSure() {
-  T_frmAreYouSure question(app_, store_, language_);
-  return app_.Modals().Show(question) == toolkit::ModalResult::kYes;
+  return app_.Modals().ShowOnce<T_frmAreYouSure>(kAreYouSureForm, app_, store_, language_) ==
+         toolkit::ModalResult::kYes;
 }
 
 }  // namespace display

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "engine/product.h"
-#include "settings/counter_text.h"
+#include "platform/wrapping.h"
 
 namespace display {
 namespace {
@@ -127,39 +127,39 @@ std::string NumericLine::AverageStart() {
 void NumericLine::Update(const engine::ScanAmounts& scan) {
   idle_ = false;
   any_mode_ = false;
+  const quantity::Formatter format = quantity_.ForStep();
+  const auto amount = [&](std::int64_t bytes) { return format.Text(bytes).Joined(); };
   current_.clear();
   if (ReadMode(setting::SOM1)) {
-    current_ = "[ DL:" + Amount(scan.ScanSumDL) + " UL:" + Amount(scan.ScanSumUL) + " ]";
+    current_ = "[ DL:" + amount(scan.ScanSumDL) + " UL:" + amount(scan.ScanSumUL) + " ]";
   }
   if (ReadMode(setting::SOM2)) {
-    UpdateAverage(scan);
+    UpdateAverage(scan, format);
   } else {
     average_.clear();
   }
   maximum_.clear();
   if (ReadMode(setting::SOM3)) {
     // The literal word here, the language's in the initial text.
-    maximum_ = "[ Max DL:" + Amount(scan.ScanMaxDL) + " Max UL:" + Amount(scan.ScanMaxUL) + " ]";
+    maximum_ = "[ Max DL:" + amount(scan.ScanMaxDL) + " Max UL:" + amount(scan.ScanMaxUL) + " ]";
   }
 }
 
 // The scan at which the average is due is counted nowhere, so with a period of 5 the text changes
 // every sixth scan.
-void NumericLine::UpdateAverage(const engine::ScanAmounts& scan) {
+void NumericLine::UpdateAverage(const engine::ScanAmounts& scan,
+                                const quantity::Formatter& format) {
   if (scans_summed_ < AvarageTime) {
-    sum_dl_ = settings::WrappingAdd(sum_dl_, scan.ScanSumDL);
-    sum_ul_ = settings::WrappingAdd(sum_ul_, scan.ScanSumUL);
+    sum_dl_ = platform::WrappingAdd(sum_dl_, scan.ScanSumDL);
+    sum_ul_ = platform::WrappingAdd(sum_ul_, scan.ScanSumUL);
     ++scans_summed_;
     return;
   }
   const std::int64_t divisor = AvarageTime == 0 ? 1 : AvarageTime;
-  average_ = AverageStart() + Amount(sum_dl_ / divisor) + " UL:" + Amount(sum_ul_ / divisor) + " ]";
+  average_ = AverageStart() + format.Text(sum_dl_ / divisor).Joined() +
+             " UL:" + format.Text(sum_ul_ / divisor).Joined() + " ]";
   scans_summed_ = 0;
   ClearSums();
-}
-
-std::string NumericLine::Amount(std::int64_t bytes) {
-  return quantity::NumberAndUnit(quantity_.FormatQuantity(bytes));
 }
 
 bool NumericLine::ReadMode(const settings::BooleanSetting& mode) {

@@ -55,8 +55,7 @@ class NumericLine {
   void SetAverageText(std::string text) { average_ = std::move(text); }
 
  private:
-  void UpdateAverage(const engine::ScanAmounts& scan);
-  [[nodiscard]] std::string Amount(std::int64_t bytes);
+  void UpdateAverage(const engine::ScanAmounts& scan, const quantity::Formatter& format);
   [[nodiscard]] bool ReadMode(const settings::BooleanSetting& mode);
   [[nodiscard]] std::string& TextOf(const settings::BooleanSetting& mode);
   [[nodiscard]] std::string IdleText(const settings::BooleanSetting& mode, bool bits);

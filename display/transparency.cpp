@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "display/graph/shape.h"
+#include "platform/scoped_value.h"
 #include "toolkit/application.h"
 
 namespace display {
@@ -114,11 +115,7 @@ void Transparency::PointerChanged() {
 void Transparency::Fade(int from, int to) {
   fade_target_ = to;
   if (fading_) return;
-  struct Scope {
-    explicit Scope(bool& of) : flag(of) { flag = true; }
-    ~Scope() { flag = false; }
-    bool& flag;
-  } const scope(fading_);
+  const platform::ScopedValue scope(fading_, true);
   std::int64_t due = window_.App().Platform().clock.SteadyMilliseconds();
   for (bool first = true; LetMessagesThrough(due) && fade_target_; first = false) {
     const int towards = alpha_ < *fade_target_ ? 1 : -1;

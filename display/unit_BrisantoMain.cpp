@@ -8,8 +8,10 @@
 #include "engine/local_ip.h"
 #include "engine/product.h"
 #include "settings/administrator_lock.h"
+#include "settings/placement_keys.h"
 #include "settings/unit_SecurityForm.h"
 #include "toolkit/application.h"
+#include "toolkit/copy_text.h"
 #include "toolkit/design_pixels.h"
 #include "toolkit/forms/placement.h"
 
@@ -23,8 +25,6 @@ constexpr platform::Rect kDesignBounds{761, 128, 274, 135};
 constexpr platform::Size kSmallest{150, 25};
 constexpr platform::Size kLargest{350, 200};
 constexpr int kPanelHeight = 17;
-
-constexpr std::string_view kPlacementKey = "\\Software\\BrisantoNET\\Settings\\MainScreen";
 
 // Display modes as stored in "WindowMode".
 constexpr std::int64_t kGraphMode = 0;
@@ -63,7 +63,7 @@ T_frmBrisanto::T_frmBrisanto(toolkit::Application& app)
       pnlContain(*this, "pnlContain"),
       _tlkDLULMeter(pnlContain, "_tlkDLULMeter"),
       _FormMagnet(*this),
-      _tlkFormSaver(*this, kPlacementKey),
+      _tlkFormSaver(*this, settings::placement_key::kMain),
       transparency_(*this, RegME, _MainMenu, _tlkInterMeter, pnlContain),
       title_posting_(app, RegME),
       numeric_line_(RegME, quantity_, _ReadLangauge),
@@ -311,7 +311,7 @@ void T_frmBrisanto::GlobalAtomKeyGlobalKeys0KeyDown() { mnuTransparentClick(); }
 void T_frmBrisanto::GlobalAtomKeyGlobalKeys1KeyDown() { mnuTransparent2kClick(); }
 
 void T_frmBrisanto::GlobalAtomKeyGlobalKeys2KeyDown() {
-  engine::CopyText(App().Platform().clipboard, engine::GetLocalIP(App().Platform().sockets));
+  toolkit::CopyText(App().Platform().clipboard, engine::GetLocalIP(App().Platform().sockets));
 }
 
 void T_frmBrisanto::CMMouseEnter() { transparency_.PointerChanged(); }

@@ -16,6 +16,8 @@ struct CounterGroup {
   settings::CounterSetting total_ul;
   settings::CounterSetting max_dl;
   settings::CounterSetting max_ul;
+  // A reset writes the totals and then the maxima, DL first; the week's maxima UL first.
+  bool resets_max_ul_first = false;
 };
 
 // Since the last reset; the machine's totals of this kind are not kept by the scan.
@@ -27,7 +29,7 @@ inline constexpr CounterGroup kDayGroup{
     settings::setting::CurrentDayMaxDL, settings::setting::CurrentDayMaxUL};
 inline constexpr CounterGroup kWeekGroup{
     settings::setting::CurrentWeekTotalDL, settings::setting::CurrentWeekTotalUL,
-    settings::setting::CurrentWeekMaxDL, settings::setting::CurrentWeekMaxUL};
+    settings::setting::CurrentWeekMaxDL, settings::setting::CurrentWeekMaxUL, true};
 inline constexpr CounterGroup kMonthGroup{
     settings::setting::CurrentMonthTotalDL, settings::setting::CurrentMonthTotalUL,
     settings::setting::CurrentMonthMaxDL, settings::setting::CurrentMonthMaxUL};
@@ -40,31 +42,39 @@ struct GroupAmounts {
   std::int64_t max_ul = 0;
 };
 
-// Whose groups they are: the machine's, under Settings, or an adapter's, under AdapterDatas with
-// the adapter's trimmed name in front of each value name.
-class GroupOwner {
+// Whose counters they are: the machine's, under Settings, or an adapter's, under AdapterDatas with
+// the adapter's name in front of each value name.
+class CounterOwner {
  public:
-  [[nodiscard]] static GroupOwner Machine(settings::Store& store);
-  [[nodiscard]] static GroupOwner Adapter(settings::Store& store, std::string_view description);
+  [[nodiscard]] static CounterOwner Machine(settings::Store& store);
+  // As the scan counts it: under the trimmed name.
+  [[nodiscard]] static CounterOwner Adapter(settings::Store& store, std::string_view description);
+  // As its window shows it: blanks at the ends of the caption are kept, so the window of an adapter
+  // whose description has some shows zeros; both forms stay as they are.
+  [[nodiscard]] static CounterOwner AdapterWindow(settings::Store& store, std::string_view caption);
+
+  // Throws ConversionError when the stored text is no number.
+  [[nodiscard]] std::int64_t Read(const settings::CounterSetting& counter) const;
 
   // Adds to the totals and raises the maxima, each value read, changed and written in turn. Throws
   // ConversionError when a stored text is no number, std::runtime_error when a write is refused;
   // what was written before stays.
   void Add(const CounterGroup& group, const GroupAmounts& amounts) const;
 
-  // Writes "0" to the four values, in the order of the table of all values.
+  // Write "0", to one or to all four. Throw std::runtime_error when a write is refused.
+  void Reset(const settings::CounterSetting& counter) const;
   void Reset(const CounterGroup& group) const;
 
  private:
   // When a candidate replaces a stored maximum. An adapter also writes one that is equal.
   enum class MaxRule { kGreater, kGreaterOrEqual };
 
-  GroupOwner(settings::Store& store, settings::KeyIndex key, std::string prefix, MaxRule rule)
+  CounterOwner(settings::Store& store, settings::KeyIndex key, std::string prefix, MaxRule rule)
       : store_(store), key_(key), prefix_(std::move(prefix)), rule_(rule) {}
 
-  [[nodiscard]] std::string Name(settings::CounterSetting counter) const;
-  void AddTo(settings::CounterSetting total, std::int64_t bytes) const;
-  void Raise(settings::CounterSetting max, std::int64_t candidate) const;
+  [[nodiscard]] std::string Name(const settings::CounterSetting& counter) const;
+  void Write(const settings::CounterSetting& counter, std::int64_t value) const;
+  void Raise(const settings::CounterSetting& max, std::int64_t candidate) const;
 
   settings::Store& store_;
   settings::KeyIndex key_;

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <optional>
 
-#include "platform/text.h"
+#include "toolkit/copy_text.h"
 
 namespace engine {
 
@@ -20,13 +20,9 @@ std::string GetLocalIP(platform::Sockets& sockets) {
   return last;
 }
 
-void CopyText(platform::Clipboard& clipboard, std::string_view text) {
-  clipboard.SetText(platform::CutCharacters(text, 255));
-}
-
 void CopyLocalIPIfWanted(settings::Store& store, platform::Sockets& sockets,
                          platform::Clipboard& clipboard) {
-  if (store.Read(settings::setting::CopyIP)) CopyText(clipboard, GetLocalIP(sockets));
+  if (store.Read(settings::setting::CopyIP)) toolkit::CopyText(clipboard, GetLocalIP(sockets));
 }
 
 }  // namespace engine

@@ -13,10 +13,6 @@ namespace engine {
 // May block as long as the look-up does.
 [[nodiscard]] std::string GetLocalIP(platform::Sockets& sockets);
 
-// Puts a text, at most its first 255 characters, on the clipboard. Nothing happens when another
-// program holds it.
-void CopyText(platform::Clipboard& clipboard, std::string_view text);
-
 // The start's step: copies the address if the user wants that ("CopyIP").
 void CopyLocalIPIfWanted(settings::Store& store, platform::Sockets& sockets,
                          platform::Clipboard& clipboard);

@@ -1,5 +1,6 @@
 #include "engine/periods.h"
 
+#include <cstddef>
 #include <cstdint>
 
 #include "engine/week_number.h"
@@ -28,6 +29,11 @@ MarkerAge MonthAge(std::int64_t month, std::int64_t marker) {
 
 }  // namespace
 
+const CounterGroup& CountersOf(Period period) {
+  static constexpr const CounterGroup* kGroups[] = {&kDayGroup, &kWeekGroup, &kMonthGroup};
+  return *kGroups[static_cast<std::size_t>(period)];
+}
+
 Periods::Periods(settings::Store& store, platform::DateTime today)
     : store_(store), today_(today), week_(WeekOfYear(today)), date_(platform::DecodeDate(today)) {}
 
@@ -54,6 +60,12 @@ bool Periods::HasStarted(Period period) const {
   }
   // The scan's own default: without a stored day the month starts on the 1st.
   return date_.day >= store_.ReadWith(setting::mPerStartsOn, 0) + 1;
+}
+
+void Periods::RollOver(Period period) const {
+  WriteMarker(period);
+  CounterOwner::Machine(store_).Reset(CountersOf(period));
+  store_.Write(setting::BAShow, false);
 }
 
 void Periods::WriteMarker(Period period) const {

@@ -1,12 +1,20 @@
 // When a day, week or month of the statistics is over.
 #pragma once
 
+#include <array>
+
+#include "engine/counter_group.h"
 #include "platform/date_time.h"
 #include "settings/store.h"
 
 namespace engine {
 
 enum class Period { kDay, kWeek, kMonth };
+
+// In the order in which they are brought up to date.
+inline constexpr std::array kPeriods = {Period::kDay, Period::kWeek, Period::kMonth};
+
+[[nodiscard]] const CounterGroup& CountersOf(Period period);
 
 // How a stored marker ("CurrentDay", "CurrentWeek", "CurrentMonth") stands to today.
 enum class MarkerAge {
@@ -32,10 +40,14 @@ class Periods {
   // (the month starts on the day after that one).
   [[nodiscard]] bool HasStarted(Period period) const;
 
-  // Makes today's the current period.
-  void WriteMarker(Period period) const;
+  // Begins today's period for the machine: writes its marker, "0" to its counters, and that the
+  // bandwidth alert may be given again. Throws std::runtime_error when the system refuses a write;
+  // what was written before stays.
+  void RollOver(Period period) const;
 
  private:
+  void WriteMarker(Period period) const;
+
   settings::Store& store_;
   platform::DateTime today_;
   int week_;

@@ -1,38 +1,24 @@
 #include "engine/scan_cycle.h"
 
-#include <utility>
-
-#include "settings/counter_text.h"
+#include "platform/scoped_value.h"
+#include "platform/wrapping.h"
 
 namespace engine {
 namespace {
 
 // The graph's inputs have 32 bits: what does not fit is cut off.
 std::int32_t GraphInput(std::int64_t bytes) {
-  return static_cast<std::int32_t>(static_cast<std::uint32_t>(settings::WrappingAbs(bytes)));
+  return static_cast<std::int32_t>(static_cast<std::uint32_t>(platform::WrappingAbs(bytes)));
 }
 
 }  // namespace
-
-// Puts the stage back, also when a step throws.
-class ScanCycle::StageScope {
- public:
-  StageScope(Stage& stage, Stage during) : stage_(stage), before_(std::exchange(stage, during)) {}
-  ~StageScope() { stage_ = before_; }
-  StageScope(const StageScope&) = delete;
-  StageScope& operator=(const StageScope&) = delete;
-
- private:
-  Stage& stage_;
-  Stage before_;
-};
 
 // The order of a scan is this function, top to bottom. The amounts are its own: they end with it,
 // so nothing has to be zeroed at the end, and a scan that runs inside the bandwidth step counts
 // only its own bytes.
 void ScanCycle::Run() {
   if (stage_ == Stage::kBusy) return;
-  const StageScope scope(stage_, Stage::kBusy);
+  const platform::ScopedValue scope(stage_, Stage::kBusy);
   const platform::DateTime today = platform::DateOf(clock_.Now());
 
   ReinitialiseIfRowsChanged();
@@ -64,7 +50,7 @@ void ScanCycle::FeedGraph(const ScanAmounts& scan) {
 }
 
 void ScanCycle::CheckBandwidthAlert() {
-  const StageScope scope(stage_, Stage::kInBandwidthStep);
+  const platform::ScopedValue scope(stage_, Stage::kInBandwidthStep);
   steps_.CheckBandwidthAlert();
 }
 

@@ -50,7 +50,6 @@ class ScanCycle {
  private:
   // Where the scan that is under way stands.
   enum class Stage { kIdle, kBusy, kInBandwidthStep };
-  class StageScope;
 
   void ReinitialiseIfRowsChanged();
   void FeedGraph(const ScanAmounts& scan);

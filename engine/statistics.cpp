@@ -1,26 +1,13 @@
 #include "engine/statistics.h"
 
+#include "engine/counter_group.h"
+#include "engine/periods.h"
 #include "engine/week_number.h"
 #include "settings/adapter_values.h"
 
 namespace engine {
-namespace {
 
 namespace setting = settings::setting;
-
-struct PeriodGroup {
-  Period period;
-  const CounterGroup& group;
-};
-
-// In the order in which they are brought up to date.
-constexpr PeriodGroup kPeriodGroups[] = {
-    {Period::kDay, kDayGroup},
-    {Period::kWeek, kWeekGroup},
-    {Period::kMonth, kMonthGroup},
-};
-
-}  // namespace
 
 void Statistics::InitStatistics(std::span<const std::string> descriptions, platform::DateTime now) {
   const std::int64_t starts = store_.Read(setting::ExecuteTime);
@@ -38,12 +25,13 @@ void Statistics::InitStatistics(std::span<const std::string> descriptions, platf
 void Statistics::UpdateAdapterStatistics(std::string_view description,
                                          const AdapterCounters& counters,
                                          platform::DateTime today) {
-  const GroupOwner adapter = GroupOwner::Adapter(store_, description);
+  const CounterOwner adapter = CounterOwner::Adapter(store_, description);
   const GroupAmounts amounts{counters.DeltaIn, counters.DeltaOut, counters.MaxIn, counters.MaxOut};
   adapter.Add(kInfoGroup, amounts);
 
   const Periods periods(store_, today);
-  for (const auto& [period, group] : kPeriodGroups) {
+  for (const Period period : kPeriods) {
+    const CounterGroup& group = CountersOf(period);
     const MarkerAge age = periods.Age(period);
     if (age == MarkerAge::kFar) adapter.Reset(group);
     // The marker is still the old one, so the start day is asked about after that reset too: from
@@ -63,25 +51,19 @@ void Statistics::UpdateMachineMaxima(const ScanAmounts& scan) {
 }
 
 void Statistics::UpdateMachinePeriods(const ScanAmounts& scan, platform::DateTime today) {
-  const GroupOwner machine = GroupOwner::Machine(store_);
+  const CounterOwner machine = CounterOwner::Machine(store_);
   const GroupAmounts amounts{scan.ScanSumDL, scan.ScanSumUL, scan.ScanMaxDL, scan.ScanMaxUL};
   const Periods periods(store_, today);
-  for (const auto& [period, group] : kPeriodGroups) {
+  for (const Period period : kPeriods) {
     const MarkerAge age = periods.Age(period);
     // The marker is today's after that, so the scan is added to the new period.
-    if (age == MarkerAge::kFar) RollOver(periods, period, group);
+    if (age == MarkerAge::kFar) periods.RollOver(period);
     if (age == MarkerAge::kNext && periods.HasStarted(period)) {
-      RollOver(periods, period, group);
+      periods.RollOver(period);
     } else {
-      machine.Add(group, amounts);
+      machine.Add(CountersOf(period), amounts);
     }
   }
-}
-
-void Statistics::RollOver(const Periods& periods, Period period, const CounterGroup& group) {
-  periods.WriteMarker(period);
-  GroupOwner::Machine(store_).Reset(group);
-  store_.Write(setting::BAShow, false);  // the bandwidth alert may be given again
 }
 
 }  // namespace engine

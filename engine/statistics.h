@@ -5,8 +5,6 @@
 #include <string>
 #include <string_view>
 
-#include "engine/counter_group.h"
-#include "engine/periods.h"
 #include "engine/traffic_state.h"
 #include "platform/date_time.h"
 #include "settings/store.h"
@@ -36,8 +34,6 @@ class Statistics {
   void UpdateMachinePeriods(const ScanAmounts& scan, platform::DateTime today);
 
  private:
-  void RollOver(const Periods& periods, Period period, const CounterGroup& group);
-
   settings::Store& store_;
 };
 

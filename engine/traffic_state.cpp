@@ -1,11 +1,11 @@
 #include "engine/traffic_state.h"
 
-#include "settings/counter_text.h"
+#include "platform/wrapping.h"
 
 namespace engine {
 
-using settings::WrappingAbs;
-using settings::WrappingAdd;
+using platform::WrappingAbs;
+using platform::WrappingAdd;
 
 void TrafficState::AddToRunTotals(const ScanAmounts& scan) {
   RunTotalDL = WrappingAbs(WrappingAdd(RunTotalDL, scan.ScanSumDL));

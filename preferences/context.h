@@ -3,6 +3,7 @@
 
 #include "display/running_meter.h"
 #include "language/language.h"
+#include "platform/scoped_value.h"
 #include "settings/store.h"
 #include "toolkit/application.h"
 
@@ -24,18 +25,8 @@ class Context {
   // While one exists, the controls take over what is stored. Their handlers push it into the meter
   // as ever but write nothing: it is stored already, perhaps in a form that a control cannot show,
   // and opening the preferences changes no stored value.
-  class Reading {
-   public:
-    explicit Reading(Context& context) : context_(context), before_(context.reading_) {
-      context_.reading_ = true;
-    }
-    ~Reading() { context_.reading_ = before_; }
-    Reading(const Reading&) = delete;
-    Reading& operator=(const Reading&) = delete;
-
-   private:
-    Context& context_;
-    const bool before_;
+  struct Reading : platform::ScopedValue<bool> {
+    explicit Reading(Context& context) : ScopedValue(context.reading_, true) {}
   };
   [[nodiscard]] bool IsReading() const { return reading_; }
 

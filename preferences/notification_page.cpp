@@ -19,26 +19,6 @@ constexpr platform::TextStyle kWord{platform::TextAlign::kLeft};
 
 }  // namespace
 
-struct NotificationPage::Rule {
-  const settings::BooleanSetting& play;
-  const settings::TextSetting& sound;
-  const settings::IntegerSetting& bytes;
-  const settings::BooleanSetting& download;
-  const settings::BooleanSetting& upload;
-  const settings::IntegerSetting& seconds;
-  const settings::IntegerSetting& action;
-  const settings::TextSetting& message;
-};
-
-const NotificationPage::Rule NotificationPage::kLess{
-    setting::LessIsPlay,     setting::LessPlayWavFile,   setting::LessByteWere,
-    setting::LessDownloaded, setting::LessUploaded,      setting::LessNotSecs,
-    setting::LessAction,     setting::LessDisplayMessage};
-const NotificationPage::Rule NotificationPage::kMore{
-    setting::MoreIsPlay,     setting::MorePlayWavFile,   setting::MoreByteWere,
-    setting::MoreDownloaded, setting::MoreUploaded,      setting::MoreNotSecs,
-    setting::MoreAction,     setting::MoreDisplayMessage};
-
 NotificationPage::NotificationPage(toolkit::Notebook& notebook, Context& context)
     : Page(notebook, "Notification", context),
       NotificationsCheckBox(*this, "NotificationsCheckBox"),
@@ -120,11 +100,11 @@ void NotificationPage::ConnectHandlers() {
   });
   ticker_sound_.OnChange = [this] { context_.Save(setting::TickerWav, ticker_sound_.Path()); };
   LessOrMore.OnChange = [this] { LessOrMoreChange(); };
-  PlayEnabled.OnClick = [this] { context_.Save(Chosen().play, PlayEnabled.Checked()); };
-  sound_.OnChange = [this] { context_.Save(Chosen().sound, sound_.Path()); };
+  PlayEnabled.OnClick = [this] { context_.Save(Chosen().is_play, PlayEnabled.Checked()); };
+  sound_.OnChange = [this] { context_.Save(Chosen().wave, sound_.Path()); };
   BytesSpin.OnChange = [this] { context_.Save(Chosen().bytes, BytesSpin.Value()); };
-  WhenDownload.OnClick = [this] { context_.Save(Chosen().download, WhenDownload.Checked()); };
-  WhenUpload.OnClick = [this] { context_.Save(Chosen().upload, WhenUpload.Checked()); };
+  WhenDownload.OnClick = [this] { context_.Save(Chosen().downloaded, WhenDownload.Checked()); };
+  WhenUpload.OnClick = [this] { context_.Save(Chosen().uploaded, WhenUpload.Checked()); };
   BytesSec.OnChange = [this] { context_.Save(Chosen().seconds, BytesSec.Value()); };
   action_.action.OnChange = [this] {
     action_.ShowMessage();
@@ -157,8 +137,8 @@ void NotificationPage::Localise(const language::Translation& say) {
   ticker_sound_.Localise(say);
 }
 
-const NotificationPage::Rule& NotificationPage::Chosen() {
-  return context_.store.Read(setting::LessOrMore) == 0 ? kLess : kMore;
+const alerts::TrafficRule& NotificationPage::Chosen() {
+  return context_.store.Read(setting::LessOrMore) == 0 ? alerts::kLessRule : alerts::kMoreRule;
 }
 
 void NotificationPage::ReadTicker() {
@@ -182,13 +162,13 @@ void NotificationPage::LessOrMoreChange() {
 }
 
 void NotificationPage::ReadControls() {
-  const Rule& rule = Chosen();
+  const alerts::TrafficRule& rule = Chosen();
   settings::Store& store = context_.store;
-  PlayEnabled.SetChecked(store.Read(rule.play));
-  sound_.SetPath(store.Read(rule.sound));
+  PlayEnabled.SetChecked(store.Read(rule.is_play));
+  sound_.SetPath(store.Read(rule.wave));
   BytesSpin.SetValue(store.Read(rule.bytes));
-  WhenDownload.SetChecked(store.Read(rule.download));
-  WhenUpload.SetChecked(store.Read(rule.upload));
+  WhenDownload.SetChecked(store.Read(rule.downloaded));
+  WhenUpload.SetChecked(store.Read(rule.uploaded));
   BytesSec.SetValue(store.Read(rule.seconds));
   // One that does not exist leaves the list without a choice: the one in it may be the other
   // rule's.

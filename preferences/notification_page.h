@@ -2,6 +2,7 @@
 // the ticker.
 #pragma once
 
+#include "alerts/traffic_rule.h"
 #include "preferences/action_fields.h"
 #include "preferences/options.h"
 #include "preferences/page.h"
@@ -24,16 +25,11 @@ class NotificationPage final : public Page {
   void ReadActive();
 
  private:
-  // The stored values of a rule.
-  struct Rule;
-  static const Rule kLess;
-  static const Rule kMore;
-
   void PlaceControls();
   void PlaceTicker(int top);
   void ConnectHandlers();
   // Asked of the store anew by every handler: another program may have chosen the other one.
-  [[nodiscard]] const Rule& Chosen();
+  [[nodiscard]] const alerts::TrafficRule& Chosen();
   void LessOrMoreChange();
   // Puts the values of the chosen rule into the controls.
   void ReadControls();

@@ -24,21 +24,19 @@ void PicturePanel::Load(const std::string& path, const std::string& fallback) {
   Invalidate();
 }
 
-void PicturePanel::OnPaint(platform::Canvas& canvas) {
-  App().Guard([&] {
-    const platform::Size size = canvas.Extent();
-    const platform::Rect inside = toolkit::DrawBevel(canvas, {0, 0, size.width, size.height},
-                                                     toolkit::BevelCut::kLowered, 1, Colour());
-    canvas.Fill(inside, platform::colour::kButtonFace);
-    const int side = Scale(kSide);
-    const auto picture = App().Platform().graphics.CreateBitmap({side, side});
-    if (!pictures_.Loaded() || !picture) return;
-    for (int i = 0; i < kPictures; ++i) {
-      pictures_.Draw(static_cast<display::TrayActivity>(i), picture->GetCanvas(),
-                     platform::colour::kButtonFace);
-      canvas.Draw(*picture, {Scale(kGap + i * (kSide + kGap)), (size.height - side) / 2});
-    }
-  });
+void PicturePanel::Paint(platform::Canvas& canvas) {
+  const platform::Size size = canvas.Extent();
+  const platform::Rect inside = toolkit::DrawBevel(canvas, {0, 0, size.width, size.height},
+                                                   toolkit::BevelCut::kLowered, 1, Colour());
+  canvas.Fill(inside, platform::colour::kButtonFace);
+  const int side = Scale(kSide);
+  const auto picture = App().Platform().graphics.CreateBitmap({side, side});
+  if (!pictures_.Loaded() || !picture) return;
+  for (int i = 0; i < kPictures; ++i) {
+    pictures_.Draw(static_cast<display::TrayActivity>(i), picture->GetCanvas(),
+                   platform::colour::kButtonFace);
+    canvas.Draw(*picture, {Scale(kGap + i * (kSide + kGap)), (size.height - side) / 2});
+  }
 }
 
 }  // namespace preferences

@@ -21,7 +21,7 @@ class PicturePanel final : public toolkit::Control {
   static constexpr int kHeight = 26;
 
  protected:
-  void OnPaint(platform::Canvas& canvas) override;
+  void Paint(platform::Canvas& canvas) override;
 
  private:
   display::TrayPictures pictures_;

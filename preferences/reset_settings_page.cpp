@@ -92,7 +92,7 @@ void ResetSettingsPage::Localise(const language::Translation& say) {
   for (std::size_t i = 0; i < kGroups.size(); ++i) {
     groups_[i]->SetCaption(say(kGroups[i].text));
     groups_[i]->SetHint(
-        say(IsPeriod(kGroups[i].group) ? text::ResetPeriodHint : text::ResetOptionsHint));
+        say(PeriodOf(kGroups[i].group) ? text::ResetPeriodHint : text::ResetOptionsHint));
   }
   Say(say, {
                {lblReset, text::lblReset},

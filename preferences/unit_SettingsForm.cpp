@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "preferences/page_tree.h"
+#include "settings/placement_keys.h"
 #include "toolkit/controls/layout.h"
 
 namespace preferences {
@@ -15,8 +16,6 @@ namespace text = language::text::SettingsForm;
 constexpr int kTreeWidth = 164;
 constexpr int kFormWidth = kMargin + kTreeWidth + kMargin + kPageWidth;
 constexpr int kFormHeight = kPageHeight + 5 * kMargin;
-
-constexpr std::string_view kPlacementKey = "\\Software\\BrisantoNET\\Settings\\SettingsScreen";
 
 }  // namespace
 
@@ -39,7 +38,8 @@ T_frmPreferences::T_frmPreferences(toolkit::Application& app, const display::Run
       other_(PrefNotebook, context_),
       reset_settings_(PrefNotebook, context_, [this] { ReadSettings(); }),
       btnClose(*this, "btnClose"),
-      placement_(*this, kPlacementKey, toolkit::PlacementSaver::Restores::kPlace) {
+      placement_(*this, settings::placement_key::kSettings,
+                 toolkit::PlacementSaver::Restores::kPlace) {
   PlaceControls();
   Localise();
   TreeItems.SetItemIndex(0);

@@ -51,16 +51,16 @@ constexpr Range kNegativeRanges[] = {
     {-1023999999999999, -102400000000000, 4, 9},
 };
 
-enum class Unit { kBytes, kBits };
-
 struct UnitWords {
-  std::string_view zero;
+  std::string_view of_zero;
   std::array<std::string_view, 4> by_divisions;
 };
 
-// The zero text of bits lacks the final "s" that all their other texts have; it is meant to.
-constexpr UnitWords kByteWords = {"0,0|kB|", {"|kB|", "|MB|", "|GB|", "|TB|"}};
-constexpr UnitWords kBitWords = {"0,0|kbit|", {"|kbits|", "|Mbits|", "|Gbits|", "|Tbits|"}};
+// The unit of zero bits lacks the final "s" that all their other units have; it is meant to.
+constexpr UnitWords kByteWords = {"kB", {"kB", "MB", "GB", "TB"}};
+constexpr UnitWords kBitWords = {"kbit", {"kbits", "Mbits", "Gbits", "Tbits"}};
+// With a comma, whatever the user's separator is.
+constexpr std::string_view kZero = "0,0";
 
 bool Matches(const Range& range, std::int64_t n) { return range.from <= n && n < range.up_to; }
 
@@ -91,31 +91,33 @@ std::string NumberText(std::int64_t n, const Range& range, std::string_view sepa
 }
 
 // Eight bits a byte; an amount too large for that wraps.
-std::int64_t Amount(std::int64_t bytes, Unit unit) {
-  if (unit == Unit::kBytes) return bytes;
+std::int64_t Amount(std::int64_t bytes, Units units) {
+  if (units == Units::kBytes) return bytes;
   return static_cast<std::int64_t>(static_cast<std::uint64_t>(bytes) * 8);
+}
+
+std::string WithBars(const QuantityText& text) {
+  return text.number.empty() ? "" : text.number + '|' + text.unit + '|';
 }
 
 }  // namespace
 
-std::string Quantity::FormatQuantity(std::int64_t bytes) const {
+QuantityText Formatter::Text(std::int64_t bytes) const {
   return Format(bytes, Sign::kPositiveOnly);
 }
 
-std::string Quantity::FormatSignedQuantity(std::int64_t bytes) const {
-  return Format(bytes, Sign::kBoth);
-}
+QuantityText Formatter::SignedText(std::int64_t bytes) const { return Format(bytes, Sign::kBoth); }
 
-std::string Quantity::Format(std::int64_t bytes, Sign sign) const {
-  const Unit unit = store_.Read(settings::setting::ScaleUnit) == 0 ? Unit::kBytes : Unit::kBits;
-  const UnitWords& words = unit == Unit::kBytes ? kByteWords : kBitWords;
-  const std::int64_t n = Amount(bytes, unit);
-  const bool zero_is_in_no_range = sign == Sign::kPositiveOnly || unit == Unit::kBits;
-  if (n == 0 && zero_is_in_no_range) return std::string(words.zero);
+QuantityText Formatter::Format(std::int64_t bytes, Sign sign) const {
+  const UnitWords& words = units_ == Units::kBytes ? kByteWords : kBitWords;
+  const std::int64_t n = Amount(bytes, units_);
+  const bool zero_is_in_no_range = sign == Sign::kPositiveOnly || units_ == Units::kBits;
+  if (n == 0 && zero_is_in_no_range) return {std::string(kZero), std::string(words.of_zero)};
 
   const auto text_of = [&](const Range& range) {
-    return NumberText(n, range, locale_.DecimalSeparator()) +
-           std::string(words.by_divisions[static_cast<std::size_t>(range.divisions - 1)]);
+    return QuantityText{
+        NumberText(n, range, locale_.DecimalSeparator()),
+        std::string(words.by_divisions[static_cast<std::size_t>(range.divisions - 1)])};
   };
   // No two ranges overlap, so the first that matches is the only one.
   for (const Range& range : kPositiveRanges) {
@@ -128,6 +130,19 @@ std::string Quantity::Format(std::int64_t bytes, Sign sign) const {
   return {};
 }
 
+Formatter Quantity::ForStep() const {
+  const bool bytes = store_.Read(settings::setting::ScaleUnit) == 0;
+  return {bytes ? Units::kBytes : Units::kBits, locale_};
+}
+
+std::string Quantity::FormatQuantity(std::int64_t bytes) const {
+  return WithBars(ForStep().Text(bytes));
+}
+
+std::string Quantity::FormatSignedQuantity(std::int64_t bytes) const {
+  return WithBars(ForStep().SignedText(bytes));
+}
+
 std::string GetToken(std::string_view S, std::string_view Delimiter, int Index) {
   const std::size_t taken_off = platform::CutCharacters(Delimiter, 1).size();
   std::string_view token;
@@ -138,10 +153,6 @@ std::string GetToken(std::string_view S, std::string_view Delimiter, int Index) 
     S.remove_prefix(at + taken_off);
   }
   return std::string(token);
-}
-
-std::string NumberAndUnit(std::string_view quantity) {
-  return GetToken(quantity, "|", 1) + ' ' + GetToken(quantity, "|", 2);
 }
 
 }  // namespace quantity

@@ -3,6 +3,7 @@
 #include <charconv>
 
 #include "platform/text.h"
+#include "platform/wrapping.h"
 
 namespace settings {
 namespace {
@@ -41,7 +42,7 @@ std::int64_t ParseCounter(std::string_view text) {
 std::string CounterText(std::int64_t value) {
   // The smallest number has no absolute value in 64 bits. Its text keeps the sign, so that what is
   // written can be read again: digits beyond the range would fail every later scan.
-  return std::to_string(WrappingAbs(value));
+  return std::to_string(platform::WrappingAbs(value));
 }
 
 }  // namespace settings

@@ -57,9 +57,8 @@ void T_frmSecurity::PassEditChange() {
 }
 
 bool AskForPassword(toolkit::Application& app, Store& store, const language::Language& language) {
-  if (app.Modals().Raise(kSecurityForm)) return false;
-  T_frmSecurity prompt(app, store, language);
-  return app.Modals().Show(prompt) == toolkit::ModalResult::kOk;
+  return app.Modals().ShowOnce<T_frmSecurity>(kSecurityForm, app, store, language) ==
+         toolkit::ModalResult::kOk;
 }
 
 }  // namespace settings

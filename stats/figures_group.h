@@ -2,15 +2,13 @@
 #pragma once
 
 #include <array>
-#include <initializer_list>
-#include <string>
 #include <string_view>
 
 #include "language/language.h"
+#include "quantity/figure_row.h"
 #include "quantity/quantity.h"
 #include "stats/figures.h"
 #include "toolkit/controls/group_box.h"
-#include "toolkit/controls/label.h"
 
 namespace stats {
 
@@ -48,21 +46,13 @@ class FiguresGroup : public toolkit::GroupBox {
   void Localise(const language::Translation& say);
 
   // A row whose figure is nothing keeps its text.
-  void Show(const Figures& figures, const quantity::Quantity& quantity);
+  void Show(const Figures& figures, const quantity::Formatter& format);
 
-  // The values alone, with the comma that a zero is always written with; the units stay.
+  // The values alone; the units stay.
   void ShowZeros();
 
  private:
-  struct Row {
-    Row(toolkit::Control& parent, std::string_view name);
-
-    toolkit::Label caption;
-    toolkit::Label value;
-    toolkit::Label unit;
-  };
-
-  std::array<Row, kFigureCount> rows_;
+  std::array<quantity::FigureRow, kFigureCount> rows_;
 };
 
 }  // namespace stats

@@ -3,9 +3,9 @@
 #include <string>
 #include <utility>
 
-#include "engine/local_ip.h"
 #include "language/texts.h"
 #include "toolkit/controls/layout.h"
+#include "toolkit/copy_text.h"
 
 namespace stats {
 namespace {
@@ -26,10 +26,10 @@ constexpr platform::TextStyle kAddressText{platform::TextAlign::kLeft, platform:
 }  // namespace
 
 StatisticsForm::StatisticsForm(const StatisticsContext& context, const Kind& kind,
-                               FiguresSource source)
+                               engine::CounterOwner counters)
     : Form(context.app, kind.form_name, platform::Frame::kTool),
       context_(context),
-      source_(std::move(source)),
+      counters_(std::move(counters)),
       PageControl1(*this, "PageControl1"),
       InfoTab(PageControl1, "InfoTab"),
       InfoGroup(InfoTab, "InfoGroup"),
@@ -135,14 +135,14 @@ void StatisticsForm::RestartSince() {
   ShowSince();
 }
 
-void StatisticsForm::ShowFigures(const Figures& info) {
+void StatisticsForm::ShowFigures(const Figures& info, const quantity::Formatter& format) {
   // The other window may have reset.
   const engine::TrafficState& traffic = context_.traffic;
   if (traffic.RunStartDate != since_date_ || traffic.RunStartTime != since_time_) ShowSince();
-  InfoGroupBox.Show(info, context_.quantity);
-  DailyGroupBox.Show(source_.Read(engine::kDayGroup, faults_), context_.quantity);
-  WeeklyGroupBox.Show(source_.Read(engine::kWeekGroup, faults_), context_.quantity);
-  MonthlyGroupBox.Show(source_.Read(engine::kMonthGroup, faults_), context_.quantity);
+  InfoGroupBox.Show(info, format);
+  DailyGroupBox.Show(ReadFigures(counters_, engine::kDayGroup, faults_), format);
+  WeeklyGroupBox.Show(ReadFigures(counters_, engine::kWeekGroup, faults_), format);
+  MonthlyGroupBox.Show(ReadFigures(counters_, engine::kMonthGroup, faults_), format);
 }
 
 void StatisticsForm::Button1MouseUp(const platform::MouseEvent& event) {
@@ -154,7 +154,7 @@ void StatisticsForm::Button1MouseUp(const platform::MouseEvent& event) {
 }
 
 void StatisticsForm::CopyAddress() {
-  engine::CopyText(App().Platform().clipboard, IpAddress.Caption());
+  toolkit::CopyText(App().Platform().clipboard, IpAddress.Caption());
 }
 
 }  // namespace stats

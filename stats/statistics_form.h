@@ -4,6 +4,7 @@
 
 #include <string_view>
 
+#include "engine/counter_group.h"
 #include "engine/traffic_state.h"
 #include "language/language.h"
 #include "quantity/quantity.h"
@@ -45,13 +46,13 @@ class StatisticsForm : public toolkit::Form {
   };
 
   // Made hidden; the window then sets its size and calls Arrange. `context` is copied.
-  StatisticsForm(const StatisticsContext& context, const Kind& kind, FiguresSource source);
+  StatisticsForm(const StatisticsContext& context, const Kind& kind, engine::CounterOwner counters);
 
   // Lays the controls out for the size that the form has, and restores its place.
   void Arrange();
 
   // Takes the rows of all pages anew; `info` are those of the page Info.
-  void ShowFigures(const Figures& info);
+  void ShowFigures(const Figures& info, const quantity::Formatter& format);
   // Writes the start of the run above the figures of the page Info.
   void ShowSince();
   // The run begins now, for both windows.
@@ -67,7 +68,7 @@ class StatisticsForm : public toolkit::Form {
   [[nodiscard]] static platform::Size RoomOf(toolkit::TabSheet& page);
 
   StatisticsContext context_;
-  FiguresSource source_;
+  engine::CounterOwner counters_;
   toolkit::RefreshFaults faults_;
 
   // In reading order, which is that of Tab.

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "language/texts.h"
+#include "settings/placement_keys.h"
 #include "toolkit/controls/layout.h"
 
 namespace stats {
@@ -18,14 +19,13 @@ constexpr platform::Size kSmallestClient{258, 228};
 }  // namespace
 
 T_frmConnInfo::T_frmConnInfo(const StatisticsContext& context)
-    : StatisticsForm(context,
-                     {kConnInfoForm, "\\Software\\BrisantoNET\\Settings\\ConnInfoScreen",
-                      text::IpLabel, "127.0.0.1"},
-                     FiguresSource::Machine(context.store)),
+    : StatisticsForm(
+          context, {kConnInfoForm, settings::placement_key::kConnInfo, text::IpLabel, "127.0.0.1"},
+          engine::CounterOwner::Machine(context.store)),
       host_address_(context.app.Platform().sockets, context.app.Platform().clock),
       BandwidthTab(PageControl1, "BandwidthTab"),
       Label1(BandwidthTab, "Label1"),
-      details_(BandwidthTab, context.store, context.quantity, context.language),
+      details_(BandwidthTab, context.store, context.language),
       ISBAShown(BandwidthTab, "ISBAShown") {
   SetDesignSize();
   Arrange();
@@ -88,9 +88,12 @@ void T_frmConnInfo::Timer1Timer() {
   ISBAShown.SetChecked(context_.store.Read(setting::BAShow));
   // The totals are those of this run: the stored ones of this kind are an adapter's alone.
   const engine::TrafficState& traffic = context_.traffic;
-  ShowFigures({source_.Read(setting::InfoMaxDL, faults_), source_.Read(setting::InfoMaxUL, faults_),
-               traffic.RunTotalDL, traffic.RunTotalUL});
-  faults_.Try([this] { details_.Refresh(); });
+  const quantity::Formatter format = context_.quantity.ForStep();
+  ShowFigures(
+      {ReadFigure(counters_, setting::InfoMaxDL, faults_),
+       ReadFigure(counters_, setting::InfoMaxUL, faults_), traffic.RunTotalDL, traffic.RunTotalUL},
+      format);
+  faults_.Try([&] { details_.Refresh(format); });
   faults_.Tell();
 }
 
@@ -102,8 +105,8 @@ void T_frmConnInfo::Button3Click() {
     adapter.MaxIn = 0;
     adapter.MaxOut = 0;
   }
-  source_.WriteZero(setting::InfoMaxDL);
-  source_.WriteZero(setting::InfoMaxUL);
+  counters_.Reset(setting::InfoMaxDL);
+  counters_.Reset(setting::InfoMaxUL);
   traffic.RunTotalDL = 0;
   traffic.RunTotalUL = 0;
 }

@@ -2,11 +2,11 @@
 
 #include "language/texts.h"
 #include "settings/adapter_values.h"
+#include "settings/placement_keys.h"
 
 namespace stats {
 namespace {
 
-namespace setting = settings::setting;
 namespace text = language::text::BandwidthStatisticsForm;
 
 // Design pixels.
@@ -19,11 +19,10 @@ constexpr std::string_view kNoAddress = "00-00-00-00-00";
 
 T_frmSpecificConnInfo::T_frmSpecificConnInfo(const StatisticsContext& context,
                                              std::string_view description)
-    : StatisticsForm(
-          context,
-          {kSpecificConnInfoForm, "\\Software\\BrisantoNET\\Settings\\SpecificConnInfoScreen",
-           text::MacLabel, "-----------"},
-          FiguresSource::Adapter(context.store, description)) {
+    : StatisticsForm(context,
+                     {kSpecificConnInfoForm, settings::placement_key::kSpecificConnInfo,
+                      text::MacLabel, "-----------"},
+                     engine::CounterOwner::AdapterWindow(context.store, description)) {
   SetCaption(description);
   SetClientSize(kClientSize);
   Arrange();
@@ -42,16 +41,14 @@ void T_frmSpecificConnInfo::Timer1Timer() {
       settings::AdapterName(Caption()) + std::string(settings::kMacAddressSuffix);
   IpAddress.SetCaption(
       context_.store.ReadString(settings::KeyIndex::kAdapterDatas, name, kNoAddress));
-  ShowFigures(source_.Read(engine::kInfoGroup, faults_));
+  const quantity::Formatter format = context_.quantity.ForStep();
+  ShowFigures(ReadFigures(counters_, engine::kInfoGroup, faults_), format);
   faults_.Tell();
 }
 
 void T_frmSpecificConnInfo::Button3Click() {
   RestartSince();
-  for (const settings::CounterSetting& counter :
-       {setting::InfoTotalDL, setting::InfoTotalUL, setting::InfoMaxDL, setting::InfoMaxUL}) {
-    source_.WriteZero(counter);
-  }
+  counters_.Reset(engine::kInfoGroup);
 }
 
 }  // namespace stats

@@ -86,18 +86,16 @@ platform::Rect ColourPalette::CellArea(int cell) const {
           size.height * (row + 1) / kRows - top};
 }
 
-void ColourPalette::OnPaint(platform::Canvas& canvas) {
-  App().Guard([&] {
-    const platform::Size size = canvas.Extent();
-    canvas.Fill({0, 0, size.width, size.height}, platform::colour::kButtonFace);
-    for (int cell = 0; cell < kCells; ++cell) {
-      const platform::Rect area = CellArea(cell);
-      if (cell == cell_) canvas.Fill(area, platform::colour::kHighlight);
-      const platform::Rect inside = DrawBevel(canvas, area.Shrunk(Scale(2)), BevelCut::kLowered, 1,
-                                              platform::colour::kButtonFace);
-      canvas.Fill(inside, kColours[static_cast<std::size_t>(cell)]);
-    }
-  });
+void ColourPalette::Paint(platform::Canvas& canvas) {
+  const platform::Size size = canvas.Extent();
+  canvas.Fill({0, 0, size.width, size.height}, platform::colour::kButtonFace);
+  for (int cell = 0; cell < kCells; ++cell) {
+    const platform::Rect area = CellArea(cell);
+    if (cell == cell_) canvas.Fill(area, platform::colour::kHighlight);
+    const platform::Rect inside = DrawBevel(canvas, area.Shrunk(Scale(2)), BevelCut::kLowered, 1,
+                                            platform::colour::kButtonFace);
+    canvas.Fill(inside, kColours[static_cast<std::size_t>(cell)]);
+  }
 }
 
 void ColourPalette::OnMouseDown(const platform::MouseEvent& event) {

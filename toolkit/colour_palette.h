@@ -28,7 +28,7 @@ class ColourPalette : public Control {
   std::function<void()> OnConfirm;
 
  protected:
-  void OnPaint(platform::Canvas& canvas) override;
+  void Paint(platform::Canvas& canvas) override;
   void OnMouseDown(const platform::MouseEvent& event) override;
   void OnMouseUp(const platform::MouseEvent& event) override;
   void OnDoubleClick(const platform::MouseEvent& event) override;

@@ -56,10 +56,8 @@ void TKxInterMeter::Changed() {
   Invalidate();
 }
 
-void TKxInterMeter::OnPaint(platform::Canvas& canvas) {
-  App().Guard([&] {
-    if (Picture() != nullptr) canvas.Draw(*picture_, {0, 0});
-  });
+void TKxInterMeter::Paint(platform::Canvas& canvas) {
+  if (Picture() != nullptr) canvas.Draw(*picture_, {0, 0});
 }
 
 const platform::Bitmap* TKxInterMeter::Picture() {

@@ -97,7 +97,7 @@ class TKxInterMeter : public toolkit::Control {
   [[nodiscard]] const std::deque<GraphSample>& History() const { return history_; }
 
  protected:
-  void OnPaint(platform::Canvas& canvas) override;
+  void Paint(platform::Canvas& canvas) override;
   void Resized() override { Changed(); }
   void Rescale() override;
 

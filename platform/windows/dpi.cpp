@@ -1,32 +1,30 @@
 #include "platform/windows/dpi.h"
 
+#include <shellscalingapi.h>
+
+#include "platform/windows/drawing/gdi.h"
+
 namespace platform::windows {
+namespace {
 
 int DpiOfSystem() {
-  const HDC screen = ::GetDC(nullptr);
-  if (screen == nullptr) return USER_DEFAULT_SCREEN_DPI;
-  const int dpi = ::GetDeviceCaps(screen, LOGPIXELSY);
-  ::ReleaseDC(nullptr, screen);
-  return dpi;
+  const WindowDc screen;
+  return screen.get() != nullptr ? ::GetDeviceCaps(screen.get(), LOGPIXELSY)
+                                 : USER_DEFAULT_SCREEN_DPI;
 }
 
+}  // namespace
+
 int DpiOfWindow(HWND hwnd) {
-  using GetDpi = UINT(WINAPI*)(HWND);
-  static const auto get = Function<GetDpi>(::GetModuleHandleW(L"user32.dll"), "GetDpiForWindow");
-  const UINT dpi = get != nullptr ? get(hwnd) : 0;
+  const UINT dpi = ::GetDpiForWindow(hwnd);
   return dpi != 0 ? static_cast<int>(dpi) : DpiOfSystem();
 }
 
-MonitorDpi::MonitorDpi()
-    : library_(::LoadLibraryExW(L"shcore.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32)),
-      get_(Function<GetDpi>(library_.get(), "GetDpiForMonitor")) {}
-
-int MonitorDpi::Of(HMONITOR monitor) const {
-  constexpr int kEffective = 0;  // MDT_EFFECTIVE_DPI
+int DpiOfMonitor(HMONITOR monitor) {
   UINT x = 0;
   UINT y = 0;
-  if (get_ == nullptr || FAILED(get_(monitor, kEffective, &x, &y)) || y == 0) return DpiOfSystem();
-  return static_cast<int>(y);
+  const HRESULT result = ::GetDpiForMonitor(monitor, MDT_EFFECTIVE_DPI, &x, &y);
+  return SUCCEEDED(result) && y != 0 ? static_cast<int>(y) : DpiOfSystem();
 }
 
 }  // namespace platform::windows

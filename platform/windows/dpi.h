@@ -1,28 +1,15 @@
-// Resolutions of windows and monitors.
+// Resolutions of windows and monitors, in pixels an inch; that of the whole desktop where the
+// system does not know.
 #pragma once
 
-#include "platform/windows/library.h"
+#include "platform/windows/win32.h"
 
 namespace platform::windows {
 
-// Pixels an inch of the whole desktop, as systems without a resolution for each monitor have it.
-[[nodiscard]] int DpiOfSystem();
-
-// Of the window at its present place (GetDpiForWindow, where the system has it).
+// At its present place (GetDpiForWindow).
 [[nodiscard]] int DpiOfWindow(HWND hwnd);
 
-// Of monitors (GetDpiForMonitor, where the system has it).
-class MonitorDpi {
- public:
-  MonitorDpi();
-
-  [[nodiscard]] int Of(HMONITOR monitor) const;
-
- private:
-  using GetDpi = HRESULT(WINAPI*)(HMONITOR, int, UINT*, UINT*);
-
-  Library library_;  // none before Windows 8.1
-  GetDpi get_;       // of it; may be null
-};
+// GetDpiForMonitor.
+[[nodiscard]] int DpiOfMonitor(HMONITOR monitor);
 
 }  // namespace platform::windows

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/memory/machine.h"
+#include "toolkit/copy_text.h"
 
 namespace {
 
@@ -58,7 +59,7 @@ TEST(LocalIP, ACopiedTextIsCutAt255Characters) {
   platform::memory::Machine machine;
   std::string text;
   for (int i = 0; i < 256; ++i) text += "\xC3\xA4";
-  engine::CopyText(machine.clipboard, text);
+  toolkit::CopyText(machine.clipboard, text);
   EXPECT_EQ(machine.clipboard.text, text.substr(0, 255 * 2));
 }
 

@@ -385,8 +385,14 @@ TEST_F(StatisticsWindows, RefreshesLeaveNothingBehind) {
   machine.timers.Advance(500);
   const int reads = machine.notebook.registry.round_trips;
   machine.notebook.Restart();
+  int unit_reads = 0;
+  machine.notebook.on_registry_read = [&](std::string_view name) {
+    if (name == "ScaleUnit") ++unit_reads;
+  };
   machine.timers.Advance(100 * 500);
+  machine.notebook.on_registry_read = nullptr;
   EXPECT_EQ(machine.notebook.registry.round_trips, 100 * reads);
+  EXPECT_EQ(unit_reads, 100) << "once a refresh, for all of its amounts";
   EXPECT_EQ(machine.timers.started, timers);
   EXPECT_EQ(machine.timers.Running(), 1);
   EXPECT_EQ(machine.sockets.starts - machine.sockets.cleanups, open_libraries);

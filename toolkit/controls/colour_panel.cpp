@@ -11,13 +11,11 @@ ColourPanel::ColourPanel(Control& parent, std::string_view name)
                                                  platform::ButtonKind::kPainted, *this));
 }
 
-void ColourPanel::OnPaint(platform::Canvas& canvas) {
-  App().Guard([&] {
-    const platform::Size size = canvas.Extent();
-    const platform::Rect inside =
-        DrawBevel(canvas, {0, 0, size.width, size.height}, BevelCut::kLowered, 1, Colour());
-    canvas.Fill(inside, Enabled() ? Colour() : platform::colour::kButtonFace);
-  });
+void ColourPanel::Paint(platform::Canvas& canvas) {
+  const platform::Size size = canvas.Extent();
+  const platform::Rect inside =
+      DrawBevel(canvas, {0, 0, size.width, size.height}, BevelCut::kLowered, 1, Colour());
+  canvas.Fill(inside, Enabled() ? Colour() : platform::colour::kButtonFace);
 }
 
 }  // namespace toolkit

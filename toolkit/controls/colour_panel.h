@@ -12,7 +12,7 @@ class ColourPanel : public Control {
   ColourPanel(Control& parent, std::string_view name);
 
  protected:
-  void OnPaint(platform::Canvas& canvas) override;
+  void Paint(platform::Canvas& canvas) override;
 };
 
 }  // namespace toolkit

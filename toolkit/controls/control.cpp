@@ -151,6 +151,10 @@ void Control::Rescale() {
   ArrangeChildren(ChildArea());
 }
 
+void Control::OnPaint(platform::Canvas& canvas) {
+  app_.Guard([&] { Paint(canvas); });
+}
+
 void Control::OnMouseMove(const platform::MouseEvent& event) {
   app_.Guard([&] {
     if (OnMouseMoved) OnMouseMoved(event);

@@ -123,6 +123,8 @@ class Control : protected platform::WidgetEvents {
   virtual void Rescale();
   // The pixels of the client area changed.
   virtual void Resized() {}
+  // Paints what the program paints of it, inside the guard; the canvas has the client area.
+  virtual void Paint(platform::Canvas& /*canvas*/) {}
   // The user has clicked it.
   virtual void Clicked() { Fire(OnClick); }
   // A property was changed.
@@ -131,6 +133,7 @@ class Control : protected platform::WidgetEvents {
   virtual void HintChanged() {}
 
   // platform::WidgetEvents
+  void OnPaint(platform::Canvas& canvas) final;
   void OnMouseMove(const platform::MouseEvent& event) override;
   void OnMouseUp(const platform::MouseEvent& event) override;
   void OnDoubleClick(const platform::MouseEvent& event) override;

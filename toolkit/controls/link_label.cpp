@@ -21,19 +21,17 @@ LinkLabel::LinkLabel(Control& parent, std::string_view name)
   SetFontColour(kLinkColour);
 }
 
-void LinkLabel::OnPaint(platform::Canvas& canvas) {
-  App().Guard([&] {
-    const platform::Size size = canvas.Extent();
-    canvas.Fill({0, 0, size.width, size.height}, Colour());
-    const platform::Colour colour = Enabled() ? FontColour() : platform::colour::kGrayText;
-    const platform::FontSpec font = Scale(Font());
-    const int left = Scale(kIndent);
-    canvas.Text({left, 0, size.width - left, size.height}, Caption(), font, colour,
-                platform::TextAlign::kLeft);
-    const platform::Size text = canvas.TextSize(Caption(), font);
-    const int below = std::min((size.height + text.height) / 2, size.height) - 1;
-    canvas.Line({left, below}, {left + text.width, below}, colour);
-  });
+void LinkLabel::Paint(platform::Canvas& canvas) {
+  const platform::Size size = canvas.Extent();
+  canvas.Fill({0, 0, size.width, size.height}, Colour());
+  const platform::Colour colour = Enabled() ? FontColour() : platform::colour::kGrayText;
+  const platform::FontSpec font = Scale(Font());
+  const int left = Scale(kIndent);
+  canvas.Text({left, 0, size.width - left, size.height}, Caption(), font, colour,
+              platform::TextAlign::kLeft);
+  const platform::Size text = canvas.TextSize(Caption(), font);
+  const int below = std::min((size.height + text.height) / 2, size.height) - 1;
+  canvas.Line({left, below}, {left + text.width, below}, colour);
 }
 
 }  // namespace toolkit

@@ -13,7 +13,7 @@ class LinkLabel : public Control {
   LinkLabel(Control& parent, std::string_view name);
 
  protected:
-  void OnPaint(platform::Canvas& canvas) override;
+  void Paint(platform::Canvas& canvas) override;
   void CaptionChanged() override { Invalidate(); }
 };
 

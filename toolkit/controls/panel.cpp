@@ -22,14 +22,12 @@ void Panel::SetBevels(BevelCut outer, BevelCut inner) {
   Invalidate();
 }
 
-void Panel::OnPaint(platform::Canvas& canvas) {
-  App().Guard([&] {
-    const platform::Size size = canvas.Extent();
-    const platform::Rect all{0, 0, size.width, size.height};
-    canvas.Fill(all, Colour());
-    const platform::Rect inside = DrawBevel(canvas, all, outer_, kBevelWidth, Colour());
-    DrawBevel(canvas, inside, inner_, kBevelWidth, Colour());
-  });
+void Panel::Paint(platform::Canvas& canvas) {
+  const platform::Size size = canvas.Extent();
+  const platform::Rect all{0, 0, size.width, size.height};
+  canvas.Fill(all, Colour());
+  const platform::Rect inside = DrawBevel(canvas, all, outer_, kBevelWidth, Colour());
+  DrawBevel(canvas, inside, inner_, kBevelWidth, Colour());
 }
 
 platform::Rect Panel::ChildArea() const {

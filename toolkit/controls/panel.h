@@ -15,7 +15,7 @@ class Panel : public Control {
   void SetBevels(BevelCut outer, BevelCut inner);
 
  protected:
-  void OnPaint(platform::Canvas& canvas) override;
+  void Paint(platform::Canvas& canvas) override;
   [[nodiscard]] platform::Rect ChildArea() const override;
 
  private:

@@ -70,26 +70,24 @@ void DrawSmooth(platform::Canvas& canvas, int side, Colour background, Point poi
 
 }  // namespace
 
-void Sign::OnPaint(platform::Canvas& canvas) {
-  Panel::OnPaint(canvas);
-  App().Guard([&] {
-    if (images_ != nullptr) {
-      const platform::Size size = canvas.Extent();
-      const int side = Scale(side_);
-      images_->Draw(0, canvas, {(size.width - side) / 2, (size.height - side) / 2},
-                    ParentForm().Dpi() * side_ / kImageSize);
-      return;
-    }
-    const int side = Scale(kSignSize);
-    const platform::Colour background = App().Platform().screen.Resolve(Colour());
-    DrawSmooth(canvas, side, background, picture_ == Picture::kQuestion ? &Disc : &Lock);
-    if (picture_ != Picture::kQuestion) return;
-    platform::FontSpec font = Scale(Font());
-    font.height = Scale(22);
-    font.bold = true;
-    canvas.Text({0, 0, side, side}, "?", font, platform::colour::kWhite,
-                platform::TextAlign::kCentre);
-  });
+void Sign::Paint(platform::Canvas& canvas) {
+  Panel::Paint(canvas);
+  if (images_ != nullptr) {
+    const platform::Size size = canvas.Extent();
+    const int side = Scale(side_);
+    images_->Draw(0, canvas, {(size.width - side) / 2, (size.height - side) / 2},
+                  ParentForm().Dpi() * side_ / kImageSize);
+    return;
+  }
+  const int side = Scale(kSignSize);
+  const platform::Colour background = App().Platform().screen.Resolve(Colour());
+  DrawSmooth(canvas, side, background, picture_ == Picture::kQuestion ? &Disc : &Lock);
+  if (picture_ != Picture::kQuestion) return;
+  platform::FontSpec font = Scale(Font());
+  font.height = Scale(22);
+  font.bold = true;
+  canvas.Text({0, 0, side, side}, "?", font, platform::colour::kWhite,
+              platform::TextAlign::kCentre);
 }
 
 }  // namespace toolkit

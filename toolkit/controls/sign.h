@@ -21,7 +21,7 @@ class Sign : public Panel {
       : Panel(parent, name), images_(&images), side_(side) {}
 
  private:
-  void OnPaint(platform::Canvas& canvas) override;
+  void Paint(platform::Canvas& canvas) override;
 
   Picture picture_ = Picture::kQuestion;
   const ImageList* images_ = nullptr;  // not owned; null for one of the pictures

@@ -114,7 +114,7 @@ class SpinEdit::Arrow final : public Control {
     Invalidate();
   }
 
-  void OnPaint(platform::Canvas& canvas) override {
+  void Paint(platform::Canvas& canvas) override {
     const platform::Size size = canvas.Extent();
     const platform::Rect all{0, 0, size.width, size.height};
     canvas.Fill(all, platform::colour::kButtonFace);
@@ -255,7 +255,7 @@ void SpinEdit::HintChanged() {
   down_->SetHint(Hint());
 }
 
-void SpinEdit::OnPaint(platform::Canvas& canvas) {
+void SpinEdit::Paint(platform::Canvas& canvas) {
   const platform::Size size = canvas.Extent();
   canvas.Fill({0, 0, size.width, size.height}, Colour());
 }

@@ -40,7 +40,7 @@ class SpinEdit : public Control {
   void Resized() override;
   void EnabledChanged() override;
   void HintChanged() override;
-  void OnPaint(platform::Canvas& canvas) override;
+  void Paint(platform::Canvas& canvas) override;
 
  private:
   class Field;

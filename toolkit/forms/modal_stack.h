@@ -3,6 +3,7 @@
 
 #include <functional>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace toolkit {
@@ -23,6 +24,15 @@ class ModalStack {
   // each kind (form name) one may be open; for a second one the first is raised and the answer is
   // kCancel. Timers, and so scans, go on meanwhile.
   ModalResult Show(Form& form);
+
+  // Raises the modal form of this name that is open, with the answer kCancel, or makes one of
+  // `arguments` and shows it.
+  template <class ModalForm, class... Arguments>
+  ModalResult ShowOnce(std::string_view form_name, Arguments&&... arguments) {
+    if (Raise(form_name)) return ModalResult::kCancel;
+    ModalForm form(std::forward<Arguments>(arguments)...);
+    return Show(form);
+  }
 
   // Runs `dialog`, which opens one of the system's own dialogs above `owner`; the other forms are
   // disabled meanwhile. A modal form that a timer opens then comes first: until it is answered the

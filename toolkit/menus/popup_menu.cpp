@@ -1,8 +1,10 @@
 #include "toolkit/menus/popup_menu.h"
 
 #include <algorithm>
+#include <optional>
 #include <utility>
 
+#include "platform/scoped_value.h"
 #include "toolkit/application.h"
 #include "toolkit/forms/form.h"
 
@@ -57,19 +59,6 @@ class EntryBuilder {
   std::vector<std::weak_ptr<MenuItem>> items_;
 };
 
-// Marks a menu as open until its choice is made, also when that fails.
-class OpenScope {
- public:
-  explicit OpenScope(bool& open) : open_(open) { open_ = true; }
-  ~OpenScope() { End(); }
-  OpenScope(const OpenScope&) = delete;
-  OpenScope& operator=(const OpenScope&) = delete;
-  void End() const { open_ = false; }
-
- private:
-  bool& open_;
-};
-
 }  // namespace
 
 void MenuItem::SetChecked(bool checked) {
@@ -91,12 +80,12 @@ PopupMenu::PopupMenu(Application& app, const ImageList& images)
 
 void PopupMenu::Popup(platform::Point screen, Form& owner) {
   if (open_) return;
-  const OpenScope scope(open_);
+  std::optional<platform::ScopedValue<bool>> opened(std::in_place, open_, true);
   if (OnPopup) app_.Guard(OnPopup);
   EntryBuilder builder;
   const std::vector<platform::MenuEntry> entries = builder.Build(Items.Children());
   const int id = app_.Platform().menus.Popup(owner.Window(), screen, entries, painter_);
-  scope.End();
+  opened.reset();
   if (const auto waiting = std::exchange(next_, {}); !waiting.empty()) {
     for (const auto& next : waiting) app_.Guard(next);
     return;

@@ -28,6 +28,24 @@ struct MemoryDcKind {
 };
 using MemoryDc = Handle<MemoryDcKind>;
 
+// The device context of the screen, or of a window with its frame, while this lives. None where the
+// system refuses.
+class WindowDc {
+ public:
+  WindowDc() : dc_(::GetDC(nullptr)) {}
+  explicit WindowDc(HWND hwnd) : hwnd_(hwnd), dc_(::GetWindowDC(hwnd)) {}
+  ~WindowDc() {
+    if (dc_ != nullptr) ::ReleaseDC(hwnd_, dc_);
+  }
+  WindowDc(const WindowDc&) = delete;
+  WindowDc& operator=(const WindowDc&) = delete;
+  [[nodiscard]] HDC get() const { return dc_; }
+
+ private:
+  HWND hwnd_ = nullptr;
+  HDC dc_;
+};
+
 // An object selected into a device context for as long as this lives. Both must outlive it.
 class Selection {
  public:

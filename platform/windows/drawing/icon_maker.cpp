@@ -3,25 +3,10 @@
 #include "platform/windows/drawing/graphics.h"
 
 namespace platform::windows {
-namespace {
-
-class ScreenDc {
- public:
-  ScreenDc() : dc_(::GetDC(nullptr)) {}
-  ~ScreenDc() { ::ReleaseDC(nullptr, dc_); }
-  ScreenDc(const ScreenDc&) = delete;
-  ScreenDc& operator=(const ScreenDc&) = delete;
-  [[nodiscard]] HDC get() const { return dc_; }
-
- private:
-  HDC dc_;
-};
-
-}  // namespace
 
 bool IconMaker::Resize(Size size) {
   if (size == size_ && colours_ && mask_ && dc_) return true;
-  const ScreenDc screen;
+  const WindowDc screen;
   if (!dc_) dc_ = MemoryDc(::CreateCompatibleDC(screen.get()));
   colours_ = GdiBitmap(::CreateCompatibleBitmap(screen.get(), size.width, size.height));
   mask_ = GdiBitmap(::CreateBitmap(size.width, size.height, 1, 1, nullptr));

@@ -1,5 +1,6 @@
 #include "platform/windows/services/screen.h"
 
+#include "platform/windows/dpi.h"
 #include "platform/windows/drawing/gdi.h"
 
 namespace platform::windows {
@@ -12,6 +13,17 @@ BOOL CALLBACK Collect(HMONITOR monitor, HDC, LPRECT, LPARAM list) noexcept {
     return FALSE;  // out of memory: those so far must do
   }
   return TRUE;
+}
+
+Monitor Describe(HMONITOR monitor) {
+  MONITORINFO info{};
+  info.cbSize = sizeof(info);
+  if (!::GetMonitorInfoW(monitor, &info)) {
+    // The monitor went away between the two calls.
+    info.rcMonitor = {0, 0, ::GetSystemMetrics(SM_CXSCREEN), ::GetSystemMetrics(SM_CYSCREEN)};
+    info.rcWork = info.rcMonitor;
+  }
+  return {FromRect(info.rcMonitor), FromRect(info.rcWork), DpiOfMonitor(monitor)};
 }
 
 }  // namespace
@@ -38,17 +50,6 @@ Point Screen::Pointer() {
   POINT at{};
   ::GetCursorPos(&at);
   return {static_cast<int>(at.x), static_cast<int>(at.y)};
-}
-
-Monitor Screen::Describe(HMONITOR monitor) const {
-  MONITORINFO info{};
-  info.cbSize = sizeof(info);
-  if (!::GetMonitorInfoW(monitor, &info)) {
-    // The monitor went away between the two calls.
-    info.rcMonitor = {0, 0, ::GetSystemMetrics(SM_CXSCREEN), ::GetSystemMetrics(SM_CYSCREEN)};
-    info.rcWork = info.rcMonitor;
-  }
-  return {FromRect(info.rcMonitor), FromRect(info.rcWork), dpi_.Of(monitor)};
 }
 
 }  // namespace platform::windows

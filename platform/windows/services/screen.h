@@ -2,7 +2,6 @@
 #pragma once
 
 #include "platform/screen.h"
-#include "platform/windows/dpi.h"
 
 namespace platform::windows {
 
@@ -12,11 +11,6 @@ class Screen final : public platform::Screen {
   [[nodiscard]] Monitor MonitorOf(const Rect& area) override;
   [[nodiscard]] Colour Resolve(Colour colour) override;
   [[nodiscard]] Point Pointer() override;
-
- private:
-  [[nodiscard]] Monitor Describe(HMONITOR monitor) const;
-
-  MonitorDpi dpi_;
 };
 
 }  // namespace platform::windows

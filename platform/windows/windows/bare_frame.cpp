@@ -17,21 +17,6 @@ constexpr int kLine = 1;
 constexpr int kGrip = 5;     // from the outside, sizing in one direction
 constexpr int kCorner = 12;  // along an edge, from a corner: sizing in both
 
-class WindowDc {
- public:
-  explicit WindowDc(HWND hwnd) : hwnd_(hwnd), dc_(::GetWindowDC(hwnd)) {}
-  ~WindowDc() {
-    if (dc_ != nullptr) ::ReleaseDC(hwnd_, dc_);
-  }
-  WindowDc(const WindowDc&) = delete;
-  WindowDc& operator=(const WindowDc&) = delete;
-  [[nodiscard]] HDC get() const { return dc_; }
-
- private:
-  HWND hwnd_;
-  HDC dc_;
-};
-
 int Scaled(int pixels, HWND hwnd) { return ::MulDiv(pixels, DpiOfWindow(hwnd), 96); }
 
 void PaintLine(HWND hwnd) {

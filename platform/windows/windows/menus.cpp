@@ -1,5 +1,6 @@
 #include "platform/windows/windows/menus.h"
 
+#include "platform/windows/dpi.h"
 #include "platform/windows/drawing/gdi_canvas.h"
 #include "platform/windows/windows/foreground.h"
 #include "platform/windows/windows/menu_tree.h"
@@ -163,7 +164,7 @@ void MenuWindow::Highlight(const MenuEntry* entry, const Rect& area) {
 int Menus::Popup(TopWindow& /*owner*/, Point at, const std::vector<MenuEntry>& entries,
                  MenuPainter& painter) {
   const HMONITOR monitor = ::MonitorFromPoint({at.x, at.y}, MONITOR_DEFAULTTONEAREST);
-  return window_.Popup(at, entries, painter, dpi_.Of(monitor));
+  return window_.Popup(at, entries, painter, DpiOfMonitor(monitor));
 }
 
 }  // namespace platform::windows

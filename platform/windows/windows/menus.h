@@ -2,7 +2,6 @@
 #pragma once
 
 #include "platform/menus.h"
-#include "platform/windows/dpi.h"
 #include "platform/windows/drawing/drawing.h"
 #include "platform/windows/windows/native_window.h"
 
@@ -50,7 +49,6 @@ class Menus final : public platform::Menus {
   void Cancel() override { window_.Cancel(); }
 
  private:
-  MonitorDpi dpi_;
   WindowClass window_class_{"TremoluxMenu"};
   MenuWindow window_;
 };
