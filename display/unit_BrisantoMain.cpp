@@ -216,12 +216,12 @@ void T_frmBrisanto::ApplyDisplaySettings(ScaleTaken scale) {
 void T_frmBrisanto::ApplyAlwaysOnTop() {
   const bool on_top = RegME.Read(setting::AlwaysTopOn);
   _MainMenu.mnuAlwaysTopOn->SetChecked(on_top);
-  Window().SetTopmost(on_top);
+  SetTopmost(on_top);
 }
 
 // A program that had the full screen may have taken the place above all others away.
 void T_frmBrisanto::StayOnTop() {
-  if (_MainMenu.mnuAlwaysTopOn->Checked() && !Window().Topmost()) Window().SetTopmost(true);
+  if (_MainMenu.mnuAlwaysTopOn->Checked() && !Window().Topmost()) SetTopmost(true);
 }
 
 void T_frmBrisanto::ApplyWindowMode() {
@@ -279,7 +279,7 @@ void T_frmBrisanto::mnuAlwaysTopOnClick() {
   const bool on_top = !_MainMenu.mnuAlwaysTopOn->Checked();
   _MainMenu.mnuAlwaysTopOn->SetChecked(on_top);
   RegME.Write(setting::AlwaysTopOn, on_top);
-  Window().SetTopmost(on_top);
+  SetTopmost(on_top);
 }
 
 void T_frmBrisanto::mnuTransparent2kClick() { transparency_.mnuTransparent2kClick(); }
@@ -287,7 +287,7 @@ void T_frmBrisanto::mnuTransparent2kClick() { transparency_.mnuTransparent2kClic
 void T_frmBrisanto::mnuTransparentClick() { transparency_.mnuTransparentClick(); }
 
 void T_frmBrisanto::Settings1Click() {
-  if (!open_preferences_) return;
+  if (!open_preferences_ || App().Modals().RaiseTop()) return;
   // Asked also while they are open: whoever has just locked them may have left them so.
   const bool asks = settings::LockEngaged(RegME);
   if (asks && !settings::AskForPassword(App(), RegME, _ReadLangauge)) return;
@@ -301,7 +301,7 @@ void T_frmBrisanto::HelpContents1Click() {
 void T_frmBrisanto::AboutBrisantoXP1Click() { ShowAbout(App(), _ReadLangauge); }
 
 void T_frmBrisanto::EditTitles() {
-  if (App().Modals().Raise(kAddTitlesForm)) return;
+  if (App().Modals().RaiseTop()) return;
   T_frmAddTitles editor(App(), title_posting_, _TrayIcon, _ReadLangauge);
   App().Modals().Show(editor);
 }

@@ -1,5 +1,7 @@
 #include "display/titles/unit_AddTitlesForm.h"
 
+#include <algorithm>
+
 #include "language/texts.h"
 #include "toolkit/application.h"
 #include "toolkit/controls/layout.h"
@@ -56,6 +58,7 @@ void T_frmAddTitles::FormCreate() {
   WindowTitlesListbox.SetItemIndex(0);
   btnAdd.OnClick = [this] { btnAddClick(); };
   btnRemove.OnClick = [this] { btnRemoveClick(); };
+  WindowTitlesListbox.OnDelete = [this] { WindowTitlesListboxDelete(); };
   OkBtn.OnClick = [this] { OkBtnClick(); };
   Localise();
 }
@@ -99,6 +102,13 @@ void T_frmAddTitles::btnAddClick() {
 void T_frmAddTitles::btnRemoveClick() {
   WindowTitlesListbox.Remove(WindowTitlesListbox.ItemIndex());
   ShowState();
+}
+
+// Goes on with the line that has come in its place.
+void T_frmAddTitles::WindowTitlesListboxDelete() {
+  const int row = WindowTitlesListbox.ItemIndex();
+  btnRemoveClick();
+  WindowTitlesListbox.SetItemIndex(std::min(row, WindowTitlesListbox.Count() - 1));
 }
 
 void T_frmAddTitles::OkBtnClick() {

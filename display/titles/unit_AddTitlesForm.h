@@ -33,6 +33,7 @@ class T_frmAddTitles final : public toolkit::Form {
   void FormCreate();
   void btnAddClick();
   void btnRemoveClick();
+  void WindowTitlesListboxDelete();
   void OkBtnClick();
   void FormDestroy();
   void FormEndSession() override;

@@ -93,6 +93,12 @@ TEST_F(TitleEditor, AddsWhatIsTypedAndRemovesWhatIsSelected) {
       machine.windowing.Choose("WindowTitlesListbox", 1);
       machine.windowing.Press("btnRemove");
       EXPECT_EQ(Shown(), (Lines{"two"}));
+      Add("x");
+      Add("y");
+      machine.windowing.Choose("WindowTitlesListbox", 1);
+      machine.windowing.PressKey("WindowTitlesListbox", platform::Key::kDelete);
+      machine.windowing.PressKey("WindowTitlesListbox", platform::Key::kDelete);
+      EXPECT_EQ(Shown(), (Lines{"two"}));
       Add("two");
       Ok();
     });
