@@ -63,8 +63,8 @@ std::vector<std::string> Language::Names() const {
 std::string Language::OwnName(const std::string& name) const {
   constexpr const TextEntry& entry = text::SettingsForm::LanguageName;
   const std::shared_ptr<const LanguageFile> file = Load(name);
-  const std::string_view own = file->Find(entry.section, entry.key).value_or("");
-  return own.empty() ? name : std::string(own);
+  const auto own = file ? file->Find(entry.section, entry.key) : std::nullopt;
+  return own && !own->empty() ? std::string(*own) : name;
 }
 
 std::size_t Language::IndexIn(const std::vector<std::string>& names) const {
