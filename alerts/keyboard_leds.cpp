@@ -1,9 +1,8 @@
 #include "alerts/keyboard_leds.h"
 
 #include <functional>
+#include <optional>
 #include <utility>
-
-#include "settings/flag_once.h"
 
 namespace alerts {
 namespace {
@@ -17,21 +16,27 @@ class Light {
  public:
   Light(settings::Store& store, const settings::BooleanSetting& given, std::uint8_t state,
         std::function<void()> toggle)
-      : given_(store, given), state_(state), toggle_(std::move(toggle)) {}
+      : store_(store), given_(given), state_(state), toggle_(std::move(toggle)) {}
 
   void SwitchOn() { Switch(kOff, kOn); }
   void SwitchOff() { Switch(kOn, kOff); }
 
  private:
   void Switch(std::uint8_t from, std::uint8_t to) {
-    if (state_ != from || !given_.Get()) return;
+    if (state_ != from || !Given()) return;
     toggle_();
     state_ = to;
   }
+  bool Given() {
+    if (!is_given_) is_given_ = store_.Read(given_);
+    return *is_given_;
+  }
 
-  settings::FlagOnce given_;
+  settings::Store& store_;
+  const settings::BooleanSetting& given_;
   std::uint8_t state_;
   std::function<void()> toggle_;
+  std::optional<bool> is_given_;
 };
 
 }  // namespace
