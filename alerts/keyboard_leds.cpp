@@ -1,7 +1,6 @@
 #include "alerts/keyboard_leds.h"
 
 #include <functional>
-#include <optional>
 #include <utility>
 
 namespace alerts {
@@ -10,33 +9,27 @@ namespace {
 constexpr std::uint8_t kOff = 0;
 constexpr std::uint8_t kOn = 1;
 
+constexpr std::uint8_t kLeftAlone = 0xFF;
+
 // A lock key during one scan. Its state is asked once: the system reports a stroke that was just
 // sent only later, and the second pair of rules must see what the first one did.
 class Light {
  public:
-  Light(settings::Store& store, const settings::BooleanSetting& given, std::uint8_t state,
-        std::function<void()> toggle)
-      : store_(store), given_(given), state_(state), toggle_(std::move(toggle)) {}
+  Light(std::uint8_t state, std::function<void()> toggle)
+      : state_(state), toggle_(std::move(toggle)) {}
 
   void SwitchOn() { Switch(kOff, kOn); }
   void SwitchOff() { Switch(kOn, kOff); }
 
  private:
   void Switch(std::uint8_t from, std::uint8_t to) {
-    if (state_ != from || !Given()) return;
+    if (state_ != from) return;
     toggle_();
     state_ = to;
   }
-  bool Given() {
-    if (!is_given_) is_given_ = store_.Read(given_);
-    return *is_given_;
-  }
 
-  settings::Store& store_;
-  const settings::BooleanSetting& given_;
   std::uint8_t state_;
   std::function<void()> toggle_;
-  std::optional<bool> is_given_;
 };
 
 }  // namespace
@@ -46,13 +39,14 @@ class Light {
 // meant.
 void UpdateKeyboardLeds(settings::Store& store, TQelSysKeys& keys,
                         const engine::ScanAmounts& scan) {
+  const bool scroll_given = store.Read(settings::setting::DLSwitchScr);
+  const bool num_given = store.Read(settings::setting::ULSwitchNum);
+  if (!scroll_given && !num_given) return;
   const std::int64_t limit = store.Read(settings::setting::spnKeyLedsLimit);
   const std::int64_t dl = scan.ScanSumDL;
   const std::int64_t ul = scan.ScanSumUL;
-  Light scroll(store, settings::setting::DLSwitchScr, keys.ScrollLock(),
-               [&keys] { keys.ToggleScrollLock(); });
-  Light num(store, settings::setting::ULSwitchNum, keys.NumLock(),
-            [&keys] { keys.ToggleNumLock(); });
+  Light scroll(scroll_given ? keys.ScrollLock() : kLeftAlone, [&keys] { keys.ToggleScrollLock(); });
+  Light num(num_given ? keys.NumLock() : kLeftAlone, [&keys] { keys.ToggleNumLock(); });
 
   if (dl <= limit && ul <= limit) {
     scroll.SwitchOff();

@@ -22,7 +22,7 @@ toolkit::AboutTexts Texts(const language::Language& language) {
 }  // namespace
 
 void ShowAbout(toolkit::Application& app, const language::Language& language) {
-  if (app.Modals().Raise(toolkit::AboutBox::kName)) return;
+  if (app.Modals().RaiseTop()) return;
   toolkit::AboutBox box(app, kProgramImage, [&language] { return Texts(language); });
   app.Modals().Show(box);
 }

@@ -1,7 +1,5 @@
 #include "display/display_settings.h"
 
-#include "settings/scale_choice.h"
-
 namespace display {
 namespace {
 
@@ -60,12 +58,12 @@ void ShowHints(toolkit::HintWindow& hints, bool shown) {
   hints.Colour = platform::colour::kWhite;
 }
 
-void ApplyScale(settings::Store& store, TKxInterMeter& meter, std::int64_t& SpeedCap) {
-  const auto scale = settings::ReadScale(store);
+void ApplyScale(const std::optional<settings::AppliedScale>& scale, TKxInterMeter& meter,
+                std::int64_t* SpeedCap) {
   if (!scale) return;
   meter.AutoScale = scale->AutoScale;
   meter.SpeedLimit = scale->SpeedLimit;
-  SpeedCap = scale->SpeedCap;
+  if (SpeedCap != nullptr) *SpeedCap = scale->SpeedCap;
 }
 
 void ApplyLabelAppearance(settings::Store& store, toolkit::Label& label) {

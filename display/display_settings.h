@@ -1,7 +1,11 @@
 // Takes the stored options of the display over into the parts that show them.
 #pragma once
 
+#include <cstdint>
+#include <optional>
+
 #include "display/graph/kxintermeter.h"
+#include "settings/scale_choice.h"
 #include "settings/store.h"
 #include "toolkit/controls/label.h"
 #include "toolkit/hint_window.h"
@@ -21,9 +25,10 @@ void ApplyGraphAppearance(settings::Store& store, TKxInterMeter& meter);
 void ApplyHints(settings::Store& store, toolkit::HintWindow& hints);
 void ShowHints(toolkit::HintWindow& hints, bool shown);
 
-// The stored scale, to the meter and the cap of the sampler (bytes per scan). A stored choice that
-// the list does not have changes nothing.
-void ApplyScale(settings::Store& store, TKxInterMeter& meter, std::int64_t& SpeedCap);
+// The scale, to the meter and, where given, the cap of the sampler (bytes per scan). Nothing, for a
+// choice that the list does not have, changes nothing.
+void ApplyScale(const std::optional<settings::AppliedScale>& scale, TKxInterMeter& meter,
+                std::int64_t* SpeedCap);
 
 // Colours and face of the numeric line; its size follows the width of the window.
 void ApplyLabelAppearance(settings::Store& store, toolkit::Label& label);

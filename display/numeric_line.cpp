@@ -1,5 +1,7 @@
 #include "display/numeric_line.h"
 
+#include <algorithm>
+
 #include "engine/product.h"
 #include "platform/wrapping.h"
 
@@ -11,7 +13,51 @@ namespace text = language::text;
 
 constexpr settings::BooleanSetting kModes[] = {setting::SOM1, setting::SOM2, setting::SOM3};
 
+// The longer of two that begin alike comes first.
+constexpr std::string_view kUnits[] = {"kB",   "MB",    "GB",    "TB",   "kbits",
+                                       "kbit", "Mbits", "Gbits", "Tbits"};
+
+// Takes a piece off the front of a text that begins with it.
+bool Take(std::string_view& text, std::string_view piece) {
+  if (!text.starts_with(piece)) return false;
+  text.remove_prefix(piece.size());
+  return true;
+}
+
+// "1,5 kB", or the one blank of an amount without a text.
+bool TakeAmount(std::string_view& text) {
+  if (Take(text, " ")) return true;
+  const std::size_t blank = text.find(' ');
+  if (blank == std::string_view::npos || text[0] < '0' || text[0] > '9') return false;
+  text.remove_prefix(blank + 1);
+  return std::any_of(std::begin(kUnits), std::end(kUnits),
+                     [&text](std::string_view unit) { return Take(text, unit); });
+}
+
+// The text of one mode, "[ Average DL:1 kB UL:2 kB ]".
+bool TakeMode(std::string_view& text) {
+  if (!Take(text, "[ ")) return false;
+  const std::size_t amounts = text.find("DL:");
+  if (amounts == std::string_view::npos) return false;
+  const std::string_view word = text.substr(0, amounts);
+  if (word.find_first_of("[]") != std::string_view::npos) return false;
+  if (!word.empty() && !word.ends_with(' ')) return false;
+  text.remove_prefix(amounts);
+  if (!Take(text, "DL:") || !TakeAmount(text) || !Take(text, " ")) return false;
+  Take(text, " ");  // a reset leaves two blanks
+  Take(text, "Max ");
+  return Take(text, "UL:") && TakeAmount(text) && Take(text, " ]");
+}
+
 }  // namespace
+
+bool IsNumericLine(std::string_view text) {
+  if (text.empty()) return false;
+  while (!text.empty()) {
+    if (!TakeMode(text)) return false;
+  }
+  return true;
+}
 
 void NumericLine::SetAveragePeriod(std::int64_t scans) {
   if (scans == AvarageTime) return;

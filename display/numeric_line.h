@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 #include "engine/traffic_state.h"
 #include "language/language.h"
@@ -10,6 +11,10 @@
 #include "settings/store.h"
 
 namespace display {
+
+// Whether a text has the form of the numeric line, whatever the language, the unit and the decimal
+// separator were when it was made. An empty line has none.
+[[nodiscard]] bool IsNumericLine(std::string_view text);
 
 class NumericLine {
  public:

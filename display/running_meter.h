@@ -7,7 +7,6 @@
 #include "display/adapter_menus.h"
 #include "display/graph/kxintermeter.h"
 #include "display/numeric_line.h"
-#include "display/titles/posting.h"
 #include "display/transparency.h"
 #include "display/tray/tray_icon.h"
 #include "language/language.h"
@@ -31,7 +30,6 @@ struct RunningMeter {
   TrayIcon& tray;
   Transparency& transparency;
   toolkit::DockingMagnet& magnet;
-  TitlePosting& titles;
   toolkit::HintWindow& hints;
   std::int64_t& SpeedCap;  // of the sampler, bytes per scan; 0 for none
   AdapterMenus& adapters;

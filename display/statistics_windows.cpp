@@ -14,10 +14,9 @@ StatisticsWindows::StatisticsWindows(const stats::StatisticsContext& context,
 StatisticsWindows::~StatisticsWindows() = default;
 
 void StatisticsWindows::OpenMachine() {
+  if (context_.app.Modals().RaiseTop()) return;
   if (machine_ != nullptr) {
     machine_->Raise();
-    // A modal window that is open stays above it and keeps the keyboard.
-    if (toolkit::Form* modal = context_.app.Modals().Top()) modal->Raise();
     return;
   }
   machine_ = std::make_unique<stats::T_frmConnInfo>(context_);
@@ -28,7 +27,7 @@ void StatisticsWindows::OpenMachine() {
 
 void StatisticsWindows::OpenAdapter(const std::string& description) {
   toolkit::ModalStack& modals = context_.app.Modals();
-  if (modals.Raise(stats::kSpecificConnInfoForm)) return;
+  if (modals.RaiseTop()) return;
   stats::T_frmSpecificConnInfo window(context_, description);
   modals.Show(window);
 }

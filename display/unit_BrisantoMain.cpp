@@ -50,7 +50,7 @@ int LabelPoints(int window_width) {
 
 T_frmBrisanto::T_frmBrisanto(toolkit::Application& app)
     : Form(app, CreateParams()),
-      error_log_(app.Platform().files, CommonMemo),
+      error_log_(app.Platform().files, app.Platform().locale, CommonMemo),
       RegME(app.Platform().registry, app.Platform().files),
       _ReadLangauge(RegME, app.Platform().files, app.Platform().locale),
       quantity_(RegME, app.Platform().locale),
@@ -188,25 +188,27 @@ void T_frmBrisanto::SetPreferences(std::function<void()> open) {
 }
 
 RunningMeter T_frmBrisanto::Parts() {
-  return {*this,          RegME,          _ReadLangauge, _tlkInterMeter,
-          _tlkDLULMeter,  numeric_line_,  _TrayIcon,     transparency_,
-          _FormMagnet,    title_posting_, App().Hints(), traffic_.SpeedCap,
-          adapter_menus_, notifications_};
+  return {*this,         RegME,         _ReadLangauge,     _tlkInterMeter,
+          _tlkDLULMeter, numeric_line_, _TrayIcon,         transparency_,
+          _FormMagnet,   App().Hints(), traffic_.SpeedCap, adapter_menus_,
+          notifications_};
 }
 
-void T_frmBrisanto::ApplyDisplaySettings() {
+void T_frmBrisanto::ApplyDisplaySettings(ScaleTaken scale) {
   if (RegME.Read(setting::StartIconMode)) _TrayIcon.LoadPictures();
   ApplyGraphAppearance(RegME, _tlkInterMeter);
   _FormMagnet.Active = RegME.Read(setting::FormMagnet);
   ApplyHints(RegME, App().Hints());
-  ApplyScale(RegME, _tlkInterMeter, traffic_.SpeedCap);
+  if (scale == ScaleTaken::kFromStore) {
+    ApplyScale(settings::ReadScale(RegME), _tlkInterMeter, &traffic_.SpeedCap);
+  }
   ApplyLabelAppearance(RegME, _tlkDLULMeter);
   numeric_line_.SetAveragePeriod(RegME.Read(setting::AvarageTime));
   numeric_line_.Reset();
   ShowLine();
   ApplyAlwaysOnTop();
   ApplyWindowMode();
-  title_posting_.SetLines(LoadTitleLines(App().Platform().files, App().Platform().locale));
+  title_posting_.SetLines(LoadTitleFile(App().Platform().files, App().Platform().locale).lines);
   _TrayIcon.ShowStart();
   transparency_.ApplyShape();
 }
@@ -214,12 +216,12 @@ void T_frmBrisanto::ApplyDisplaySettings() {
 void T_frmBrisanto::ApplyAlwaysOnTop() {
   const bool on_top = RegME.Read(setting::AlwaysTopOn);
   _MainMenu.mnuAlwaysTopOn->SetChecked(on_top);
-  Window().SetTopmost(on_top);
+  SetTopmost(on_top);
 }
 
 // A program that had the full screen may have taken the place above all others away.
 void T_frmBrisanto::StayOnTop() {
-  if (_MainMenu.mnuAlwaysTopOn->Checked() && !Window().Topmost()) Window().SetTopmost(true);
+  if (_MainMenu.mnuAlwaysTopOn->Checked() && !Window().Topmost()) SetTopmost(true);
 }
 
 void T_frmBrisanto::ApplyWindowMode() {
@@ -277,7 +279,7 @@ void T_frmBrisanto::mnuAlwaysTopOnClick() {
   const bool on_top = !_MainMenu.mnuAlwaysTopOn->Checked();
   _MainMenu.mnuAlwaysTopOn->SetChecked(on_top);
   RegME.Write(setting::AlwaysTopOn, on_top);
-  Window().SetTopmost(on_top);
+  SetTopmost(on_top);
 }
 
 void T_frmBrisanto::mnuTransparent2kClick() { transparency_.mnuTransparent2kClick(); }
@@ -285,7 +287,7 @@ void T_frmBrisanto::mnuTransparent2kClick() { transparency_.mnuTransparent2kClic
 void T_frmBrisanto::mnuTransparentClick() { transparency_.mnuTransparentClick(); }
 
 void T_frmBrisanto::Settings1Click() {
-  if (!open_preferences_) return;
+  if (!open_preferences_ || App().Modals().RaiseTop()) return;
   // Asked also while they are open: whoever has just locked them may have left them so.
   const bool asks = settings::LockEngaged(RegME);
   if (asks && !settings::AskForPassword(App(), RegME, _ReadLangauge)) return;
@@ -299,8 +301,8 @@ void T_frmBrisanto::HelpContents1Click() {
 void T_frmBrisanto::AboutBrisantoXP1Click() { ShowAbout(App(), _ReadLangauge); }
 
 void T_frmBrisanto::EditTitles() {
-  if (App().Modals().Raise(kAddTitlesForm)) return;
-  T_frmAddTitles editor(App(), title_posting_, _ReadLangauge);
+  if (App().Modals().RaiseTop()) return;
+  T_frmAddTitles editor(App(), title_posting_, _TrayIcon, _ReadLangauge);
   App().Modals().Show(editor);
 }
 

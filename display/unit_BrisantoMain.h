@@ -39,6 +39,9 @@
 
 namespace display {
 
+// Whether the scale and the cap that goes with it are taken from the store too, or stay.
+enum class ScaleTaken { kFromStore, kAsItIs };
+
 class T_frmBrisanto final : public toolkit::Form,
                             public engine::MeterWindow,
                             private engine::ScanSteps {
@@ -56,7 +59,7 @@ class T_frmBrisanto final : public toolkit::Form,
 
   // Takes the stored display settings over into all parts: at the start, when the adapters changed,
   // and after a reset of the settings.
-  void ApplyDisplaySettings();
+  void ApplyDisplaySettings(ScaleTaken scale = ScaleTaken::kFromStore);
 
   // Shows the numeric line as it is now, in the window and in the hint of the icon.
   void LineChanged();

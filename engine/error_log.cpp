@@ -1,6 +1,9 @@
 #include "engine/error_log.h"
 
+#include <algorithm>
+
 #include "platform/text.h"
+#include "settings/text_file.h"
 
 namespace engine {
 namespace {
@@ -19,8 +22,6 @@ std::string OnOneLine(std::string_view message) {
 
 // Lines end with CR LF, LF or CR, so that a log which was edited by hand keeps its lines.
 std::vector<std::string> LinesOf(std::string_view text) {
-  constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
-  if (text.starts_with(kByteOrderMark)) text.remove_prefix(kByteOrderMark.size());
   std::vector<std::string> lines;
   while (!text.empty()) {
     const std::size_t end = std::min(text.find_first_of("\r\n"), text.size());
@@ -42,20 +43,47 @@ std::string TextOf(const std::vector<std::string>& lines) {
 
 }  // namespace
 
+std::string ErrorLog::Path() const { return files_.ProgramFolder() + "err.log"; }
+
 void ErrorLog::Append(std::string_view message) {
-  const std::string path = files_.ProgramFolder() + "err.log";
-  if (files_.Exists(path)) {
-    const auto text = files_.Load(path, kErrorLogLimit);
-    if (!text) return;  // too large, or not ours to read: what is in it must not be lost
-    CommonMemo_ = LinesOf(*text);
+  const std::string line = OnOneLine(message);
+  const auto size = files_.Size(Path());
+  const bool full = size && *size + line.size() + kLineEnd.size() > kErrorLogLimit;
+  if (full) {
+    if (!files_.Rename(Path(), files_.ProgramFolder() + "err.old.log")) return;
+    CommonMemo_.clear();
   }
-  CommonMemo_.push_back(OnOneLine(message));
+  const bool there = size && !full;
+  if (there && *size == size_) {
+    AppendLine(line);
+  } else if (!there || TakeOver()) {
+    Rewrite(line);
+  }
+}
+
+void ErrorLog::AppendLine(const std::string& line) {
+  CommonMemo_.push_back(line);
+  const std::string bytes = TextOf({line});
+  if (files_.Append(Path(), bytes)) size_ += bytes.size();
+}
+
+// False for a file that cannot be read: what is in it must not be lost.
+bool ErrorLog::TakeOver() {
+  const auto bytes = files_.Load(Path(), kErrorLogLimit);
+  if (bytes) CommonMemo_ = LinesOf(settings::DecodeTextFile(*bytes, locale_));
+  return bytes.has_value();
+}
+
+// What could not be written stays in the memo as far as the log may grow; the first messages tell
+// the cause.
+void ErrorLog::Rewrite(const std::string& line) {
+  CommonMemo_.push_back(line);
   const std::string text = TextOf(CommonMemo_);
-  if (text.size() > kErrorLogLimit) {
+  if (files_.Save(Path(), text)) {
+    size_ = text.size();
+  } else if (text.size() > kErrorLogLimit) {
     CommonMemo_.pop_back();
-    return;
   }
-  files_.Save(path, text);
 }
 
 }  // namespace engine

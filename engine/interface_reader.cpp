@@ -11,8 +11,14 @@ namespace engine {
 
 using platform::InterfaceRow;
 
-void InterfaceReader::ReadInterfaceTable(std::vector<InterfaceRow>& table) {
-  std::vector<InterfaceRow> rows = WithoutFilters(ReadRows());
+namespace {
+
+constexpr int kMostRefusals = 3;
+
+}  // namespace
+
+void InterfaceReader::ReadInterfaceTable(std::vector<InterfaceRow>& table, NewRows new_rows) {
+  std::vector<InterfaceRow> rows = WithoutFilters(ReadRows(), new_rows);
   if (!rows.empty()) table = std::move(rows);
 }
 
@@ -37,33 +43,41 @@ std::vector<InterfaceRow> InterfaceReader::ReadRows() {
 
 // Windows lists the lightweight filters on a card as rows of their own, each repeating the octets
 // of the card; with them every total would be several times too high.
-std::vector<InterfaceRow> InterfaceReader::WithoutFilters(const std::vector<InterfaceRow>& rows) {
+std::vector<InterfaceRow> InterfaceReader::WithoutFilters(const std::vector<InterfaceRow>& rows,
+                                                          NewRows new_rows) {
   std::vector<InterfaceRow> kept;
   if (rows.empty()) return kept;
   kept.reserve(rows.size());
   std::vector<KnownRow> known;
   known.reserve(rows.size());
   for (const InterfaceRow& row : rows) {
-    known.push_back(Know(row, known.size()));
-    if (!known.back().filter.value_or(false)) kept.push_back(row);
+    known.push_back(Recall(row, known.size()));
+    if (!known.back().filter && new_rows == NewRows::kAskAbout) AskAbout(known.back());
+    if (known.back().filter == false) kept.push_back(row);
   }
   known_ = std::move(known);
   return kept;
 }
 
-// Asks the system only about a row that it has not answered for at the latest read, so that a
-// steady scan costs no call beside the table's own. An index can be given to another interface
-// later; the description tells.
-InterfaceReader::KnownRow InterfaceReader::Know(const InterfaceRow& row,
-                                                std::size_t position) const {
+// What is known of a row from the latest read, so that a steady scan costs no call beside the
+// table's own. An index can be given to another interface later; the description tells.
+InterfaceReader::KnownRow InterfaceReader::Recall(const InterfaceRow& row,
+                                                  std::size_t position) const {
   std::string description = platform::DescriptionBytes(row);
   const auto is_this = [&](const KnownRow& known) {
-    return known.filter && known.index == row.dwIndex && known.description == description;
+    return known.index == row.dwIndex && known.description == description;
   };
   if (position < known_.size() && is_this(known_[position])) return known_[position];
   const auto found = std::find_if(known_.begin(), known_.end(), is_this);
   if (found != known_.end()) return *found;
-  return {row.dwIndex, std::move(description), source_.IsFilter(row.dwIndex)};
+  return {row.dwIndex, std::move(description), std::nullopt};
+}
+
+// An interface that is about to come or go may have no answer yet. Taken for a card, a filter would
+// count the card's bytes a second time; never answered for, a card would never count.
+void InterfaceReader::AskAbout(KnownRow& row) {
+  row.filter = source_.IsFilter(row.index);
+  if (!row.filter && ++row.refusals == kMostRefusals) row.filter = false;
 }
 
 }  // namespace engine

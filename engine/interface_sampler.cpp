@@ -14,11 +14,22 @@ std::int32_t HighestIndex(const std::vector<InterfaceRow>& table) {
   return static_cast<std::int32_t>(table.size()) - 1;
 }
 
-AdapterCounters SeededFrom(const InterfaceRow& row) {
-  AdapterCounters counters;
+// What the row shows now counts as seen.
+void TakeBase(const InterfaceRow& row, AdapterCounters& counters) {
   counters.LastInOctets = row.dwInOctets;
   counters.LastOutOctets = row.dwOutOctets;
+}
+
+AdapterCounters SeededFrom(const InterfaceRow& row) {
+  AdapterCounters counters;
+  TakeBase(row, counters);
   return counters;
+}
+
+// Whether a counter began anew: it shows less than before, and the same one in 64 bits never came
+// to 2^32.
+bool BeganAnew(std::uint32_t last, std::uint32_t now, std::uint64_t now_in_full) {
+  return now < last && now_in_full >> 32U == 0;
 }
 
 // One direction of one row. Unsigned differences, so a counter that wrapped still gives the true
@@ -79,7 +90,8 @@ bool InterfaceSampler::RowCountChanged() {
 }
 
 ScanAmounts InterfaceSampler::SampleInterfaces(platform::DateTime today) {
-  reader_.ReadInterfaceTable(state_.interface_table);
+  // Rows that RowCountChanged has not seen wait for the next scan.
+  reader_.ReadInterfaceTable(state_.interface_table, NewRows::kLeaveOut);
   ScanAmounts scan;
   // An adapter came or went since the row count was looked at. Rows and counters may belong to
   // different adapters now; the next scan seeds them anew, this one measures nothing.
@@ -88,11 +100,25 @@ ScanAmounts InterfaceSampler::SampleInterfaces(platform::DateTime today) {
   // Two loops with the result of one: storing may fail in the middle, and the rows behind must not
   // keep the bytes of this scan for the next.
   const std::size_t rows = state_.interface_table.size();
-  for (std::size_t row = 0; row < rows; ++row) {
-    UpdateCounters(state_.interface_table[row], state_.SpeedCap, state_.adapter_counters[row]);
+  for (std::size_t position = 0; position < rows; ++position) {
+    const InterfaceRow& row = state_.interface_table[position];
+    AdapterCounters& counters = state_.adapter_counters[position];
+    if (WasSetBack(row, counters)) TakeBase(row, counters);
+    UpdateCounters(row, state_.SpeedCap, counters);
   }
   for (std::size_t row = 0; row < rows; ++row) CountRow(row, today, scan);
   return scan;
+}
+
+// An adapter that was started anew, or another one in its row, is no traffic of almost 4 GiB. Only
+// a row whose octets fell is asked about; where the system cannot say, they wrapped.
+bool InterfaceSampler::WasSetBack(const InterfaceRow& row, const AdapterCounters& counters) {
+  if (row.dwInOctets >= counters.LastInOctets && row.dwOutOctets >= counters.LastOutOctets) {
+    return false;
+  }
+  const auto octets = interface_table_.Octets(row.dwIndex);
+  return octets && (BeganAnew(counters.LastInOctets, row.dwInOctets, octets->in) ||
+                    BeganAnew(counters.LastOutOctets, row.dwOutOctets, octets->out));
 }
 
 void InterfaceSampler::CountRow(std::size_t row, platform::DateTime today, ScanAmounts& scan) {
@@ -116,8 +142,7 @@ void InterfaceSampler::TakePresentCounters() {
   reader_.ReadInterfaceTable(state_.interface_table);
   if (!CountersFitTable()) return;
   for (std::size_t row = 0; row < state_.interface_table.size(); ++row) {
-    state_.adapter_counters[row].LastInOctets = state_.interface_table[row].dwInOctets;
-    state_.adapter_counters[row].LastOutOctets = state_.interface_table[row].dwOutOctets;
+    TakeBase(state_.interface_table[row], state_.adapter_counters[row]);
   }
 }
 

@@ -26,7 +26,8 @@ class InterfaceSampler {
   // All outlive the sampler.
   InterfaceSampler(platform::InterfaceTable& interface_table, platform::Locale& locale,
                    settings::Store& store, Statistics& statistics, TrafficState& state)
-      : reader_(interface_table),
+      : interface_table_(interface_table),
+        reader_(interface_table),
         locale_(locale),
         store_(store),
         statistics_(statistics),
@@ -56,8 +57,10 @@ class InterfaceSampler {
 
  private:
   [[nodiscard]] bool CountersFitTable() const;
+  [[nodiscard]] bool WasSetBack(const platform::InterfaceRow& row, const AdapterCounters& counters);
   void CountRow(std::size_t row, platform::DateTime today, ScanAmounts& scan);
 
+  platform::InterfaceTable& interface_table_;
   InterfaceReader reader_;
   platform::Locale& locale_;
   settings::Store& store_;

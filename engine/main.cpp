@@ -10,6 +10,8 @@
 #include "platform/windows/entry.h"
 #include "platform/windows/machine.h"
 #include "platform/windows/services/files.h"
+#include "platform/windows/services/locale.h"
+#include "platform/windows/services/single_instance.h"
 #include "preferences/unit_SettingsForm.h"
 #include "toolkit/application.h"
 
@@ -29,12 +31,14 @@ int Run() {
 
 int platform::windows::Main() {
   try {
-    return Run();
+    SingleInstance single_instance;
+    return engine::RunOnce(single_instance, &Run);
   } catch (const std::exception& error) {
     // The system gave no window to start with; the log is all that can tell.
     Files files;
+    Locale locale;
     std::vector<std::string> lines;
-    engine::ErrorLog(files, lines).Append(error.what());
+    engine::ErrorLog(files, locale, lines).Append(error.what());
     return 1;
   }
 }

@@ -6,9 +6,12 @@
 
 namespace engine {
 
+int RunOnce(platform::SingleInstance& single_instance, const std::function<int()>& run) {
+  return single_instance.ClaimFirst(kProductTitle) ? run() : 0;
+}
+
 int RunProgram(platform::Platform& platform,
                const std::function<std::unique_ptr<MeterWindow>()>& make_window) {
-  if (!platform.single_instance.ClaimFirst(kProductTitle)) return 0;
   platform.windowing.SetApplicationTitle(kProductTitle);
   const std::unique_ptr<MeterWindow> window = make_window();
   const platform::DateTime now = platform.clock.Now();

@@ -17,12 +17,18 @@ bool SameName(std::string_view a, std::string_view b) {
 }  // namespace
 
 std::string Translation::operator()(const TextEntry& entry) const {
+  if (!file_) return std::string(entry.english);
   const std::optional<std::string_view> found = file_->Find(entry.section, entry.key);
   const bool usable = found && PlaceHolders(*found) == PlaceHolders(entry.english);
   return std::string(usable ? *found : entry.english);
 }
 
 Translation Language::Chosen() const {
+  if (!kept_.file) kept_ = {};
+  return Kept();
+}
+
+Translation Language::Kept() const {
   std::string name = store_.Read(settings::setting::Language);
   if (name != kept_.name) {
     std::shared_ptr<const LanguageFile> file = Load(name);
@@ -42,7 +48,7 @@ std::shared_ptr<const LanguageFile> Language::Load(const std::string& name) cons
     const std::optional<std::string> bytes = files_.Load(Folder() + file, kLargestFile);
     if (bytes) return std::make_shared<LanguageFile>(*bytes, locale_);
   }
-  return std::make_shared<LanguageFile>();
+  return nullptr;
 }
 
 std::vector<std::string> Language::Names() const {
@@ -52,6 +58,13 @@ std::vector<std::string> Language::Names() const {
     if (!file.empty() && !SameName(file, kEnglish)) names.push_back(std::move(file));
   }
   return names;
+}
+
+std::string Language::OwnName(const std::string& name) const {
+  constexpr const TextEntry& entry = text::SettingsForm::LanguageName;
+  const std::shared_ptr<const LanguageFile> file = Load(name);
+  const std::string_view own = file->Find(entry.section, entry.key).value_or("");
+  return own.empty() ? name : std::string(own);
 }
 
 std::size_t Language::IndexIn(const std::vector<std::string>& names) const {

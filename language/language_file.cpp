@@ -19,7 +19,8 @@ std::string KeyOf(std::string_view section, std::string_view key) {
 }
 
 std::string_view Unquoted(std::string_view text) {
-  const bool quoted = text.size() >= 2 && text.front() == '"' && text.back() == '"';
+  const bool quoted = text.size() >= 2 && text.front() == text.back() &&
+                      (text.front() == '"' || text.front() == '\'');
   return quoted ? text.substr(1, text.size() - 2) : text;
 }
 

@@ -12,8 +12,8 @@ namespace language {
 
 // What a file says. Sections and keys are found in either case of A to Z; a section that comes
 // again goes on; the first of equal keys counts. Blanks around names and texts are dropped, a pair
-// of double quotes around a text keeps those inside. Lines that begin with ";" are comments, and
-// what is neither comment, section nor "key=text" is passed over.
+// of double or single quotes around a text keeps those inside. Lines that begin with ";" are
+// comments, and what is neither comment, section nor "key=text" is passed over.
 class LanguageFile {
  public:
   LanguageFile() = default;  // empty

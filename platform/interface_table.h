@@ -44,6 +44,12 @@ inline constexpr std::size_t kInterfaceTableHead = sizeof(std::uint32_t);
 
 inline constexpr std::uint32_t kInsufficientBuffer = 122;  // ERROR_INSUFFICIENT_BUFFER
 
+// The octets of an interface since it came up, in counters that do not wrap.
+struct LongOctets {
+  std::uint64_t in = 0;   // bytes received
+  std::uint64_t out = 0;  // bytes sent
+};
+
 class InterfaceTable {
  public:
   virtual ~InterfaceTable() = default;
@@ -58,6 +64,10 @@ class InterfaceTable {
   // Whether the interface with this `dwIndex` is a lightweight filter, which repeats the octets of
   // the adapter that it sits on (GetIfEntry2, FilterInterface). Nothing when the system cannot say.
   [[nodiscard]] virtual std::optional<bool> IsFilter(std::uint32_t index) = 0;
+
+  // The present octets of the interface with this `dwIndex` (GetIfEntry2, InOctets, OutOctets).
+  // Nothing when the system cannot say.
+  [[nodiscard]] virtual std::optional<LongOctets> Octets(std::uint32_t index) = 0;
 };
 
 }  // namespace platform

@@ -6,6 +6,7 @@
 
 #include "platform/canvas.h"
 #include "platform/geometry.h"
+#include "platform/hot_keys.h"
 #include "platform/top_window.h"
 
 namespace platform {
@@ -15,6 +16,7 @@ struct MenuEntry {
   int id = 0;            // above 0, unique in the menu; returned when it is chosen
   std::string text;      // "&" marks the key, "&&" is an ampersand
   std::string shortcut;  // shown at the right, such as "Ctrl+Alt+F"; empty for none
+  KeyCombination keys;   // choose it while the menu is open, at any depth; key 0 for none
   std::string hint;      // for whoever shows it while the entry is highlighted
   bool separator = false;
   bool enabled = true;

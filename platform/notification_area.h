@@ -28,9 +28,9 @@ class TrayIcon {
   virtual ~TrayIcon() = default;
 
   // The picture, with or without a colour that is see-through. The bitmap is not kept; icons made
-  // for earlier ones are freed.
-  virtual void SetPicture(const Bitmap& picture) = 0;
-  virtual void SetPicture(const Bitmap& picture, Colour see_through) = 0;
+  // for earlier ones are freed. False when the shell has not taken it (yet).
+  virtual bool SetPicture(const Bitmap& picture) = 0;
+  virtual bool SetPicture(const Bitmap& picture, Colour see_through) = 0;
   // Cut at what the system takes, 127 characters.
   virtual void SetHint(std::string_view hint) = 0;
   // Title and text are cut at 63 and 255 characters. Replaces a balloon that is still shown.

@@ -18,7 +18,6 @@
 #include "platform/screen.h"
 #include "platform/session.h"
 #include "platform/shell.h"
-#include "platform/single_instance.h"
 #include "platform/sockets.h"
 #include "platform/sound.h"
 #include "platform/system_dialogs.h"
@@ -32,7 +31,6 @@ struct Platform {
   InterfaceTable& interface_table;
   Registry& registry;
   Sockets& sockets;
-  SingleInstance& single_instance;
   Clock& clock;
   Files& files;
   Locale& locale;

@@ -35,15 +35,17 @@ class RegistryKey {
 enum class KeyAccess {
   kExisting,  // only a key that is there already
   kCreate,    // made, with all keys above it, when missing
+  kReadOnly,  // only a key that is there already, and only to be read: a write is refused
 };
 
 class Registry {
  public:
   virtual ~Registry() = default;
 
-  // Opens a key under HKEY_CURRENT_USER for reading and writing (RegCreateKeyEx, RegOpenKeyEx).
+  // Opens a key under HKEY_CURRENT_USER, for reading and writing where `access` says nothing else
+  // (RegCreateKeyEx, RegOpenKeyEx).
   //   path  keys separated by "\"; a leading "\" is allowed.
-  // Null when the key is missing (kExisting) or the system refuses.
+  // Null when the key is missing (and not to be made) or the system refuses.
   [[nodiscard]] virtual std::unique_ptr<RegistryKey> Open(std::string_view path,
                                                           KeyAccess access) = 0;
 };

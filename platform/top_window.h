@@ -24,6 +24,15 @@ struct TopWindowParams {
   bool bare_popup = false;
 };
 
+// An inside that is higher than its window; pixels.
+struct Scroll {
+  int content = 0;   // the height of the inside
+  int page = 0;      // what of it the window shows
+  int position = 0;  // what it has above the window
+  int line = 0;      // a small step
+  bool operator==(const Scroll&) const = default;
+};
+
 class TopWindowEvents : public WidgetEvents {
  public:
   // The user or the system asks to close the window; nothing has happened yet.
@@ -36,6 +45,10 @@ class TopWindowEvents : public WidgetEvents {
   virtual void OnMoving(Rect& /*bounds*/) {}
   // The user has let go after moving or sizing the window.
   virtual void OnDragEnded() {}
+  // The user wants to see the inside from here on, which may be beyond its ends.
+  virtual void OnScroll(int /*position*/) {}
+  // The keyboard, or the code, brought the focus to a control that takes this of the client area.
+  virtual void OnFocusMoved(const Rect& /*area*/) {}
   // It became or ceased to be the active window.
   virtual void OnActivate(bool /*active*/) {}
   // It came onto a monitor of another resolution, or the user changed it; `bounds` is the size that
@@ -74,6 +87,10 @@ class TopWindow : public Widget {
   // Sizes it so that its client area has this size, in pixels; its place stays.
   virtual void SetClientSize(Size client) = 0;
 
+  // With a scroll bar, which takes some of the width, while the inside is higher than the page. The
+  // controls stay where they are.
+  virtual void SetScroll(const Scroll& scroll) = 0;
+
   // While the left button is down: lets the user drag the window as if by its caption. Returns when
   // the drag is over, on systems where that is a loop of its own.
   virtual void BeginDrag() = 0;
@@ -93,7 +110,7 @@ class TopWindow : public Widget {
   // Whether the pointer is on the window or on a control of it, and no other window is between.
   [[nodiscard]] virtual bool UnderPointer() const = 0;
 
-  // To the front and active.
+  // To the front and active; with a dialog of the system above it, that is active.
   virtual void Raise() = 0;
 
   [[nodiscard]] virtual int Dpi() const = 0;

@@ -13,8 +13,8 @@ namespace platform {
 enum class MouseButton { kNone, kLeft, kRight, kMiddle };
 
 // The keys that are reported: by an edit those up to kEnter, by a painted button the arrows, kHome
-// and kEnd.
-enum class Key { kUp, kDown, kPageUp, kPageDown, kEnter, kLeft, kRight, kHome, kEnd };
+// and kEnd, by a list box kDelete.
+enum class Key { kUp, kDown, kPageUp, kPageDown, kEnter, kLeft, kRight, kHome, kEnd, kDelete };
 
 struct MouseEvent {
   Point at;                                 // client pixels of the widget
@@ -52,8 +52,8 @@ class WidgetEvents {
   virtual void OnChanged() {}
   // a row of a check list was ticked or unticked;
   virtual void OnRowChecked(int /*row*/) {}
-  // a key went down in an edit or a painted button; true keeps it from the control, and Enter from
-  // the window;
+  // a key went down in an edit, a painted button or a list box; true keeps it from the control, and
+  // Enter from the window;
   virtual bool OnKey(Key) { return false; }
   // a letter (a UTF-16 unit, no control character) is typed into an edit; true keeps it out;
   virtual bool OnCharacter(char16_t) { return false; }

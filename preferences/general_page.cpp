@@ -48,6 +48,7 @@ GeneralPage::GeneralPage(toolkit::Notebook& notebook, Context& context)
        [this](const Meter& m, std::int64_t scans) { AvarageTrackBarChange(m, scans); }},
   });
   cmbLanguage.OnChange = [this] { LanguageChange(); };
+  cmbLanguage.OnChosenAgain = cmbLanguage.OnChange;  // its file may have changed
 }
 
 void GeneralPage::PlaceControls() {
@@ -97,7 +98,9 @@ void GeneralPage::AvarageTrackBarChange(const Meter& meter, std::int64_t scans) 
 
 void GeneralPage::ReadLanguages() {
   languages_ = context_.language.Names();
-  cmbLanguage.SetItems(languages_);
+  std::vector<std::string> own_names;
+  for (const std::string& name : languages_) own_names.push_back(context_.language.OwnName(name));
+  cmbLanguage.SetItems(own_names);
   cmbLanguage.SetItemIndex(static_cast<int>(context_.language.IndexIn(languages_)));
 }
 

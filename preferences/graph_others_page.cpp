@@ -175,15 +175,17 @@ void GraphOthersPage::CustomScaleChange() {
   context_.Save(setting::SpeedLimit, settings::StoredSpeed(CustomScale.Value()));
 }
 
+// While the settings are read, the graph takes what is stored, as at the start. The cap stays: who
+// only looks at the settings changes nothing of what is counted.
 void GraphOthersPage::PushScale() {
-  const int index = ScaleCombo.ItemIndex();
-  if (index < 0) return;
-  const settings::ScaleChoice& choice = settings::kScaleChoices[static_cast<std::size_t>(index)];
-  const std::int64_t limit =
-      CustomChosen() ? settings::LimitOfShownSpeed(CustomScale.Value()) : choice.SpeedLimit;
-  context_.meter.graph.AutoScale = choice.AutoScale;
-  context_.meter.graph.SpeedLimit = limit;
-  context_.meter.SpeedCap = limit;
+  const display::RunningMeter& meter = context_.meter;
+  if (context_.IsReading()) {
+    display::ApplyScale(settings::ReadScale(context_.store), meter.graph, nullptr);
+  } else {
+    display::ApplyScale(
+        ScaleOf(ScaleCombo.ItemIndex(), settings::LimitOfShownSpeed(CustomScale.Value())),
+        meter.graph, &meter.SpeedCap);
+  }
 }
 
 }  // namespace preferences

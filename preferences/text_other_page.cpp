@@ -58,9 +58,7 @@ void TextOtherPage::ConnectHandlers() {
       {rdoScaleUnits, setting::ScaleUnit, ShowUnit},
   });
   titles_.Connect({
-      {{&Post0, &Post1, &Post2, &Post3},
-       setting::WindowTitle,
-       [](const Meter& m, std::int64_t mode) { m.titles.ChangeMode(mode); }},
+      {{&Post0, &Post1, &Post2, &Post3}, setting::WindowTitle},
   });
   DefineButton.OnClick = [this] { context_.meter.window.EditTitles(); };
 }

@@ -85,8 +85,6 @@ void T_frmPreferences::Open() {
     TreeItems.FullExpand();
     Show();
   }
-  // A modal window that is open stays above it and keeps the keyboard.
-  if (toolkit::Form* modal = App().Modals().Top()) modal->Raise();
 }
 
 // In this order; what a page has between others is read there.

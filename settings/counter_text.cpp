@@ -2,12 +2,28 @@
 
 #include <charconv>
 
+#include "platform/text.h"
 #include "platform/wrapping.h"
 
 namespace settings {
+namespace {
+
+constexpr std::size_t kLongestQuote = 100;  // characters
+
+// Whatever stands in the place of a number, a line of the log can hold it.
+std::string Quoted(std::string_view text) {
+  const std::string beginning = platform::CutCharacters(text, kLongestQuote);
+  std::string quoted = "'" + beginning + "'";
+  if (beginning.size() < text.size()) {
+    quoted += " and so on, " + std::to_string(text.size()) + " bytes,";
+  }
+  return quoted;
+}
+
+}  // namespace
 
 ConversionError::ConversionError(std::string_view text)
-    : std::runtime_error("'" + std::string(text) + "' is not a valid integer value") {}
+    : std::runtime_error(Quoted(text) + " is not a valid integer value") {}
 
 std::int64_t ParseCounter(std::string_view text) {
   std::string_view digits = text;

@@ -8,7 +8,8 @@
 
 namespace settings {
 
-// A stored text that should be a number is none: "'abc' is not a valid integer value".
+// A stored text that should be a number is none: "'abc' is not a valid integer value". Of a text of
+// more than 100 characters only those are quoted, with its length.
 class ConversionError : public std::runtime_error {
  public:
   explicit ConversionError(std::string_view text);

@@ -22,6 +22,20 @@ constexpr std::string_view kPathsPath = "\\SOFTWARE\\Korvane\\Dravenlow\\Paths";
 constexpr std::string_view kRunPath = "\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Run";
 constexpr std::string_view kAdapterDatasPath = "\\SOFTWARE\\Korvane\\Dravenlow\\AdapterDatas";
 
+std::string_view PathOf(KeyIndex key) {
+  switch (key) {
+    case KeyIndex::kSettings:
+      return kSettingsPath;
+    case KeyIndex::kPaths:
+      return kPathsPath;
+    case KeyIndex::kRun:
+      return kRunPath;
+    case KeyIndex::kAdapterDatas:
+      break;
+  }
+  return kAdapterDatasPath;
+}
+
 using DateBytes = std::array<std::byte, sizeof(platform::DateTime)>;
 
 std::optional<platform::DateTime> DateFrom(const std::optional<std::vector<std::byte>>& bytes) {
@@ -49,22 +63,20 @@ Value ReadOrStore(RegistryKey* key, const Value& default_value, const Reading& r
 }  // namespace
 
 std::unique_ptr<RegistryKey> Store::Open(KeyIndex key) {
-  switch (key) {
-    case KeyIndex::kSettings:
-      return registry_.Open(kSettingsPath, KeyAccess::kCreate);
-    case KeyIndex::kPaths:
-      return registry_.Open(kPathsPath, KeyAccess::kCreate);
-    case KeyIndex::kRun:
-      return registry_.Open(kRunPath, KeyAccess::kExisting);
-    case KeyIndex::kAdapterDatas:
-      break;
-  }
-  return registry_.Open(kAdapterDatasPath, KeyAccess::kCreate);
+  // The key of the system is not ours to make.
+  return registry_.Open(PathOf(key),
+                        key == KeyIndex::kRun ? KeyAccess::kExisting : KeyAccess::kCreate);
+}
+
+// Where an administrator took the right to write away, the settings are still there to be read.
+std::unique_ptr<RegistryKey> Store::OpenToRead(KeyIndex key) {
+  auto opened = Open(key);
+  return opened ? std::move(opened) : registry_.Open(PathOf(key), KeyAccess::kReadOnly);
 }
 
 std::int64_t Store::ReadInteger(std::string_view name, std::int64_t default_value) {
   return ReadOrStore(
-      Open(KeyIndex::kSettings).get(), default_value,
+      OpenToRead(KeyIndex::kSettings).get(), default_value,
       [&](RegistryKey& key) -> std::optional<std::int64_t> {
         const auto value = key.ReadDword(name);
         if (!value) return std::nullopt;
@@ -75,7 +87,7 @@ std::int64_t Store::ReadInteger(std::string_view name, std::int64_t default_valu
 
 bool Store::ReadBool(std::string_view name, bool default_value) {
   return ReadOrStore(
-      Open(KeyIndex::kSettings).get(), default_value,
+      OpenToRead(KeyIndex::kSettings).get(), default_value,
       [&](RegistryKey& key) -> std::optional<bool> {
         const auto value = key.ReadDword(name);
         if (!value) return std::nullopt;
@@ -86,7 +98,7 @@ bool Store::ReadBool(std::string_view name, bool default_value) {
 
 platform::DateTime Store::ReadDate(std::string_view name, platform::DateTime default_value) {
   return ReadOrStore(
-      Open(KeyIndex::kSettings).get(), default_value,
+      OpenToRead(KeyIndex::kSettings).get(), default_value,
       [&](RegistryKey& key) { return DateFrom(key.ReadBinary(name)); },
       [&](RegistryKey& key) {
         key.WriteBinary(name, std::as_bytes(std::span(&default_value, 1)));
@@ -95,7 +107,7 @@ platform::DateTime Store::ReadDate(std::string_view name, platform::DateTime def
 
 platform::Colour Store::ReadColor(std::string_view name, platform::Colour default_value) {
   return ReadOrStore(
-      Open(KeyIndex::kSettings).get(), default_value,
+      OpenToRead(KeyIndex::kSettings).get(), default_value,
       [&](RegistryKey& key) { return ParseColour(key.ReadText(name).value_or("")); },
       [&](RegistryKey& key) { key.WriteText(name, ColourText(default_value)); });
 }
@@ -123,7 +135,7 @@ bool Store::WriteColor(std::string_view name, platform::Colour value) {
 }
 
 std::string Store::ReadString(KeyIndex key, std::string_view name, std::string_view default_value) {
-  const auto opened = Open(key);
+  const auto opened = OpenToRead(key);
   if (!opened) return std::string(default_value);
   return opened->ReadText(name).value_or(std::string(default_value));
 }

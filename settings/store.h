@@ -33,7 +33,8 @@ class Store {
 
   // Reads of a value under Settings. One that is missing, has another registry type or, for a
   // colour, is no colour's text gives the default, which is stored in its place (an integer's low
-  // 32 bits). They never fail: where the default cannot be stored either, it is only returned.
+  // 32 bits). They never fail: where the default cannot be stored either, it is only returned, and
+  // a key that can only be read is read.
   std::int64_t ReadInteger(std::string_view name, std::int64_t default_value);
   bool ReadBool(std::string_view name, bool default_value);
   platform::DateTime ReadDate(std::string_view name, platform::DateTime default_value);
@@ -99,6 +100,7 @@ class Store {
 
  private:
   [[nodiscard]] std::unique_ptr<platform::RegistryKey> Open(KeyIndex key);
+  [[nodiscard]] std::unique_ptr<platform::RegistryKey> OpenToRead(KeyIndex key);
 
   platform::Registry& registry_;
   platform::Files& files_;

@@ -53,6 +53,7 @@ StatisticsForm::StatisticsForm(const StatisticsContext& context, const Kind& kin
   IpAddress.SetCaption(kind.address);
   Button2.SetDefault(true);
   // On release, as the right button does the same and more; the click serves the keyboard.
+  Button1.OnMousePressed = [this](const auto&) { copied_by_click_ = false; };
   Button1.OnMouseReleased = [this](const auto& event) { Button1MouseUp(event); };
   Button1.OnClick = [this] {
     CopyAddress();
@@ -68,9 +69,7 @@ platform::Size StatisticsForm::RoomOf(toolkit::TabSheet& page) {
 }
 
 void StatisticsForm::Arrange() {
-  const platform::Size client = ClientPixels();
-  const int width = Unscale(client.width);
-  const int height = Unscale(client.height);
+  const auto [width, height] = ClientSize();
   toolkit::ApplyLayout({{PageControl1, {0, 1, width, height - kFootHeight - 1}},
                         {Button2, {width - 81, height - 26, 75, 23}}});
 

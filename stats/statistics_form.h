@@ -95,7 +95,7 @@ class StatisticsForm : public toolkit::Form {
   void LocaliseSince(const language::Translation& say);
 
   language::TextEntry address_caption_;
-  bool copied_by_click_ = false;  // and the release of the mouse has not come, if any comes
+  bool copied_by_click_ = false;  // since the mouse was last pressed on Button1
   // The start of the run that this window knows.
   platform::DateTime since_date_;
   platform::DateTime since_time_;

@@ -43,7 +43,7 @@ void T_frmConnInfo::SetDesignSize() {
   const platform::Size client = ClientPixels();
   const platform::Size room{std::max(Unscale(client.width), kSmallestClient.width),
                             std::max(Unscale(client.height), kSmallestClient.height)};
-  if (Scale(room.width) > client.width || Scale(room.height) > client.height) SetClientSize(room);
+  SetClientSize(room);
 }
 
 void T_frmConnInfo::ArrangeBandwidthTab() {

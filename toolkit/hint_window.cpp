@@ -4,6 +4,7 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/text.h"
 #include "toolkit/application.h"
 #include "toolkit/controls/control.h"
 #include "toolkit/design_pixels.h"
@@ -15,6 +16,7 @@ namespace {
 constexpr int kShortestTimer = 10;  // ms, what the system can do
 constexpr int kMargin = 3;          // design pixels between frame and text
 constexpr int kBelowPointer = 20;   // design pixels, so that the arrow covers nothing
+constexpr int kWidest = 600;        // design pixels of text in a line
 const platform::FontSpec kFont{"Tahoma", 11, false};
 
 // A hint may have several lines, each ended by a carriage return.
@@ -30,6 +32,36 @@ std::vector<std::string> Lines(std::string_view text) {
   return lines;
 }
 
+// How many bytes of `text` make a line: up to the last blank that `fits`, or else, of a word that
+// is longer than a line, as many characters as do; at least one.
+template <class Fits>
+std::size_t LineLength(std::string_view text, const Fits& fits) {
+  if (fits(text)) return text.size();
+  std::size_t by_words = 0;
+  for (std::size_t at = text.find(' '); at != std::string_view::npos; at = text.find(' ', at + 1)) {
+    if (!fits(text.substr(0, at))) break;
+    by_words = at;
+  }
+  if (by_words > 0) return by_words;
+  std::size_t characters = 1;
+  while (fits(platform::CutCharacters(text, characters + 1))) ++characters;
+  return platform::CutCharacters(text, characters).size();
+}
+
+template <class Fits>
+std::vector<std::string> Wrapped(const std::vector<std::string>& lines, const Fits& fits) {
+  std::vector<std::string> wrapped;
+  for (const std::string& line : lines) {
+    std::string_view rest = line;
+    do {
+      const std::size_t length = LineLength(rest, fits);
+      wrapped.emplace_back(rest.substr(0, length));
+      rest.remove_prefix(std::min(rest.size(), rest.find_first_not_of(' ', length)));
+    } while (!rest.empty());
+  }
+  return wrapped;
+}
+
 }  // namespace
 
 class HintWindow::Window final : public platform::TopWindowEvents {
@@ -42,10 +74,12 @@ class HintWindow::Window final : public platform::TopWindowEvents {
   }
 
   void Show(const std::string& text, const platform::Rect& beside, int dpi) {
-    lines_ = Lines(text);
     dpi_ = dpi;
+    lines_ = Lines(text);
     window_->SetText(text);
-    window_->SetBounds(Place(Extent(), beside));
+    const platform::Point pointer = app_.Platform().screen.Pointer();
+    const platform::Rect at = beside.Empty() ? platform::Rect{pointer.x, pointer.y, 1, 1} : beside;
+    window_->SetBounds(Place(Extent(app_.Platform().screen.MonitorOf(at).work_area), beside));
     window_->Invalidate();
     window_->Show(platform::Activation::kLeaveFocus);
   }
@@ -70,17 +104,22 @@ class HintWindow::Window final : public platform::TopWindowEvents {
     return {kFont.face, ScaleTo(dpi_, kFont.height), kFont.bold};
   }
 
-  platform::Size Extent() {
+  // Breaks the lines that are longer than the work area, or than is read with ease.
+  platform::Size Extent(const platform::Rect& work) {
     platform::Size size;
     const auto scratch = app_.Platform().graphics.CreateBitmap({1, 1});
     if (!scratch) return size;
+    const int margins = 2 * ScaleTo(dpi_, kMargin);
+    const int widest = std::min(ScaleTo(dpi_, kWidest), work.width - margins);
+    lines_ = Wrapped(lines_, [&](std::string_view line) {
+      return scratch->GetCanvas().TextSize(line, Font()).width <= widest;
+    });
     for (const std::string& line : lines_) {
       const platform::Size extent =
           scratch->GetCanvas().TextSize(line.empty() ? " " : line, Font());
       size.width = std::max(size.width, extent.width);
       size.height += extent.height + 1;
     }
-    const int margins = 2 * ScaleTo(dpi_, kMargin);
     return {size.width + margins, size.height + margins};
   }
 

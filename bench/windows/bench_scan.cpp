@@ -16,6 +16,7 @@
 #include "bench/windows/empty_window.h"
 #include "bench/windows/idle.h"
 #include "bench/windows/long_run.h"
+#include "bench/windows/openings.h"
 #include "bench/windows/preferences.h"
 #include "tests/desktop/driver/program.h"
 #include "tests/desktop/driver/registry_guard.h"
@@ -37,6 +38,7 @@ int Main(const LongRun& long_run) {
     scan_us = CompareWithBareCalls(meter, report);
     PlayLongRun(meter, long_run, empty_bytes, report);
     OpenPreferences(meter, report);
+    OpenEveryWindow(meter, report);
   }
   CompareTrayUpdate(report);
   CompareAdapters(scan_us, report);

@@ -34,8 +34,8 @@ class PlayedTrayIcon {
   void Update() {
     ++seconds_;
     engine::ScanAmounts scan;
-    scan.ScanSumDL = 5000 + 37 * (seconds_ % 101);
-    scan.ScanSumUL = 700 + 11 * (seconds_ % 73);
+    scan.ScanSumDL = PlayedBytesIn(seconds_);
+    scan.ScanSumUL = PlayedBytesOut(seconds_);
     icon_.ShowScan(scan);
   }
 
@@ -50,7 +50,7 @@ class PlayedTrayIcon {
   toolkit::Application app_{machine_.platform()};
   settings::Store store_{machine_.registry, machine_.platform().files};
   display::TrayIcon icon_{app_, store_};
-  int seconds_ = 0;
+  std::uint32_t seconds_ = 0;
 };
 
 }  // namespace

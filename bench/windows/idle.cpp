@@ -94,7 +94,12 @@ void RunBareIdle() {
   ::SetTimer(nullptr, 0, 1000, nullptr);
   MSG message;
   while (::GetMessageW(&message, nullptr, 0, 0) > 0) {
-    if (message.message == WM_TIMER) bare->Run();
+    // An icon that stays as it is, is not sent.
+    if (message.message == WM_TIMER) {
+      bare->ReadTableTwice();
+      bare->WorkOnRegistry();
+      bare->NextScan();
+    }
     ::DispatchMessageW(&message);
   }
   std::exit(0);

@@ -111,7 +111,10 @@ std::int64_t PrivateBytes() {
 }
 
 void ReportGrowth(const Resources& before, Report& report) {
-  const Resources after;
+  ReportGrowth(before, Resources(), 64, report);
+}
+
+void ReportGrowth(const Resources& before, const Resources& after, double kib, Report& report) {
   const auto growth = [](std::int64_t now, std::int64_t then) {
     return static_cast<double>(now - then);
   };
@@ -119,7 +122,7 @@ void ReportGrowth(const Resources& before, Report& report) {
   report.AtMost("growth of GDI objects over them", growth(after.gdi, before.gdi), "", 0);
   report.AtMost("growth of USER objects over them", growth(after.user, before.user), "", 0);
   report.AtMost("growth of private memory over them", growth(after.bytes, before.bytes) / 1024,
-                "KiB", 64);
+                "KiB", kib);
 }
 
 }  // namespace bench

@@ -25,6 +25,8 @@ struct Resources {
   std::int64_t bytes = PrivateBytes();
 };
 
+// None may have grown from `before` to `after`, but memory by so many KiB.
+void ReportGrowth(const Resources& before, const Resources& after, double kib, Report& report);
 // None may have grown since; memory by 64 KiB, which is how the heap takes it.
 void ReportGrowth(const Resources& before, Report& report);
 

@@ -15,6 +15,15 @@
 
 namespace bench {
 
+// What moves in a second, another amount in each and every other time a fraction, so that the
+// histogram of the icon is another one after each scan.
+inline std::uint32_t PlayedBytesIn(std::uint32_t second) {
+  return (5000 + 37 * (second % 101)) / (1 + 3 * (second % 2));
+}
+inline std::uint32_t PlayedBytesOut(std::uint32_t second) {
+  return (700 + 11 * (second % 73)) / (1 + 3 * (second % 2));
+}
+
 // Reads the system's table for what that costs, and hands out rows of its own.
 class MovingTable final : public platform::InterfaceTable {
  public:
@@ -36,8 +45,8 @@ class MovingTable final : public platform::InterfaceTable {
   void Move() {
     ++seconds_;
     for (platform::InterfaceRow& row : rows_) {
-      row.dwInOctets += 5000 + 37 * (seconds_ % 101);
-      row.dwOutOctets += 700 + 11 * (seconds_ % 73);
+      row.dwInOctets += PlayedBytesIn(seconds_);
+      row.dwOutOctets += PlayedBytesOut(seconds_);
     }
   }
 
@@ -60,6 +69,9 @@ class MovingTable final : public platform::InterfaceTable {
   }
 
   [[nodiscard]] std::optional<bool> IsFilter(std::uint32_t /*index*/) override { return false; }
+  [[nodiscard]] std::optional<platform::LongOctets> Octets(std::uint32_t /*index*/) override {
+    return std::nullopt;
+  }
 
  private:
   platform::InterfaceTable& real_;
@@ -117,7 +129,6 @@ class PlayedMachine {
       .interface_table = table,
       .registry = registry,
       .sockets = real_.platform().sockets,
-      .single_instance = real_.platform().single_instance,
       .clock = real_.platform().clock,
       .files = real_.platform().files,
       .locale = real_.platform().locale,

@@ -7,7 +7,7 @@
 namespace bench {
 
 // Reports the milliseconds until they are painted with what is stored, beside what the system takes
-// for as many empty controls, and what 200 openings leave. `meter` has no preferences open.
+// for as many empty controls. `meter` has no preferences open.
 void OpenPreferences(PlayedMeter& meter, Report& report);
 
 }  // namespace bench

@@ -1,6 +1,7 @@
 #include "display/graph/kxintermeter.h"
 
 #include <algorithm>
+#include <limits>
 #include <vector>
 
 #include "toolkit/application.h"
@@ -14,6 +15,11 @@ constexpr std::size_t kLongestHistory = 4096;
 // Design pixels; beyond it nothing changes any more.
 constexpr std::int64_t kWidestDrawn = 1000;
 const platform::FontSpec kScaleFont{"Small Fonts", 9, true};
+
+// More than the 31 bits of an input can hold, 2 GiB a second, arrives as less than nothing.
+std::int32_t Drawn(std::int32_t input) {
+  return input < 0 ? std::numeric_limits<std::int32_t>::max() : input;
+}
 
 }  // namespace
 
@@ -32,8 +38,7 @@ void TKxInterMeter::Clear() {
 }
 
 void TKxInterMeter::SetTestWrite(std::int32_t bytes) {
-  // What the 32 bits of the inputs cannot hold arrives as less than nothing.
-  history_.push_back({std::max(0, test_read_), std::max(0, bytes)});
+  history_.push_back({Drawn(test_read_), Drawn(bytes)});
   if (history_.size() > kLongestHistory) history_.pop_front();
   test_read_ = 0;
   Changed();

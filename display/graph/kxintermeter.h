@@ -81,7 +81,7 @@ class TKxInterMeter : public toolkit::Control {
   void Refresh() { Changed(); }
 
   // The bytes received and sent in the current tick. SetTestWrite comes last and completes the
-  // sample; a negative amount is drawn as none.
+  // sample; a negative amount is drawn as the largest.
   void SetTestRead(std::int32_t bytes) { test_read_ = bytes; }
   void SetTestWrite(std::int32_t bytes);
 

@@ -13,28 +13,32 @@ constexpr std::size_t kLargestFile = std::size_t{16} << 20U;
 std::string PathOf(platform::Files& files) { return files.ProgramFolder() + "WindowTitles.tit"; }
 
 // A line end at the end of the text begins no further line.
-TitleLines Split(std::string_view text) {
-  TitleLines lines;
-  while (!text.empty()) {
+TitleFile Split(std::string_view text) {
+  TitleFile file;
+  while (!text.empty() && file.lines.size() < kMostTitles) {
     const std::size_t end = std::min(text.find_first_of("\r\n"), text.size());
-    lines.emplace_back(text.substr(0, end));
+    file.lines.emplace_back(text.substr(0, end));
     const bool pair = text.substr(end).starts_with("\r\n");
     text.remove_prefix(std::min(end + (pair ? 2 : 1), text.size()));
   }
-  return lines;
+  file.beyond = text;
+  return file;
 }
 
 }  // namespace
 
-TitleLines LoadTitleLines(platform::Files& files, platform::Locale& locale) {
-  const std::optional<std::string> bytes = files.Load(PathOf(files), kLargestFile);
-  return bytes ? Split(settings::DecodeTextFile(*bytes, locale)) : TitleLines();
+TitleFile LoadTitleFile(platform::Files& files, platform::Locale& locale) {
+  const std::string path = PathOf(files);
+  const std::optional<std::string> bytes = files.Load(path, kLargestFile);
+  if (bytes) return Split(settings::DecodeTextFile(*bytes, locale));
+  return {.readable = files.Missing(path), .lines = {}, .beyond = {}};
 }
 
-bool SaveTitleLines(platform::Files& files, const TitleLines& lines) {
+bool SaveTitleFile(platform::Files& files, const TitleFile& file) {
+  if (!file.readable) return false;
   std::string text;
-  for (const std::string& line : lines) text += line + "\r\n";
-  return files.Save(PathOf(files), text);
+  for (const std::string& line : file.lines) text += line + "\r\n";
+  return files.Save(PathOf(files), text + file.beyond);
 }
 
 void TitleList::SetLines(const TitleLines& lines) {

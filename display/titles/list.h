@@ -12,14 +12,24 @@ namespace display {
 
 using TitleLines = std::vector<std::string>;
 
-// The lines of the list's file, "WindowTitles.tit" beside the program, one title in each; empty
-// lines too. UTF-8 with or without a byte order mark, or else the system's code page; any line
-// ends. A file that is missing or cannot be read has none.
-[[nodiscard]] TitleLines LoadTitleLines(platform::Files& files, platform::Locale& locale);
+// Lists and windows stay quick with so many lines; a file may have more.
+inline constexpr std::size_t kMostTitles = 10000;
+
+// What is in the list's file, "WindowTitles.tit" beside the program, one title in each line; empty
+// lines too.
+struct TitleFile {
+  bool readable = true;  // a missing file is an empty one
+  TitleLines lines;      // at most kMostTitles
+  std::string beyond;    // the text behind them, neither shown nor used
+};
+
+// UTF-8 with or without a byte order mark, or else the system's code page; any line ends. A file of
+// more than 16 MiB cannot be read.
+[[nodiscard]] TitleFile LoadTitleFile(platform::Files& files, platform::Locale& locale);
 
 // Replaces the file: UTF-8 without a mark, each line ended by CR LF. False when it cannot be
-// written.
-bool SaveTitleLines(platform::Files& files, const TitleLines& lines);
+// written; one that could not be read never is.
+bool SaveTitleFile(platform::Files& files, const TitleFile& file);
 
 // The list in use, made ready for finding.
 class TitleList {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <unordered_set>
 
+#include "display/numeric_line.h"
 #include "toolkit/application.h"
 
 namespace display {
@@ -13,6 +14,7 @@ using platform::WindowId;
 
 constexpr char kMarker = '|';
 constexpr std::size_t kCharactersRead = 255;
+constexpr std::size_t kLongestPosted = 1000;  // characters: a title and any numeric line
 
 constexpr std::int64_t kPostToAll = 1;
 constexpr std::int64_t kPostToListed = 2;
@@ -59,7 +61,6 @@ void TitlePosting::SetLines(const TitleLines& lines) {
 
 void TitlePosting::PostTitles(std::string_view text) {
   const std::int64_t mode = store_.Read(settings::setting::WindowTitle);
-  posted_by_ = mode;
   Turn turn(app_.Platform().clock, kBudget);
   if (mode == kPostToAll || mode == kPostToListed) PostToMany(turn, text, mode == kPostToListed);
   if (mode == kPostToForeground) PostToForeground(turn, text);
@@ -114,15 +115,14 @@ void TitlePosting::PostInto(Turn& turn, WindowId window, const platform::WindowT
   has_posted_ = true;
 }
 
-void TitlePosting::ChangeMode(std::int64_t mode) {
-  if (mode != posted_by_) RestoreTitles();
-}
-
 void TitlePosting::RestoreTitles() {
-  if (!has_posted_) return;
   silent_until_.clear();
   Turn turn(app_.Platform().clock, kBudgetAtTheEnd);
-  StripAll(turn, 0);
+  if (has_posted_) {
+    StripAll(turn, 0);
+  } else {
+    StripLeftBehind(turn);
+  }
   has_posted_ = false;
 }
 
@@ -144,6 +144,18 @@ void TitlePosting::StripAll(Turn& turn, WindowId except) {
     if (own.size() < title.text.size() && Set(turn, window, std::string(own))) {
       posted_.erase(window);
     }
+  }
+}
+
+void TitlePosting::StripLeftBehind(Turn& turn) {
+  platform::OtherWindows& desktop = app_.Platform().other_windows;
+  for (const WindowId window : desktop.TopLevel()) {
+    if (turn.TimeIsUp()) return;
+    const platform::WindowTitle title = desktop.Title(window, kLongestPosted);
+    const std::string_view own = StripMarker(title.text);
+    if (title.longer || own.size() == title.text.size()) continue;
+    const std::string_view posted = std::string_view(title.text).substr(own.size() + 1);
+    if (IsNumericLine(posted)) Set(turn, window, std::string(own));
   }
 }
 

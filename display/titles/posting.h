@@ -36,10 +36,9 @@ class TitlePosting {
   // however many programs do not answer. What did not get its turn does the next time.
   void PostTitles(std::string_view text);
 
-  // The mode that is stored next. What another mode has posted is taken away.
-  void ChangeMode(std::int64_t mode);
-
-  // At the program's end: takes the marker from every title, if anything was posted in this run.
+  // At the program's end, which a change of the mode is not: takes the marker from every title, if
+  // anything was posted in this run. Otherwise only the markers go that a run left behind which was
+  // ended by force: those that have the form of the numeric line.
   void RestoreTitles();
 
  private:
@@ -51,6 +50,7 @@ class TitlePosting {
                 std::string_view text);
   // Takes the marker from every window but one.
   void StripAll(Turn& turn, platform::WindowId except);
+  void StripLeftBehind(Turn& turn);
   // Gives the window another title, unless it does not answer these days. True when it has it now.
   bool Set(Turn& turn, platform::WindowId window, const std::string& title);
   // Forgets windows that are gone.
@@ -61,8 +61,7 @@ class TitlePosting {
   settings::Store& store_;
   TitleList list_;
 
-  bool has_posted_ = false;     // in this run
-  std::int64_t posted_by_ = 0;  // the mode that posted last
+  bool has_posted_ = false;  // in this run
   // What was set, by window: tells titles that are longer than what is read of them.
   std::unordered_map<platform::WindowId, std::string> posted_;
   // Windows that did not answer, and when they are tried again, in ms of the steady clock.

@@ -1,5 +1,7 @@
 #include "display/titles/unit_AddTitlesForm.h"
 
+#include <algorithm>
+
 #include "language/texts.h"
 #include "toolkit/application.h"
 #include "toolkit/controls/layout.h"
@@ -9,21 +11,24 @@ namespace {
 
 namespace text = language::text::AddTitles;
 
-constexpr platform::Size kClientSize{308, 246};  // design pixels
+constexpr platform::Size kClientSize{308, 258};  // design pixels
+constexpr int kBalloonSeconds = 15;
 constexpr std::string_view kPlacementKey = "\\Software\\BrisantoNET\\Settings\\AddTitlesScreen";
 
 }  // namespace
 
 T_frmAddTitles::T_frmAddTitles(toolkit::Application& app, TitlePosting& posting,
-                               const language::Language& language)
+                               alerts::Balloons& balloons, const language::Language& language)
     : Form(app, kAddTitlesForm, platform::Frame::kTool),
       posting_(posting),
+      balloons_(balloons),
       language_(language),
       WindowTitlesListbox(*this, "WindowTitlesListbox"),
       btnRemove(*this, "btnRemove"),
       AddNewLabel(*this, "AddNewLabel", toolkit::kCaptionText),
       AddNew(*this, "AddNew"),
       btnAdd(*this, "btnAdd"),
+      Note(*this, "Note", toolkit::kWrappedText),
       OkBtn(*this, "OkBtn"),
       placement_saver_(*this, kPlacementKey, toolkit::PlacementSaver::Restores::kPlace) {
   SetClientSize(kClientSize);
@@ -33,7 +38,8 @@ T_frmAddTitles::T_frmAddTitles(toolkit::Application& app, TitlePosting& posting,
       {AddNewLabel, {8, 166, 206, 15}},
       {AddNew, {8, 182, 206, 21}},
       {btnAdd, {222, 180, 78, 25}},
-      {OkBtn, {222, 213, 78, 25}},
+      {Note, {8, 209, 206, 43}},
+      {OkBtn, {222, 225, 78, 25}},
   });
   // Enter behind a typed title means that title.
   btnAdd.SetDefault(true);
@@ -45,14 +51,16 @@ T_frmAddTitles::~T_frmAddTitles() {
 }
 
 void T_frmAddTitles::FormCreate() {
-  Localise();
+  file_ = LoadTitleFile(App().Platform().files, App().Platform().locale);
   CentreOnScreen();
   placement_saver_.Restore();
-  WindowTitlesListbox.SetItems(LoadTitleLines(App().Platform().files, App().Platform().locale));
+  WindowTitlesListbox.SetItems(file_.lines);
   WindowTitlesListbox.SetItemIndex(0);
   btnAdd.OnClick = [this] { btnAddClick(); };
   btnRemove.OnClick = [this] { btnRemoveClick(); };
+  WindowTitlesListbox.OnDelete = [this] { WindowTitlesListboxDelete(); };
   OkBtn.OnClick = [this] { OkBtnClick(); };
+  Localise();
 }
 
 void T_frmAddTitles::Localise() {
@@ -65,17 +73,42 @@ void T_frmAddTitles::Localise() {
   btnAdd.SetCaption(say(text::btnAdd));
   btnRemove.SetCaption(say(text::btnRemove));
   OkBtn.SetCaption(say(text::OkBtn));
+  ShowState();
+}
+
+void T_frmAddTitles::ShowState() {
+  const bool full = WindowTitlesListbox.Items().size() >= kMostTitles;
+  WindowTitlesListbox.SetEnabled(file_.readable);
+  AddNew.SetEnabled(file_.readable);
+  btnAdd.SetEnabled(file_.readable && !full);
+  btnRemove.SetEnabled(file_.readable);
+  std::string note;
+  if (!file_.readable) {
+    note = language_.Text(text::Unreadable);
+  } else if (full || !file_.beyond.empty()) {
+    note = language_.Text(text::TooMany, {std::to_string(kMostTitles)});
+  }
+  Note.SetCaption(note);
 }
 
 void T_frmAddTitles::btnAddClick() {
   if (AddNew.Text().empty()) return;
   WindowTitlesListbox.Add(AddNew.Text());
+  ShowState();
   AddNew.SetText("");
   AddNew.SetFocus();
 }
 
 void T_frmAddTitles::btnRemoveClick() {
   WindowTitlesListbox.Remove(WindowTitlesListbox.ItemIndex());
+  ShowState();
+}
+
+// Goes on with the line that has come in its place.
+void T_frmAddTitles::WindowTitlesListboxDelete() {
+  const int row = WindowTitlesListbox.ItemIndex();
+  btnRemoveClick();
+  WindowTitlesListbox.SetItemIndex(std::min(row, WindowTitlesListbox.Count() - 1));
 }
 
 void T_frmAddTitles::OkBtnClick() {
@@ -83,15 +116,20 @@ void T_frmAddTitles::OkBtnClick() {
   EndModal(toolkit::ModalResult::kOk);
 }
 
-void T_frmAddTitles::FormDestroy() { Save(); }
+void T_frmAddTitles::FormDestroy() {
+  if (Save()) return;
+  balloons_.ShowBalloon(language_.Text(text::Title), language_.Text(text::SaveFailed),
+                        platform::BalloonIcon::kWarning, kBalloonSeconds);
+}
 
 // The process may be gone before the editor is destroyed.
 void T_frmAddTitles::FormEndSession() { Save(); }
 
-void T_frmAddTitles::Save() {
-  const TitleLines& lines = WindowTitlesListbox.Items();
-  SaveTitleLines(App().Platform().files, lines);
-  posting_.SetLines(lines);
+bool T_frmAddTitles::Save() {
+  if (!file_.readable) return true;
+  file_.lines = WindowTitlesListbox.Items();
+  posting_.SetLines(file_.lines);
+  return SaveTitleFile(App().Platform().files, file_);
 }
 
 }  // namespace display

@@ -3,6 +3,7 @@
 
 #include <string_view>
 
+#include "alerts/reactions.h"
 #include "display/titles/posting.h"
 #include "language/language.h"
 #include "toolkit/controls/button.h"
@@ -16,12 +17,13 @@ namespace display {
 
 inline constexpr std::string_view kAddTitlesForm = "T_frmAddTitles";
 
-// What is edited is kept whichever way it closes: stored in the list's file, as far as that can be
-// written, and taken over by the posting.
+// What is edited is kept whichever way it closes: stored in the list's file, or else a balloon
+// tells that it cannot be, and taken over by the posting. A file that cannot be read is left as it
+// is.
 class T_frmAddTitles final : public toolkit::Form {
  public:
   // Made hidden, with the lines of the file; shown by the modal stack. All outlive it.
-  T_frmAddTitles(toolkit::Application& app, TitlePosting& posting,
+  T_frmAddTitles(toolkit::Application& app, TitlePosting& posting, alerts::Balloons& balloons,
                  const language::Language& language);
   ~T_frmAddTitles() override;
 
@@ -31,19 +33,26 @@ class T_frmAddTitles final : public toolkit::Form {
   void FormCreate();
   void btnAddClick();
   void btnRemoveClick();
+  void WindowTitlesListboxDelete();
   void OkBtnClick();
   void FormDestroy();
   void FormEndSession() override;
-  void Save();
+  // Offers what can be done, and tells why something cannot.
+  void ShowState();
+  // False when the list can't be written.
+  bool Save();
 
   TitlePosting& posting_;
+  alerts::Balloons& balloons_;
   const language::Language& language_;
+  TitleFile file_;
 
   toolkit::ListBox WindowTitlesListbox;
   toolkit::Button btnRemove;
   toolkit::Label AddNewLabel;
   toolkit::Edit AddNew;
   toolkit::Button btnAdd;
+  toolkit::Label Note;
   toolkit::Button OkBtn;
   toolkit::PlacementSaver placement_saver_;
 };

@@ -12,13 +12,21 @@ constexpr int kLowerTop = 9;
 constexpr int kNewestColumn = 14;
 constexpr int kSlots = 14;
 
-void DrawHalf(platform::Canvas& canvas, const TrayHistory& history, platform::Colour colour,
-              int base, int top) {
-  canvas.Fill({1, top, kSlots, base - top + 1}, platform::colour::kWhite);
+TrayHistogram::Half HalfOf(const TrayHistory& history, platform::Colour colour) {
+  TrayHistogram::Half half;
+  half.colour = colour;
   for (int slot = 1; slot <= kSlots; ++slot) {
-    const int x = kNewestColumn + 1 - slot;
-    const int level = history.Level(slot);
-    if (level > 0) canvas.Line({x, base}, {x, level}, colour);
+    half.levels[static_cast<std::size_t>(slot - 1)] = history.Level(slot);
+  }
+  return half;
+}
+
+void DrawHalf(platform::Canvas& canvas, const TrayHistogram::Half& half, int base, int top) {
+  canvas.Fill({1, top, kSlots, base - top + 1}, platform::colour::kWhite);
+  int x = kNewestColumn;
+  for (const int level : half.levels) {
+    if (level > 0) canvas.Line({x, base}, {x, level}, half.colour);
+    --x;
   }
 }
 
@@ -67,12 +75,20 @@ void TrayHistogram::DrawFrame(platform::Canvas& canvas) {
   canvas.Line({0, 8}, {15, 8}, kGrey);
 }
 
-void TrayHistogram::DrawUpperHalf(platform::Canvas& canvas, platform::Colour receiving) const {
-  DrawHalf(canvas, dl_, receiving, kUpperBase, kUpperTop);
+TrayHistogram::Half TrayHistogram::Upper(platform::Colour receiving) const {
+  return HalfOf(dl_, receiving);
 }
 
-void TrayHistogram::DrawLowerHalf(platform::Canvas& canvas, platform::Colour sending) const {
-  DrawHalf(canvas, ul_, sending, kLowerBase, kLowerTop);
+TrayHistogram::Half TrayHistogram::Lower(platform::Colour sending) const {
+  return HalfOf(ul_, sending);
+}
+
+void TrayHistogram::DrawUpper(platform::Canvas& canvas, const Half& half) {
+  DrawHalf(canvas, half, kUpperBase, kUpperTop);
+}
+
+void TrayHistogram::DrawLower(platform::Canvas& canvas, const Half& half) {
+  DrawHalf(canvas, half, kLowerBase, kLowerTop);
 }
 
 }  // namespace display

@@ -35,14 +35,24 @@ class TrayHistory {
 
 class TrayHistogram {
  public:
+  // How one direction is drawn.
+  struct Half {
+    std::array<int, 14> levels{};  // where the bars end, the newest first; 0 for none
+    platform::Colour colour = 0;
+    friend bool operator==(const Half&, const Half&) = default;
+  };
+
   // Bytes of one scan.
   void Push(std::int64_t dl, std::int64_t ul);
   void Clear();
 
+  [[nodiscard]] Half Upper(platform::Colour receiving) const;
+  [[nodiscard]] Half Lower(platform::Colour sending) const;
+
   // Each draws on a canvas of 16 x 16 pixels and leaves the rest of it as it is.
   static void DrawFrame(platform::Canvas& canvas);
-  void DrawUpperHalf(platform::Canvas& canvas, platform::Colour receiving) const;
-  void DrawLowerHalf(platform::Canvas& canvas, platform::Colour sending) const;
+  static void DrawUpper(platform::Canvas& canvas, const Half& half);
+  static void DrawLower(platform::Canvas& canvas, const Half& half);
 
  private:
   TrayHistory dl_{1};  // bars end at 1 to 5

@@ -100,22 +100,23 @@ void TrayIcon::ShowActivity(TrayActivity activity) {
     ShowHistogram(TrayHistogram());
     return;
   }
-  if (activity == shown_activity_) return;
+  if (activity == shown_activity_ && activity_taken_) return;
   const int size = icon_->PictureSize();
   const auto picture = app_.Platform().graphics.CreateBitmap({size, size});
   if (!picture) return;
   pictures_.Draw(activity, picture->GetCanvas(), pictures_.SeeThrough());
-  icon_->SetPicture(*picture, pictures_.SeeThrough());
+  activity_taken_ = icon_->SetPicture(*picture, pictures_.SeeThrough());
   shown_activity_ = activity;
+  shown_size_ = 0;
 }
 
-// The shell is given the picture twice, after each half; the other half keeps what it showed, so
-// that nothing flickers.
 void TrayIcon::ShowHistogram(const TrayHistogram& histogram) {
   DrawHistogram(histogram, store_.Read(setting::GraphColor_HistogramReceiving),
                 store_.Read(setting::GraphColor_HistogramSend));
 }
 
+// The shell is given the picture after each half that has changed; the other half keeps what it
+// showed, so that nothing flickers.
 void TrayIcon::DrawHistogram(const TrayHistogram& histogram, platform::Colour receiving,
                              platform::Colour sending) {
   shown_activity_.reset();
@@ -127,25 +128,32 @@ void TrayIcon::DrawHistogram(const TrayHistogram& histogram, platform::Colour re
                                platform::colour::kWhite);
   }
   platform::Canvas& canvas = drawing_->GetCanvas();
+  const int size = icon_->PictureSize();
+  const bool anew = size != shown_size_;
+  const TrayHistogram::Half upper = histogram.Upper(receiving);
+  const TrayHistogram::Half lower = histogram.Lower(sending);
   TrayHistogram::DrawFrame(canvas);
-  histogram.DrawUpperHalf(canvas, receiving);
-  ShowEnlarged(*drawing_);
-  histogram.DrawLowerHalf(canvas, sending);
-  ShowEnlarged(*drawing_);
+  if (anew || upper != shown_upper_) {
+    TrayHistogram::DrawUpper(canvas, upper);
+    shown_size_ = ShowEnlarged(*drawing_) ? size : 0;
+  }
+  if (anew || lower != shown_lower_) {
+    TrayHistogram::DrawLower(canvas, lower);
+    shown_size_ = ShowEnlarged(*drawing_) ? size : 0;
+  }
+  shown_upper_ = upper;
+  shown_lower_ = lower;
 }
 
-void TrayIcon::ShowEnlarged(const platform::Bitmap& picture) {
+bool TrayIcon::ShowEnlarged(const platform::Bitmap& picture) {
   const int size = icon_->PictureSize();
-  if (size <= kTrayPictureSize) {
-    icon_->SetPicture(picture);
-    return;
-  }
+  if (size <= kTrayPictureSize) return icon_->SetPicture(picture);
   if (!enlarged_ || enlarged_->Extent().width != size) {
     enlarged_ = app_.Platform().graphics.CreateBitmap({size, size});
   }
-  if (!enlarged_) return;
+  if (!enlarged_) return false;
   Enlarge(picture, *enlarged_);
-  icon_->SetPicture(*enlarged_);
+  return icon_->SetPicture(*enlarged_);
 }
 
 void TrayIcon::OnTrayClick() {

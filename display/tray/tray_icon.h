@@ -70,7 +70,8 @@ class TrayIcon final : public alerts::Balloons, private platform::TrayIconEvents
   void ShowHistogram(const TrayHistogram& histogram);
   void DrawHistogram(const TrayHistogram& histogram, platform::Colour receiving,
                      platform::Colour sending);
-  void ShowEnlarged(const platform::Bitmap& picture);
+  // False when the shell has not taken it.
+  [[nodiscard]] bool ShowEnlarged(const platform::Bitmap& picture);
 
   toolkit::Application& app_;
   settings::Store& store_;
@@ -82,6 +83,12 @@ class TrayIcon final : public alerts::Balloons, private platform::TrayIconEvents
   TrayHistogram shown_histogram_;
   // What the icon shows; nothing while it is the histogram or the pictures were loaded anew.
   std::optional<TrayActivity> shown_activity_;
+  bool activity_taken_ = false;  // by the shell
+  // The histogram that the icon shows, and the side of its picture; 0 while it shows none or the
+  // shell has not taken it.
+  TrayHistogram::Half shown_upper_;
+  TrayHistogram::Half shown_lower_;
+  int shown_size_ = 0;
   std::unique_ptr<platform::TrayIcon> icon_;
 };
 

@@ -21,7 +21,14 @@ bool Desktop::Alive(const WidgetState* state) const {
 void Desktop::MoveFocus(WidgetState* to) {
   WidgetState* from = std::exchange(focused_, to);
   if (from == to) return;
-  if (to != nullptr) to->focused = true;
+  if (to != nullptr) {
+    to->focused = true;
+    const WidgetState& top = TopOf(*to);
+    const Point at = to->ToScreen({0, 0});
+    const Point origin = top.ToScreen({0, 0});
+    top.top_events->OnFocusMoved(
+        {at.x - origin.x, at.y - origin.y, to->bounds.width, to->bounds.height});
+  }
   if (from == nullptr) return;
   from->focused = false;
   from->all_selected = false;

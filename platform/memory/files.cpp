@@ -33,9 +33,18 @@ std::string Files::ProgramFolder() { return std::string(FolderOf(program_path_))
 
 bool Files::Exists(std::string_view path) { return files_.contains(FoldCase(path)); }
 
+bool Files::Missing(std::string_view path) {
+  return !Exists(path) && !folders_.contains(FoldFolder(path));
+}
+
+std::optional<std::uint64_t> Files::Size(std::string_view path) {
+  const std::optional<std::string> bytes = Bytes(path);
+  return bytes ? std::optional<std::uint64_t>(bytes->size()) : std::nullopt;
+}
+
 std::optional<std::string> Files::Load(std::string_view path, std::size_t limit) {
   ++loads;
-  if (notebook_.Fails()) return std::nullopt;
+  if (notebook_.Fails() || held_.contains(FoldCase(path))) return std::nullopt;
   std::optional<std::string> bytes = Bytes(path);
   if (bytes && bytes->size() > limit) return std::nullopt;
   return bytes;
@@ -43,13 +52,32 @@ std::optional<std::string> Files::Load(std::string_view path, std::size_t limit)
 
 bool Files::Save(std::string_view path, std::string_view bytes) {
   ++saves;
-  const std::string folder = FoldFolder(FolderOf(path));
-  const bool refused = notebook_.Fails() || !folders_.contains(folder) ||
-                       folders_.contains(FoldFolder(path)) || NameOf(path).empty() ||
-                       unwritable_.contains(folder) || unwritable_.contains(FoldFolder(path));
-  if (refused) return false;
+  if (notebook_.Fails() || !CanBeWritten(path)) return false;
   Put(path, bytes);
   return true;
+}
+
+bool Files::Append(std::string_view path, std::string_view bytes) {
+  const std::optional<std::string> before = Bytes(path);
+  if (notebook_.Fails() || !before || !CanBeWritten(path)) return false;
+  Put(path, *before + std::string(bytes));
+  return true;
+}
+
+bool Files::Rename(std::string_view from, std::string_view to) {
+  const std::optional<std::string> bytes = Bytes(from);
+  if (notebook_.Fails() || !bytes || !CanBeWritten(from) || !CanBeWritten(to)) return false;
+  Remove(from);
+  Remove(to);  // its spelling goes with it
+  Put(to, *bytes);
+  return true;
+}
+
+bool Files::CanBeWritten(std::string_view path) const {
+  const std::string folder = FoldFolder(FolderOf(path));
+  return folders_.contains(folder) && !folders_.contains(FoldFolder(path)) &&
+         !NameOf(path).empty() && !unwritable_.contains(folder) &&
+         !unwritable_.contains(FoldFolder(path)) && !held_.contains(FoldCase(path));
 }
 
 std::vector<std::string> Files::List(std::string_view folder, std::string_view mask) {
@@ -101,6 +129,14 @@ void Files::SetWritable(std::string_view path, bool writable) {
     unwritable_.erase(FoldFolder(path));
   } else {
     unwritable_.insert(FoldFolder(path));
+  }
+}
+
+void Files::SetHeld(std::string_view path, bool held) {
+  if (held) {
+    held_.insert(FoldCase(path));
+  } else {
+    held_.erase(FoldCase(path));
   }
 }
 

@@ -17,8 +17,12 @@ class Files : public platform::Files {
   [[nodiscard]] std::string ProgramPath() override { return program_path_; }
   [[nodiscard]] std::string ProgramFolder() override;
   [[nodiscard]] bool Exists(std::string_view path) override;
+  [[nodiscard]] bool Missing(std::string_view path) override;
+  [[nodiscard]] std::optional<std::uint64_t> Size(std::string_view path) override;
   [[nodiscard]] std::optional<std::string> Load(std::string_view path, std::size_t limit) override;
   bool Save(std::string_view path, std::string_view bytes) override;
+  bool Append(std::string_view path, std::string_view bytes) override;
+  bool Rename(std::string_view from, std::string_view to) override;
   [[nodiscard]] std::vector<std::string> List(std::string_view folder,
                                               std::string_view mask) override;
 
@@ -35,12 +39,16 @@ class Files : public platform::Files {
   void Remove(std::string_view path);
   // A folder in which nothing can be written, or a file that cannot be replaced, or again can.
   void SetWritable(std::string_view path, bool writable);
+  // A file that another program has open and shares with nobody, or no longer.
+  void SetHeld(std::string_view path, bool held);
 
-  // Loads and saves that were asked for.
+  // Loads and saves that were asked for, whole files.
   int loads = 0;
   int saves = 0;
 
  private:
+  [[nodiscard]] bool CanBeWritten(std::string_view path) const;
+
   struct File {
     std::string name;  // without folder, as it was first written
     std::string bytes;
@@ -52,6 +60,7 @@ class Files : public platform::Files {
   std::map<std::string, File> files_;
   std::set<std::string> folders_;
   std::set<std::string> unwritable_;
+  std::set<std::string> held_;
 };
 
 }  // namespace platform::memory

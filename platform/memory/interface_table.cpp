@@ -55,10 +55,22 @@ std::uint32_t InterfaceTable::Read(std::span<std::byte> buffer, std::uint32_t& s
 
 std::optional<bool> InterfaceTable::IsFilter(std::uint32_t index) {
   ++filter_questions;
-  const bool there = std::any_of(rows.begin(), rows.end(),
-                                 [index](const InterfaceRow& row) { return row.dwIndex == index; });
-  if (notebook_.Fails() || !there) return std::nullopt;
+  if (notebook_.Fails() || RowOf(index) == nullptr) return std::nullopt;
   return filters_.contains(index);
+}
+
+std::optional<LongOctets> InterfaceTable::Octets(std::uint32_t index) {
+  ++octet_questions;
+  const InterfaceRow* row = RowOf(index);
+  if (notebook_.Fails() || row == nullptr) return std::nullopt;
+  const LongOctets& wrapped = wrapped_[index];
+  return LongOctets{wrapped.in + row->dwInOctets, wrapped.out + row->dwOutOctets};
+}
+
+const InterfaceRow* InterfaceTable::RowOf(std::uint32_t index) const {
+  const auto found = std::find_if(
+      rows.begin(), rows.end(), [index](const InterfaceRow& row) { return row.dwIndex == index; });
+  return found == rows.end() ? nullptr : &*found;
 }
 
 InterfaceRow& InterfaceTable::AddRow(InterfaceRow row) {
@@ -72,8 +84,12 @@ void InterfaceTable::RemoveRow(std::size_t position) {
 }
 
 void InterfaceTable::AddTraffic(std::size_t position, std::uint32_t received, std::uint32_t sent) {
-  rows.at(position).dwInOctets += received;
-  rows.at(position).dwOutOctets += sent;
+  constexpr std::uint64_t kWrap = std::uint64_t{1} << 32U;
+  InterfaceRow& row = rows.at(position);
+  row.dwInOctets += received;
+  row.dwOutOctets += sent;
+  if (row.dwInOctets < received) wrapped_[row.dwIndex].in += kWrap;
+  if (row.dwOutOctets < sent) wrapped_[row.dwIndex].out += kWrap;
 }
 
 void InterfaceTable::FailRead(int n, std::uint32_t code) { failures_.push_back({reads + n, code}); }

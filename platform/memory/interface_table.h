@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <functional>
 #include <initializer_list>
+#include <map>
 #include <set>
 #include <string_view>
 #include <vector>
@@ -31,6 +32,7 @@ class InterfaceTable : public platform::InterfaceTable {
 
   [[nodiscard]] std::uint32_t Read(std::span<std::byte> buffer, std::uint32_t& size) override;
   [[nodiscard]] std::optional<bool> IsFilter(std::uint32_t index) override;
+  [[nodiscard]] std::optional<LongOctets> Octets(std::uint32_t index) override;
 
   // The rows as they stand now. A test may change them in any way; without any row the table has a
   // row count of zero.
@@ -50,9 +52,10 @@ class InterfaceTable : public platform::InterfaceTable {
   // that follows: the table may grow, shrink or become empty between asking and reading.
   void AfterNextSizeRead(std::function<void()> change) { after_size_read_ = std::move(change); }
 
-  // Reads so far, and questions about filters.
+  // Reads so far, and questions about filters and about octets.
   int reads = 0;
   int filter_questions = 0;
+  int octet_questions = 0;
 
  private:
   struct Failure {
@@ -60,7 +63,10 @@ class InterfaceTable : public platform::InterfaceTable {
     std::uint32_t code;
   };
 
+  [[nodiscard]] const InterfaceRow* RowOf(std::uint32_t index) const;
+
   Notebook& notebook_;
+  std::map<std::uint32_t, LongOctets> wrapped_;  // what the counters of a row lost, by dwIndex
   std::set<std::uint32_t> filters_;
   std::vector<Failure> failures_;
   std::function<void()> after_size_read_;

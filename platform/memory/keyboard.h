@@ -18,6 +18,7 @@ struct KeyEvent {
 class Keyboard final : public platform::Keyboard {
  public:
   [[nodiscard]] std::uint8_t State(std::uint8_t virtual_key) override {
+    ++state_questions;
     return states[virtual_key];
   }
   // A press toggles the lock bit, as the system does for lock keys.
@@ -28,6 +29,7 @@ class Keyboard final : public platform::Keyboard {
 
   std::array<std::uint8_t, 256> states{};
   std::vector<KeyEvent> sent;
+  int state_questions = 0;
 };
 
 }  // namespace platform::memory

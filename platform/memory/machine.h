@@ -68,11 +68,10 @@ class Machine {
 
  private:
   platform::Platform platform_{
-      interface_table, registry,     sockets,       single_instance, clock,
-      files,           locale,       clipboard,     windowing,       menus,
-      timers,          message_loop, screen,        graphics,        notification_area,
-      sound,           keyboard,     session,       other_windows,   hot_keys,
-      shell,           fonts,        system_dialogs};
+      interface_table, registry, sockets, clock,         files,    locale,   clipboard,
+      windowing,       menus,    timers,  message_loop,  screen,   graphics, notification_area,
+      sound,           keyboard, session, other_windows, hot_keys, shell,    fonts,
+      system_dialogs};
 };
 
 }  // namespace platform::memory

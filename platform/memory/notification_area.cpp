@@ -22,12 +22,16 @@ class NotificationArea::Icon final : public TrayIcon {
   Icon(const Icon&) = delete;
   Icon& operator=(const Icon&) = delete;
 
-  void SetPicture(const Bitmap& picture) override {
+  bool SetPicture(const Bitmap& picture) override {
     ++area_.picture_updates;
+    if (area_.busy) return false;
     area_.picture_ = std::make_unique<Raster>(picture.Extent(), area_.screen_);
     area_.picture_->Draw(picture, {0, 0});
+    return true;
   }
-  void SetPicture(const Bitmap& picture, Colour /*see_through*/) override { SetPicture(picture); }
+  bool SetPicture(const Bitmap& picture, Colour /*see_through*/) override {
+    return SetPicture(picture);
+  }
   void SetHint(std::string_view hint) override {
     ++area_.hint_updates;
     area_.hint = CutCharacters(hint, kHintCharacters);

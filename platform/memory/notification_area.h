@@ -39,6 +39,7 @@ class NotificationArea final : public platform::NotificationArea {
   int picture_updates = 0;
   int hint_updates = 0;
   int picture_size = 16;
+  bool busy = false;  // takes no picture
 
  private:
   class Icon;

@@ -222,6 +222,13 @@ void TopWindowPeer::ResetShape() {
   ++state_.shape_changes;
 }
 
+void TopWindowPeer::SetScroll(const Scroll& scroll) {
+  constexpr int kBar = 17;
+  const auto bar = [](const Scroll& of) { return of.content > of.page ? kBar : 0; };
+  state_.frame.width += bar(scroll) - bar(state_.scroll);
+  state_.scroll = scroll;
+}
+
 void TopWindowPeer::SetClientSize(Size client) {
   SetBounds({state_.bounds.left, state_.bounds.top, client.width + state_.frame.width,
              client.height + state_.frame.height});

@@ -157,6 +157,7 @@ class TopWindowPeer final : public PeerOf<TopWindow> {
   [[nodiscard]] bool Topmost() const override { return state_.topmost; }
   void SetSizeLimits(Size smallest, Size largest) override;
   void SetClientSize(Size client) override;
+  void SetScroll(const Scroll& scroll) override;
   void BeginDrag() override { ++state_.drags; }
   [[nodiscard]] bool Dragging() const override { return state_.dragging; }
   void SetAlpha(std::uint8_t alpha) override;

@@ -107,8 +107,8 @@ struct Registry::Key {
 
 class Registry::OpenKey : public RegistryKey {
  public:
-  OpenKey(Notebook& notebook, std::shared_ptr<Key> key)
-      : notebook_(notebook), key_(std::move(key)) {}
+  OpenKey(Notebook& notebook, std::shared_ptr<Key> key, KeyAccess access)
+      : notebook_(notebook), key_(std::move(key)), writable_(access != KeyAccess::kReadOnly) {}
 
   std::optional<std::uint32_t> ReadDword(std::string_view name) override {
     ++notebook_.registry.dword_reads;
@@ -141,7 +141,7 @@ class Registry::OpenKey : public RegistryKey {
 
   bool Delete(std::string_view name) override {
     ++notebook_.registry.deletes;
-    if (notebook_.Fails() || key_->removed) return false;
+    if (notebook_.Fails() || key_->removed || !writable_) return false;
     return key_->values.erase(FoldCase(name)) > 0;
   }
 
@@ -153,7 +153,7 @@ class Registry::OpenKey : public RegistryKey {
   }
   void Write(std::string_view name, RegistryValue value) {
     if (notebook_.on_registry_write) notebook_.on_registry_write(name);
-    if (notebook_.Fails()) throw std::runtime_error("RegSetValueEx: error 5");
+    if (notebook_.Fails() || !writable_) throw std::runtime_error("RegSetValueEx: error 5");
     if (key_->removed) throw std::runtime_error("RegSetValueEx: error 1018");
     if (ToUtf16(name).size() > kLongestValueName) {
       throw std::runtime_error("RegSetValueEx: error 87");
@@ -163,6 +163,7 @@ class Registry::OpenKey : public RegistryKey {
 
   Notebook& notebook_;
   std::shared_ptr<Key> key_;
+  const bool writable_;
 };
 
 Registry::Registry(Notebook& notebook) : notebook_(notebook), root_(std::make_shared<Key>()) {}
@@ -171,11 +172,12 @@ Registry::~Registry() = default;
 std::unique_ptr<RegistryKey> Registry::Open(std::string_view path, KeyAccess access) {
   ++notebook_.registry.round_trips;
   if (notebook_.Fails() || denied_.contains(Normal(path))) return nullptr;
+  if (access != KeyAccess::kReadOnly && unwritable_.contains(Normal(path))) return nullptr;
   for (const std::string& name : Split(path)) {
     if (ToUtf16(name).size() > kLongestKeyName) return nullptr;
   }
   std::shared_ptr<Key> key = access == KeyAccess::kCreate ? Make(path) : Find(path);
-  return key == nullptr ? nullptr : std::make_unique<OpenKey>(notebook_, std::move(key));
+  return key == nullptr ? nullptr : std::make_unique<OpenKey>(notebook_, std::move(key), access);
 }
 
 std::shared_ptr<Registry::Key> Registry::Find(std::string_view path) const {
@@ -269,5 +271,7 @@ void Registry::RemoveKey(std::string_view path) {
 }
 
 void Registry::Deny(std::string_view path) { denied_.insert(Normal(path)); }
+
+void Registry::DenyWriting(std::string_view path) { unwritable_.insert(Normal(path)); }
 
 }  // namespace platform::memory

@@ -73,6 +73,8 @@ class Registry : public platform::Registry {
   void RemoveKey(std::string_view path);
   // From now on the system refuses to open or make this very key.
   void Deny(std::string_view path);
+  // From now on this very key can only be read.
+  void DenyWriting(std::string_view path);
 
  private:
   struct Key;
@@ -84,6 +86,7 @@ class Registry : public platform::Registry {
   Notebook& notebook_;
   std::shared_ptr<Key> root_;
   std::set<std::string> denied_;
+  std::set<std::string> unwritable_;
 };
 
 }  // namespace platform::memory

@@ -80,6 +80,7 @@ struct WidgetState {
   TopWindow* window = nullptr;
   WidgetState* owner = nullptr;  // null for the application
   bool topmost = false;
+  Scroll scroll;
   Size smallest;
   Size largest;
   Activation shown_with = Activation::kActivate;

@@ -68,8 +68,10 @@ void Windowing::EnterLetter(WidgetState& edit, std::string_view letter) {
 }
 
 void Windowing::PressKey(std::string_view name, Key key) {
-  const bool painted = Find(name).IsButton(ButtonKind::kPainted);
-  WidgetState* state = painted ? Reach(name) : Reach(name, Kind::kEdit);
+  const WidgetState& found = Find(name);
+  const bool painted = found.IsButton(ButtonKind::kPainted);
+  const bool box = found.kind == Kind::kList && found.list == ListKind::kBox;
+  WidgetState* state = painted || box ? Reach(name) : Reach(name, Kind::kEdit);
   if (state == nullptr) return;
   if (!state->focused) desktop_.MoveFocus(state);
   if (key == Key::kEnter && Desktop::TakesDialogKeys(Desktop::TopOf(*state))) {

@@ -102,7 +102,8 @@ void Windowing::Choose(std::string_view name, int index) {
     throw std::out_of_range(std::string(name) + " has no row " + std::to_string(index));
   }
   desktop_.MoveFocus(state);
-  if (!desktop_.Alive(state) || state->index == index) return;
+  // Lists report also the row that is selected already.
+  if (!desktop_.Alive(state) || (state->index == index && kind != Kind::kList)) return;
   state->Select(index);
   state->events->OnChanged();
 }

@@ -19,7 +19,6 @@
 #include "platform/windows/services/screen.h"
 #include "platform/windows/services/session.h"
 #include "platform/windows/services/shell.h"
-#include "platform/windows/services/single_instance.h"
 #include "platform/windows/services/sockets.h"
 #include "platform/windows/services/sound.h"
 #include "platform/windows/services/system_dialogs.h"
@@ -43,7 +42,6 @@ class Machine {
   InterfaceTable interface_table_;
   Registry registry_;
   Sockets sockets_;
-  SingleInstance single_instance_;
   Clock clock_;
   Files files_;
   Locale locale_;
@@ -64,12 +62,17 @@ class Machine {
   Shell shell_;
   Fonts fonts_;
   SystemDialogs system_dialogs_;
-  Platform platform_{
-      interface_table_, registry_,     sockets_,       single_instance_, clock_,
-      files_,           locale_,       clipboard_,     windowing_,       menus_,
-      timers_,          message_loop_, screen_,        graphics_,        notification_area_,
-      sound_,           keyboard_,     session_,       other_windows_,   hot_keys_,
-      shell_,           fonts_,        system_dialogs_};
+  Platform platform_{interface_table_, registry_,
+                     sockets_,         clock_,
+                     files_,           locale_,
+                     clipboard_,       windowing_,
+                     menus_,           timers_,
+                     message_loop_,    screen_,
+                     graphics_,        notification_area_,
+                     sound_,           keyboard_,
+                     session_,         other_windows_,
+                     hot_keys_,        shell_,
+                     fonts_,           system_dialogs_};
 };
 
 }  // namespace platform::windows

@@ -94,6 +94,7 @@ TEST_F(Leds, FollowTheTable) {
 TEST_F(Leds, AreLeftAloneWhenNotGivenOrHeldDown) {
   Update(5000, 5000);
   EXPECT_TRUE(machine.keyboard.sent.empty());
+  EXPECT_EQ(machine.keyboard.state_questions, 0);
   Set("DLSwitchScr", 1);
   machine.keyboard.states[kScroll] = 0x81;
   Update(5000, 5000);

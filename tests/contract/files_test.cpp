@@ -38,6 +38,27 @@ TEST_F(Files, WhatIsSavedIsLoaded) {
   }
 }
 
+TEST_F(Files, WhatIsAppendedStandsBehindTheRest) {
+  const std::string path = folder_ + "a.txt";
+  EXPECT_FALSE(files().Append(path, "x")) << "no file is made";
+  EXPECT_EQ(files().Size(path), std::nullopt);
+  ASSERT_TRUE(files().Save(path, "12"));
+  EXPECT_TRUE(files().Append(path, "345"));
+  EXPECT_EQ(files().Load(path, 100), "12345");
+  EXPECT_EQ(files().Size(path), 5U);
+  world_->KeepFromWriting(path, [&] { EXPECT_FALSE(files().Append(path, "6")); });
+  EXPECT_EQ(files().Size(folder_.substr(0, folder_.size() - 1)), std::nullopt) << "a folder";
+}
+
+TEST_F(Files, ARenamedFileReplacesTheOneOfThatName) {
+  ASSERT_TRUE(files().Save(folder_ + "new.txt", "new"));
+  ASSERT_TRUE(files().Save(folder_ + "old.txt", "old"));
+  EXPECT_TRUE(files().Rename(folder_ + "new.txt", folder_ + "old.txt"));
+  EXPECT_EQ(files().List(folder_, "*"), std::vector<std::string>{"old.txt"});
+  EXPECT_EQ(files().Load(folder_ + "old.txt", 100), "new");
+  EXPECT_FALSE(files().Rename(folder_ + "missing.txt", folder_ + "old.txt"));
+}
+
 TEST_F(Files, ALargerFileThanTheLimitIsNotLoaded) {
   const std::string path = folder_ + "a.txt";
   ASSERT_TRUE(files().Save(path, "12345"));
@@ -62,12 +83,26 @@ TEST_F(Files, AFolderIsNoFile) {
   EXPECT_TRUE(files().List(folder_, "*").empty());
 }
 
+TEST_F(Files, AFileThatCannotBeReadIsNotMissing) {
+  const std::string path = folder_ + "a.txt";
+  EXPECT_TRUE(files().Missing(path));
+  EXPECT_TRUE(files().Missing(folder_ + "missing\\a.txt"));
+  ASSERT_TRUE(files().Save(path, "x"));
+  world_->HoldFile(path, [&] {
+    EXPECT_EQ(files().Load(path, 100), std::nullopt);
+    EXPECT_FALSE(files().Missing(path));
+  });
+  EXPECT_EQ(files().Load(path, 100), "x");
+  world_->MakeFolder(folder_ + "inner");
+  EXPECT_FALSE(files().Missing(folder_ + "inner"));
+}
+
 TEST_F(Files, ARefusedSaveIsReported) {
   EXPECT_FALSE(files().Save(folder_ + "missing\\a.txt", "x"));
   EXPECT_FALSE(files().Save("", "x"));
   const std::string path = folder_ + "a.txt";
   ASSERT_TRUE(files().Save(path, "before"));
-  world_->KeepFromWriting(path, [&] { EXPECT_FALSE(files().Save(path, "after")); });
+  world_->HoldFile(path, [&] { EXPECT_FALSE(files().Save(path, "after")); });
   EXPECT_EQ(files().Load(path, 100), "before");
   EXPECT_EQ(files().List(folder_, "*"), std::vector<std::string>{"a.txt"}) << "something is left";
   EXPECT_TRUE(files().Save(path, "after"));

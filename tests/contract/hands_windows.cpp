@@ -79,6 +79,8 @@ int VirtualKey(platform::Key key) {
       return VK_HOME;
     case platform::Key::kEnd:
       return VK_END;
+    case platform::Key::kDelete:
+      return VK_DELETE;
     case platform::Key::kEnter:
       break;
   }

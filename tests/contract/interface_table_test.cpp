@@ -85,6 +85,19 @@ TEST_F(InterfaceTable, AnInterfaceThatDoesNotExistIsNoFilter) {
   EXPECT_NE(table().IsFilter(0x7FFFFFF0), true);
 }
 
+TEST_F(InterfaceTable, OctetsInFullAreThoseOfTheRow) {
+  for (const InterfaceRow& row : ReadRows()) {
+    SCOPED_TRACE(row.dwIndex);
+    const auto octets = table().Octets(row.dwIndex);
+    ASSERT_TRUE(octets.has_value());
+    // The interface may have moved a little since the row was read.
+    constexpr std::uint32_t kSome = 100000000;
+    EXPECT_LT(static_cast<std::uint32_t>(octets->in) - row.dwInOctets, kSome);
+    EXPECT_LT(static_cast<std::uint32_t>(octets->out) - row.dwOutOctets, kSome);
+  }
+  EXPECT_FALSE(table().Octets(0x7FFFFFF0).has_value());
+}
+
 TEST_F(InterfaceTable, SomethingRemainsWhenFiltersAreLeftOut) {
   int real = 0;
   for (const InterfaceRow& row : ReadRows())

@@ -220,6 +220,17 @@ TEST_F(Registry, AWriteReplacesValueAndType) {
   EXPECT_EQ(Open()->ReadText("v"), std::nullopt);
 }
 
+TEST_F(Registry, AKeyThatIsOpenToBeReadRefusesToBeWritten) {
+  EXPECT_EQ(Open(KeyAccess::kReadOnly), nullptr) << "it is not made";
+  Open()->WriteDword("v", 3);
+  const auto key = Open(KeyAccess::kReadOnly);
+  ASSERT_NE(key, nullptr);
+  EXPECT_EQ(key->ReadDword("v"), 3U);
+  EXPECT_THROW(key->WriteDword("v", 4), std::runtime_error);
+  EXPECT_FALSE(key->Delete("v"));
+  EXPECT_EQ(key->ReadDword("v"), 3U);
+}
+
 TEST_F(Registry, DeletingSaysWhetherTheValueWasThere) {
   Open()->WriteDword("v", 3);
   EXPECT_TRUE(Open()->Delete("v"));

@@ -17,6 +17,7 @@ using platform::Rect;
 using platform::windows::WidgetWindow;
 
 struct Heard : platform::TopWindowEvents {
+  void OnContextMenu(platform::Point) override { ++context_menus; }
   void OnResume() override { ++resumes; }
   void OnEndSession() override { ++session_ends; }
   void OnMouseMove(const platform::MouseEvent&) override { throw std::runtime_error("a fault"); }
@@ -25,6 +26,7 @@ struct Heard : platform::TopWindowEvents {
     if (bounds.left < 15) bounds.left = 0;
   }
   std::vector<Rect> asked;
+  int context_menus = 0;
   int resumes = 0;
   int session_ends = 0;
 };
@@ -215,6 +217,14 @@ TEST_F(RealTopWindow, WhereAnotherProgramMovesTheWindowItIsAskedOnceAtTheEnd) {
   EXPECT_EQ(heard_.asked.size(), 1U) << "sized, not moved";
 }
 
+TEST_F(RealTopWindow, HangsOnThePointerWhereTheButtonWentDownHoweverLongTheFirstMove) {
+  ::SendMessageW(Window(), WM_PARENTNOTIFY, WM_LBUTTONDOWN, MAKELPARAM(19, 29));
+  ::SetCursorPos(420, 330);
+  ::PostMessageW(Window(), WM_LBUTTONUP, 0, 0);
+  window_->BeginDrag();
+  EXPECT_EQ(window_->Bounds(), (Rect{400, 300, 274, 135}));
+}
+
 // Fills its surface with a colour and, inside, asks for another painting.
 struct Green : platform::WidgetEvents {
   void OnPaint(platform::Canvas& canvas) override {
@@ -271,6 +281,35 @@ TEST_F(RealTopWindow, AMenuEntryIsAboutAsWideAsItMeasured) {
   EXPECT_EQ(machine_.platform().menus.Popup(*window_, {300, 300}, {entry}, painter), 0);
   EXPECT_EQ(painter.painted.height, 18);
   EXPECT_NEAR(painter.painted.width, 150, 3) << "without the check mark that the system adds";
+}
+
+// Presses a key when the menu stands.
+struct KeyPresser final : platform::MenuPainter {
+  platform::Size Measure(const platform::MenuEntry&, platform::Canvas&, int) override {
+    return {150, 18};
+  }
+  void Paint(const platform::MenuEntry&, const platform::MenuEntryState&, platform::Canvas&,
+             const Rect&) override {
+    ::PostMessageW(::FindWindowW(L"TremoluxMenu", nullptr), WM_KEYDOWN, VK_F7, 0);
+  }
+  void Highlighted(const platform::MenuEntry*, const Rect&) override {}
+};
+
+TEST_F(RealTopWindow, TheKeysOfAMenuEntryChooseItAlsoInAClosedSubmenu) {
+  KeyPresser painter;
+  platform::MenuEntry entry;
+  entry.id = 1;
+  entry.text = "Submenu";
+  entry.children = {{}, {}};
+  entry.children[0].id = 2;
+  entry.children[1].id = 3;
+  entry.children[1].keys = {VK_F7};
+  EXPECT_EQ(machine_.platform().menus.Popup(*window_, {300, 300}, {entry}, painter), 3);
+}
+
+TEST_F(RealTopWindow, TheKeyOfTheMenuBarOpensTheMenuThatABareWindowHas) {
+  ::SendMessageW(Window(), WM_SYSCOMMAND, SC_KEYMENU, 0);
+  EXPECT_EQ(heard_.context_menus, 1);
 }
 
 }  // namespace

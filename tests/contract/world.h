@@ -51,8 +51,8 @@ class World {
   // A folder of the test's own, empty at first, with a backslash at its end.
   [[nodiscard]] virtual std::string ScratchFolder() = 0;
   virtual void MakeFolder(std::string_view path) = 0;
-  // Keeps others from writing a file that is there, as long as `meanwhile` runs.
-  virtual void KeepFromWriting(std::string_view path, const std::function<void()>& meanwhile) = 0;
+  // Another program has a file open and shares it with nobody, as long as `meanwhile` runs.
+  virtual void HoldFile(std::string_view path, const std::function<void()>& meanwhile) = 0;
 
   // What the clipboard holds, as another program reads it.
   [[nodiscard]] virtual std::string ClipboardText() = 0;

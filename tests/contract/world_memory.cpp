@@ -45,10 +45,10 @@ class MemoryWorld : public World {
 
   void MakeFolder(std::string_view path) override { machine_.files.AddFolder(path); }
 
-  void KeepFromWriting(std::string_view path, const std::function<void()>& meanwhile) override {
-    machine_.files.SetWritable(path, false);
+  void HoldFile(std::string_view path, const std::function<void()>& meanwhile) override {
+    machine_.files.SetHeld(path, true);
     meanwhile();
-    machine_.files.SetWritable(path, true);
+    machine_.files.SetHeld(path, false);
   }
 
   std::string ClipboardText() override { return machine_.clipboard.text; }

@@ -110,10 +110,9 @@ class WindowsWorld : public World {
     }
   }
 
-  // A file that another program has open, and does not share for writing.
-  void KeepFromWriting(std::string_view path, const std::function<void()>& meanwhile) override {
-    const FileHandle file(::CreateFileW(ToWide(path).c_str(), GENERIC_READ, FILE_SHARE_READ,
-                                        nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+  void HoldFile(std::string_view path, const std::function<void()>& meanwhile) override {
+    const FileHandle file(::CreateFileW(ToWide(path).c_str(), GENERIC_READ, 0, nullptr,
+                                        OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
     if (!file) ThrowSystemError("CreateFile", ::GetLastError());
     meanwhile();
   }

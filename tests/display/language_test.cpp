@@ -36,7 +36,7 @@ TEST_F(LanguageChoice, CountsAtOnceInMenuLineAndGraphAndAtTheNextStart) {
     ChooseLanguage("German");
     EXPECT_EQ(Line(), "[ Durchschnitt DL:1 kB UL:2 kB ]") << "before another scan";
     EXPECT_TRUE(Entry("Immer im Vordergrund").checked);
-    EXPECT_EQ(Entry("Diagrammtransparenz").hint, "Tastenkürzel [ Strg+Alt+S ]");
+    EXPECT_EQ(Entry("Diagrammtransparenz").hint, "Tastenkürzel [ Ctrl+Alt+S ]");
     EXPECT_EQ(Widget("_tlkInterMeter").text, "Datenverkehr");
     EXPECT_EQ(StoredText("Language"), "German");
   });

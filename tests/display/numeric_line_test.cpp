@@ -104,6 +104,46 @@ TEST_F(NumericLine, AChangedAveragePeriodStartsTheAverageAnew) {
   });
 }
 
+TEST(NumericLineForm, IsKnownInEveryLanguageAndUnitAndNothingElseIs) {
+  struct Row {
+    const char* why;
+    const char* text;
+    bool is_line;
+  };
+  static constexpr Row kRows[] = {
+      {"current", "[ DL:1,5 kB UL:0,0 kB ]", true},
+      {"a decimal point", "[ DL:0.97 MB UL:146.4 kB ]", true},
+      {"no decimals", "[ DL:1 GB UL:1023 TB ]", true},
+      {"zero bits", "[ DL:0,0 kbit UL:1,5 kbits ]", true},
+      {"large bits", "[ DL:9,765 Mbits UL:0,9313 Tbits ]", true},
+      {"an amount in a gap", "[ DL:  UL:2 Gbits ]", true},
+      {"both in a gap", "[ DL:  UL:  ]", true},
+      {"average", "[ Average DL:3 kB UL:1 kB ]", true},
+      {"average after a reset", "[ Average DL:0,0 kB  UL:0,0 kB ]", true},
+      {"another language", "[ \xE5\xB9\xB3\xE5\x9D\x87 DL:3 kB UL:1 kB ]", true},
+      {"words", "[ En promedio DL:3 kB UL:1 kB ]", true},
+      {"maximum", "[ Max DL:1 kB Max UL:2 kB ]", true},
+      {"all three",
+       "[ DL:0,0 kB UL:0,0 kB ][ Average DL:0,0 kB UL:0,0 kB ][ Max DL:0,0 kB Max UL:0,0 kB ]",
+       true},
+      {"all modes off", "", false},
+      {"a name", " Inbox", false},
+      {"brackets", "[ DL ]", false},
+      {"one amount only", "[ DL:1 kB ]", false},
+      {"another unit", "[ DL:1 km UL:2 km ]", false},
+      {"no number", "[ DL:all kB UL:2 kB ]", false},
+      {"the word and DL are one", "[ xDL:1 kB UL:2 kB ]", false},
+      {"something before", "x[ DL:1 kB UL:2 kB ]", false},
+      {"something behind", "[ DL:1 kB UL:2 kB ] x", false},
+      {"cut", "[ DL:1 kB UL:2 kB", false},
+      {"the second is none", "[ DL:1 kB UL:2 kB ][ Average ]", false},
+  };
+  for (const Row& row : kRows) {
+    SCOPED_TRACE(row.why);
+    EXPECT_EQ(display::IsNumericLine(row.text), row.is_line);
+  }
+}
+
 TEST_F(NumericLine, AnEqualTextIsNotSetAgain) {
   Set("SOM1", 1);
   Set("SOM2", 0);

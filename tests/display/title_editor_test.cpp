@@ -93,6 +93,12 @@ TEST_F(TitleEditor, AddsWhatIsTypedAndRemovesWhatIsSelected) {
       machine.windowing.Choose("WindowTitlesListbox", 1);
       machine.windowing.Press("btnRemove");
       EXPECT_EQ(Shown(), (Lines{"two"}));
+      Add("x");
+      Add("y");
+      machine.windowing.Choose("WindowTitlesListbox", 1);
+      machine.windowing.PressKey("WindowTitlesListbox", platform::Key::kDelete);
+      machine.windowing.PressKey("WindowTitlesListbox", platform::Key::kDelete);
+      EXPECT_EQ(Shown(), (Lines{"two"}));
       Add("two");
       Ok();
     });
@@ -100,34 +106,58 @@ TEST_F(TitleEditor, AddsWhatIsTypedAndRemovesWhatIsSelected) {
   });
 }
 
-TEST_F(TitleEditor, ReadsAnyFileAndLeavesOneThatCannotBeWritten) {
-  std::string many;
-  for (int line = 0; line < 10000; ++line) many += "title " + std::to_string(line) + "\n";
-  const std::string many_kept = [&] {
-    std::string kept;
-    for (const char letter : many)
-      kept += letter == '\n' ? std::string("\r\n") : std::string(1, letter);
-    return kept;
-  }();
+TEST_F(TitleEditor, KeepsWhatItDoesNotShowAndSaysSo) {
+  const std::string path = machine.files.ProgramFolder() + std::string(kFile);
+  const auto lines = [](int count, const std::string& end) {
+    std::string text;
+    for (int line = 0; line < count; ++line) text += "title " + std::to_string(line) + end;
+    return text;
+  };
+  const std::string huge((std::size_t{16} << 20U) + 1, 'x');
+  const auto hold = [&] { machine.files.SetHeld(path, true); };
+  const auto protect = [&] { machine.files.SetWritable(path, false); };
+  const std::string unreadable = "WindowTitles.tit can't be read. The file stays as it is.";
+  const std::string too_many =
+      "Only 10000 titles are shown and used. The file keeps those that follow.";
   struct Row {
     const char* why;
     std::string before;
-    bool writable;
+    std::function<void()> prepare;
     std::string after;
+    std::string note;
+    std::size_t balloons = 0;
   };
   const Row rows[] = {
-      {"UTF-8 with a mark", "\xEF\xBB\xBF\xC3\xA9\r\n", true, "\xC3\xA9\r\n"},
-      {"the system's code page", "caf\xE9\n", true, "caf\xC3\xA9\r\n"},
-      {"an empty line, and no end of the last", "\n\nx", true, "\r\n\r\nx\r\n"},
-      {"ten thousand lines", many, true, many_kept},
-      {"one that cannot be replaced", "x\n", false, "x\n"},
+      {"UTF-8 with a mark", "\xEF\xBB\xBF\xC3\xA9\r\n", {}, "\xC3\xA9\r\nnew\r\n", ""},
+      {"the system's code page", "caf\xE9\n", {}, "caf\xC3\xA9\r\nnew\r\n", ""},
+      {"an empty line, and no end of the last", "\n\nx", {}, "\r\n\r\nx\r\nnew\r\n", ""},
+      {"one that cannot be replaced", "x\n", protect, "x\n", "", 1},
+      {"held by another program", "x\n", hold, "x\n", unreadable},
+      {"over 16 MiB", huge, {}, huge, unreadable},
+      {"one below the most", lines(9999, "\n"), {}, lines(9999, "\r\n") + "new\r\n", ""},
+      {"the most: nothing is added", lines(10000, "\n"), {}, lines(10000, "\r\n"), too_many},
+      {"more: they stay",
+       lines(10000, "\n") + "a\n\nb",
+       {},
+       lines(10000, "\r\n") + "a\n\nb",
+       too_many},
   };
   for (const Row& row : rows) {
     SCOPED_TRACE(row.why);
     Put(row.before);
-    machine.files.SetWritable(machine.files.ProgramFolder() + std::string(kFile), row.writable);
-    Run([&] { Edit([&] { Ok(); }); });
-    EXPECT_EQ(File(), row.after);
+    if (row.prepare) row.prepare();
+    machine.notification_area.balloons.clear();
+    Run([&] {
+      Edit([&] {
+        EXPECT_EQ(Widget("Note").text, row.note);
+        if (Widget("btnAdd").enabled) Add("new");
+        Ok();
+      });
+      EXPECT_EQ(machine.notification_area.balloons.size(), row.balloons);
+    });
+    machine.files.SetHeld(path, false);
+    machine.files.SetWritable(path, true);
+    EXPECT_TRUE(File() == row.after) << File().substr(0, 100);
   }
   EXPECT_FALSE(machine.files.BytesBesideProgram("err.log"));
 }
@@ -140,6 +170,7 @@ TEST_F(TitleEditor, AMissingFileIsAnEmptyListAndAListThatCannotBeStoredIsUsed) {
     Edit([&] {
       EXPECT_TRUE(Shown().empty());
       EXPECT_EQ(Widget("WindowTitlesListbox").index, -1);
+      EXPECT_EQ(Widget("Note").text, "");
       Add("NOTE");
       Ok();
     });

@@ -103,16 +103,6 @@ TEST_F(Titles, TheListIsReadHoweverItWasWritten) {
   machine.files.Remove("C:\\Program Files\\Tremolux\\WindowTitles.tit");
 }
 
-TEST_F(Titles, ALongListIsWrittenAndReadBack) {
-  display::TitleLines lines;
-  for (int i = 0; i < 10000; ++i) lines.push_back("title " + std::to_string(i) + "\xC3\xA4");
-  lines.emplace_back("");
-  lines.emplace_back("last");
-  ASSERT_TRUE(display::SaveTitleLines(machine.files, lines));
-  EXPECT_TRUE(machine.files.BytesBesideProgram(kListFile)->starts_with("title 0\xC3\xA4\r\n"));
-  EXPECT_EQ(display::LoadTitleLines(machine.files, machine.locale), lines);
-}
-
 TEST_F(Titles, ModeThreeFollowsTheWindowInFront) {
   const WindowId notes = Add("Notes");
   const WindowId mail = Add("Mail");
@@ -147,16 +137,16 @@ TEST_F(Titles, WithoutPostingNothingIsTouchedToTheEnd) {
   }
 }
 
-TEST_F(Titles, SwitchedOffTheMarkersStayUntilTheEnd) {
-  const WindowId notes = Add("Notes");
-  Mode(1);
-  Run([&] {
-    Scan({});
-    Mode(0);
-    Scan({500, 0});
-    EXPECT_EQ(Title(notes), "Notes|[ DL:0,0 kB UL:0,0 kB ]");
-  });
-  EXPECT_EQ(Title(notes), "Notes");
+TEST_F(Titles, WhatAKilledRunLeftBehindGoesAtTheEndOfTheNext) {
+  const WindowId notes = Add("a|b|[ DL:1,5 MB UL:2 kB ][ Durchschnitt DL:  UL:3 kB ]");
+  const WindowId lengthy = Add(std::string(255, 'c') + "|[ DL:1 kB UL:2 kB ]");
+  const WindowId bar = Add("Mail|Inbox");
+  const WindowId empty = Add("Sheet|");
+  Run([&] { Scan({}); });
+  EXPECT_EQ(Title(notes), "a|b");
+  EXPECT_EQ(Title(lengthy), std::string(255, 'c'));
+  EXPECT_EQ(Title(bar), "Mail|Inbox");
+  EXPECT_EQ(Title(empty), "Sheet|") << "it may be the window's own";
 }
 
 TEST_F(Titles, TheEndOfTheSessionTakesThemAwayAndNoScanPutsThemBack) {

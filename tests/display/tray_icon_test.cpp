@@ -151,6 +151,28 @@ TEST_F(Tray, AdaptersThatComeDoNotEmptyTheHistory) {
   });
 }
 
+TEST_F(Tray, TheShellIsGivenOnlyWhatItDoesNotShow) {
+  Run([&] {
+    const auto updates_of = [&](test::Traffic traffic) {
+      const int before = machine.notification_area.picture_updates;
+      Scan(traffic);
+      return machine.notification_area.picture_updates - before;
+    };
+    EXPECT_EQ(updates_of({}), 0) << "an idle line";
+    EXPECT_EQ(updates_of({5000, 0}), 1) << "the upper half";
+    EXPECT_EQ(updates_of({5000, 800}), 2);
+    machine.notification_area.busy = true;
+    for (int i = 0; i < 20; ++i) Scan({});
+    EXPECT_EQ(updates_of({}), 2) << "what was not taken is given again";
+    machine.notification_area.busy = false;
+    EXPECT_EQ(updates_of({}), 2);
+    EXPECT_EQ(Bar(1, kRed), 0);
+    EXPECT_EQ(updates_of({}), 0);
+    machine.notification_area.picture_size = 32;
+    EXPECT_EQ(updates_of({}), 2) << "another size";
+  });
+}
+
 TEST_F(Tray, ClearGraphEmptiesTheHistogram) {
   Run([&] {
     Scan({5000, 800});

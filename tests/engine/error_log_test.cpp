@@ -8,11 +8,13 @@ namespace {
 
 class ErrorLog : public testing::Test {
  protected:
-  std::string File() { return machine.files.BytesBesideProgram("err.log").value_or("(none)"); }
+  std::string File(const char* name = "err.log") {
+    return machine.files.BytesBesideProgram(name).value_or("(none)");
+  }
 
   platform::memory::Machine machine;
   std::vector<std::string> memo;
-  engine::ErrorLog log{machine.files, memo};
+  engine::ErrorLog log{machine.files, machine.locale, memo};
   const std::string folder = machine.files.ProgramFolder();
 };
 
@@ -20,6 +22,7 @@ TEST_F(ErrorLog, GrowsByALineAMessage) {
   log.Append("first");
   log.Append("second, in \xC3\xBCmlauts");
   EXPECT_EQ(File(), "first\r\nsecond, in \xC3\xBCmlauts\r\n");
+  EXPECT_EQ(machine.files.loads + machine.files.saves, 1) << "made once, and then only appended to";
 }
 
 TEST_F(ErrorLog, KeepsTheLinesOfAFileThatIsThere) {
@@ -37,12 +40,14 @@ TEST_F(ErrorLog, KeepsTheLinesOfAFileThatIsThere) {
        "\xEF\xBB\xBF"
        "a\r\n",
        "a\r\nnew\r\n"},
+      {"UTF-16", std::string("\xFF\xFE\xFC\0\r\0\n\0", 8), "\xC3\xBC\r\nnew\r\n"},
+      {"the code page", "\xFC\r\n", "\xC3\xBC\r\nnew\r\n"},
   };
   for (const Row& row : rows) {
     SCOPED_TRACE(row.why);
     memo = {"what the memo held before"};
     machine.files.PutBesideProgram("err.log", row.bytes);
-    log.Append("new");
+    engine::ErrorLog(machine.files, machine.locale, memo).Append("new");
     EXPECT_EQ(File(), row.after);
   }
 }
@@ -71,17 +76,27 @@ TEST_F(ErrorLog, WhatCannotBeWrittenIsKeptForLater) {
   EXPECT_EQ(File(), "a\r\nb\r\nc\r\n");
 }
 
-TEST_F(ErrorLog, AFullLogStaysAsItIs) {
+TEST_F(ErrorLog, LinesThatTheUserTookOutStayOut) {
+  log.Append("a");
+  log.Append("b");
+  machine.files.PutBesideProgram("err.log", "b");
+  log.Append("c");
+  EXPECT_EQ(File(), "b\r\nc\r\n");
+}
+
+TEST_F(ErrorLog, AFullLogIsPutAsideAndANewOneBegins) {
   const std::string full = std::string(engine::kErrorLogLimit - 7, 'x') + "\r\n";
   machine.files.PutBesideProgram("err.log", full);
-  log.Append("1234");
-  EXPECT_EQ(File(), full) << "the message does not fit any more";
   log.Append("123");
-  EXPECT_EQ(File(), full + "123\r\n") << "this one does, just";
+  EXPECT_EQ(File(), full + "123\r\n") << "this one fits, just";
+  log.Append("new");
+  EXPECT_EQ(File(), "new\r\n");
+  EXPECT_EQ(File("err.old.log"), full + "123\r\n");
   const std::string larger(engine::kErrorLogLimit + 1, 'x');
   machine.files.PutBesideProgram("err.log", larger);
-  log.Append("new");
-  EXPECT_EQ(File(), larger) << "what is too large to be read is not overwritten";
+  log.Append("newer");
+  EXPECT_EQ(File(), "newer\r\n");
+  EXPECT_EQ(File("err.old.log"), larger) << "in the place of the one before";
 }
 
 TEST_F(ErrorLog, AFileThatCannotBeReadIsNotOverwritten) {

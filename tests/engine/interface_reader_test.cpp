@@ -80,13 +80,22 @@ TEST_F(InterfaceReader, FiltersAreLeftOutAndAskedAboutOnce) {
   EXPECT_EQ(source.filter_questions, 4) << "an index in other hands is asked about again";
 }
 
-TEST_F(InterfaceReader, AQuestionThatWasRefusedIsAskedAgain) {
+TEST_F(InterfaceReader, ARowThatTheSystemDoesNotKnowYetWaits) {
   source.AddRow(MakeRow("card"));
   source.MarkFilter(source.AddRow(MakeRow("filter")).dwIndex);
   machine.notebook.FailCall(4);  // two calls for the table, one for the card
-  EXPECT_EQ(Read(), "card filter ");
   EXPECT_EQ(Read(), "card ");
-  EXPECT_EQ(source.filter_questions, 3);
+  reader.ReadInterfaceTable(table, engine::NewRows::kLeaveOut);
+  EXPECT_EQ(source.filter_questions, 2) << "not asked";
+  EXPECT_EQ(Read(), "card ");
+  EXPECT_EQ(source.filter_questions, 3) << "and now it is a filter";
+
+  source.AddRow(MakeRow("vpn"));
+  for (const char* names : {"card ", "card ", "card vpn ", "card vpn "}) {
+    machine.notebook.FailCall(3);
+    EXPECT_EQ(Read(), names);
+  }
+  EXPECT_EQ(source.filter_questions, 6) << "three refusals are enough";
 }
 
 TEST_F(InterfaceReader, ATableOfNothingButFiltersCountsAsEmpty) {

@@ -273,6 +273,39 @@ TEST(Sampler, AFailedReadOfTheTableIsMadeUpForByTheNextScan) {
   EXPECT_EQ(world.Sample(70, 80).ScanSumDL, 570);
 }
 
+TEST(Sampler, OctetsThatFellWithoutAWrapAreANewBase) {
+  struct Row {
+    const char* why;
+    std::uint32_t in, out;  // of the driver that began anew; both stood at 5000
+    bool answers;           // whether the system knows the counters in 64 bits
+    std::int64_t dl, ul;
+  };
+  static constexpr std::int64_t kWrap = std::int64_t{1} << 32;
+  static constexpr Row kRows[] = {
+      {"both fell", 30, 40, true, 0, 0},
+      {"one fell: the other is of another driver too", 30, 9000, true, 0, 0},
+      {"sent octets alone", 9000, 40, true, 0, 0},
+      {"without an answer it is a wrap", 30, 5040, false, kWrap - 4970, 40},
+      {"the same", 5000, 5000, true, 0, 0},
+  };
+  for (const Row& row : kRows) {
+    SCOPED_TRACE(row.why);
+    test::Engine world;
+    platform::InterfaceRow& card = world.AddAdapter("card");
+    card.dwInOctets = card.dwOutOctets = 5000;
+    (void)world.Initialise();
+    card.dwInOctets = row.in;
+    card.dwOutOctets = row.out;
+    if (!row.answers) world.machine.notebook.FailCall(3);  // behind the two of the table
+    const ScanAmounts scan = world.Sample(0, 0);
+    EXPECT_EQ(scan.ScanSumDL, row.dl);
+    EXPECT_EQ(scan.ScanSumUL, row.ul);
+    const int questions = world.machine.interface_table.octet_questions;
+    EXPECT_EQ(world.Sample(7, 8).ScanSumDL, 7) << "and counts from there";
+    EXPECT_EQ(world.machine.interface_table.octet_questions, questions) << "asked once";
+  }
+}
+
 TEST(Sampler, AfterSleepTheCountersAreTakenAsTheyStand) {
   test::Engine world;
   world.AddAdapter("a");

@@ -67,18 +67,16 @@ TEST(Sources, TheProgramDoesWithoutStreamsAndLocales) {
 
 // Nearly every test runs by lying in a folder that the build lists.
 TEST(Sources, EveryFolderOfTestsIsBuilt) {
-  const std::string build = ReadFile("cmake/tests.cmake");
+  std::string build = ReadFile("cmake/tests.cmake");
   ASSERT_FALSE(build.empty());
+  std::replace_if(
+      build.begin(), build.end(), [](char c) { return c == '"' || c == ';' || c == ')'; }, ' ');
   for (const Source& source : AllSources()) {
     if (!source.path.starts_with("tests/") || source.IsHeader()) continue;
     if (source.path.find("_test") == std::string::npos) continue;  // what tests share
     const std::string folder = source.path.substr(0, source.path.rfind('/'));
-    const std::size_t named = build.find(folder);
-    const bool listed =
-        named != std::string::npos && named > 0 &&
-        std::string_view(" \";").find(build[named - 1]) != std::string::npos &&
-        std::string_view(" \";)").find(build[named + folder.size()]) != std::string::npos;
-    EXPECT_TRUE(listed) << source.path << " lies in a folder that cmake/tests.cmake does not list";
+    EXPECT_NE(build.find(' ' + folder + ' '), std::string::npos)
+        << source.path << " lies in a folder that cmake/tests.cmake does not list";
   }
 }
 

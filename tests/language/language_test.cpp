@@ -55,7 +55,10 @@ TEST_F(Language, ReadsWhatUsersWriteIntoIniFiles) {
       {"blanks everywhere", " [ Security ] \n\t Title \t=  A b  \n", "A b"},
       {"quotes keep blanks", "[Security]\nTitle=\" A \"\n", " A "},
       {"quotes around quotes", "[Security]\nTitle=\"\"A\" or \"B\"\"\n", "\"A\" or \"B\""},
-      {"a single quote is a character", "[Security]\nTitle=\"\n", "\""},
+      {"one quote is a character", "[Security]\nTitle=\"\n", "\""},
+      {"single quotes keep them too", "[Security]\nTitle=' A '\n", " A "},
+      {"one pair of either goes", "[Security]\nTitle='\"A\"'\n", "\"A\""},
+      {"two kinds are no pair", "[Security]\nTitle='A\"\n", "'A\""},
       {"equals signs in the text", "[Security]\nTitle=A=B\n", "A=B"},
       {"a comment", "[Security]\n;Title=A\nTitle=B ; no comment\n", "B ; no comment"},
       {"a text that is empty on purpose", "[Security]\nTitle=\n", ""},
@@ -135,6 +138,17 @@ TEST_F(Language, AStoredLanguageCountsAtOnceAndItsFileIsReadOnce) {
   EXPECT_EQ(Title(), "2");
   store.Write(settings::setting::Language, "");
   EXPECT_EQ(Title(), kEnglishTitle);
+}
+
+TEST_F(Language, AFileThatCouldNotBeReadIsTriedAgainByTheNextWindow) {
+  Put("one", "[Security]\nTitle=1\n");
+  store.Write(settings::setting::Language, "one");
+  machine.notebook.FailCall(4);  // the stored name, the list of the folder, the file
+  EXPECT_EQ(Title(), kEnglishTitle);
+  EXPECT_FALSE(machine.notebook.FailurePending());
+  EXPECT_EQ(Title(), kEnglishTitle) << "a scan costs no file";
+  EXPECT_EQ(language.Chosen()(text::Security::Title), "1");
+  EXPECT_EQ(Title(), "1");
 }
 
 TEST_F(Language, ChoosingALanguageAgainReadsItsEditedFile) {

@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <fstream>
 #include <functional>
+#include <iterator>
 #include <string>
 #include <utility>
 #include <vector>
@@ -175,6 +177,23 @@ TEST_F(PreferenceOptions, TheCustomSpeedIsAnEighthOfWhatIsShownAndOutlastsAFixed
   });
 }
 
+TEST_F(PreferenceOptions, NeitherALookNorAResetChangesTheScaleOrTheCap) {
+  Set("GraphScaleType", 16);
+  Set("SpeedLimit", 128000);
+  RunOpen([&] {
+    EXPECT_EQ(Meter().graph.SpeedLimit, 16000) << "as at the start";
+    EXPECT_EQ(Meter().SpeedCap, 0) << "a fresh run has no cap";
+    ChoosePage("Graph Other");
+    User().PressKey("CustomScale", platform::Key::kUp);
+    EXPECT_EQ(Meter().SpeedCap, 128128);
+    ChoosePage("Reset Settings");
+    User().Press("R3");
+    User().Press("btnResetSettings");
+    EXPECT_EQ(Meter().graph.SpeedLimit, 128128);
+    EXPECT_EQ(Meter().SpeedCap, 128128);
+  });
+}
+
 TEST_F(PreferenceOptions, OfTheNumericLineWorkedOnceWriteTheirValueAndShowInTheMeter) {
   RunOpen([&] {
     Check({
@@ -216,7 +235,11 @@ TEST_F(PreferenceOptions, OfTheNumericLineWorkedOnceWriteTheirValueAndShowInTheM
 
 TEST_F(PreferenceOptions, OfTrayIconAndWindowWorkedOnceWriteTheirValueAndShowInTheMeter) {
   Set("Transparent2k", 1);
+  std::ifstream icons(SOURCE_FOLDER "/assets/Icons/default.bmp", std::ios::binary);
+  machine.files.PutBesideProgram("Icons\\default.bmp",
+                                 std::string(std::istreambuf_iterator<char>(icons), {}));
   RunOpen([&] {
+    Scan({5000, 800});  // so that the histogram is not the empty one
     const auto pictures = [&] { return machine.notification_area.picture_updates; };
     int before = 0;
     const auto pictured = [&](std::function<void()> act) {
@@ -370,12 +393,40 @@ TEST_F(PreferenceOptions, AutostartFollowsItsBoxAlsoWhenTheBoxFollowsTheStore) {
   });
 }
 
+TEST_F(PreferenceOptions, PostedTitlesStayWhateverIsChosenUntilTheEnd) {
+  const platform::WindowId notes = machine.other_windows.Add("Notes");
+  const platform::WindowId bar = machine.other_windows.Add("Mail | Inbox");
+  const auto title = [&](platform::WindowId window) {
+    return machine.other_windows.Find(window).title;
+  };
+  machine.files.PutBesideProgram("WindowTitles.tit", "note\n");
+  RunOpen([&] {
+    ChoosePage("Numeric Other");
+    User().Press("Post2");
+    Scan({});
+    const std::string posted = title(notes);
+    EXPECT_NE(posted, "Notes");
+    User().Press("Post0");
+    EXPECT_EQ(title(notes), posted);
+    User().Press("Post2");
+    ChoosePage("Reset Settings");
+    User().Press("R6");
+    User().Press("btnResetSettings");
+    EXPECT_EQ(Stored("WindowTitle"), 0U);
+    Scan({});
+    EXPECT_EQ(title(notes), posted);
+    EXPECT_EQ(title(bar), "Mail | Inbox");
+  });
+  EXPECT_EQ(title(notes), "Notes");
+}
+
 TEST_F(PreferenceOptions, AnotherLanguageCountsAtOnceInAllWindows) {
   machine.files.PutBesideProgram("Languages\\Pirate.lng",
                                  "[MainForm]\nS1=Booty\n[SettingsForm]\nTitle=Rigging\n"
+                                 "LanguageName=Arrr\n"
                                  "chkShowHints=Parrot\nTreeItem0=Captain\n");
   RunOpen([&] {
-    EXPECT_EQ(Widget("cmbLanguage").items, (std::vector<std::string>{"English", "Pirate"}));
+    EXPECT_EQ(Widget("cmbLanguage").items, (std::vector<std::string>{"English", "Arrr"}));
     User().Choose("cmbLanguage", 1);
     EXPECT_EQ(StoredText("Language"), "Pirate");
     EXPECT_EQ(Line(), "[ Booty DL:0,0 kB UL:0,0 kB ]");
@@ -383,12 +434,15 @@ TEST_F(PreferenceOptions, AnotherLanguageCountsAtOnceInAllWindows) {
     EXPECT_EQ(Widget("chkShowHints").text, "Parrot");
     EXPECT_EQ(Widget("TreeItems").items[0], "Captain");
     EXPECT_EQ(Widget("TreeItems").index, 0);
+    machine.files.PutBesideProgram("Languages\\Pirate.lng", "[SettingsForm]\nTitle=Sails\n");
+    User().Choose("cmbLanguage", 1);
+    EXPECT_EQ(Widget(kForm).text, "Sails") << "chosen again, the edited file is read";
     // A file that came while the window was closed.
     Close();
     machine.files.PutBesideProgram("Languages\\Aaa.lng", "");
     Open();
-    EXPECT_EQ(Widget("cmbLanguage").items.size(), 3U);
-    EXPECT_EQ(Widget("cmbLanguage").text, "Pirate");
+    EXPECT_EQ(Widget("cmbLanguage").items, (std::vector<std::string>{"English", "Aaa", "Arrr"}));
+    EXPECT_EQ(Widget("cmbLanguage").text, "Arrr");
   });
 }
 

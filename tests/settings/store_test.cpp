@@ -103,6 +103,23 @@ TEST_F(Store, AReadNeverFailsAlsoWhereNothingCanBeStored) {
   EXPECT_FALSE(store.WriteString(KeyIndex::kSettings, "t", "x"));
 }
 
+TEST_F(Store, AKeyThatCanOnlyBeReadIsRead) {
+  store.WriteInteger("n", 1);
+  store.WriteBool("b", true);
+  store.WriteDate("d", 45000.5);
+  store.WriteColor("c", 0x123456);
+  store.WriteString(KeyIndex::kSettings, "t", "x");
+  machine.registry.DenyWriting(kSettings);
+  EXPECT_EQ(store.ReadInteger("n", 5), 1);
+  EXPECT_TRUE(store.ReadBool("b", false));
+  EXPECT_EQ(store.ReadDate("d", 1.25), 45000.5);
+  EXPECT_EQ(store.ReadColor("c", 0), 0x123456U);
+  EXPECT_EQ(store.ReadString(KeyIndex::kSettings, "t", ""), "x");
+  EXPECT_EQ(store.ReadInteger("missing", 5), 5);
+  EXPECT_FALSE(store.WriteInteger("n", 2));
+  EXPECT_FALSE(machine.registry.Exists(kSettings, "missing"));
+}
+
 TEST_F(Store, ARefusedWriteReachesTheCallerAndLeavesTheOldValue) {
   store.WriteInteger("n", 1);
   machine.notebook.FailCall(2);
@@ -178,6 +195,17 @@ TEST_F(Store, ACounterThatIsNoNumberIsAnError) {
       EXPECT_STREQ(error.what(),
                    ("'" + std::string(row.text) + "' is not a valid integer value").c_str());
     }
+  }
+}
+
+TEST_F(Store, ALongTextThatIsNoNumberIsQuotedByItsBeginning) {
+  machine.registry.Set(kSettings, "InfoMaxDL", RegistryValue::Text(std::string(65536, '\x07')));
+  try {
+    (void)store.Read(setting::InfoMaxDL);
+    ADD_FAILURE() << "read as a number";
+  } catch (const settings::ConversionError& error) {
+    EXPECT_EQ(error.what(), "'" + std::string(100, '\x07') +
+                                "' and so on, 65536 bytes, is not a valid integer value");
   }
 }
 

@@ -255,6 +255,9 @@ TEST_F(StatisticsWindows, TheAddressIsCopiedWhenTheMouseIsReleased) {
   EXPECT_EQ(machine.clipboard.changes, 1) << "click and release are one";
   test::FindOn(*window, "Button1")->OnClick();  // the blank bar
   EXPECT_EQ(machine.clipboard.changes, 2);
+  machine.windowing.PressMouse("Button1");
+  Release(MouseButton::kLeft);  // elsewhere, which is no click
+  EXPECT_EQ(machine.clipboard.changes, 3);
 
   machine.clipboard.text.clear();
   Release(MouseButton::kRight);

@@ -8,7 +8,6 @@
 #include "toolkit/controls/panel.h"
 #include "toolkit/design_pixels.h"
 #include "toolkit/forms/form.h"
-#include "toolkit/forms/placement.h"
 #include "toolkit/menus/popup_menu.h"
 
 namespace toolkit {
@@ -108,6 +107,24 @@ TEST_F(Controls, HintsComeAfterThePauseAndStayForTheirTime) {
   EXPECT_FALSE(app.Hints().Showing());
 }
 
+TEST_F(Controls, ALongHintIsBrokenBetweenItsWordsOrElseWithinThem) {
+  machine.screen.monitors = {{{0, 0, 200, 800}, {0, 0, 200, 760}, 96}};
+  Label label(form, "label");
+  label.SetHint("some words in a line that is longer than the screen is wide\r" +
+                std::string(90, 'x'));
+  app.Hints().Pause = 0;
+  machine.windowing.Find("label").events->OnMouseEnter();
+  machine.timers.Advance(10);
+  const auto& hint = machine.windowing.Find("TremoluxHint");
+  EXPECT_LE(hint.bounds.Right(), 200);
+  std::string all;
+  const auto picture = hint.Paint(machine.screen);
+  for (const auto& text : picture->Texts()) all += text.text + '|';
+  EXPECT_EQ(all, "some words in a line that is|longer than the screen is wide|" +
+                     std::string(32, 'x') + '|' + std::string(32, 'x') + '|' +
+                     std::string(26, 'x') + '|');
+}
+
 TEST_F(Controls, AHintGoesWithItsControl) {
   app.Hints().Pause = 0;
   {
@@ -118,29 +135,6 @@ TEST_F(Controls, AHintGoesWithItsControl) {
     EXPECT_TRUE(app.Hints().Showing());
   }
   EXPECT_FALSE(app.Hints().Showing());
-}
-
-TEST(Placement, BringsWindowsBackOntoTheNearestMonitor) {
-  platform::memory::Screen screen;
-  screen.monitors = {{{0, 0, 1000, 800}, {0, 0, 1000, 760}, 96},
-                     {{1000, 0, 1000, 800}, {1000, 40, 1000, 760}, 96}};
-  struct Row {
-    const char* why;
-    Rect from;
-    Rect to;
-  };
-  static constexpr Row kRows[] = {
-      {"inside", {10, 10, 100, 50}, {10, 10, 100, 50}},
-      {"behind the task bar", {10, 740, 100, 50}, {10, 710, 100, 50}},
-      {"a monitor that is gone", {5000, 300, 100, 50}, {1900, 300, 100, 50}},
-      {"left of everything", {-500, -500, 100, 50}, {0, 0, 100, 50}},
-      {"larger than the monitor", {100, 100, 3000, 3000}, {1000, 40, 3000, 3000}},
-      {"across two monitors, mostly the second", {960, 0, 100, 50}, {1000, 40, 100, 50}},
-  };
-  for (const Row& row : kRows) {
-    SCOPED_TRACE(row.why);
-    EXPECT_EQ(BroughtIntoView(row.from, screen), row.to);
-  }
 }
 
 TEST(DesignPixels, ScaleThereAndBack) {

@@ -96,18 +96,22 @@ TEST_F(Modals, EndWithCancelHoweverTheyGo) {
   }
 }
 
-TEST_F(Modals, UnwindFromTheTopWhenTheProgramEndsInsideThem) {
+TEST_F(Modals, UnwindFromTheTopWhenOneBelowIsClosedAndWhenTheProgramEnds) {
   Form outer(app, Params("outer"));
   Form inner(app, Params("inner"));
-  std::vector<std::string> ended;
-  Then([&] {
-    Then([&] { app.Terminate(); });
-    EXPECT_EQ(app.Modals().Show(inner), ModalResult::kCancel);
-    ended.emplace_back("inner");
-  });
-  EXPECT_EQ(app.Modals().Show(outer), ModalResult::kCancel);
-  ended.emplace_back("outer");
-  EXPECT_EQ(ended, (std::vector<std::string>{"inner", "outer"}));
+  for (const std::function<void()>& end : {std::function<void()>([&] { outer.Close(); }),
+                                           std::function<void()>([&] { app.Terminate(); })}) {
+    std::vector<std::string> ended;
+    Then([&] {
+      Then(end);
+      EXPECT_EQ(app.Modals().Show(inner), ModalResult::kCancel);
+      ended.emplace_back("inner");
+    });
+    EXPECT_EQ(app.Modals().Show(outer), ModalResult::kCancel);
+    ended.emplace_back("outer");
+    EXPECT_EQ(ended, (std::vector<std::string>{"inner", "outer"}));
+    EXPECT_TRUE(meter.Enabled());
+  }
   EXPECT_TRUE(machine.message_loop.HasQuit());
 }
 

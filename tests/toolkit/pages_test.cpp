@@ -123,11 +123,11 @@ TEST_F(Pages, AFormHasItsSizeInDesignPixelsAndStandsInTheMiddle) {
                              {{1000, 0, 1000, 800}, {1000, 0, 1000, 800}, 96}};
   Form dialog(app, Params("dialog"), &form);
   dialog.SetClientSize({294, 175});  // the frame takes 6 by 25
-  form.SetWindowBounds({1500, 10, 300, 300});
+  form.SetWindowBounds({1500, 10, 306, 325});
   dialog.CentreOnScreen();
   EXPECT_EQ(dialog.WindowBounds(), (platform::Rect{1350, 300, 300, 200}));
   form.CentreOnScreen();
-  EXPECT_EQ(form.WindowBounds().left, 350) << "without an owner: the first monitor";
+  EXPECT_EQ(form.WindowBounds().left, 347) << "without an owner: the first monitor";
   User().ChangeDpi("dialog", 144, {0, 0, 450, 300});
   EXPECT_EQ(dialog.ClientPixels(), (platform::Size{441, 263}));
 }

@@ -71,6 +71,16 @@ TEST_F(SavedPlacement, WhileTheUserDragsItIsStoredOnceAtTheEnd) {
   EXPECT_EQ(machine.notebook.registry.round_trips, 1);
 }
 
+TEST_F(SavedPlacement, WhoeverPutsItOutOfSightFindsItInViewAgain) {
+  Run run(machine);
+  machine.windowing.Drag("form", {1270, 400});
+  EXPECT_EQ(run.form.WindowBounds(), (Rect{1280 - 274, 400, 274, 135}));
+  EXPECT_EQ(Stored(), run.form.WindowBounds());
+  machine.windowing.Place("form", {3, -120, 274, 135});
+  run.form.Show();
+  EXPECT_EQ(run.form.WindowBounds(), (Rect{3, 0, 274, 135}));
+}
+
 TEST_F(SavedPlacement, ClosingTheFormAndTheEndOfTheSessionStoreIt) {
   Run run(machine);
   run.form.Show();

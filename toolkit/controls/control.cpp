@@ -117,7 +117,16 @@ platform::FontSpec Control::Scale(const platform::FontSpec& design) {
 }
 
 void Control::ApplyBounds() {
-  if (peer_ && parent_ != nullptr) peer_->SetBounds(Scale(bounds_));
+  if (!peer_ || parent_ == nullptr) return;
+  platform::Rect bounds = Scale(bounds_);
+  bounds.top -= parent_->ScrolledBy();
+  peer_->SetBounds(bounds);
+}
+
+void Control::PlaceChildren() {
+  for (Control* child : children_) {
+    if (child->align_ == Align::kNone) child->ApplyBounds();
+  }
 }
 
 void Control::ApplyFont() { peer_->SetFont(Scale(font_)); }
@@ -158,6 +167,12 @@ void Control::OnPaint(platform::Canvas& canvas) {
 void Control::OnMouseMove(const platform::MouseEvent& event) {
   app_.Guard([&] {
     if (OnMouseMoved) OnMouseMoved(event);
+  });
+}
+
+void Control::OnMouseDown(const platform::MouseEvent& event) {
+  app_.Guard([&] {
+    if (OnMousePressed) OnMousePressed(event);
   });
 }
 

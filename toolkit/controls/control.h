@@ -96,6 +96,7 @@ class Control : protected platform::WidgetEvents {
   std::function<void()> OnClick;
   std::function<void()> OnDblClick;
   std::function<void(const platform::MouseEvent&)> OnMouseMoved;
+  std::function<void(const platform::MouseEvent&)> OnMousePressed;
   std::function<void(const platform::MouseEvent&)> OnMouseReleased;
   std::function<void()> OnMouseEntered;
   std::function<void()> OnMouseLeft;
@@ -119,6 +120,10 @@ class Control : protected platform::WidgetEvents {
   void ArrangeChildren(const platform::Rect& area);
   // What is left for children; the panel's bevels are outside of it.
   [[nodiscard]] virtual platform::Rect ChildArea() const;
+  // Real pixels by which what lies on it is pushed upwards.
+  [[nodiscard]] virtual int ScrolledBy() const { return 0; }
+  // Gives the children their bounds anew.
+  void PlaceChildren();
   // The resolution changed: bounds and font are given to the peer anew.
   virtual void Rescale();
   // The pixels of the client area changed.
@@ -135,6 +140,7 @@ class Control : protected platform::WidgetEvents {
   // platform::WidgetEvents
   void OnPaint(platform::Canvas& canvas) final;
   void OnMouseMove(const platform::MouseEvent& event) override;
+  void OnMouseDown(const platform::MouseEvent& event) override;
   void OnMouseUp(const platform::MouseEvent& event) override;
   void OnDoubleClick(const platform::MouseEvent& event) override;
   void OnMouseEnter() override;

@@ -9,6 +9,16 @@ class ListBox : public ListControl {
  public:
   ListBox(Control& parent, std::string_view name)
       : ListControl(parent, name, platform::ListKind::kBox) {}
+
+  // The user presses Del.
+  std::function<void()> OnDelete;
+
+ protected:
+  bool OnKey(platform::Key key) override {
+    if (key != platform::Key::kDelete) return false;
+    Fire(OnDelete);
+    return true;
+  }
 };
 
 class ComboBox : public ListControl {

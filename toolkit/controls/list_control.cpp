@@ -51,7 +51,8 @@ void ListControl::SetItemIndex(int index) {
 }
 
 void ListControl::OnChanged() {
-  if (std::exchange(index_, list_->Index()) != index_) Fire(OnChange);
+  const int before = std::exchange(index_, list_->Index());
+  Fire(index_ != before ? OnChange : OnChosenAgain);
 }
 
 }  // namespace toolkit

@@ -29,6 +29,8 @@ class ListControl : public Control {
 
   // Another row is selected.
   std::function<void()> OnChange;
+  // The user chose the row that is selected already.
+  std::function<void()> OnChosenAgain;
 
  protected:
   ListControl(Control& parent, std::string_view name, platform::ListKind kind);

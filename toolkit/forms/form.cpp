@@ -1,8 +1,15 @@
 #include "toolkit/forms/form.h"
 
+#include <algorithm>
+
 #include "toolkit/application.h"
 
 namespace toolkit {
+namespace {
+
+constexpr int kScrollLine = 16;  // design pixels
+
+}  // namespace
 
 class Form::Events final : public platform::TopWindowEvents {
  public:
@@ -28,7 +35,18 @@ class Form::Events final : public platform::TopWindowEvents {
     Tell([&bounds](FormComponent& part) { part.FormMoving(bounds); });
   }
   void OnDragEnded() override {
+    Guarded([&] { form_.Settle(); });
     Tell([](FormComponent& part) { part.FormDragEnded(); });
+  }
+  void OnScroll(int position) override {
+    Guarded([&] { form_.ScrollTo(position); });
+  }
+  void OnFocusMoved(const platform::Rect& area) override {
+    const platform::Scroll& scroll = form_.scroll_;
+    Guarded([&] {
+      form_.ScrollTo(
+          ScrolledToShow(scroll, area.top + scroll.position, area.Bottom() + scroll.position));
+    });
   }
   void OnPlaced() override {
     Tell([](FormComponent& part) { part.FormPlaced(); });
@@ -39,6 +57,7 @@ class Form::Events final : public platform::TopWindowEvents {
   }
   void OnDisplayChange() override {
     Tell([](FormComponent& part) { part.FormDisplayChanged(); });
+    Guarded([&] { form_.Settle(); });
     Guarded([&] { form_.FormDisplayChange(); });
   }
   void OnResume() override {
@@ -67,7 +86,10 @@ class Form::Events final : public platform::TopWindowEvents {
 };
 
 Form::Form(Application& app, const platform::TopWindowParams& params, Form* owner)
-    : Control(app, nullptr, params.name), owner_(owner), events_(std::make_unique<Events>(*this)) {
+    : Control(app, nullptr, params.name),
+      held_by_(params.bare_popup ? Hold::kAnywhere : Hold::kCaption),
+      owner_(owner),
+      events_(std::make_unique<Events>(*this)) {
   auto window = app.Platform().windowing.CreateTopWindow(
       params, owner != nullptr ? &owner->Window() : nullptr, *events_);
   window_ = window.get();
@@ -86,25 +108,67 @@ Form::~Form() {
 }
 
 void Form::Show(platform::Activation activation) {
+  Settle();
+  const std::vector<Form*>& forms = App().Forms();
+  const bool any_topmost = std::any_of(forms.begin(), forms.end(), [](const Form* form) {
+    return form->Showing() && form->Window().Topmost();
+  });
+  if (any_topmost && !Window().Topmost()) Window().SetTopmost(true);
   Window().Show(activation);
   FormShow();
+}
+
+void Form::SetTopmost(bool topmost) {
+  Window().SetTopmost(topmost);
+  for (Form* form : App().Forms()) {
+    if (form != this) form->Window().SetTopmost(topmost);
+  }
 }
 
 void Form::Close() { events_->OnClose(); }
 
 void Form::SetClientSize(platform::Size design) {
   client_size_ = design;
-  Window().SetClientSize({Scale(design.width), Scale(design.height)});
+  FitToScreen();
+  const platform::Rect own = WindowBounds();
+  if (!Window().Dragging()) SetWindowBounds(BroughtIntoView(own, App().Platform().screen));
+}
+
+void Form::FitToScreen() {
+  if (!client_size_) return;
+  const platform::Size whole{Scale(client_size_->width), Scale(client_size_->height)};
+  // A window without an inside tells nothing of its frame.
+  if (ClientPixels().height == 0) Window().SetClientSize(whole);
+  const platform::Rect own = WindowBounds();
+  const int frame = own.height - ClientPixels().height;
+  const int room = App().Platform().screen.MonitorOf(own).work_area.height - frame;
+  scroll_ = {whole.height, std::min(whole.height, room), scroll_.position, Scale(kScrollLine)};
+  ScrollTo(scroll_.position);
+  Window().SetClientSize({whole.width, scroll_.page});
+}
+
+void Form::ScrollTo(int position) {
+  scroll_.position = std::clamp(position, 0, scroll_.content - scroll_.page);
+  Window().SetScroll(scroll_);
+  PlaceChildren();
 }
 
 void Form::CentreOnScreen() {
   platform::Screen& screen = App().Platform().screen;
   const platform::Monitor monitor =
       owner_ != nullptr ? screen.MonitorOf(owner_->WindowBounds()) : screen.Monitors().front();
-  const platform::Rect& work = monitor.work_area;
+  platform::Rect own = WindowBounds();
+  SetWindowBounds({monitor.work_area.left, monitor.work_area.top, own.width, own.height});
+  FitToScreen();
+  own = WindowBounds();
+  SetWindowBounds(Centred({own.width, own.height}, monitor));
+}
+
+void Form::Settle() {
+  FitToScreen();
+  platform::Screen& screen = App().Platform().screen;
   const platform::Rect own = WindowBounds();
-  SetWindowBounds({work.left + (work.width - own.width) / 2,
-                   work.top + (work.height - own.height) / 2, own.width, own.height});
+  if (!InSight(own, held_by_, screen.Monitors())) SetWindowBounds(BroughtIntoView(own, screen));
 }
 
 void Form::Hide() { Window().SetVisible(false); }
@@ -112,11 +176,7 @@ void Form::Hide() { Window().SetVisible(false); }
 void Form::EndModal(ModalResult result) { App().Modals().End(*this, result); }
 
 void Form::FormClose() {
-  if (App().Modals().Top() == this) {
-    EndModal(ModalResult::kCancel);
-  } else {
-    Hide();
-  }
+  if (!App().Modals().Cancel(*this)) Hide();
 }
 
 void Form::FormPaint(platform::Canvas& canvas) {

@@ -11,6 +11,7 @@
 #include "toolkit/controls/control.h"
 #include "toolkit/forms/form_component.h"
 #include "toolkit/forms/modal_stack.h"
+#include "toolkit/forms/placement.h"
 
 namespace toolkit {
 
@@ -24,11 +25,15 @@ class Form : public Control {
 
   [[nodiscard]] Form& ParentForm() override { return *this; }
 
-  // An activated form has the keyboard in its first control.
+  // An activated form has the keyboard in its first control. Shown, it is where the user can take
+  // hold of it, and topmost if one that is shown is.
   void Show(platform::Activation activation = platform::Activation::kActivate);
   void Hide();
   [[nodiscard]] bool Showing() const { return Window().Visible(); }
   void Raise() { Window().Raise(); }
+  // Above all windows that are not topmost, or among them again; the other forms with it, so that
+  // it covers none of them.
+  void SetTopmost(bool topmost);
   // As by its close box.
   void Close();
 
@@ -38,8 +43,15 @@ class Form : public Control {
   // Position and size on the screen, frame included, in real pixels.
   [[nodiscard]] platform::Rect WindowBounds() const { return Window().Bounds(); }
   void SetWindowBounds(const platform::Rect& bounds) { Window().SetBounds(bounds); }
-  // The size inside the frame, in design pixels; kept when the resolution changes.
+  // The size inside the frame, in design pixels; kept when the resolution changes. What is higher
+  // than the work area is scrolled; grown beyond its edges, the form moves.
   void SetClientSize(platform::Size design);
+  // As it was set.
+  [[nodiscard]] platform::Size ClientSize() const {
+    return client_size_.value_or(platform::Size{});
+  }
+  // What the user can take hold of to drag it.
+  [[nodiscard]] Hold HeldBy() const { return held_by_; }
   // Into the middle of the work area: of the monitor that its owner is on, or else of the first.
   void CentreOnScreen();
 
@@ -55,7 +67,7 @@ class Form : public Control {
 
  protected:
   // The user or the system asks to close the form; so does Esc. As it stands: a modal form ends
-  // with kCancel, another one hides.
+  // with kCancel, whatever stands above it too; another one hides.
   virtual void FormClose();
   virtual void FormResize() {}
   // Moved or sized, by whomever.
@@ -77,9 +89,17 @@ class Form : public Control {
 
   void Resized() override;
   void ChangeDpi(const platform::Rect& bounds);
+  // Gives it the height that its monitor has room for.
+  void FitToScreen();
+  void ScrollTo(int position);
+  [[nodiscard]] int ScrolledBy() const override { return scroll_.position; }
+  // The same, and moves it where the user could not take hold of it.
+  void Settle();
 
+  const Hold held_by_;
   Form* owner_;                                // not owned; null for the application
   std::optional<platform::Size> client_size_;  // design pixels; none for one that the user sizes
+  platform::Scroll scroll_;
   std::unique_ptr<Events> events_;
   std::vector<FormComponent*> components_;  // each takes itself out
   platform::TopWindow* window_ = nullptr;   // the peer, owned by Control

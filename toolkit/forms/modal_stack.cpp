@@ -78,8 +78,6 @@ class ModalStack::Level {
   Level& operator=(const Level&) = delete;
 
   [[nodiscard]] ModalResult Wait() {
-    // Or else one that always stays on top might cover it.
-    if (stack_.AnyTopmost()) entry_.form->Window().SetTopmost(true);
     entry_.form->Show();
     if (stack_.app_.Terminated()) return ModalResult::kCancel;
     stack_.app_.Platform().message_loop.RunUntil(
@@ -122,10 +120,23 @@ bool ModalStack::Raise(std::string_view form_name) {
   return false;
 }
 
-void ModalStack::CancelAll() {
-  for (Entry* entry : open_) {
+bool ModalStack::RaiseTop() {
+  const Form* top = dialog_owner_ != nullptr && !dialog_disabled_ ? dialog_owner_ : Top();
+  if (top != nullptr) top->Window().Raise();
+  return top != nullptr;
+}
+
+bool ModalStack::Cancel(const Form& form) {
+  const auto lowest = std::find_if(open_.begin(), open_.end(),
+                                   [&form](const Entry* entry) { return entry->form == &form; });
+  CancelFrom(lowest);
+  return lowest != open_.end();
+}
+
+void ModalStack::CancelFrom(std::vector<Entry*>::iterator lowest) {
+  std::for_each(lowest, open_.end(), [](Entry* entry) {
     if (entry->result == ModalResult::kNone) entry->result = ModalResult::kCancel;
-  }
+  });
 }
 
 Form* ModalStack::Top() const {
@@ -133,12 +144,6 @@ Form* ModalStack::Top() const {
     if ((*entry)->form != nullptr) return (*entry)->form;
   }
   return nullptr;
-}
-
-bool ModalStack::AnyTopmost() const {
-  const std::vector<Form*>& forms = app_.Forms();
-  return std::any_of(forms.begin(), forms.end(),
-                     [](const Form* form) { return form->Showing() && form->Window().Topmost(); });
 }
 
 void ModalStack::End(const Form& form, ModalResult result) {

@@ -42,9 +42,14 @@ class ModalStack {
 
   // Raises the modal form of this name; false when none is open.
   bool Raise(std::string_view form_name);
+  // Raises the form or dialog of the system that wants an answer before any other window may open;
+  // false when none is open.
+  bool RaiseTop();
 
+  // Ends `form` with kCancel, and those above it first; false when it is not modal.
+  bool Cancel(const Form& form);
   // Ends all with kCancel, the newest first; each Show returns when the loops above it have.
-  void CancelAll();
+  void CancelAll() { CancelFrom(open_.begin()); }
 
   [[nodiscard]] bool Empty() const { return open_.empty(); }
   // The form on top; null when none is open.
@@ -61,7 +66,7 @@ class ModalStack {
   class Level;
   class SystemDialog;
 
-  [[nodiscard]] bool AnyTopmost() const;
+  void CancelFrom(std::vector<Entry*>::iterator lowest);
   void End(const Form& form, ModalResult result);
   void Forget(const Form& form);
 

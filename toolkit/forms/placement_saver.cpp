@@ -73,7 +73,7 @@ void PlacementSaver::Place() {
   platform::Screen& screen = form_.App().Platform().screen;
   monitors_ = screen.Monitors();
   const platform::Rect target =
-      InSight(wanted_, monitors_) ? wanted_ : BroughtIntoView(wanted_, screen);
+      InSight(wanted_, form_.HeldBy(), monitors_) ? wanted_ : BroughtIntoView(wanted_, screen);
   displaced_ = target != wanted_;
   placing_ = true;
   // Once more, because a monitor of another resolution gives the form another size.
@@ -109,7 +109,7 @@ void PlacementSaver::TakePlace(bool dragged) {
   const platform::Rect bounds = form_.WindowBounds();
   if (bounds == wanted_) return;
   // When a monitor goes, the system itself may move what was on it, before anybody hears of it.
-  if (!dragged && MonitorsChanged() && !InSight(wanted_, monitors_)) {
+  if (!dragged && MonitorsChanged() && !InSight(wanted_, form_.HeldBy(), monitors_)) {
     displaced_ = true;
     return;
   }

@@ -47,6 +47,7 @@ class EntryBuilder {
     entry.separator = !item->Literal && item->Caption == kSeparator;
     entry.text = item->Literal ? DoubleAmpersands(item->Caption) : item->Caption;
     entry.shortcut = ShortCutText(item->ShortCut);
+    entry.keys = CombinationOf(item->ShortCut);
     entry.hint = item->Hint;
     entry.enabled = item->Enabled;
     entry.checked = item->Checked();

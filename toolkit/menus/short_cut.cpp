@@ -15,6 +15,11 @@ std::string KeyName(unsigned key) {
 
 }  // namespace
 
+platform::KeyCombination CombinationOf(ShortCut short_cut) {
+  return {static_cast<std::uint8_t>(short_cut & 0xFF), (short_cut & kShift) != 0,
+          (short_cut & kCtrl) != 0, (short_cut & kAlt) != 0};
+}
+
 std::string ShortCutText(ShortCut short_cut) {
   const std::string key = KeyName(short_cut & 0xFFU);
   if (key.empty()) return {};

@@ -4,6 +4,8 @@
 #include <cstdint>
 #include <string>
 
+#include "platform/hot_keys.h"
+
 namespace toolkit {
 
 // Virtual-key code in the low byte, plus kShift, kCtrl and kAlt; 0 for none.
@@ -12,6 +14,8 @@ using ShortCut = std::uint16_t;
 inline constexpr ShortCut kShift = 0x2000;
 inline constexpr ShortCut kCtrl = 0x4000;
 inline constexpr ShortCut kAlt = 0x8000;
+
+[[nodiscard]] platform::KeyCombination CombinationOf(ShortCut short_cut);
 
 // As menus write it, such as "Ctrl+Alt+F". Empty for 0 and for keys other than letters, digits and
 // F1 to F24.

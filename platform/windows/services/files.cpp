@@ -43,7 +43,7 @@ bool WriteAll(HANDLE file, std::string_view bytes) {
     }
     bytes.remove_prefix(written);
   }
-  return ::FlushFileBuffers(file) != FALSE;
+  return true;
 }
 
 // A file with these bytes; none is left behind when that fails.
@@ -51,7 +51,7 @@ bool WriteNew(const std::wstring& path, std::string_view bytes) {
   FileHandle file(::CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS,
                                 FILE_ATTRIBUTE_NORMAL, nullptr));
   if (!file) return false;
-  if (WriteAll(file.get(), bytes)) return true;
+  if (WriteAll(file.get(), bytes) && ::FlushFileBuffers(file.get()) != FALSE) return true;
   file = FileHandle();
   ::DeleteFileW(path.c_str());
   return false;
@@ -95,6 +95,21 @@ bool Files::Exists(std::string_view path) {
   return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
 }
 
+bool Files::Missing(std::string_view path) {
+  if (::GetFileAttributesW(ToWide(path).c_str()) != INVALID_FILE_ATTRIBUTES) return false;
+  const DWORD code = ::GetLastError();
+  return code == ERROR_FILE_NOT_FOUND || code == ERROR_PATH_NOT_FOUND;
+}
+
+std::optional<std::uint64_t> Files::Size(std::string_view path) {
+  WIN32_FILE_ATTRIBUTE_DATA data{};
+  if (::GetFileAttributesExW(ToWide(path).c_str(), GetFileExInfoStandard, &data) == FALSE ||
+      (data.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0) {
+    return std::nullopt;
+  }
+  return std::uint64_t{data.nFileSizeHigh} << 32U | data.nFileSizeLow;
+}
+
 std::optional<std::string> Files::Load(std::string_view path, std::size_t limit) {
   const FileHandle file(::CreateFileW(ToWide(path).c_str(), GENERIC_READ,
                                       FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
@@ -117,6 +132,18 @@ bool Files::Save(std::string_view path, std::string_view bytes) {
   if (::MoveFileExW(draft.c_str(), name.c_str(), MOVEFILE_REPLACE_EXISTING) != FALSE) return true;
   ::DeleteFileW(draft.c_str());
   return false;
+}
+
+bool Files::Append(std::string_view path, std::string_view bytes) {
+  const FileHandle file(::CreateFileW(ToWide(path).c_str(), FILE_APPEND_DATA,
+                                      FILE_SHARE_READ | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING,
+                                      FILE_ATTRIBUTE_NORMAL, nullptr));
+  return file && WriteAll(file.get(), bytes);
+}
+
+bool Files::Rename(std::string_view from, std::string_view to) {
+  return ::MoveFileExW(ToWide(from).c_str(), ToWide(to).c_str(), MOVEFILE_REPLACE_EXISTING) !=
+         FALSE;
 }
 
 std::vector<std::string> Files::List(std::string_view folder, std::string_view mask) {

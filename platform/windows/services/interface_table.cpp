@@ -29,10 +29,22 @@ std::uint32_t InterfaceTable::Read(std::span<std::byte> buffer, std::uint32_t& s
 std::optional<bool> InterfaceTable::IsFilter(std::uint32_t index) {
   // A system that lacks the call has no such filters either.
   if (get_entry_ == nullptr) return false;
-  MIB_IF_ROW2 row{};
-  row.InterfaceIndex = index;
-  if (get_entry_(&row) != NO_ERROR) return std::nullopt;
-  return row.InterfaceAndOperStatusFlags.FilterInterface != 0;
+  const auto entry = Entry(index);
+  if (!entry) return std::nullopt;
+  return entry->InterfaceAndOperStatusFlags.FilterInterface != 0;
+}
+
+std::optional<LongOctets> InterfaceTable::Octets(std::uint32_t index) {
+  const auto entry = Entry(index);
+  if (!entry) return std::nullopt;
+  return LongOctets{entry->InOctets, entry->OutOctets};
+}
+
+std::optional<MIB_IF_ROW2> InterfaceTable::Entry(std::uint32_t index) const {
+  MIB_IF_ROW2 entry{};
+  entry.InterfaceIndex = index;
+  if (get_entry_ == nullptr || get_entry_(&entry) != NO_ERROR) return std::nullopt;
+  return entry;
 }
 
 }  // namespace platform::windows

@@ -105,13 +105,13 @@ std::unique_ptr<RegistryKey> Registry::Open(std::string_view path, KeyAccess acc
   // The system itself refuses a path that begins with a backslash.
   if (path.starts_with('\\')) path.remove_prefix(1);
   const std::wstring wide_path = ToWide(path);
-  constexpr REGSAM kRights = KEY_READ | KEY_WRITE;
+  const REGSAM rights = access == KeyAccess::kReadOnly ? KEY_READ : KEY_READ | KEY_WRITE;
   HKEY key = nullptr;
   const LSTATUS result =
       access == KeyAccess::kCreate
           ? ::RegCreateKeyExW(HKEY_CURRENT_USER, wide_path.c_str(), 0, nullptr,
-                              REG_OPTION_NON_VOLATILE, kRights, nullptr, &key, nullptr)
-          : ::RegOpenKeyExW(HKEY_CURRENT_USER, wide_path.c_str(), 0, kRights, &key);
+                              REG_OPTION_NON_VOLATILE, rights, nullptr, &key, nullptr)
+          : ::RegOpenKeyExW(HKEY_CURRENT_USER, wide_path.c_str(), 0, rights, &key);
   if (result != ERROR_SUCCESS) return nullptr;
   return std::make_unique<OpenKey>(KeyHandle(key));
 }

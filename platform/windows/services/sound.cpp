@@ -4,7 +4,9 @@
 #include <memory>
 #include <string>
 
+#include "platform/wave_file.h"
 #include "platform/windows/library.h"
+#include "platform/windows/services/files.h"
 #include "platform/windows/wide.h"
 #include "platform/windows/win32.h"
 // After the system's header, which it needs.
@@ -12,6 +14,8 @@
 
 namespace platform::windows {
 namespace {
+
+constexpr std::size_t kLargestSound = 64U << 20;  // bytes; the system's player loads it whole
 
 // Whether opening the file may take as long as a machine that does not answer. The system takes
 // slashes as well.
@@ -25,6 +29,8 @@ bool IsRemote(std::wstring path) {
 // Looked up at the first sound: the library brings a dozen others, and most runs play none. It
 // stays, since a sound goes on after the call.
 void Start(const std::wstring& path) {
+  const auto bytes = Files().Load(FromWide(path), kLargestSound);
+  if (!bytes || !IsWaveFile(*bytes)) return;
   using Player = BOOL(WINAPI*)(LPCWSTR, UINT);
   const auto play = Function<Player>(
       ::LoadLibraryExW(L"winmm.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32), "sndPlaySoundW");

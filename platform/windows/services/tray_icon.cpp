@@ -54,21 +54,21 @@ ShellTrayIcon::~ShellTrayIcon() {
   ::Shell_NotifyIconW(NIM_DELETE, &data);
 }
 
-void ShellTrayIcon::SetPicture(const Bitmap& picture) { Show(icons_.Make(picture, std::nullopt)); }
-
-void ShellTrayIcon::SetPicture(const Bitmap& picture, Colour see_through) {
-  Show(icons_.Make(picture, see_through));
+bool ShellTrayIcon::SetPicture(const Bitmap& picture) {
+  return Show(icons_.Make(picture, std::nullopt));
 }
 
-void ShellTrayIcon::Show(Icon icon) {
-  if (!icon) return;
+bool ShellTrayIcon::SetPicture(const Bitmap& picture, Colour see_through) {
+  return Show(icons_.Make(picture, see_through));
+}
+
+bool ShellTrayIcon::Show(Icon icon) {
+  if (!icon) return false;
   // The shell copies the picture, so the one before may go after it was replaced.
   std::swap(icon_, icon);
-  if (added_) {
-    Modify(NIF_ICON);
-  } else if (!waiting_) {
-    AddLater(USER_TIMER_MINIMUM);
-  }
+  if (added_) return Modify(NIF_ICON);
+  if (!waiting_) AddLater(USER_TIMER_MINIMUM);
+  return false;
 }
 
 void ShellTrayIcon::SetHint(std::string_view hint) {
@@ -133,9 +133,9 @@ void ShellTrayIcon::AddLater(UINT milliseconds) {
   waiting_ = ::SetTimer(hwnd(), kAddTimer, milliseconds, nullptr) != 0;
 }
 
-void ShellTrayIcon::Modify(UINT parts) {
+bool ShellTrayIcon::Modify(UINT parts) {
   NOTIFYICONDATAW data = Data(parts);
-  ::Shell_NotifyIconW(NIM_MODIFY, &data);
+  return ::Shell_NotifyIconW(NIM_MODIFY, &data) != FALSE;
 }
 
 NOTIFYICONDATAW ShellTrayIcon::Data(UINT parts) const {

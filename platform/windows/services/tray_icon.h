@@ -19,8 +19,8 @@ class ShellTrayIcon final : public TrayIcon, public NativeWindow {
   ShellTrayIcon(const WindowClass& window_class, TrayIconEvents& events);
   ~ShellTrayIcon() override;
 
-  void SetPicture(const Bitmap& picture) override;
-  void SetPicture(const Bitmap& picture, Colour see_through) override;
+  bool SetPicture(const Bitmap& picture) override;
+  bool SetPicture(const Bitmap& picture, Colour see_through) override;
   void SetHint(std::string_view hint) override;
   void ShowBalloon(std::string_view title, std::string_view text, BalloonIcon icon,
                    int seconds) override;
@@ -30,13 +30,13 @@ class ShellTrayIcon final : public TrayIcon, public NativeWindow {
   std::optional<LRESULT> Handle(const Message& message) override;
 
  private:
-  void Show(Icon icon);
+  bool Show(Icon icon);
   // Adds the icon; a shell that is too busy is asked again a little later.
   void Add();
   // The first picture is handed over only when the program's windows are painted: the shell may
   // take its time, and the user waits for the windows.
   void AddLater(UINT milliseconds);
-  void Modify(UINT parts);
+  bool Modify(UINT parts);
   [[nodiscard]] NOTIFYICONDATAW Data(UINT parts) const;
   void Report(const Message& message);
   void ReportKeySelect();

@@ -63,6 +63,11 @@ void ListBoxWidget::SetIndex(int index) {
 
 int ListBoxWidget::Index() const { return static_cast<int>(Send(LB_GETCURSEL)); }
 
+std::optional<LRESULT> ListBoxWidget::Handle(const Message& message) {
+  if (message.id == WM_KEYDOWN && message.w == VK_DELETE && events().OnKey(Key::kDelete)) return 0;
+  return WidgetOf::Handle(message);
+}
+
 std::optional<LRESULT> ListBoxWidget::HandleNotification(const Message& message) {
   if (message.id != WM_COMMAND) return WidgetOf::HandleNotification(message);
   if (HIWORD(message.w) == LBN_SELCHANGE) events().OnChanged();

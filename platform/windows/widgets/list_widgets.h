@@ -20,6 +20,9 @@ class ListBoxWidget final : public WidgetOf<ItemList, NativeControl> {
   [[nodiscard]] KeyRole Role() const override { return KeyRole::kStop; }
 
   std::optional<LRESULT> HandleNotification(const Message& message) override;
+
+ protected:
+  std::optional<LRESULT> Handle(const Message& message) override;
 };
 
 class ComboWidget final : public WidgetOf<ItemList, NativeControl> {

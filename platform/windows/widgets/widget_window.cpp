@@ -123,7 +123,7 @@ void WidgetWindow::SetColours(Colour text, Colour background) {
 }
 
 void WidgetWindow::Focus() {
-  if (IsUsable(hwnd())) ::SetFocus(hwnd());
+  if (IsUsable(hwnd())) FocusOn(hwnd());
 }
 
 bool WidgetWindow::HasFocus() const {

@@ -110,7 +110,7 @@ void ShowMarks(HWND top) {
 
 void GoTo(WidgetWindow* widget) {
   if (widget == nullptr) return;
-  ::SetFocus(widget->hwnd());
+  FocusOn(widget->hwnd());
   widget->Reached();
 }
 
@@ -129,7 +129,7 @@ bool MoveInGroup(HWND top, HWND focus, Direction direction) {
   const std::vector<WidgetWindow*> group = Group(WidgetsOf(top), focus);
   WidgetWindow* next = Neighbour(group, WidgetWindow::Of(focus), direction);
   if (next == nullptr) return true;
-  ::SetFocus(next->hwnd());
+  FocusOn(next->hwnd());
   ::SendMessageW(next->hwnd(), BM_CLICK, 0, 0);
   return true;
 }
@@ -225,7 +225,7 @@ wchar_t MarkedKey(HWND hwnd) {
 // What the key of a widget does: a button is pressed, a text leads to the control behind it.
 void Activate(const std::vector<WidgetWindow*>& widgets, WidgetWindow* widget) {
   if (widget->Role() != KeyRole::kNone) {
-    ::SetFocus(widget->hwnd());
+    FocusOn(widget->hwnd());
     ::SendMessageW(widget->hwnd(), BM_CLICK, 0, 0);
     return;
   }
@@ -283,6 +283,11 @@ bool IsUsable(HWND hwnd) {
     if (::IsWindowEnabled(each) == FALSE) return false;
   }
   return true;
+}
+
+void FocusOn(HWND control) {
+  ::SetFocus(control);
+  if (TopWindow* top = DialogOf(control)) top->FocusMoved(control);
 }
 
 void FocusFirst(HWND top) {

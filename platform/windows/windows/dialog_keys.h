@@ -16,6 +16,9 @@ namespace platform::windows {
 // Whether the window, and all that it lies on, is visible and enabled.
 [[nodiscard]] bool IsUsable(HWND hwnd);
 
+// Puts the keyboard into a control, whose window hears of it.
+void FocusOn(HWND control);
+
 // Puts the keyboard into the first control of a top window.
 void FocusFirst(HWND top);
 

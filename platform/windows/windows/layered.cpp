@@ -16,7 +16,7 @@ constexpr COLORREF kColourKey = 1;  // unused: the flag asks for the opacity onl
 // GetVersionEx tells a program without a manifest for the present system of an older one.
 bool SystemHasLayeredWindows() {
   using GetVersion = LONG(WINAPI*)(OSVERSIONINFOW*);
-  const auto get = Function<GetVersion>(::GetModuleHandleW(L"ntdll.dll"), "RtlGetVersion");
+  static const auto get = Function<GetVersion>(::GetModuleHandleW(L"ntdll.dll"), "RtlGetVersion");
   OSVERSIONINFOW version{};
   version.dwOSVersionInfoSize = sizeof(version);
   return get != nullptr && get(&version) == 0 &&
@@ -28,7 +28,7 @@ bool SystemHasLayeredWindows() {
 void SetWindowOpacity(HWND hwnd, std::uint8_t alpha) {
   using SetAttributes = BOOL(WINAPI*)(HWND, COLORREF, BYTE, DWORD);
   if (!SystemHasLayeredWindows()) return;
-  const auto set =
+  static const auto set =
       Function<SetAttributes>(::GetModuleHandleW(L"user32.dll"), "SetLayeredWindowAttributes");
   if (set == nullptr) return;
   const LONG_PTR style = ::GetWindowLongPtrW(hwnd, GWL_EXSTYLE);

@@ -64,6 +64,46 @@ LRESULT FindByKey(HMENU menu, wchar_t key, const MenuEntry* highlighted) {
   return MAKELRESULT(next >= 0 ? next : first, MNC_SELECT);
 }
 
+const MenuEntry* FindKeys(const std::vector<MenuEntry>& entries, const KeyCombination& keys) {
+  for (const MenuEntry& entry : entries) {
+    if (!entry.enabled) continue;
+    if (entry.keys.virtual_key != 0 && entry.keys == keys) return &entry;
+    if (const MenuEntry* found = FindKeys(entry.children, keys)) return found;
+  }
+  return nullptr;
+}
+
+// Hears the keys of the thread's menu while it lives: the system tells the owner of a menu only of
+// letters.
+class KeyHook {
+ public:
+  KeyHook() : hook_(::SetWindowsHookExW(WH_MSGFILTER, &Filter, nullptr, ::GetCurrentThreadId())) {}
+  ~KeyHook() {
+    if (hook_ != nullptr) ::UnhookWindowsHookEx(hook_);
+  }
+  KeyHook(const KeyHook&) = delete;
+  KeyHook& operator=(const KeyHook&) = delete;
+
+ private:
+  static LRESULT CALLBACK Filter(int code, WPARAM w, LPARAM l) noexcept {
+    const auto& message = *reinterpret_cast<const MSG*>(l);
+    const bool down = message.message == WM_KEYDOWN || message.message == WM_SYSKEYDOWN;
+    if (code == MSGF_MENU && down && Chooses(message.wParam)) return 1;
+    return ::CallNextHookEx(nullptr, code, w, l);
+  }
+  static bool Chooses(WPARAM key) {
+    GUITHREADINFO thread{};
+    thread.cbSize = sizeof(thread);
+    ::GetGUIThreadInfo(::GetCurrentThreadId(), &thread);
+    auto* menu = dynamic_cast<MenuWindow*>(NativeWindow::Of(thread.hwndMenuOwner));
+    const auto held = [](int modifier) { return ::GetKeyState(modifier) < 0; };
+    return menu != nullptr && menu->ChooseByKeys({static_cast<std::uint8_t>(key), held(VK_SHIFT),
+                                                  held(VK_CONTROL), held(VK_MENU)});
+  }
+
+  HHOOK hook_;
+};
+
 }  // namespace
 
 MenuWindow::MenuWindow(const WindowClass& window_class, Drawing& drawing) : drawing_(drawing) {
@@ -76,20 +116,30 @@ int MenuWindow::Popup(Point at, const std::vector<MenuEntry>& entries, MenuPaint
   const MenuTree menu(entries);
   if (menu.root() == nullptr) return 0;
 
-  Session session{painter, dpi};
+  Session session{painter, dpi, entries};
   struct Open {
     explicit Open(MenuWindow& of, Session& session) : window(of) { window.session_ = &session; }
     ~Open() { window.session_ = nullptr; }
     MenuWindow& window;
   } const open(*this, session);
   const Foreground foreground(hwnd());
+  const KeyHook keys;
   const int chosen = ::TrackPopupMenuEx(menu.root(), PopupFlags(), at.x, at.y, hwnd(), nullptr);
   Highlight(nullptr, {});
-  return chosen;
+  return session.chosen_by_keys != 0 ? session.chosen_by_keys : chosen;
 }
 
 void MenuWindow::Cancel() {
   if (session_ != nullptr) ::EndMenu();
+}
+
+bool MenuWindow::ChooseByKeys(const KeyCombination& keys) {
+  if (session_ == nullptr) return false;
+  const MenuEntry* entry = FindKeys(session_->entries, keys);
+  if (entry == nullptr) return false;
+  session_->chosen_by_keys = entry->id;
+  ::EndMenu();
+  return true;
 }
 
 std::optional<LRESULT> MenuWindow::Handle(const Message& message) {

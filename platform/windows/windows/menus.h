@@ -17,6 +17,8 @@ class MenuWindow final : public NativeWindow {
   [[nodiscard]] int Popup(Point at, const std::vector<MenuEntry>& entries, MenuPainter& painter,
                           int dpi);
   void Cancel();
+  // Chooses the entry that has these keys; false when none has.
+  bool ChooseByKeys(const KeyCombination& keys);
 
  protected:
   std::optional<LRESULT> Handle(const Message& message) override;
@@ -26,7 +28,9 @@ class MenuWindow final : public NativeWindow {
   struct Session {
     MenuPainter& painter;
     int dpi;
+    const std::vector<MenuEntry>& entries;
     const MenuEntry* highlighted = nullptr;
+    int chosen_by_keys = 0;
   };
 
   void Measure(MEASUREITEMSTRUCT& item);

@@ -1,5 +1,6 @@
 #include "platform/windows/windows/top_window.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "platform/windows/dpi.h"
@@ -18,6 +19,34 @@ static_assert(kMoveByCaption == 61458);
 // Under Wine a window manager may offer the focus to each window that appears, in milliseconds from
 // then. Whether the window takes it, it is asked with a click on a menu bar, which none has here.
 constexpr ULONGLONG kOffersFocusWithin = 2000;
+
+POINT PointIn(LPARAM l) { return {static_cast<short>(LOWORD(l)), static_cast<short>(HIWORD(l))}; }
+
+// Where a scroll bar is asked to go.
+int Wanted(HWND hwnd, WORD request, const Scroll& scroll) {
+  SCROLLINFO info{};
+  info.cbSize = sizeof(info);
+  info.fMask = SIF_TRACKPOS;
+  switch (request) {
+    case SB_LINEUP:
+      return scroll.position - scroll.line;
+    case SB_LINEDOWN:
+      return scroll.position + scroll.line;
+    case SB_PAGEUP:
+      return scroll.position - scroll.page;
+    case SB_PAGEDOWN:
+      return scroll.position + scroll.page;
+    case SB_TOP:
+      return 0;
+    case SB_BOTTOM:
+      return scroll.content;
+    case SB_THUMBTRACK:
+    case SB_THUMBPOSITION:
+      return ::GetScrollInfo(hwnd, SB_VERT, &info) != FALSE ? info.nTrackPos : scroll.position;
+    default:
+      return scroll.position;
+  }
+}
 
 WindowStyle StyleOf(const TopWindowParams& params) {
   constexpr DWORD kAll = WS_POPUP | WS_CLIPCHILDREN | WS_CLIPSIBLINGS;
@@ -112,14 +141,49 @@ void TopWindow::SetClientSize(Size client) {
   }
 }
 
+void TopWindow::SetScroll(const Scroll& scroll) {
+  if (scroll == scroll_) return;
+  scroll_ = scroll;
+  SCROLLINFO info{};
+  info.cbSize = sizeof(info);
+  info.fMask = SIF_RANGE | SIF_PAGE | SIF_POS;
+  info.nMax = std::max(0, scroll.content - 1);
+  info.nPage = static_cast<UINT>(scroll.page);
+  info.nPos = scroll.position;
+  ::SetScrollInfo(hwnd(), SB_VERT, &info, TRUE);
+  ::ShowScrollBar(hwnd(), SB_VERT, scroll.content > scroll.page);
+}
+
+void TopWindow::FocusMoved(HWND control) {
+  RECT area{};
+  ::GetWindowRect(control, &area);
+  ::MapWindowPoints(nullptr, hwnd(), reinterpret_cast<POINT*>(&area), 2);
+  events_.OnFocusMoved(FromRect(area));
+}
+
 void TopWindow::BeginDrag() {
   // Moves of the mouse may be delivered while the drag goes on, and each of them asks again.
   if (dragging_) return;
   dragging_ = true;
   const Lifetime::Watch watch(lifetime());
+  FollowPointer();
+  if (watch.Gone()) return;
   ::ReleaseCapture();
   ::SendMessageW(hwnd(), WM_SYSCOMMAND, kMoveByCaption, 0);
   if (!watch.Gone()) dragging_ = false;
+}
+
+// The drag is begun by the first move, which may be a long one; the system, or a window manager,
+// takes hold of the window only then, and it would trail behind the pointer by so much.
+void TopWindow::FollowPointer() {
+  POINT pressed = pressed_;
+  POINT pointer{};
+  ::ClientToScreen(hwnd(), &pressed);
+  if (!::GetCursorPos(&pointer)) return;
+  Rect bounds = Bounds();
+  bounds.left += static_cast<int>(pointer.x - pressed.x);
+  bounds.top += static_cast<int>(pointer.y - pressed.y);
+  SetBounds(bounds);
 }
 
 void TopWindow::SetAlpha(std::uint8_t alpha) { SetWindowOpacity(hwnd(), alpha); }
@@ -132,7 +196,7 @@ bool TopWindow::UnderPointer() const {
 
 void TopWindow::Raise() {
   if (::IsIconic(hwnd())) ::ShowWindow(hwnd(), SW_RESTORE);
-  ::SetForegroundWindow(hwnd());
+  ::SetForegroundWindow(::GetLastActivePopup(hwnd()));
 }
 
 int TopWindow::Dpi() const { return DpiOfWindow(hwnd()); }
@@ -143,6 +207,7 @@ std::optional<LRESULT> TopWindow::Handle(const Message& message) {
     if (const auto answer = HandleWindow(message)) return answer;
     if (const auto answer = HandleSystem(message)) return answer;
     if (const auto answer = HandleDrag(message)) return answer;
+    if (const auto answer = HandleScroll(message)) return answer;
   }
   return WidgetOf::Handle(message);
 }
@@ -154,6 +219,12 @@ std::optional<LRESULT> TopWindow::HandleKind(const Message& message) {
   }
   if (message.id == WM_MOUSEACTIVATE && LOWORD(message.l) == HTMENU && DeclinesFocus()) {
     return MA_NOACTIVATE;
+  }
+  // F10 or Alt: without a menu bar the system would wait for a second key.
+  if (bare_frame_ && message.id == WM_SYSCOMMAND && (message.w & 0xFFF0U) == SC_KEYMENU &&
+      message.l == 0) {
+    events_.OnContextMenu(ContextMenuPlace(hwnd(), {WM_CONTEXTMENU, 0, -1}));
+    return 0;
   }
   if (message.id == WM_GETMINMAXINFO) {
     LimitSize(*reinterpret_cast<MINMAXINFO*>(message.l));
@@ -214,6 +285,9 @@ std::optional<LRESULT> TopWindow::HandleSystem(const Message& message) {
 
 std::optional<LRESULT> TopWindow::HandleDrag(const Message& message) {
   switch (message.id) {
+    case WM_PARENTNOTIFY:
+      if (LOWORD(message.w) == WM_LBUTTONDOWN) pressed_ = PointIn(message.l);
+      return std::nullopt;
     case WM_ENTERSIZEMOVE:
       drag_.Begin(Bounds());
       return std::nullopt;
@@ -230,6 +304,24 @@ std::optional<LRESULT> TopWindow::HandleDrag(const Message& message) {
     default:
       return std::nullopt;
   }
+}
+
+std::optional<LRESULT> TopWindow::HandleScroll(const Message& message) {
+  if (scroll_.content <= scroll_.page) return std::nullopt;
+  if (message.id == WM_VSCROLL && message.l == 0) {
+    events_.OnScroll(Wanted(hwnd(), LOWORD(message.w), scroll_));
+    return 0;
+  }
+  if (message.id == WM_MOUSEWHEEL) {
+    UINT lines = 3;
+    ::SystemParametersInfoW(SPI_GETWHEELSCROLLLINES, 0, &lines, 0);
+    const int notch =
+        lines == WHEEL_PAGESCROLL ? scroll_.page : static_cast<int>(lines) * scroll_.line;
+    events_.OnScroll(scroll_.position -
+                     ::MulDiv(static_cast<short>(HIWORD(message.w)), notch, WHEEL_DELTA));
+    return 0;
+  }
+  return std::nullopt;
 }
 
 void TopWindow::EndDrag() {

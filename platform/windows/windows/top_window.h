@@ -21,6 +21,7 @@ class TopWindow final : public WidgetOf<platform::TopWindow> {
   [[nodiscard]] bool Topmost() const override;
   void SetSizeLimits(Size smallest, Size largest) override;
   void SetClientSize(Size client) override;
+  void SetScroll(const Scroll& scroll) override;
   void BeginDrag() override;
   [[nodiscard]] bool Dragging() const override { return drag_.Active(); }
   void SetAlpha(std::uint8_t alpha) override;
@@ -33,6 +34,8 @@ class TopWindow final : public WidgetOf<platform::TopWindow> {
   // Whether it has the keys of a dialog: with a caption, and when the program wants the keyboard.
   [[nodiscard]] bool TakesDialogKeys() const { return takes_dialog_keys_; }
   void CancelKey() { events_.OnCancelKey(); }
+  // The focus came to this control of it.
+  void FocusMoved(HWND control);
 
  protected:
   std::optional<LRESULT> Handle(const Message& message) override;
@@ -43,9 +46,11 @@ class TopWindow final : public WidgetOf<platform::TopWindow> {
   [[nodiscard]] std::optional<LRESULT> HandleWindow(const Message& message);
   [[nodiscard]] std::optional<LRESULT> HandleSystem(const Message& message);
   [[nodiscard]] std::optional<LRESULT> HandleDrag(const Message& message);
+  [[nodiscard]] std::optional<LRESULT> HandleScroll(const Message& message);
   // Keeps in mind where the keyboard was, and puts it there again.
   void RememberFocus();
   void RestoreFocus();
+  void FollowPointer();
   LRESULT HandlePlaced(const Message& message);
   void EndDrag();
   LRESULT HandleDpi(const Message& message);
@@ -60,9 +65,11 @@ class TopWindow final : public WidgetOf<platform::TopWindow> {
   HWND last_focus_ = nullptr;  // the child that had the keyboard when the window was last active
   HWND foreground_before_ = nullptr;  // what had the keyboard when this was shown with it
   SizeLimits limits_;
+  Scroll scroll_;
   Rect reported_bounds_;
   ULONGLONG declines_focus_until_ = 0;  // in ticks of the system
   bool dragging_ = false;               // inside BeginDrag
+  POINT pressed_{};                     // where the button last went down, in the client area
   DragWatch drag_;
   WindowShape shape_;
 };

@@ -1,0 +1,88 @@
+#include "platform/wave_file.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <fstream>
+#include <iterator>
+#include <string>
+
+namespace {
+
+std::string Number(std::uint32_t value, int size) {
+  std::string bytes;
+  for (int i = 0; i < size; ++i) bytes += static_cast<char>(value >> (8 * i));
+  return bytes;
+}
+
+std::string Chunk(const std::string& name, const std::string& data) {
+  return name + Number(static_cast<std::uint32_t>(data.size()), 4) + data;
+}
+
+struct Format {
+  std::uint32_t tag = 1;
+  std::uint32_t channels = 1;
+  std::uint32_t samples_a_second = 8000;
+  std::uint32_t bytes_a_second = 16000;
+  std::uint32_t block = 2;
+  std::string more = {};
+};
+
+std::string FormatChunk(const Format& f = {}) {
+  return Chunk("fmt ", Number(f.tag, 2) + Number(f.channels, 2) + Number(f.samples_a_second, 4) +
+                           Number(f.bytes_a_second, 4) + Number(f.block, 2) + Number(16, 2) +
+                           f.more);
+}
+
+std::string Wave(const std::string& chunks) { return Chunk("RIFF", "WAVE" + chunks); }
+
+TEST(WaveFile, IsWhatAPlayerCanTrust) {
+  const std::string data = Chunk("data", "abcd");
+  const std::string good = Wave(FormatChunk() + data);
+  struct Row {
+    const char* why;
+    std::string bytes;
+    bool is_one;
+  };
+  const Row rows[] = {
+      {"plain", good, true},
+      {"bytes behind it", good + "more", true},
+      {"other chunks in between, one of them odd",
+       Wave(Chunk("LIST", "abc") + std::string(1, '\0') + FormatChunk() + data), true},
+      {"a sound of no length", Wave(FormatChunk() + Chunk("data", "")), true},
+      {"another format", Wave(FormatChunk({.tag = 2, .more = Number(2, 2) + "xy"}) + data), true},
+      {"empty", "", false},
+      {"its head alone", good.substr(0, 12), false},
+      {"cut in the sound", good.substr(0, good.size() - 1), false},
+      {"cut in the format", good.substr(0, 30), false},
+      {"another file", "RIFX" + good.substr(4), false},
+      {"another kind", good.substr(0, 8) + "AVI " + good.substr(12), false},
+      {"a sound that leaves the file", Wave(FormatChunk() + "data" + Number(5, 4) + "abcd"), false},
+      {"a size of all ones", Wave("fmt " + Number(0xFFFFFFFF, 4) + std::string(30, 'x')), false},
+      {"no format", Wave(data), false},
+      {"the format behind the sound", Wave(data + FormatChunk()), false},
+      {"no sound", Wave(FormatChunk()), false},
+      {"a short format", Wave(Chunk("fmt ", std::string(14, '\1')) + data), false},
+      {"no channels", Wave(FormatChunk({.channels = 0}) + data), false},
+      {"no samples", Wave(FormatChunk({.samples_a_second = 0}) + data), false},
+      {"no bytes a second", Wave(FormatChunk({.bytes_a_second = 0}) + data), false},
+      {"more of them than any", Wave(FormatChunk({.bytes_a_second = 0xFFFFFFFF}) + data), false},
+      {"no block", Wave(FormatChunk({.block = 0}) + data), false},
+      {"a format that leaves its chunk",
+       Wave(FormatChunk({.tag = 2, .more = Number(3, 2) + "xy"}) + data), false},
+  };
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.why);
+    EXPECT_EQ(platform::IsWaveFile(row.bytes), row.is_one);
+  }
+}
+
+TEST(WaveFile, OurOwnSoundsAreSome) {
+  for (const char* name : {"warning.wav", "ticking.wav"}) {
+    std::ifstream file(std::string(SOURCE_FOLDER "/assets/") + name, std::ios::binary);
+    const std::string bytes(std::istreambuf_iterator<char>(file), {});
+    EXPECT_TRUE(platform::IsWaveFile(bytes)) << name;
+  }
+}
+
+}  // namespace
