@@ -183,7 +183,7 @@ void GraphOthersPage::PushScale() {
     display::ApplyScale(settings::ReadScale(context_.store), meter.graph, nullptr);
   } else {
     display::ApplyScale(
-        ScaleOf(ScaleCombo.ItemIndex(), settings::LimitOfShownSpeed(CustomScale.Value())),
+        settings::ScaleOf(ScaleCombo.ItemIndex(), settings::LimitOfShownSpeed(CustomScale.Value())),
         meter.graph, &meter.SpeedCap);
   }
 }

@@ -46,7 +46,7 @@ TEST_F(Files, WhatIsAppendedStandsBehindTheRest) {
   EXPECT_TRUE(files().Append(path, "345"));
   EXPECT_EQ(files().Load(path, 100), "12345");
   EXPECT_EQ(files().Size(path), 5U);
-  world_->KeepFromWriting(path, [&] { EXPECT_FALSE(files().Append(path, "6")); });
+  world_->HoldFile(path, [&] { EXPECT_FALSE(files().Append(path, "6")); });
   EXPECT_EQ(files().Size(folder_.substr(0, folder_.size() - 1)), std::nullopt) << "a folder";
 }
 
