@@ -1,10 +1,10 @@
 #include "alerts/notifications.h"
 
 #include <algorithm>
+#include <optional>
 #include <string>
 
 #include "engine/product.h"
-#include "settings/flag_once.h"
 
 namespace alerts {
 namespace {
@@ -15,6 +15,22 @@ constexpr int kTimerMs = 1000;
 constexpr int kBalloonSeconds = 30;
 // Of both rules, in this spelling, whatever the preferences show for the first one.
 constexpr std::string_view kDefaultWave = "warning.wav";
+
+// A flag that is read when it is first needed, and once.
+class FlagOnce {
+ public:
+  FlagOnce(settings::Store& store, const settings::BooleanSetting& flag)
+      : store_(store), flag_(flag) {}
+  [[nodiscard]] bool Get() {
+    if (!value_) value_ = store_.Read(flag_);
+    return *value_;
+  }
+
+ private:
+  settings::Store& store_;
+  const settings::BooleanSetting& flag_;
+  std::optional<bool> value_;
+};
 
 // A rule during one scan.
 struct WatchedRule {
@@ -28,7 +44,7 @@ struct WatchedRule {
     CountIf(rule.qualifies(scan.ScanSumDL, threshold), downloaded, dl_ticks);
   }
 
-  static void CountIf(bool qualifies, settings::FlagOnce& watched, std::int64_t& ticks) {
+  static void CountIf(bool qualifies, FlagOnce& watched, std::int64_t& ticks) {
     ticks = qualifies && watched.Get() ? ticks + 1 : 0;
   }
 
@@ -36,8 +52,8 @@ struct WatchedRule {
   const TrafficRule& rule;
   std::int64_t& ul_ticks;
   std::int64_t& dl_ticks;
-  settings::FlagOnce downloaded{store, rule.downloaded};
-  settings::FlagOnce uploaded{store, rule.uploaded};
+  FlagOnce downloaded{store, rule.downloaded};
+  FlagOnce uploaded{store, rule.uploaded};
 };
 
 }  // namespace

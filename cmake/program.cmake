@@ -8,7 +8,7 @@ if(TARGET windows)
   get_target_property(windows_type windows TYPE)
   if(windows_type STREQUAL "STATIC_LIBRARY")
     target_link_libraries(windows PUBLIC iphlpapi ws2_32 gdi32 user32 shell32 advapi32
-                                         comctl32 uxtheme shcore)
+                                         comctl32 uxtheme shcore dwmapi)
   endif()
 endif()
 

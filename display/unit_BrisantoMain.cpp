@@ -55,7 +55,7 @@ T_frmBrisanto::T_frmBrisanto(toolkit::Application& app)
       _ReadLangauge(RegME, app.Platform().files, app.Platform().locale),
       quantity_(RegME, app.Platform().locale),
       statistics_(RegME),
-      sampler_(app.Platform().interface_table, app.Platform().locale, RegME, statistics_, traffic_),
+      sampler_(app.Platform().interface_table, app.Platform().locale, RegME, traffic_),
       scan_cycle_(app.Platform().clock, sampler_, statistics_, traffic_, *this),
       _MainMenu(app),
       adapter_menus_(RegME, *_MainMenu.conenctionMonitor1, *_MainMenu.ConnectionSources1),

@@ -1,7 +1,5 @@
 #include "engine/error_log.h"
 
-#include <algorithm>
-
 #include "platform/text.h"
 #include "settings/text_file.h"
 
@@ -20,15 +18,9 @@ std::string OnOneLine(std::string_view message) {
   return platform::ValidUtf8(line);
 }
 
-// Lines end with CR LF, LF or CR, so that a log which was edited by hand keeps its lines.
 std::vector<std::string> LinesOf(std::string_view text) {
   std::vector<std::string> lines;
-  while (!text.empty()) {
-    const std::size_t end = std::min(text.find_first_of("\r\n"), text.size());
-    lines.emplace_back(text.substr(0, end));
-    text.remove_prefix(end);
-    text.remove_prefix(text.starts_with(kLineEnd) ? kLineEnd.size() : text.empty() ? 0 : 1);
-  }
+  while (!text.empty()) lines.emplace_back(platform::TakeLine(text));
   return lines;
 }
 

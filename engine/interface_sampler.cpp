@@ -89,7 +89,7 @@ bool InterfaceSampler::RowCountChanged() {
   return HighestIndex(state_.interface_table) != state_.AdapterHigh;
 }
 
-ScanAmounts InterfaceSampler::SampleInterfaces(platform::DateTime today) {
+ScanAmounts InterfaceSampler::SampleInterfaces(const Persist& persist) {
   // Rows that RowCountChanged has not seen wait for the next scan.
   reader_.ReadInterfaceTable(state_.interface_table, NewRows::kLeaveOut);
   ScanAmounts scan;
@@ -106,7 +106,7 @@ ScanAmounts InterfaceSampler::SampleInterfaces(platform::DateTime today) {
     if (WasSetBack(row, counters)) TakeBase(row, counters);
     UpdateCounters(row, state_.SpeedCap, counters);
   }
-  for (std::size_t row = 0; row < rows; ++row) CountRow(row, today, scan);
+  for (std::size_t row = 0; row < rows; ++row) CountRow(row, persist, scan);
   return scan;
 }
 
@@ -121,7 +121,7 @@ bool InterfaceSampler::WasSetBack(const InterfaceRow& row, const AdapterCounters
                     BeganAnew(counters.LastOutOctets, row.dwOutOctets, octets->out));
 }
 
-void InterfaceSampler::CountRow(std::size_t row, platform::DateTime today, ScanAmounts& scan) {
+void InterfaceSampler::CountRow(std::size_t row, const Persist& persist, ScanAmounts& scan) {
   const AdapterCounters& counters = state_.adapter_counters[row];
   const std::string description = AdapterDescription(state_.interface_table[row], locale_);
   if (IsLoopback(description)) return;
@@ -134,8 +134,7 @@ void InterfaceSampler::CountRow(std::size_t row, platform::DateTime today, ScanA
   // The sums so far decide, not the row's own bytes: behind an active row an idle or excluded one
   // is persisted too, and a scan with bytes in one direction only persists nothing.
   if (scan.ScanSumDL == 0 || scan.ScanSumUL == 0) return;
-  WriteAdapterData(store_, description, state_.interface_table[row]);
-  statistics_.UpdateAdapterStatistics(description, counters, today);
+  persist({description, state_.interface_table[row], counters});
 }
 
 void InterfaceSampler::TakePresentCounters() {

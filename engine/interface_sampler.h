@@ -2,11 +2,11 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <vector>
 
 #include "engine/interface_reader.h"
-#include "engine/statistics.h"
 #include "engine/traffic_state.h"
 #include "platform/interface_table.h"
 #include "platform/locale.h"
@@ -23,14 +23,15 @@ struct AdapterItem {
 
 class InterfaceSampler {
  public:
+  using Persist = std::function<void(const AdapterScan&)>;
+
   // All outlive the sampler.
   InterfaceSampler(platform::InterfaceTable& interface_table, platform::Locale& locale,
-                   settings::Store& store, Statistics& statistics, TrafficState& state)
+                   settings::Store& store, TrafficState& state)
       : interface_table_(interface_table),
         reader_(interface_table),
         locale_(locale),
         store_(store),
-        statistics_(statistics),
         state_(state) {}
 
   // Reads the table, seeds the counters of every row from it, so that the next scan counts from
@@ -41,12 +42,11 @@ class InterfaceSampler {
   // Reads the table; whether its row count differs from that of the last InitAdapters.
   [[nodiscard]] bool RowCountChanged();
 
-  // Reads the table and measures one scan; for each row that is to be persisted stores the adapter
-  // data and updates its statistics.
-  //   today  midnight of the local date
-  // Throws what the store throws. The counters of all rows are up to date then, so the bytes of
+  // Reads the table and measures one scan; hands each adapter that is to be persisted to `persist`,
+  // in row order, before the include flag of the next is read.
+  // Throws what `persist` throws. The counters of all rows are up to date then, so the bytes of
   // this scan are not counted by a later one.
-  [[nodiscard]] ScanAmounts SampleInterfaces(platform::DateTime today);
+  [[nodiscard]] ScanAmounts SampleInterfaces(const Persist& persist);
 
   // Takes the present counters as those of the previous scan. For the return from sleep, when
   // drivers may have started theirs anew and a difference is no traffic.
@@ -58,13 +58,12 @@ class InterfaceSampler {
  private:
   [[nodiscard]] bool CountersFitTable() const;
   [[nodiscard]] bool WasSetBack(const platform::InterfaceRow& row, const AdapterCounters& counters);
-  void CountRow(std::size_t row, platform::DateTime today, ScanAmounts& scan);
+  void CountRow(std::size_t row, const Persist& persist, ScanAmounts& scan);
 
   platform::InterfaceTable& interface_table_;
   InterfaceReader reader_;
   platform::Locale& locale_;
   settings::Store& store_;
-  Statistics& statistics_;
   TrafficState& state_;
 };
 

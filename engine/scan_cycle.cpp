@@ -22,7 +22,8 @@ void ScanCycle::Run() {
   const platform::DateTime today = platform::DateOf(clock_.Now());
 
   ReinitialiseIfRowsChanged();
-  const ScanAmounts scan = sampler_.SampleInterfaces(today);
+  const ScanAmounts scan = sampler_.SampleInterfaces(
+      [&](const AdapterScan& adapter) { statistics_.PersistAdapter(adapter, today); });
   FeedGraph(scan);
   state_.AddToRunTotals(scan);
   statistics_.UpdateMachineMaxima(scan);

@@ -1,5 +1,6 @@
 #include "engine/statistics.h"
 
+#include "engine/adapter.h"
 #include "engine/counter_group.h"
 #include "engine/periods.h"
 #include "engine/week_number.h"
@@ -20,6 +21,11 @@ void Statistics::InitStatistics(std::span<const std::string> descriptions, platf
   for (const std::string& description : descriptions) {
     store_.WriteBool(settings::AdapterName(description), true);
   }
+}
+
+void Statistics::PersistAdapter(const AdapterScan& adapter, platform::DateTime today) {
+  WriteAdapterData(store_, adapter.description, adapter.row);
+  UpdateAdapterStatistics(adapter.description, adapter.counters, today);
 }
 
 void Statistics::UpdateAdapterStatistics(std::string_view description,

@@ -22,9 +22,13 @@ class Statistics {
   //   now           local date and time
   void InitStatistics(std::span<const std::string> descriptions, platform::DateTime now);
 
-  // Of one adapter, in a scan that persists it. It compares with the machine's period markers and
-  // does not write them, so that all adapters of the scan roll over together; one that is not
-  // persisted in that scan misses the reset and goes on adding to the old values.
+  // Stores the data of one adapter, in a scan that persists it, and updates its statistics.
+  //   today  midnight of the local date
+  void PersistAdapter(const AdapterScan& adapter, platform::DateTime today);
+
+  // The statistics of one adapter, in a scan that persists it. It compares with the machine's
+  // period markers and does not write them, so that all adapters of the scan roll over together;
+  // one that is not persisted in that scan misses the reset and goes on adding to the old values.
   //   today  midnight of the local date
   void UpdateAdapterStatistics(std::string_view description, const AdapterCounters& counters,
                                platform::DateTime today);

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "platform/date_time.h"
@@ -33,6 +34,13 @@ struct AdapterCounters {
   std::uint32_t DeltaOut = 0;
   std::uint32_t MaxIn = 0;  // largest scan, capped
   std::uint32_t MaxOut = 0;
+};
+
+// What one scan hands on of an adapter.
+struct AdapterScan {
+  std::string_view description;
+  const platform::InterfaceRow& row;
+  const AdapterCounters& counters;
 };
 
 // No table has this highest index (an empty one has -1), so a table of any size differs from it.

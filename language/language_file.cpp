@@ -1,7 +1,5 @@
 #include "language/language_file.h"
 
-#include <algorithm>
-
 #include "platform/text.h"
 #include "settings/text_file.h"
 
@@ -31,11 +29,7 @@ LanguageFile::LanguageFile(std::string_view bytes, platform::Locale& locale) {
   if (text.find('\0') != std::string::npos) return;
   std::string section;
   std::string_view rest = text;
-  while (!rest.empty()) {
-    const std::string_view line = rest.substr(0, rest.find_first_of("\r\n"));
-    ReadLine(line, section);
-    rest.remove_prefix(std::min(line.size() + 1, rest.size()));
-  }
+  while (!rest.empty()) ReadLine(platform::TakeLine(rest), section);
 }
 
 void LanguageFile::ReadLine(std::string_view line, std::string& section) {

@@ -91,6 +91,13 @@ std::string Trim(std::string_view text) {
   return std::string(text);
 }
 
+std::string_view TakeLine(std::string_view& rest) {
+  const std::string_view line = rest.substr(0, rest.find_first_of("\r\n"));
+  rest.remove_prefix(line.size());
+  rest.remove_prefix(rest.starts_with("\r\n") ? 2 : std::min<std::size_t>(1, rest.size()));
+  return line;
+}
+
 std::string ValidUtf8(std::string_view text) {
   std::string valid;
   valid.reserve(text.size());

@@ -18,6 +18,10 @@ namespace platform {
 // Without blanks and control characters (codes 0 to 32) at either end.
 [[nodiscard]] std::string Trim(std::string_view text);
 
+// Takes the first line off `rest`, which is not empty, with its end: CR LF, LF or CR. A line end at
+// the end of a text begins no further line.
+[[nodiscard]] std::string_view TakeLine(std::string_view& rest);
+
 // `text` with every malformed sequence replaced by U+FFFD.
 [[nodiscard]] std::string ValidUtf8(std::string_view text);
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <optional>
 
+#include "platform/text.h"
 #include "settings/text_file.h"
 
 namespace display {
@@ -12,14 +13,10 @@ constexpr std::size_t kLargestFile = std::size_t{16} << 20U;
 
 std::string PathOf(platform::Files& files) { return files.ProgramFolder() + "WindowTitles.tit"; }
 
-// A line end at the end of the text begins no further line.
 TitleFile Split(std::string_view text) {
   TitleFile file;
   while (!text.empty() && file.lines.size() < kMostTitles) {
-    const std::size_t end = std::min(text.find_first_of("\r\n"), text.size());
-    file.lines.emplace_back(text.substr(0, end));
-    const bool pair = text.substr(end).starts_with("\r\n");
-    text.remove_prefix(std::min(end + (pair ? 2 : 1), text.size()));
+    file.lines.emplace_back(platform::TakeLine(text));
   }
   file.beyond = text;
   return file;

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "language/texts.h"
+#include "settings/placement_keys.h"
 #include "toolkit/application.h"
 #include "toolkit/controls/layout.h"
 
@@ -13,7 +14,6 @@ namespace text = language::text::AddTitles;
 
 constexpr platform::Size kClientSize{308, 258};  // design pixels
 constexpr int kBalloonSeconds = 15;
-constexpr std::string_view kPlacementKey = "\\Software\\BrisantoNET\\Settings\\AddTitlesScreen";
 
 }  // namespace
 
@@ -30,7 +30,8 @@ T_frmAddTitles::T_frmAddTitles(toolkit::Application& app, TitlePosting& posting,
       btnAdd(*this, "btnAdd"),
       Note(*this, "Note", toolkit::kWrappedText),
       OkBtn(*this, "OkBtn"),
-      placement_saver_(*this, kPlacementKey, toolkit::PlacementSaver::Restores::kPlace) {
+      placement_saver_(*this, settings::placement_key::kAddTitles,
+                       toolkit::PlacementSaver::Restores::kPlace) {
   SetClientSize(kClientSize);
   toolkit::ApplyLayout({
       {WindowTitlesListbox, {8, 8, 206, 150}},

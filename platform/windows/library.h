@@ -1,4 +1,4 @@
-// Calls that older systems lack, looked up at run time.
+// Calls that are looked up at run time, of libraries that most runs do without.
 #pragma once
 
 #include "platform/windows/handle.h"

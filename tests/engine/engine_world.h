@@ -39,7 +39,12 @@ class Engine {
   // Lets the first adapter move bytes and samples them.
   engine::ScanAmounts Sample(std::uint32_t received, std::uint32_t sent) {
     machine.interface_table.AddTraffic(0, received, sent);
-    return sampler.SampleInterfaces(Today());
+    return Sample();
+  }
+  engine::ScanAmounts Sample() {
+    return sampler.SampleInterfaces([this](const engine::AdapterScan& adapter) {
+      statistics.PersistAdapter(adapter, Today());
+    });
   }
 
   [[nodiscard]] platform::DateTime Today() { return platform::DateOf(machine.clock.Now()); }
@@ -62,8 +67,7 @@ class Engine {
   settings::Store store{machine.registry, machine.files};
   engine::TrafficState state;
   engine::Statistics statistics{store};
-  engine::InterfaceSampler sampler{machine.interface_table, machine.locale, store, statistics,
-                                   state};
+  engine::InterfaceSampler sampler{machine.interface_table, machine.locale, store, state};
 };
 
 }  // namespace test

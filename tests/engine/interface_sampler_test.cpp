@@ -138,7 +138,7 @@ TEST(Sampler, ARowIsPersistedOnceBothSumsAreAboveZero) {
       world.store.WriteBool(name, adapter.included);
       world.machine.interface_table.AddTraffic(position++, adapter.in, adapter.out);
     }
-    const ScanAmounts scan = world.sampler.SampleInterfaces(world.Today());
+    const ScanAmounts scan = world.Sample();
     EXPECT_EQ(scan.ScanSumDL, row.dl);
     EXPECT_EQ(scan.ScanSumUL, row.ul);
     EXPECT_EQ(world.Persisted("a"), row.a.persisted);
@@ -154,8 +154,7 @@ TEST(Sampler, TheMaximaOfAScanAreSumsOfPeaks) {
   (void)world.Initialise();
   (void)world.Sample(3000, 1);
   world.machine.interface_table.AddTraffic(1, 5000, 1);
-  EXPECT_EQ(world.sampler.SampleInterfaces(world.Today()).ScanMaxDL, 8000)
-      << "they never moved together";
+  EXPECT_EQ(world.Sample().ScanMaxDL, 8000) << "they never moved together";
 }
 
 TEST(Sampler, OnlyTheLoopbackItselfIsLeftOut) {
@@ -234,7 +233,7 @@ TEST(Sampler, RowCountsAreComparedAlsoAroundAnEmptyTable) {
   (void)world.Initialise();
   world.machine.interface_table.rows.clear();
   EXPECT_FALSE(world.sampler.RowCountChanged()) << "no rows at all: the old table stays";
-  EXPECT_EQ(world.sampler.SampleInterfaces(world.Today()).ScanSumDL, 0);
+  EXPECT_EQ(world.Sample().ScanSumDL, 0);
 }
 
 TEST(Sampler, ARowThatVanishesWithinAScanCausesNoSpike) {

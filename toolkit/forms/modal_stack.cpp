@@ -4,6 +4,7 @@
 #include <optional>
 #include <utility>
 
+#include "platform/scoped_value.h"
 #include "toolkit/application.h"
 #include "toolkit/forms/form.h"
 
@@ -101,11 +102,7 @@ ModalResult ModalStack::Show(Form& form) {
 bool ModalStack::RunSystemDialog(const Form& owner, const std::function<void()>& dialog) {
   if (app_.Terminated() || dialog_owner_ != nullptr) return false;
   const Disabled others(*this, owner);
-  struct Open {
-    Open(ModalStack& of, const Form& owner) : stack(of) { stack.dialog_owner_ = &owner; }
-    ~Open() { stack.dialog_owner_ = nullptr; }
-    ModalStack& stack;
-  } const open(*this, owner);
+  const platform::ScopedValue<const Form*> open(dialog_owner_, &owner);
   dialog();
   return true;
 }

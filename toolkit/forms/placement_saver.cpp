@@ -5,6 +5,7 @@
 #include <optional>
 #include <utility>
 
+#include "platform/scoped_value.h"
 #include "toolkit/application.h"
 #include "toolkit/forms/form.h"
 #include "toolkit/forms/placement.h"
@@ -75,12 +76,11 @@ void PlacementSaver::Place() {
   const platform::Rect target =
       InSight(wanted_, form_.HeldBy(), monitors_) ? wanted_ : BroughtIntoView(wanted_, screen);
   displaced_ = target != wanted_;
-  placing_ = true;
+  const platform::ScopedValue placing(placing_, true);
   // Once more, because a monitor of another resolution gives the form another size.
   for (int attempt = 0; attempt < 2 && form_.WindowBounds() != target; ++attempt) {
     form_.SetWindowBounds(target);
   }
-  placing_ = false;
   // The form keeps to its limits.
   if (!displaced_) wanted_ = form_.WindowBounds();
 }

@@ -2,8 +2,6 @@
 
 #include <cstddef>
 
-#include "platform/windows/library.h"
-
 namespace platform::windows {
 
 static_assert(sizeof(InterfaceRow) == sizeof(MIB_IFROW));
@@ -14,9 +12,16 @@ static_assert(offsetof(InterfaceRow, bDescr) == offsetof(MIB_IFROW, bDescr));
 static_assert(kInterfaceTableHead == offsetof(MIB_IFTABLE, table));
 static_assert(kInsufficientBuffer == ERROR_INSUFFICIENT_BUFFER);
 
-// This program links to the library, so it is loaded already.
-InterfaceTable::InterfaceTable()
-    : get_entry_(Function<GetEntry>(::GetModuleHandleW(L"iphlpapi.dll"), "GetIfEntry2")) {}
+namespace {
+
+std::optional<MIB_IF_ROW2> Entry(std::uint32_t index) {
+  MIB_IF_ROW2 entry{};
+  entry.InterfaceIndex = index;
+  if (::GetIfEntry2(&entry) != NO_ERROR) return std::nullopt;
+  return entry;
+}
+
+}  // namespace
 
 std::uint32_t InterfaceTable::Read(std::span<std::byte> buffer, std::uint32_t& size) {
   auto needed = static_cast<ULONG>(buffer.size());
@@ -27,8 +32,6 @@ std::uint32_t InterfaceTable::Read(std::span<std::byte> buffer, std::uint32_t& s
 }
 
 std::optional<bool> InterfaceTable::IsFilter(std::uint32_t index) {
-  // A system that lacks the call has no such filters either.
-  if (get_entry_ == nullptr) return false;
   const auto entry = Entry(index);
   if (!entry) return std::nullopt;
   return entry->InterfaceAndOperStatusFlags.FilterInterface != 0;
@@ -38,13 +41,6 @@ std::optional<LongOctets> InterfaceTable::Octets(std::uint32_t index) {
   const auto entry = Entry(index);
   if (!entry) return std::nullopt;
   return LongOctets{entry->InOctets, entry->OutOctets};
-}
-
-std::optional<MIB_IF_ROW2> InterfaceTable::Entry(std::uint32_t index) const {
-  MIB_IF_ROW2 entry{};
-  entry.InterfaceIndex = index;
-  if (get_entry_ == nullptr || get_entry_(&entry) != NO_ERROR) return std::nullopt;
-  return entry;
 }
 
 }  // namespace platform::windows

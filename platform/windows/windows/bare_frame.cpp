@@ -1,8 +1,9 @@
 #include "platform/windows/windows/bare_frame.h"
 
+#include <dwmapi.h>
+
 #include "platform/windows/dpi.h"
 #include "platform/windows/drawing/gdi.h"
-#include "platform/windows/library.h"
 
 namespace platform::windows {
 namespace {
@@ -72,13 +73,8 @@ bool OnSizingEdge(HWND child, LPARAM screen_point) {
 }
 
 void BareFrame::TakeOver(HWND hwnd) {
-  using SetAttribute = HRESULT(WINAPI*)(HWND, DWORD, LPCVOID, DWORD);
-  constexpr DWORD kRenderingPolicy = 2;  // DWMWA_NCRENDERING_POLICY
-  const DWORD disabled = 1;              // DWMNCRP_DISABLED
-  const Library library(::LoadLibraryExW(L"dwmapi.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32));
-  if (const auto set = Function<SetAttribute>(library.get(), "DwmSetWindowAttribute")) {
-    set(hwnd, kRenderingPolicy, &disabled, sizeof(disabled));
-  }
+  const DWORD disabled = DWMNCRP_DISABLED;
+  ::DwmSetWindowAttribute(hwnd, DWMWA_NCRENDERING_POLICY, &disabled, sizeof(disabled));
 }
 
 std::optional<LRESULT> BareFrame::Handle(HWND hwnd, const Message& message,

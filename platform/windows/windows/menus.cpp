@@ -1,5 +1,6 @@
 #include "platform/windows/windows/menus.h"
 
+#include "platform/scoped_value.h"
 #include "platform/windows/dpi.h"
 #include "platform/windows/drawing/gdi_canvas.h"
 #include "platform/windows/windows/foreground.h"
@@ -117,11 +118,7 @@ int MenuWindow::Popup(Point at, const std::vector<MenuEntry>& entries, MenuPaint
   if (menu.root() == nullptr) return 0;
 
   Session session{painter, dpi, entries};
-  struct Open {
-    explicit Open(MenuWindow& of, Session& session) : window(of) { window.session_ = &session; }
-    ~Open() { window.session_ = nullptr; }
-    MenuWindow& window;
-  } const open(*this, session);
+  const ScopedValue<Session*> open(session_, &session);
   const Foreground foreground(hwnd());
   const KeyHook keys;
   const int chosen = ::TrackPopupMenuEx(menu.root(), PopupFlags(), at.x, at.y, hwnd(), nullptr);
