@@ -4,8 +4,8 @@
 
 #include "alerts/bandwidth_limit.h"
 #include "alerts/unit_BandWidthAlert.h"
-#include "engine/product.h"
 #include "language/texts.h"
+#include "program/product.h"
 #include "toolkit/application.h"
 
 namespace alerts {
@@ -46,7 +46,7 @@ void BandwidthAlert::BandwidthAlertExecute() {
 void BandwidthAlert::ShowMessage() {
   // No blank between the two parts, unlike the titles of the notifications.
   const std::string title =
-      std::string(engine::kProductTitle) + language_.Text(language::text::MainForm::S4);
+      std::string(program::kProductTitle) + language_.Text(language::text::MainForm::S4);
   reactions_.Warn(title, store_.Read(setting::BAMessage), kBalloonSeconds);
   menu_.CloseThen([this] { ShowWindow(); });
 }

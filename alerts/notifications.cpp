@@ -4,7 +4,7 @@
 #include <optional>
 #include <string>
 
-#include "engine/product.h"
+#include "program/product.h"
 
 namespace alerts {
 namespace {
@@ -101,7 +101,7 @@ void Notifications::Execute(const TrafficRule& rule) {
   const std::int64_t action = store_.Read(rule.action);
   if (action == kDisplayMessage) {
     const std::string title =
-        std::string(engine::kProductTitle) + " " + language_.Text(language::text::MainForm::S3);
+        std::string(program::kProductTitle) + " " + language_.Text(language::text::MainForm::S3);
     reactions_.Warn(title, store_.Read(rule.message), kBalloonSeconds);
   } else if (action == kShutdownComputer) {
     reactions_.ShutDownComputer();

@@ -12,10 +12,10 @@ if(TARGET windows)
   endif()
 endif()
 
-if(EXISTS ${CMAKE_SOURCE_DIR}/engine/main.cpp)
+if(EXISTS ${CMAKE_SOURCE_DIR}/program/main.cpp)
   enable_language(RC)
-  add_executable(Tremolux WIN32 engine/main.cpp assets/tremolux.rc)
-  target_link_libraries(Tremolux PRIVATE preferences windows)
+  add_executable(Tremolux WIN32 program/main.cpp assets/tremolux.rc)
+  target_link_libraries(Tremolux PRIVATE program windows)
   # The entry lies in the windows library, which is searched before anything asks for it.
   target_link_options(Tremolux PRIVATE -municode -s -Wl,-u,wWinMain)
 endif()

@@ -3,8 +3,8 @@
 #include <string>
 
 #include "display/program_image.h"
-#include "engine/product.h"
 #include "language/texts.h"
+#include "program/product.h"
 #include "toolkit/about_box.h"
 #include "toolkit/application.h"
 
@@ -15,8 +15,8 @@ namespace text = language::text::AboutForm;
 
 toolkit::AboutTexts Texts(const language::Language& language) {
   const language::Translation say = language.Chosen();
-  return {say(text::Title), std::string(engine::kProductTitle),
-          say(text::lblVersion, {engine::kVersion}), say(text::lblDescription), say(text::OkBtn)};
+  return {say(text::Title), std::string(program::kProductTitle),
+          say(text::lblVersion, {program::kVersion}), say(text::lblDescription), say(text::OkBtn)};
 }
 
 }  // namespace

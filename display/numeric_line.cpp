@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "engine/product.h"
 #include "platform/wrapping.h"
+#include "program/product.h"
 
 namespace display {
 namespace {
@@ -169,11 +169,11 @@ bool NumericLine::ReadMode(const settings::BooleanSetting& mode) {
 }
 
 std::string NumericLine::Label() const {
-  return any_mode_ ? Joined() : std::string(engine::kProductTitle);
+  return any_mode_ ? Joined() : std::string(program::kProductTitle);
 }
 
 std::string NumericLine::TrayHint() const {
-  return std::string(engine::kProductTitle) + " " + Joined();
+  return std::string(program::kProductTitle) + " " + Joined();
 }
 
 }  // namespace display

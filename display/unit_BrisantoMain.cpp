@@ -6,7 +6,7 @@
 #include "display/graph/grid_lines.h"
 #include "display/titles/unit_AddTitlesForm.h"
 #include "engine/local_ip.h"
-#include "engine/product.h"
+#include "program/product.h"
 #include "settings/administrator_lock.h"
 #include "settings/placement_keys.h"
 #include "settings/unit_SecurityForm.h"
@@ -35,7 +35,7 @@ constexpr std::int64_t kTextAndGraphMode = 2;
 platform::TopWindowParams CreateParams() {
   platform::TopWindowParams params;
   params.name = "T_frmBrisanto";
-  params.caption = engine::kProductTitle;
+  params.caption = program::kProductTitle;
   params.frame = platform::Frame::kSizeableTool;
   params.bare_popup = true;
   return params;
@@ -119,7 +119,7 @@ void T_frmBrisanto::DesignControls() {
   _tlkDLULMeter.SetCaption("[ DL:0,0 kB UL:0,0 kB ]");
   _tlkDLULMeter.SetAlign(toolkit::Align::kClient);
   SetPopupMenu(&_MainMenu.popup);
-  _TrayIcon.SetHint(engine::kProductTitle);
+  _TrayIcon.SetHint(program::kProductTitle);
 }
 
 void T_frmBrisanto::ConnectHandlers() {

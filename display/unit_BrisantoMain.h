@@ -24,7 +24,6 @@
 #include "display/tray/tray_icon.h"
 #include "engine/error_log.h"
 #include "engine/interface_sampler.h"
-#include "engine/program.h"
 #include "engine/scan_cycle.h"
 #include "engine/statistics.h"
 #include "engine/traffic_state.h"
@@ -42,15 +41,13 @@ namespace display {
 // Whether the scale and the cap that goes with it are taken from the store too, or stay.
 enum class ScaleTaken { kFromStore, kAsItIs };
 
-class T_frmBrisanto final : public toolkit::Form,
-                            public engine::MeterWindow,
-                            private engine::ScanSteps {
+class T_frmBrisanto final : public toolkit::Form, private engine::ScanSteps {
  public:
   // Made, initialised, shown without taking the focus, and scanning. `app` outlives the window.
   explicit T_frmBrisanto(toolkit::Application& app);
   ~T_frmBrisanto() override;
 
-  [[nodiscard]] engine::TrafficState& Traffic() override { return traffic_; }
+  [[nodiscard]] engine::TrafficState& Traffic() { return traffic_; }
   [[nodiscard]] RunningMeter Parts();
 
   // The one call that opens the preferences, which belong to it; until it is set they cannot be

@@ -5,10 +5,8 @@
 #include <memory>
 #include <string>
 
-#include "display/unit_BrisantoMain.h"
-#include "engine/program.h"
 #include "platform/memory/machine.h"
-#include "toolkit/application.h"
+#include "program/program.h"
 
 namespace bench {
 
@@ -23,13 +21,12 @@ class MemoryMeter {
 
   // Runs the program; `body` is what happens while it runs, and then the user leaves.
   void Run(const std::function<void()>& body) {
-    toolkit::Application app(machine.Platform());
+    program::Program program(machine.Platform());
     machine.message_loop.Then([&] {
       body();
-      app.Terminate();
+      program.App().Terminate();
     });
-    engine::RunProgram(machine.Platform(),
-                       [&app] { return std::make_unique<display::T_frmBrisanto>(app); });
+    program.Run();
   }
 
   // One second passes, in which every adapter receives and sends.

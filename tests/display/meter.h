@@ -9,11 +9,9 @@
 #include <utility>
 #include <vector>
 
-#include "display/unit_BrisantoMain.h"
-#include "engine/program.h"
 #include "platform/memory/machine.h"
+#include "program/program.h"
 #include "settings/store.h"
-#include "toolkit/application.h"
 
 namespace test {
 
@@ -35,20 +33,17 @@ class MeterTest : public testing::Test {
   // Runs the program; `body` is what happens while it runs, and then the user leaves.
   void Run(const std::function<void()>& body) {
     bool ran = false;
-    toolkit::Application app(machine.Platform());
-    app_ = &app;
-    machine.message_loop.Then([&] {
-      ran = true;
-      body();
-      app.Terminate();
-    });
-    engine::RunProgram(machine.Platform(), [&] {
-      auto window = std::make_unique<display::T_frmBrisanto>(app);
-      window_ = window.get();
-      return window;
-    });
-    app_ = nullptr;
-    window_ = nullptr;
+    {
+      program::Program program(machine.Platform());
+      program_ = &program;
+      machine.message_loop.Then([&] {
+        ran = true;
+        body();
+        program.App().Terminate();
+      });
+      program.Run();
+    }
+    program_ = nullptr;
     machine.EndProcess();
     EXPECT_TRUE(ran) << "the program did not start";
   }
@@ -94,14 +89,13 @@ class MeterTest : public testing::Test {
     return machine.registry.Text(kSettingsKey, name).value_or("(missing)");
   }
 
-  toolkit::Application& App() { return *app_; }
-  display::T_frmBrisanto& Window() { return *window_; }
+  toolkit::Application& App() { return program_->App(); }
+  display::T_frmBrisanto& Window() { return program_->Meter(); }
 
   platform::memory::Machine machine;
 
  private:
-  toolkit::Application* app_ = nullptr;
-  display::T_frmBrisanto* window_ = nullptr;
+  program::Program* program_ = nullptr;
 };
 
 }  // namespace test

@@ -56,6 +56,9 @@ std::string Describe(std::string_view path) {
   return text;
 }
 
+// The product's names, which say nothing about the program.
+constexpr std::string_view kProductNames = "program/product.h";
+
 bool IsOutside(std::string_view path) {
   return IsIn(path, "tests") || IsIn(path, "bench") || IsIn(path, "tools");
 }
@@ -64,6 +67,7 @@ bool MayInclude(std::string_view from, std::string_view to) {
   if (IsOutside(from)) return true;
   if (IsOutside(to)) return false;
   if (from == kEntryPoint) return PlatformBody(to) != "platform/memory";
+  if (to == kProductNames) return true;
   if (PlatformBody(to)) return PlatformBody(from) == PlatformBody(to);
   return FloorOf(to).floor > 0 && FloorOf(to).floor <= FloorOf(from).floor;
 }

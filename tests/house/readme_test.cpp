@@ -4,7 +4,7 @@
 #include <set>
 #include <sstream>
 
-#include "engine/product.h"
+#include "program/product.h"
 #include "tests/house/source_tree.h"
 
 namespace house {
@@ -51,7 +51,7 @@ TEST(Readme, DevListsItsWordsItself) {
 }
 
 TEST(Version, IsTheSameWhereverItIsWritten) {
-  const std::string version(engine::kVersion);
+  const std::string version(program::kVersion);
   std::string commas = version + ".0";
   for (std::size_t at = 0; (at = commas.find('.', at)) != std::string::npos;) {
     commas.replace(at, 1, ", ");

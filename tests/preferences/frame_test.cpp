@@ -143,7 +143,6 @@ TEST_F(Preferences, LockedTheyOpenOnlyWithThePassword) {
   Set("zdP1", 1);
   Set("zdP", "secret");
   Run([&] {
-    Window().SetPreferences(preferences::PreferencesOf(App(), Window().Parts()));
     machine.message_loop.Then([&] { User().Press("CancelButton"); });
     Open();
     EXPECT_FALSE(User().Exists(kForm));

@@ -355,7 +355,6 @@ TEST_F(PreferenceOptions, OpeningShowsWhatIsStoredAndChangesNoStoredValue) {
       if (again) continue;
       machine.registry.Set(test::kSettingsKey, row.name, row.value);
       Run([&] {
-        Window().SetPreferences(preferences::PreferencesOf(App(), Window().Parts()));
         const Values before = AllValues();
         Open();
         EXPECT_TRUE(row.shows());

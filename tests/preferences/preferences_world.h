@@ -19,7 +19,6 @@ class PreferencesTest : public MeterTest {
   // Runs the program with its preferences open.
   void RunOpen(const std::function<void()>& body) {
     Run([&] {
-      Window().SetPreferences(preferences::PreferencesOf(App(), Window().Parts()));
       Open();
       body();
     });

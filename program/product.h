@@ -1,9 +1,9 @@
-// The product's name and version as the user sees them.
+// The product's name and version as the user sees them. Every floor may know them.
 #pragma once
 
 #include <string_view>
 
-namespace engine {
+namespace program {
 
 // Also the name of the mutex that keeps a second copy from running.
 inline constexpr std::string_view kProductTitle = "Korvane Tremolux";
@@ -11,4 +11,4 @@ inline constexpr std::string_view kProductTitle = "Korvane Tremolux";
 // As in CMakeLists.txt and in the resources of the executable; a test compares.
 inline constexpr std::string_view kVersion = "1.0.0";
 
-}  // namespace engine
+}  // namespace program

@@ -1,0 +1,39 @@
+#include "program/program.h"
+
+#include "preferences/unit_SettingsForm.h"
+#include "program/product.h"
+#include "settings/first_start.h"
+#include "settings/store.h"
+
+namespace program {
+namespace {
+
+// Before the first window is made.
+platform::Platform& Titled(platform::Platform& platform) {
+  platform.windowing.SetApplicationTitle(kProductTitle);
+  return platform;
+}
+
+}  // namespace
+
+int RunOnce(platform::SingleInstance& single_instance, const std::function<int()>& run) {
+  return single_instance.ClaimFirst(kProductTitle) ? run() : 0;
+}
+
+Program::Program(platform::Platform& platform) : app_(Titled(platform)), meter_(app_) {
+  meter_.SetPreferences(preferences::PreferencesOf(app_, meter_.Parts()));
+  const platform::DateTime now = platform.clock.Now();
+  settings::Store store(platform.registry, platform.files);
+  settings::CreateMissingValues(store, platform::DateOf(now));
+  meter_.Traffic().RestartRun(now);
+  // The window has just set the cap from the stored scale. A fresh run is uncapped all the same,
+  // until the user picks a scale or the window is initialised again.
+  meter_.Traffic().SpeedCap = 0;
+}
+
+int Program::Run() {
+  app_.Platform().message_loop.RunUntil([] { return false; });
+  return 0;
+}
+
+}  // namespace program
