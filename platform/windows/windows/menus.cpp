@@ -78,7 +78,10 @@ const MenuEntry* FindKeys(const std::vector<MenuEntry>& entries, const KeyCombin
 // letters.
 class KeyHook {
  public:
-  KeyHook() : hook_(::SetWindowsHookExW(WH_MSGFILTER, &Filter, nullptr, ::GetCurrentThreadId())) {}
+  explicit KeyHook(MenuWindow& menu)
+      : hook_(::SetWindowsHookExW(WH_MSGFILTER, &Filter, nullptr, ::GetCurrentThreadId())) {
+    menu_ = &menu;
+  }
   ~KeyHook() {
     if (hook_ != nullptr) ::UnhookWindowsHookEx(hook_);
   }
@@ -93,15 +96,14 @@ class KeyHook {
     return ::CallNextHookEx(nullptr, code, w, l);
   }
   static bool Chooses(WPARAM key) {
-    GUITHREADINFO thread{};
-    thread.cbSize = sizeof(thread);
-    ::GetGUIThreadInfo(::GetCurrentThreadId(), &thread);
-    auto* menu = dynamic_cast<MenuWindow*>(NativeWindow::Of(thread.hwndMenuOwner));
     const auto held = [](int modifier) { return ::GetKeyState(modifier) < 0; };
-    return menu != nullptr && menu->ChooseByKeys({static_cast<std::uint8_t>(key), held(VK_SHIFT),
-                                                  held(VK_CONTROL), held(VK_MENU)});
+    return menu_->ChooseByKeys(
+        {static_cast<std::uint8_t>(key), held(VK_SHIFT), held(VK_CONTROL), held(VK_MENU)});
   }
 
+  // The one that is open; the system hands nothing of ours to a hook, and does not tell the owner
+  // of a menu alike everywhere.
+  static inline MenuWindow* menu_ = nullptr;
   HHOOK hook_;
 };
 
@@ -120,7 +122,7 @@ int MenuWindow::Popup(Point at, const std::vector<MenuEntry>& entries, MenuPaint
   Session session{painter, dpi, entries};
   const ScopedValue<Session*> open(session_, &session);
   const Foreground foreground(hwnd());
-  const KeyHook keys;
+  const KeyHook keys(*this);
   const int chosen = ::TrackPopupMenuEx(menu.root(), PopupFlags(), at.x, at.y, hwnd(), nullptr);
   Highlight(nullptr, {});
   return session.chosen_by_keys != 0 ? session.chosen_by_keys : chosen;
