@@ -433,7 +433,8 @@ TEST_F(PreferenceOptions, AnotherLanguageCountsAtOnceInAllWindows) {
     EXPECT_EQ(Widget("chkShowHints").text, "Parrot");
     EXPECT_EQ(Widget("TreeItems").items[0], "Captain");
     EXPECT_EQ(Widget("TreeItems").index, 0);
-    machine.files.PutBesideProgram("Languages\\Pirate.lng", "[SettingsForm]\nTitle=Sails\n");
+    machine.files.PutBesideProgram("Languages\\Pirate.lng",
+                                   "[SettingsForm]\nTitle=Sails\nLanguageName=Arrr\n");
     User().Choose("cmbLanguage", 1);
     EXPECT_EQ(Widget(kForm).text, "Sails") << "chosen again, the edited file is read";
     // A file that came while the window was closed.
