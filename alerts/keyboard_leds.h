@@ -1,7 +1,7 @@
 // Traffic on the keyboard's lights: Scroll Lock for download, Num Lock for upload.
 #pragma once
 
-#include "alerts/sys_keys.h"
+#include "alerts/system_manager.h"
 #include "engine/traffic_state.h"
 #include "settings/store.h"
 

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <string_view>
 
-#include "alerts/shutdown.h"
+#include "alerts/system_manager.h"
 #include "platform/notification_area.h"
 #include "platform/sound.h"
 

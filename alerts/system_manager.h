@@ -1,11 +1,77 @@
 // What the program does to the system itself: its end and its lock keys.
 #pragma once
 
-#include "alerts/shutdown.h"
-#include "alerts/sys_keys.h"
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <string_view>
+
+#include "platform/keyboard.h"
 #include "toolkit/application.h"
 
 namespace alerts {
+
+// By the flag of ExitWindowsEx.
+enum class ExitType : std::uint32_t {
+  xLogoff = 0,
+  xReboot = 2,
+  xShutDown = 1,
+  xPowerOff = 8,
+  xForce = 4,
+};
+
+class Shutdown {
+ public:
+  explicit Shutdown(toolkit::Application& app) : app_(app) {}
+
+  ExitType Exittype = ExitType::xShutDown;
+  bool Confirm = false;
+  std::string ConfirmText = "Are you sure you want to reboot your PC now ?";
+
+  std::function<void()> OnBeforeShutdown;
+  // Asks a Yes/No question; true for Yes. Without a handler the answer is No.
+  std::function<bool(std::string_view question)> OnConfirm;
+  std::function<void(std::uint32_t code)> OnError;
+
+  // Asks the system to end the session, with the privilege that this takes enabled meanwhile. On
+  // success the program ends too. Returns 0, also when the user said No, or the system's error
+  // code; the program then goes on.
+  std::uint32_t Execute();
+
+ private:
+  toolkit::Application& app_;
+};
+
+// A lock key as its byte of the keyboard state: 1 on, 0 off; another value means that the key is
+// held down just now, and then nobody knows.
+class TQelSysKeys {
+ public:
+  explicit TQelSysKeys(platform::Keyboard& keyboard) : keyboard_(keyboard) {}
+
+  [[nodiscard]] std::uint8_t CapsLock() const { return keyboard_.State(kCapital); }
+  [[nodiscard]] std::uint8_t NumLock() const { return keyboard_.State(kNumLock); }
+  [[nodiscard]] std::uint8_t ScrollLock() const { return keyboard_.State(kScroll); }
+
+  // Presses and releases the key, which toggles it whatever its state is. So it is only called when
+  // the state differs from the wanted one.
+  void ToggleCapsLock() { Stroke(kCapital); }
+  void ToggleNumLock() { Stroke(kNumLock); }
+  void ToggleScrollLock() { Stroke(kScroll); }
+
+ private:
+  static constexpr std::uint8_t kCapital = 20;
+  static constexpr std::uint8_t kNumLock = 144;
+  static constexpr std::uint8_t kScroll = 145;
+  // That of Num Lock, sent for all three: the system goes by the virtual key.
+  static constexpr std::uint8_t kScanCode = 69;
+
+  void Stroke(std::uint8_t virtual_key) {
+    keyboard_.Send(virtual_key, kScanCode, platform::kKeyExtended);
+    keyboard_.Send(virtual_key, kScanCode, platform::kKeyExtended | platform::kKeyUp);
+  }
+
+  platform::Keyboard& keyboard_;
+};
 
 struct SystemManager {
   explicit SystemManager(toolkit::Application& app)

@@ -2,7 +2,6 @@
 
 #include "display/display_settings.h"
 #include "settings/scale_choice.h"
-#include "settings/speed_limit.h"
 #include "toolkit/controls/layout.h"
 
 namespace preferences {

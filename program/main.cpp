@@ -6,9 +6,7 @@
 #include "engine/error_log.h"
 #include "platform/windows/entry.h"
 #include "platform/windows/machine.h"
-#include "platform/windows/services/files.h"
-#include "platform/windows/services/locale.h"
-#include "platform/windows/services/single_instance.h"
+#include "platform/windows/services/services.h"
 #include "program/program.h"
 
 namespace {

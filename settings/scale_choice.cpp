@@ -1,7 +1,5 @@
 #include "settings/scale_choice.h"
 
-#include "settings/speed_limit.h"
-
 namespace settings {
 
 std::optional<AppliedScale> ScaleOf(std::int64_t index, std::int64_t custom_limit) {

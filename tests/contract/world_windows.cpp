@@ -1,14 +1,7 @@
 #include <thread>
 
 #include "platform/windows/kernel_handle.h"
-#include "platform/windows/services/clipboard.h"
-#include "platform/windows/services/clock.h"
-#include "platform/windows/services/files.h"
-#include "platform/windows/services/interface_table.h"
-#include "platform/windows/services/locale.h"
-#include "platform/windows/services/registry.h"
-#include "platform/windows/services/single_instance.h"
-#include "platform/windows/services/sockets.h"
+#include "platform/windows/services/services.h"
 #include "platform/windows/system_error.h"
 #include "platform/windows/wide.h"
 #include "platform/windows/win32.h"

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include "platform/memory/machine.h"
-#include "settings/speed_limit.h"
 
 namespace {
 

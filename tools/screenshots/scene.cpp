@@ -5,8 +5,7 @@
 #include <stdexcept>
 #include <utility>
 
-#include "platform/windows/services/files.h"
-#include "platform/windows/services/locale.h"
+#include "platform/windows/services/services.h"
 #include "platform/windows/wide.h"
 #include "tests/desktop/driver/input.h"
 #include "tests/desktop/driver/registry.h"

@@ -1,8 +1,7 @@
-#include "platform/windows/services/clipboard.h"
-
 #include <cstring>
 
 #include "platform/windows/handle.h"
+#include "platform/windows/services/services.h"
 #include "platform/windows/wide.h"
 #include "platform/windows/win32.h"
 

@@ -1,5 +1,4 @@
-#include "platform/windows/services/clock.h"
-
+#include "platform/windows/services/services.h"
 #include "platform/windows/win32.h"
 
 namespace platform::windows {

@@ -1,9 +1,8 @@
-#include "platform/windows/services/files.h"
-
 #include <algorithm>
 
 #include "platform/file_mask.h"
 #include "platform/windows/kernel_handle.h"
+#include "platform/windows/services/services.h"
 #include "platform/windows/wide.h"
 
 namespace platform::windows {

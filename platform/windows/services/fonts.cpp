@@ -1,8 +1,7 @@
-#include "platform/windows/services/fonts.h"
-
 #include <algorithm>
 
 #include "platform/windows/drawing/gdi.h"
+#include "platform/windows/services/services.h"
 #include "platform/windows/wide.h"
 
 namespace platform::windows {

@@ -1,6 +1,6 @@
-#include "platform/windows/services/interface_table.h"
-
 #include <cstddef>
+
+#include "platform/windows/services/services.h"
 
 namespace platform::windows {
 

@@ -1,7 +1,6 @@
-#include "platform/windows/services/keyboard.h"
-
 #include <array>
 
+#include "platform/windows/services/services.h"
 #include "platform/windows/win32.h"
 
 namespace platform::windows {

@@ -1,7 +1,6 @@
-#include "platform/windows/services/locale.h"
-
 #include <array>
 
+#include "platform/windows/services/services.h"
 #include "platform/windows/wide.h"
 #include "platform/windows/win32.h"
 

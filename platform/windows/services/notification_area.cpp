@@ -1,5 +1,4 @@
-#include "platform/windows/services/notification_area.h"
-
+#include "platform/windows/services/services.h"
 #include "platform/windows/services/tray_icon.h"
 
 namespace platform::windows {

@@ -1,6 +1,5 @@
-#include "platform/windows/services/other_windows.h"
-
 #include "platform/text.h"
+#include "platform/windows/services/services.h"
 #include "platform/windows/wide.h"
 #include "platform/windows/win32.h"
 

@@ -1,9 +1,8 @@
-#include "platform/windows/services/registry.h"
-
 #include <algorithm>
 #include <array>
 
 #include "platform/windows/handle.h"
+#include "platform/windows/services/services.h"
 #include "platform/windows/system_error.h"
 #include "platform/windows/wide.h"
 #include "platform/windows/win32.h"

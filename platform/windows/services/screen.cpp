@@ -1,7 +1,6 @@
-#include "platform/windows/services/screen.h"
-
 #include "platform/windows/dpi.h"
 #include "platform/windows/drawing/gdi.h"
+#include "platform/windows/services/services.h"
 
 namespace platform::windows {
 namespace {

@@ -1,6 +1,5 @@
-#include "platform/windows/services/session.h"
-
 #include "platform/windows/kernel_handle.h"
+#include "platform/windows/services/services.h"
 #include "platform/windows/wide.h"
 #include "platform/windows/win32.h"
 

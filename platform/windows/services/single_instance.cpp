@@ -1,7 +1,6 @@
-#include "platform/windows/services/single_instance.h"
-
 #include <utility>
 
+#include "platform/windows/services/services.h"
 #include "platform/windows/wide.h"
 
 namespace platform::windows {

@@ -1,9 +1,8 @@
-#include "platform/windows/services/sockets.h"
-
 #include <array>
 #include <cstring>
 
 #include "platform/text.h"
+#include "platform/windows/services/services.h"
 #include "platform/windows/win32.h"
 
 namespace platform::windows {

@@ -1,12 +1,10 @@
-#include "platform/windows/services/sound.h"
-
 #include <algorithm>
 #include <memory>
 #include <string>
 
 #include "platform/wave_file.h"
 #include "platform/windows/library.h"
-#include "platform/windows/services/files.h"
+#include "platform/windows/services/services.h"
 #include "platform/windows/wide.h"
 #include "platform/windows/win32.h"
 // After the system's header, which it needs.

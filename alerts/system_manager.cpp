@@ -1,4 +1,4 @@
-#include "alerts/shutdown.h"
+#include "alerts/system_manager.h"
 
 #include "toolkit/application.h"
 
