@@ -17,6 +17,7 @@
 #include "display/hot_keys.h"
 #include "display/main_menu.h"
 #include "display/numeric_line.h"
+#include "display/option_table.h"
 #include "display/running_meter.h"
 #include "display/statistics_windows.h"
 #include "display/titles/posting.h"
@@ -155,6 +156,7 @@ class T_frmBrisanto final : public toolkit::Form,
   alerts::BandwidthAlert bandwidth_alert_;
 
   StatisticsWindows statistics_windows_;
+  OptionTable options_;
 
   HotKeyHolder GlobalAtomKey;
   Exit exit_;

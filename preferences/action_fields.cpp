@@ -1,7 +1,7 @@
 #include "preferences/action_fields.h"
 
 #include "alerts/reactions.h"
-#include "toolkit/controls/layout.h"
+#include "language/texts.h"
 
 namespace preferences {
 namespace {
@@ -12,37 +12,22 @@ constexpr int kLongestMessage = 254;  // characters
 
 }  // namespace
 
-ActionFields::ActionFields(toolkit::Control& parent, const Names& names)
-    : action_label(parent, names.action_label.key, toolkit::kCaptionText),
-      action(parent, names.action),
-      message_label(parent, names.message_label.key, toolkit::kCaptionText),
-      message(parent, names.message),
-      action_text_(names.action_label),
-      message_text_(names.message_label) {
-  message.SetMaxLength(kLongestMessage);
+ActionFields::ActionFields(toolkit::Control& parent, std::string_view action_label,
+                           std::string_view action, std::string_view message_label,
+                           std::string_view message)
+    : action(parent, action_label, action), message(parent, message_label, message) {
+  this->message.SetMaxLength(kLongestMessage);
   ShowMessage();
 }
 
-void ActionFields::Place(const FieldColumn& column, int row) {
-  toolkit::ApplyLayout({
-      {action_label, column.Label(row)},
-      {action, column.Field(row, column.FieldWidth())},
-      {message_label, column.Label(row + 1)},
-      {message, column.Field(row + 1, column.FieldWidth())},
-  });
-}
-
 void ActionFields::Localise(const language::Translation& say) {
-  action_label.SetCaption(say(action_text_));
-  message_label.SetCaption(say(message_text_));
   action.SetHint(say(text::ActionHint));
   message.SetHint(say(text::MessageHint));
-  action.SetItems(Texts(say, {text::Action0, text::Action1, text::Action2, text::Action3}));
 }
 
 void ActionFields::ShowMessage() {
   const bool shown = action.ItemIndex() == alerts::kDisplayMessage;
-  message_label.SetVisible(shown);
+  message.label.SetVisible(shown);
   message.SetVisible(shown);
 }
 

@@ -3,7 +3,6 @@
 #include <string>
 
 #include "settings/administrator_lock.h"
-#include "toolkit/controls/layout.h"
 
 namespace preferences {
 namespace {
@@ -18,49 +17,30 @@ constexpr int kUnlocked = 0;
 // missing password for an empty one.
 constexpr std::string_view kPasswordIfNone = "Quillmoth";
 
-constexpr platform::TextStyle kLine{platform::TextAlign::kLeft};
-
 }  // namespace
 
 AdminPage::AdminPage(toolkit::Notebook& notebook, Context& context)
-    : Page(notebook, "Admin", context),
-      lblAdmin(*this, "lblAdmin", toolkit::kWrappedText),
-      lblAdminPassword(*this, "lblAdminPassword", toolkit::kCaptionText),
-      AdminPassword(*this, "AdminPassword"),
-      lblAdminVerifyPass(*this, "lblAdminVerifyPass", toolkit::kCaptionText),
-      AdminVerifyPass(*this, "AdminVerifyPass"),
-      CaseSensitive(*this, "CaseSensitive", kLine),
-      LockBtn(*this, "LockBtn") {
-  constexpr int kLabelWidth = 150;
-  constexpr int kFieldLeft = kMargin + kLabelWidth + kMargin;
+    : Page(notebook, "Admin", context) {
+  constexpr FieldColumn kFields{kMargin + 2 * kRow, 150};
   constexpr int kFieldWidth = 180;
-  constexpr int kPasswordTop = kMargin + 2 * kRow;
-  toolkit::ApplyLayout({
+  Add({
       {lblAdmin, {kMargin, kMargin, kWidth, 2 * kBoxHeight}},
-      {lblAdminPassword, {kMargin, kPasswordTop + 2, kLabelWidth, kBoxHeight}},
-      {AdminPassword, {kFieldLeft, kPasswordTop, kFieldWidth, kFieldHeight}},
-      {lblAdminVerifyPass, {kMargin, kPasswordTop + kFieldRow + 2, kLabelWidth, kBoxHeight}},
-      {AdminVerifyPass, {kFieldLeft, kPasswordTop + kFieldRow, kFieldWidth, kFieldHeight}},
-      {CaseSensitive, {kMargin, kPasswordTop + 2 * kFieldRow + 2, kWidth, kBoxHeight}},
-      {LockBtn, {kFieldLeft, kPasswordTop + 3 * kFieldRow, 110, kButtonHeight}},
+      {AdminPassword, kFields.At(0, kFieldWidth)},
+      {AdminVerifyPass, kFields.At(1, kFieldWidth)},
+      {CaseSensitive, Line(kFields.Top(2) + 2)},
+      {LockBtn, {kFields.FieldLeft(), kFields.Top(3), 110, kButtonHeight}},
   });
+  Add(ReadStep::kLock, [this] { ReadLock(); });
   LockBtn.SetDefault(true);  // of this page: it is out of reach behind the others
   LockBtn.OnClick = [this] { LockBtnClick(); };
 }
 
 void AdminPage::Localise(const language::Translation& say) {
-  Say(say, {
-               {lblAdmin, text::lblAdmin},
-               {lblAdminPassword, text::lblAdminPassword},
-               {AdminPassword, {}, text::AdminPasswordHint},
-               {lblAdminVerifyPass, text::lblAdminVerifyPass},
-               {AdminVerifyPass, {}, text::AdminVerifyPassHint},
-               {LockBtn, {}, text::LockBtnHint},
-           });
+  Page::Localise(say);
   ShowTexts(say);
 }
 
-void AdminPage::Read() {
+void AdminPage::ReadLock() {
   AdminPassword.SetText("");
   AdminVerifyPass.SetText("");
   again_ = false;
@@ -99,7 +79,7 @@ void AdminPage::Unlock() {
 
 void AdminPage::Show(int tag) {
   LockBtn.Tag = tag;
-  lblAdminVerifyPass.SetVisible(tag == kUnlocked);
+  AdminVerifyPass.label.SetVisible(tag == kUnlocked);
   AdminVerifyPass.SetVisible(tag == kUnlocked);
   ShowTexts(context_.language.Chosen());
 }

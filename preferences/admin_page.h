@@ -3,8 +3,6 @@
 
 #include "preferences/page.h"
 #include "toolkit/controls/button.h"
-#include "toolkit/controls/edit.h"
-#include "toolkit/controls/label.h"
 
 namespace preferences {
 
@@ -14,10 +12,9 @@ class AdminPage final : public Page {
 
   void Localise(const language::Translation& say) override;
 
-  // Shows whether the lock is on, with empty edits.
-  void Read();
-
  private:
+  // Shows whether the lock is on, with empty edits.
+  void ReadLock();
   void LockBtnClick();
   void Lock();
   void Unlock();
@@ -25,13 +22,11 @@ class AdminPage final : public Page {
   void Show(int tag);
   void ShowTexts(const language::Translation& say);
 
-  toolkit::Label lblAdmin;
-  toolkit::Label lblAdminPassword;
-  toolkit::PasswordEdit AdminPassword;
-  toolkit::Label lblAdminVerifyPass;
-  toolkit::PasswordEdit AdminVerifyPass;
-  toolkit::Label CaseSensitive;
-  toolkit::Button LockBtn;
+  toolkit::Label lblAdmin{*this, "lblAdmin", toolkit::kWrappedText};
+  Labelled<toolkit::PasswordEdit> AdminPassword{*this, "AdminPassword"};
+  Labelled<toolkit::PasswordEdit> AdminVerifyPass{*this, "AdminVerifyPass"};
+  toolkit::Label CaseSensitive{*this, "CaseSensitive", {platform::TextAlign::kLeft}};
+  toolkit::Button LockBtn{*this, "LockBtn"};
   bool again_ = false;  // two different passwords, or none, were given last
 };
 

@@ -2,10 +2,7 @@
 #pragma once
 
 #include "preferences/action_fields.h"
-#include "preferences/options.h"
 #include "preferences/page.h"
-#include "preferences/sound_file.h"
-#include "toolkit/controls/label.h"
 #include "toolkit/controls/list_box.h"
 
 namespace preferences {
@@ -16,31 +13,20 @@ class BandwidthAlertPage final : public Page {
 
   void Localise(const language::Translation& say) override;
 
-  // Shows what is stored.
-  void Read();
-
  private:
-  void PlaceControls();
-  void ConnectHandlers();
   void EnablePlayControls();
 
-  toolkit::CheckBox BAAlertsCheckBox;
-  toolkit::Label lblMPerStartsOn;
-  toolkit::ComboBox mPerStartsOn;
-  toolkit::Label lblWPerStartsOn;
-  toolkit::ComboBox wPerStartsOn;
-  toolkit::Label lblMoreThan;
-  toolkit::SpinEdit MoreThan;
-  toolkit::ComboBox AlertsMoreThan;
-  toolkit::CheckBox baDownload;
-  toolkit::CheckBox baUpload;
-  toolkit::Label lblDayWeekMonth;
-  toolkit::ComboBox cmbDayWeekMonth;
-  toolkit::CheckBox chkBAPlay;
-  SoundFile sound_;
-  ActionFields action_;  // BaAction, BaMessage
-
-  Options options_;
+  toolkit::CheckBox BAAlertsCheckBox{*this, "BAAlertsCheckBox"};
+  Labelled<toolkit::ComboBox> mPerStartsOn{*this, "lblMPerStartsOn", "mPerStartsOn"};
+  Labelled<toolkit::ComboBox> wPerStartsOn{*this, "lblWPerStartsOn", "wPerStartsOn"};
+  Labelled<toolkit::SpinEdit> MoreThan{*this, "MoreThan"};
+  toolkit::ComboBox AlertsMoreThan{*this, "AlertsMoreThan"};
+  toolkit::CheckBox baDownload{*this, "baDownload"};
+  toolkit::CheckBox baUpload{*this, "baUpload"};
+  Labelled<toolkit::ComboBox> cmbDayWeekMonth{*this, "lblDayWeekMonth", "cmbDayWeekMonth"};
+  toolkit::CheckBox chkBAPlay{*this, "chkBAPlay"};
+  SoundFile sound_{*this, "BaPlayFile", "BaSpeedbtn", "BaSpeedbtn2"};
+  ActionFields action_{*this, "lblBaAction", "BaAction", "lblBaMessage", "BaMessage"};
 };
 
 }  // namespace preferences

@@ -39,13 +39,14 @@ class Context {
   };
   [[nodiscard]] bool IsReading() const { return reading_; }
 
-  // The last step of every handler, behind the push: stores the value, and the meter shows what
-  // both have changed.
+  // The last step of every handler: pushes the value into the meter and then stores it.
   template <class Setting, class Value>
-  void Save(const Setting& setting, const Value& value) {
-    if (reading_) return;
-    store.Write(setting, value);
-    meter.transparency.ApplyShape();
+  void Change(const Setting& setting, const Value& value) {
+    if (reading_) {
+      meter.options.Take(setting, value);
+    } else {
+      meter.options.Change(setting, value);
+    }
   }
 
  private:

@@ -1,11 +1,8 @@
 // The page "GraphColors": colours of the graph, kind and colours of the tray icon.
 #pragma once
 
-#include "preferences/options.h"
 #include "preferences/page.h"
 #include "preferences/picture_panel.h"
-#include "toolkit/controls/group_box.h"
-#include "toolkit/controls/label.h"
 #include "toolkit/open_dialog.h"
 
 namespace preferences {
@@ -16,47 +13,31 @@ class GraphColorsPage final : public Page {
 
   void Localise(const language::Translation& say) override;
 
-  // Parts of the settings read, which has other pages between them.
-  void ReadColours() { colours_.Read(); }
-  void ReadIconKind() { icon_.Read(); }
-  void ReadIconFile();
-
  private:
-  void PlaceControls();
-  void PlaceTrayControls(int top);
-  void ConnectHandlers();
+  using LabelledColour = Labelled<toolkit::ColourPanel>;
+
+  void AddTrayIcon(int top);
+  void ReadIconFile();
   void ImagesTrayIconClick();
 
-  toolkit::GroupBox grpMeterColors;
-  toolkit::Label lblDownloadColor;
-  toolkit::ColourPanel DownloadColor;
-  toolkit::Label lblDownloadLightColor;
-  toolkit::ColourPanel DownloadLightColor;
-  toolkit::Label lblDownloadShadowColor;
-  toolkit::ColourPanel DownloadShadowColor;
-  toolkit::Label lblUploadColor;
-  toolkit::ColourPanel UploadColor;
-  toolkit::Label lblUploadLightColor;
-  toolkit::ColourPanel UploadLightColor;
-  toolkit::Label lblUploadShadowColor;
-  toolkit::ColourPanel UploadShadowColor;
-  toolkit::Label lblBackgroundColor;
-  toolkit::ColourPanel BackgroundColor;
-  toolkit::Label lblBorderColor;
-  toolkit::ColourPanel BorderColor;
-  toolkit::GroupBox grpTrayIcon;
-  toolkit::RadioButton Ic1;
-  toolkit::RadioButton Ic2;
-  toolkit::RadioButton Ic3;
-  PicturePanel ImagesTrayIcon;
-  toolkit::Label lblHisRecColor;
-  toolkit::ColourPanel HisRecColor;
-  toolkit::Label lblHisSendColor;
-  toolkit::ColourPanel HisSendColor;
+  toolkit::GroupBox grpMeterColors{*this, "grpMeterColors"};
+  LabelledColour DownloadColor{grpMeterColors, "DownloadColor"};
+  LabelledColour DownloadLightColor{grpMeterColors, "DownloadLightColor"};
+  LabelledColour DownloadShadowColor{grpMeterColors, "DownloadShadowColor"};
+  LabelledColour UploadColor{grpMeterColors, "UploadColor"};
+  LabelledColour UploadLightColor{grpMeterColors, "UploadLightColor"};
+  LabelledColour UploadShadowColor{grpMeterColors, "UploadShadowColor"};
+  LabelledColour BackgroundColor{grpMeterColors, "BackgroundColor"};
+  LabelledColour BorderColor{grpMeterColors, "BorderColor"};
+  toolkit::GroupBox grpTrayIcon{*this, "grpTrayIcon"};
+  toolkit::RadioButton Ic1{grpTrayIcon, "Ic1"};
+  toolkit::RadioButton Ic2{grpTrayIcon, "Ic2"};
+  toolkit::RadioButton Ic3{grpTrayIcon, "Ic3"};
+  PicturePanel ImagesTrayIcon{grpTrayIcon, "ImagesTrayIcon"};
+  LabelledColour HisRecColor{grpTrayIcon, "HisRecColor"};
+  LabelledColour HisSendColor{grpTrayIcon, "HisSendColor"};
 
   toolkit::OpenDialog OpenPicture;
-  Options colours_;
-  Options icon_;
 };
 
 }  // namespace preferences

@@ -1,10 +1,7 @@
 // The page "GraphGrids": the lines over the graph.
 #pragma once
 
-#include "preferences/options.h"
 #include "preferences/page.h"
-#include "toolkit/controls/group_box.h"
-#include "toolkit/controls/label.h"
 #include "toolkit/controls/list_box.h"
 
 namespace preferences {
@@ -14,34 +11,20 @@ class GraphGridsPage final : public Page {
   GraphGridsPage(toolkit::Notebook& notebook, Context& context);
 
   void Localise(const language::Translation& say) override;
-  void Read();
 
  private:
-  void PlaceControls();
-  void ShowLines(const display::RunningMeter& meter, bool visible, Options& style);
+  void ReadStyles();
 
-  toolkit::GroupBox grpVertical;
-  toolkit::CheckBox vGridsVisibleCheckBox;
-  toolkit::Label lblVLineStyle;
-  toolkit::ComboBox cmbVLineStyle;
-  toolkit::Label lblVLineSpace;
-  toolkit::SpinEdit vLineSpace;
-  toolkit::Label lblVLineColor;
-  toolkit::ColourPanel vLineColor;
-  toolkit::GroupBox grpHorizontal;
-  toolkit::CheckBox hGridsVisibleCheckBox;
-  toolkit::Label lblHLineStyle;
-  toolkit::ComboBox cmbHLineStyle;
-  toolkit::Label lblHLineSpace;
-  toolkit::SpinEdit hLineSpace;
-  toolkit::Label lblHLineColor;
-  toolkit::ColourPanel hLineColor;
-
-  Options visible_;
-  // Each is read only while its lines are shown.
-  Options vertical_style_;
-  Options horizontal_style_;
-  Options others_;
+  toolkit::GroupBox grpVertical{*this, "grpVertical"};
+  toolkit::CheckBox vGridsVisibleCheckBox{grpVertical, "vGridsVisibleCheckBox"};
+  Labelled<toolkit::ComboBox> cmbVLineStyle{grpVertical, "lblVLineStyle", "cmbVLineStyle"};
+  Labelled<toolkit::SpinEdit> vLineSpace{grpVertical, "lblVLineSpace", "vLineSpace"};
+  Labelled<toolkit::ColourPanel> vLineColor{grpVertical, "lblVLineColor", "vLineColor"};
+  toolkit::GroupBox grpHorizontal{*this, "grpHorizontal"};
+  toolkit::CheckBox hGridsVisibleCheckBox{grpHorizontal, "hGridsVisibleCheckBox"};
+  Labelled<toolkit::ComboBox> cmbHLineStyle{grpHorizontal, "lblHLineStyle", "cmbHLineStyle"};
+  Labelled<toolkit::SpinEdit> hLineSpace{grpHorizontal, "lblHLineSpace", "hLineSpace"};
+  Labelled<toolkit::ColourPanel> hLineColor{grpHorizontal, "lblHLineColor", "hLineColor"};
 };
 
 }  // namespace preferences

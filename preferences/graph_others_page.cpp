@@ -1,9 +1,11 @@
 #include "preferences/graph_others_page.h"
 
-#include "display/display_settings.h"
+#include <cstdint>
+#include <string>
+#include <vector>
+
 #include "settings/scale_choice.h"
 #include "settings/speed_limit.h"
-#include "toolkit/controls/layout.h"
 
 namespace preferences {
 namespace {
@@ -11,132 +13,58 @@ namespace {
 namespace setting = settings::setting;
 namespace text = language::text::SettingsForm;
 
-using Meter = display::RunningMeter;
-
+constexpr Items kBevels{"Bevel"};
 // Design pixels.
-constexpr int kWidestBevel = 20;
-constexpr int kWidestPulse = 50;
+constexpr Range kFrame{0, 20};
+constexpr Range kGap{0, 50};
+constexpr Range kPulse{1, 50};
 
 // Bits per second.
-constexpr std::int64_t kSlowest = 1024;
-constexpr std::int64_t kFastest = 2100000000;
+constexpr Range kSpeed{1024, 2100000000, 1024};
+
+constexpr int kLabelWidth = 230;
+constexpr int kNumberWidth = 80;
 
 }  // namespace
 
 GraphOthersPage::GraphOthersPage(toolkit::Notebook& notebook, Context& context)
-    : Page(notebook, "GraphOthers", context),
-      lblBevelInner(*this, "lblBevelInner", toolkit::kCaptionText),
-      BevelInner(*this, "BevelInner"),
-      lblBevelOuter(*this, "lblBevelOuter", toolkit::kCaptionText),
-      BevelOuter(*this, "BevelOuter"),
-      lblBevelWidth(*this, "lblBevelWidth", toolkit::kCaptionText),
-      BevelWidth(*this, "BevelWidth"),
-      lblBorderWidth(*this, "lblBorderWidth", toolkit::kCaptionText),
-      BorderWidth(*this, "BorderWidth"),
-      lblPulseSpace(*this, "lblPulseSpace", toolkit::kCaptionText),
-      PulseSpace(*this, "PulseSpace"),
-      lblPulseWidth(*this, "lblPulseWidth", toolkit::kCaptionText),
-      PulseWidth(*this, "PulseWidth"),
-      chkZeroBased(*this, "chkZeroBased"),
-      chkScaleActive(*this, "chkScaleActive"),
-      chk3dGraph(*this, "chk3dGraph"),
-      lblScale(*this, "lblScale", toolkit::kCaptionText),
-      ScaleCombo(*this, "ScaleCombo"),
-      lblCustomScale(*this, "lblCustomScale", toolkit::kCaptionText),
-      CustomScale(*this, "CustomScale"),
-      bevels_(context),
-      others_(context) {
-  PlaceControls();
-  BevelWidth.SetRange(0, kWidestBevel, 1);
-  BorderWidth.SetRange(0, kWidestBevel, 1);
-  PulseSpace.SetRange(0, kWidestPulse, 1);
-  PulseWidth.SetRange(1, kWidestPulse, 1);
-  CustomScale.SetRange(kSlowest, kFastest, kSlowest);
+    : Page(notebook, "GraphOthers", context) {
+  constexpr FieldColumn kFields{kMargin, kLabelWidth};
+  constexpr int kBoxes = kFields.Top(6) + 4;
+  Add(ReadStep::kBevels, {
+                             {BevelInner, kFields.At(0), setting::BevelInner, kBevels},
+                             {BevelOuter, kFields.At(1), setting::BevelOuter, kBevels},
+                         });
+  Add(ReadStep::kGraphOther,
+      {
+          {BevelWidth, kFields.At(2, kNumberWidth), setting::BevelWidth, kFrame},
+          {BorderWidth, kFields.At(3, kNumberWidth), setting::BorderWidth, kFrame},
+          {chkZeroBased, Line(kBoxes), setting::ZeroBased},
+          {chkScaleActive, Line(kBoxes + kRow), setting::ScaleShow},
+          {chk3dGraph, Line(kBoxes + 2 * kRow), setting::Pulse3D},
+          {PulseSpace, kFields.At(4, kNumberWidth), setting::PulseSpace, kGap},
+          {PulseWidth, kFields.At(5, kNumberWidth), setting::PulseWidth, kPulse},
+      });
+  AddScale(kBoxes + 3 * kRow + 6);
+}
+
+void GraphOthersPage::AddScale(int top) {
+  Add({
+      {ScaleCombo, {{kMargin, top + 20, kWidth, kFieldHeight}, Line(top).control}},
+      {CustomScale,
+       LabelAndField(kMargin, top + 20 + kFieldRow + 4, kLabelWidth,
+                     FieldColumn{0, kLabelWidth}.FieldWidth()),
+       kSpeed},
+  });
+  Add(ReadStep::kScale, [this] { ReadScale(); });
   CustomScale.SetEnabled(false);
-  bevels_.Connect({
-      {BevelInner, setting::BevelInner,
-       [](const Meter& m, std::int64_t index) {
-         m.graph.BevelInner = display::BevelOf(index, m.graph.BevelInner);
-       }},
-      {BevelOuter, setting::BevelOuter,
-       [](const Meter& m, std::int64_t index) {
-         m.graph.BevelOuter = display::BevelOf(index, m.graph.BevelOuter);
-       }},
-  });
-  others_.Connect({
-      {BevelWidth, setting::BevelWidth,
-       [](const Meter& m, std::int64_t width) { m.graph.BevelWidth = width; }},
-      {BorderWidth, setting::BorderWidth,
-       [](const Meter& m, std::int64_t width) { m.graph.BorderWidth = width; }},
-      {chkZeroBased, setting::ZeroBased, [](const Meter& m, bool on) { m.graph.ZeroBased = on; }},
-      {chkScaleActive, setting::ScaleShow, [](const Meter& m, bool on) { m.graph.ScaleShow = on; }},
-      {chk3dGraph, setting::Pulse3D, [](const Meter& m, bool on) { m.graph.Pulse3D = on; }},
-      {PulseSpace, setting::PulseSpace,
-       [](const Meter& m, std::int64_t space) { m.graph.PulseSpace = space; }},
-      {PulseWidth, setting::PulseWidth,
-       [](const Meter& m, std::int64_t width) { m.graph.PulseWidth = width; }},
-  });
   ScaleCombo.OnChange = [this] { ScaleComboChange(); };
   CustomScale.OnChange = [this] { CustomScaleChange(); };
 }
 
-void GraphOthersPage::PlaceControls() {
-  constexpr int kLabelWidth = 230;
-  constexpr FieldColumn kFields{kMargin, kLabelWidth};
-  constexpr int kFieldWidth = kFields.FieldWidth();
-  constexpr int kNumberWidth = 80;
-  constexpr int kBoxes = kMargin + 6 * kFieldRow + 4;
-  constexpr int kScale = kBoxes + 3 * kRow + 6;
-  constexpr FieldColumn kCustom{kScale + 20 + kFieldRow + 4, kLabelWidth};
-  toolkit::ApplyLayout({
-      {lblBevelInner, kFields.Label(0)},
-      {BevelInner, kFields.Field(0, kFieldWidth)},
-      {lblBevelOuter, kFields.Label(1)},
-      {BevelOuter, kFields.Field(1, kFieldWidth)},
-      {lblBevelWidth, kFields.Label(2)},
-      {BevelWidth, kFields.Field(2, kNumberWidth)},
-      {lblBorderWidth, kFields.Label(3)},
-      {BorderWidth, kFields.Field(3, kNumberWidth)},
-      {lblPulseSpace, kFields.Label(4)},
-      {PulseSpace, kFields.Field(4, kNumberWidth)},
-      {lblPulseWidth, kFields.Label(5)},
-      {PulseWidth, kFields.Field(5, kNumberWidth)},
-      {chkZeroBased, {kMargin, kBoxes, kWidth, kBoxHeight}},
-      {chkScaleActive, {kMargin, kBoxes + kRow, kWidth, kBoxHeight}},
-      {chk3dGraph, {kMargin, kBoxes + 2 * kRow, kWidth, kBoxHeight}},
-      {lblScale, {kMargin, kScale, kWidth, kBoxHeight}},
-      {ScaleCombo, {kMargin, kScale + 20, kWidth, kFieldHeight}},
-      {lblCustomScale, kCustom.Label(0)},
-      {CustomScale, kCustom.Field(0, kFieldWidth)},
-  });
-}
-
 void GraphOthersPage::Localise(const language::Translation& say) {
-  const std::vector<std::string> bevels =
-      Texts(say, {text::Bevel0, text::Bevel1, text::Bevel2, text::Bevel3});
-  BevelInner.SetItems(bevels);
-  BevelOuter.SetItems(bevels);
+  Page::Localise(say);
   SayScales(say);
-  Say(say, {
-               {lblBevelInner, text::lblBevelInner},
-               {BevelInner, {}, text::BevelInnerHint},
-               {lblBevelOuter, text::lblBevelOuter},
-               {BevelOuter, {}, text::BevelOuterHint},
-               {lblBevelWidth, text::lblBevelWidth},
-               {lblBorderWidth, text::lblBorderWidth},
-               {lblPulseSpace, text::lblPulseSpace},
-               {lblPulseWidth, text::lblPulseWidth},
-               {chkZeroBased, text::chkZeroBased, text::chkZeroBasedHint},
-               {chkScaleActive, text::chkScaleActive, text::chkScaleActiveHint},
-               {chk3dGraph, text::chk3dGraph, text::chk3dGraphHint},
-               {lblScale, text::lblScale},
-               {ScaleCombo, {}, text::ScaleComboHint},
-               {lblCustomScale, text::lblCustomScale},
-           });
-  for (toolkit::SpinEdit* spin :
-       {&BevelWidth, &BorderWidth, &PulseSpace, &PulseWidth, &CustomScale}) {
-    spin->SetHint(RangeOf(*spin, say));
-  }
 }
 
 // The first and the last have a text in the user's language; the speeds are the same in all.
@@ -155,7 +83,7 @@ void GraphOthersPage::ReadScale() {
   const std::int64_t index = context_.store.Read(setting::GraphScaleType);
   const std::int64_t speed = context_.store.Read(setting::SpeedLimit);
   CustomScale.SetValue(settings::ShownSpeed(speed));
-  ShowChoice(ScaleCombo, index);
+  ShowIn(ScaleCombo, index);
 }
 
 bool GraphOthersPage::CustomChosen() const {
@@ -166,24 +94,18 @@ bool GraphOthersPage::CustomChosen() const {
 void GraphOthersPage::ScaleComboChange() {
   CustomScale.SetEnabled(CustomChosen());
   PushScale();
-  context_.Save(setting::GraphScaleType, ScaleCombo.ItemIndex());
-  context_.Save(setting::SpeedLimit, settings::StoredSpeed(CustomScale.Value()));
+  context_.Change(setting::GraphScaleType, ScaleCombo.ItemIndex());
+  context_.Change(setting::SpeedLimit, settings::StoredSpeed(CustomScale.Value()));
 }
 
 void GraphOthersPage::CustomScaleChange() {
   if (CustomChosen()) PushScale();
-  context_.Save(setting::SpeedLimit, settings::StoredSpeed(CustomScale.Value()));
+  context_.Change(setting::SpeedLimit, settings::StoredSpeed(CustomScale.Value()));
 }
 
 void GraphOthersPage::PushScale() {
-  const int index = ScaleCombo.ItemIndex();
-  if (index < 0) return;
-  const settings::ScaleChoice& choice = settings::kScaleChoices[static_cast<std::size_t>(index)];
-  const std::int64_t limit =
-      CustomChosen() ? settings::LimitOfShownSpeed(CustomScale.Value()) : choice.SpeedLimit;
-  context_.meter.graph.AutoScale = choice.AutoScale;
-  context_.meter.graph.SpeedLimit = limit;
-  context_.meter.SpeedCap = limit;
+  context_.meter.options.TakeScale(
+      settings::ScaleOf(ScaleCombo.ItemIndex(), settings::LimitOfShownSpeed(CustomScale.Value())));
 }
 
 }  // namespace preferences

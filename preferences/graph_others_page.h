@@ -1,9 +1,7 @@
 // The page "GraphOthers": frame, bars and scale of the graph.
 #pragma once
 
-#include "preferences/options.h"
 #include "preferences/page.h"
-#include "toolkit/controls/label.h"
 #include "toolkit/controls/list_box.h"
 
 namespace preferences {
@@ -14,41 +12,26 @@ class GraphOthersPage final : public Page {
 
   void Localise(const language::Translation& say) override;
 
-  // Parts of the settings read, which has other pages between them.
-  void ReadBevels() { bevels_.Read(); }
-  void ReadOthers() { others_.Read(); }
-  void ReadScale();
-
  private:
-  void PlaceControls();
+  void AddScale(int top);
   void SayScales(const language::Translation& say);
+  void ReadScale();
   void ScaleComboChange();
   void CustomScaleChange();
   [[nodiscard]] bool CustomChosen() const;
   void PushScale();
 
-  toolkit::Label lblBevelInner;
-  toolkit::ComboBox BevelInner;
-  toolkit::Label lblBevelOuter;
-  toolkit::ComboBox BevelOuter;
-  toolkit::Label lblBevelWidth;
-  toolkit::SpinEdit BevelWidth;
-  toolkit::Label lblBorderWidth;
-  toolkit::SpinEdit BorderWidth;
-  toolkit::Label lblPulseSpace;
-  toolkit::SpinEdit PulseSpace;
-  toolkit::Label lblPulseWidth;
-  toolkit::SpinEdit PulseWidth;
-  toolkit::CheckBox chkZeroBased;
-  toolkit::CheckBox chkScaleActive;
-  toolkit::CheckBox chk3dGraph;
-  toolkit::Label lblScale;
-  toolkit::ComboBox ScaleCombo;
-  toolkit::Label lblCustomScale;
-  toolkit::SpinEdit CustomScale;
-
-  Options bevels_;
-  Options others_;
+  Labelled<toolkit::ComboBox> BevelInner{*this, "BevelInner"};
+  Labelled<toolkit::ComboBox> BevelOuter{*this, "BevelOuter"};
+  Labelled<toolkit::SpinEdit> BevelWidth{*this, "BevelWidth"};
+  Labelled<toolkit::SpinEdit> BorderWidth{*this, "BorderWidth"};
+  Labelled<toolkit::SpinEdit> PulseSpace{*this, "PulseSpace"};
+  Labelled<toolkit::SpinEdit> PulseWidth{*this, "PulseWidth"};
+  toolkit::CheckBox chkZeroBased{*this, "chkZeroBased"};
+  toolkit::CheckBox chkScaleActive{*this, "chkScaleActive"};
+  toolkit::CheckBox chk3dGraph{*this, "chk3dGraph"};
+  Labelled<toolkit::ComboBox> ScaleCombo{*this, "lblScale", "ScaleCombo"};
+  Labelled<toolkit::SpinEdit> CustomScale{*this, "CustomScale"};
 };
 
 }  // namespace preferences

@@ -1,67 +1,44 @@
 #include "preferences/interfaces_page.h"
 
 #include <algorithm>
+#include <string>
+#include <vector>
 
 #include "settings/adapter_values.h"
-#include "toolkit/controls/layout.h"
 
 namespace preferences {
-namespace {
-
-namespace text = language::text::SettingsForm;
-
-constexpr platform::TextStyle kValue{platform::TextAlign::kLeft};
-
-}  // namespace
 
 InterfacesPage::InterfacesPage(toolkit::Notebook& notebook, Context& context)
-    : Page(notebook, "Interfaces", context),
-      lblInterfaces(*this, "lblInterfaces", toolkit::kCaptionText),
-      NIMListBox(*this, "NIMListBox"),
-      chkSelectALL(*this, "chkSelectALL"),
-      lblMacAddress(*this, "lblMacAddress", kValue),
-      lblMacAddressValue(*this, "lblMacAddressValue", kValue),
-      lblSpeed(*this, "lblSpeed", kValue),
-      lblSpeedValue(*this, "lblSpeedValue", kValue),
-      lblMTU(*this, "lblMTU", kValue),
-      lblMTUValue(*this, "lblMTUValue", kValue) {
+    : Page(notebook, "Interfaces", context) {
   constexpr int kListHeight = 200;
-  constexpr int kBoxTop = kMargin + 20 + kListHeight + kMargin;
-  constexpr int kDataTop = kBoxTop + kRow + kMargin;
+  constexpr int kBox = kMargin + 20 + kListHeight + kMargin;
+  constexpr int kData = kBox + kRow + kMargin;
   constexpr int kLabelWidth = 120;
-  constexpr int kValueLeft = kMargin + kLabelWidth + kMargin;
-  constexpr int kValueWidth = kPageWidth - kMargin - kValueLeft;
-  toolkit::ApplyLayout({
-      {lblInterfaces, {kMargin, kMargin, kWidth, kBoxHeight}},
-      {NIMListBox, {kMargin, kMargin + 20, kWidth, kListHeight}},
-      {chkSelectALL, {kMargin, kBoxTop, kWidth, kBoxHeight}},
-      {lblMacAddress, {kMargin, kDataTop, kLabelWidth, kBoxHeight}},
-      {lblMacAddressValue, {kValueLeft, kDataTop, kValueWidth, kBoxHeight}},
-      {lblSpeed, {kMargin, kDataTop + kRow, kLabelWidth, kBoxHeight}},
-      {lblSpeedValue, {kValueLeft, kDataTop + kRow, kValueWidth, kBoxHeight}},
-      {lblMTU, {kMargin, kDataTop + 2 * kRow, kLabelWidth, kBoxHeight}},
-      {lblMTUValue, {kValueLeft, kDataTop + 2 * kRow, kValueWidth, kBoxHeight}},
+  const auto label = [](int row) { return Line(kData + row * kRow, kLabelWidth); };
+  const auto value = [](int row) {
+    constexpr int kLeft = kMargin + kLabelWidth + kMargin;
+    return Place{kLeft, kData + row * kRow, kPageWidth - kMargin - kLeft, kBoxHeight};
+  };
+  Add({
+      {NIMListBox, {{kMargin, kMargin + 20, kWidth, kListHeight}, Line(kMargin).control}},
+      {chkSelectALL, Line(kBox)},
+      {lblMacAddress, label(0)},
+      {lblMacAddressValue, value(0)},
+      {lblSpeed, label(1)},
+      {lblSpeedValue, value(1)},
+      {lblMTU, label(2)},
+      {lblMTUValue, value(2)},
   });
+  Add(ReadStep::kInterfaces, [this] { ReadAdapters(); });
   NIMListBox.OnChange = [this] { ShowData(); };
   NIMListBox.OnClickCheck = [this](int row) { NIMListBoxClickCheck(row); };
   chkSelectALL.OnClick = [this] { chkSelectALLClick(); };
-  context.meter.adapters.OnChange = [this] { Read(); };
+  context.meter.adapters.OnChange = [this] { ReadAdapters(); };
 }
 
 InterfacesPage::~InterfacesPage() { context_.meter.adapters.OnChange = nullptr; }
 
-void InterfacesPage::Localise(const language::Translation& say) {
-  Say(say, {
-               {lblInterfaces, text::lblInterfaces},
-               {NIMListBox, {}, text::NIMListBoxHint},
-               {chkSelectALL, text::chkSelectALL, text::chkSelectALLHint},
-               {lblMacAddress, text::lblMacAddress},
-               {lblSpeed, text::lblSpeed},
-               {lblMTU, text::lblMTU},
-           });
-}
-
-void InterfacesPage::Read() {
+void InterfacesPage::ReadAdapters() {
   const Context::Reading reading(context_);
   const std::vector<std::string> now = context_.meter.adapters.Descriptions();
   const std::vector<std::string>& before = NIMListBox.Items();

@@ -1,13 +1,8 @@
 // The page "Interfaces": which network adapters count.
 #pragma once
 
-#include <string>
-#include <vector>
-
 #include "preferences/page.h"
-#include "toolkit/controls/check_box.h"
 #include "toolkit/controls/check_list_box.h"
-#include "toolkit/controls/label.h"
 
 namespace preferences {
 
@@ -17,12 +12,11 @@ class InterfacesPage final : public Page {
   InterfacesPage(toolkit::Notebook& notebook, Context& context);
   ~InterfacesPage() override;
 
-  void Localise(const language::Translation& say) override;
+ private:
+  static constexpr platform::TextStyle kValue{platform::TextAlign::kLeft};
 
   // Shows the adapters that there are now, and what is stored of them.
-  void Read();
-
- private:
+  void ReadAdapters();
   void NIMListBoxClickCheck(int row);
   void chkSelectALLClick();
   void Write(int row, bool on);
@@ -31,12 +25,14 @@ class InterfacesPage final : public Page {
   // The stored data of the chosen adapter.
   void ShowData();
 
-  toolkit::Label lblInterfaces;
-  toolkit::CheckListBox NIMListBox;
-  toolkit::CheckBox chkSelectALL;
-  toolkit::Label lblMacAddress, lblMacAddressValue;
-  toolkit::Label lblSpeed, lblSpeedValue;
-  toolkit::Label lblMTU, lblMTUValue;
+  Labelled<toolkit::CheckListBox> NIMListBox{*this, "lblInterfaces", "NIMListBox"};
+  toolkit::CheckBox chkSelectALL{*this, "chkSelectALL"};
+  toolkit::Label lblMacAddress{*this, "lblMacAddress", kValue};
+  toolkit::Label lblMacAddressValue{*this, "lblMacAddressValue", kValue};
+  toolkit::Label lblSpeed{*this, "lblSpeed", kValue};
+  toolkit::Label lblSpeedValue{*this, "lblSpeedValue", kValue};
+  toolkit::Label lblMTU{*this, "lblMTU", kValue};
+  toolkit::Label lblMTUValue{*this, "lblMTUValue", kValue};
 };
 
 }  // namespace preferences

@@ -3,11 +3,7 @@
 #pragma once
 
 #include "preferences/action_fields.h"
-#include "preferences/options.h"
 #include "preferences/page.h"
-#include "preferences/sound_file.h"
-#include "toolkit/controls/group_box.h"
-#include "toolkit/controls/label.h"
 #include "toolkit/controls/list_box.h"
 
 namespace preferences {
@@ -18,46 +14,37 @@ class NotificationPage final : public Page {
 
   void Localise(const language::Translation& say) override;
 
-  // Show what is stored.
-  void ReadTicker();
-  void ReadRule();
-  void ReadActive();
-
  private:
   // The stored values of a rule.
   struct Rule;
   static const Rule kLess;
   static const Rule kMore;
+  static constexpr platform::TextStyle kWord{platform::TextAlign::kLeft};
 
-  void PlaceControls();
-  void PlaceTicker(int top);
-  void ConnectHandlers();
+  void AddRule();
+  void AddTicker(int top);
   // Asked of the store anew by every handler: another program may have chosen the other one.
   [[nodiscard]] const Rule& Chosen();
+  void ReadChoice();
   void LessOrMoreChange();
-  // Puts the values of the chosen rule into the controls.
-  void ReadControls();
 
-  toolkit::CheckBox NotificationsCheckBox;
-  toolkit::ComboBox LessOrMore;
-  toolkit::SpinEdit BytesSpin;
-  toolkit::Label lblBytes;
-  toolkit::CheckBox WhenDownload;
-  toolkit::CheckBox WhenUpload;
-  toolkit::Label lblInLast;
-  toolkit::SpinEdit BytesSec;
-  toolkit::Label lblSeconds;
-  toolkit::CheckBox PlayEnabled;
-  SoundFile sound_;
-  ActionFields action_;  // ActionComboBox, DisplayMessage
-  toolkit::GroupBox grpTicker;
-  toolkit::CheckBox TickerCheckBox;
-  toolkit::SpinEdit TickerSpin;
-  toolkit::Label lblTickerBytes;
-  SoundFile ticker_sound_;
-
-  Options ticker_;
-  Options active_;
+  toolkit::CheckBox NotificationsCheckBox{*this, "NotificationsCheckBox"};
+  toolkit::ComboBox LessOrMore{*this, "LessOrMore"};
+  toolkit::SpinEdit BytesSpin{*this, "BytesSpin"};
+  toolkit::Label lblBytes{*this, "lblBytes", kWord};
+  toolkit::CheckBox WhenDownload{*this, "WhenDownload"};
+  toolkit::CheckBox WhenUpload{*this, "WhenUpload"};
+  toolkit::Label lblInLast{*this, "lblInLast", kWord};
+  toolkit::SpinEdit BytesSec{*this, "BytesSec"};
+  toolkit::Label lblSeconds{*this, "lblSeconds", kWord};
+  toolkit::CheckBox PlayEnabled{*this, "PlayEnabled"};
+  SoundFile sound_{*this, "PlayWavFile", "PlayOpenBtn", "PlayPreview"};
+  ActionFields action_{*this, "lblAction", "ActionComboBox", "lblDisplayMessage", "DisplayMessage"};
+  toolkit::GroupBox grpTicker{*this, "grpTicker"};
+  toolkit::CheckBox TickerCheckBox{grpTicker, "TickerCheckBox"};
+  toolkit::SpinEdit TickerSpin{grpTicker, "TickerSpin"};
+  toolkit::Label lblTickerBytes{grpTicker, "lblTickerBytes", kWord};
+  SoundFile ticker_sound_{grpTicker, "TickerWavFile", "TickerOpenWav", "TickerPlayWav"};
 };
 
 }  // namespace preferences

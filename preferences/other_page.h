@@ -1,10 +1,7 @@
 // The page "Other": keyboard lights, transparency, exit.
 #pragma once
 
-#include "preferences/options.h"
 #include "preferences/page.h"
-#include "toolkit/controls/group_box.h"
-#include "toolkit/controls/label.h"
 
 namespace preferences {
 
@@ -14,30 +11,18 @@ class OtherPage final : public Page {
 
   void Localise(const language::Translation& say) override;
 
-  // Parts of the settings read, which has other pages between them.
-  void ReadTransparency() { transparency_.Read(); }
-  void ReadExitAndFade() { exit_and_fade_.Read(); }
-  void ReadLeds() { leds_.Read(); }
-
  private:
-  void PlaceControls();
-
-  toolkit::GroupBox grpKeyboardLeds;
-  toolkit::CheckBox DLSwitchScr;
-  toolkit::CheckBox ULSwitchNum;
-  toolkit::Label lblKeyLedsLimit;
-  toolkit::SpinEdit spnKeyLedsLimit;
-  toolkit::GroupBox grpTransparency;
-  toolkit::CheckBox AutoTransparentONOFF;
-  toolkit::Label lblWin2kTransTrack;
-  toolkit::TrackBar Win2kTransTrack;
-  toolkit::CheckBox TransparentFade;
-  toolkit::GroupBox grpExit;
-  toolkit::CheckBox AskOnExit;
-
-  Options transparency_;
-  Options exit_and_fade_;
-  Options leds_;
+  toolkit::GroupBox grpKeyboardLeds{*this, "grpKeyboardLeds"};
+  toolkit::CheckBox DLSwitchScr{grpKeyboardLeds, "DLSwitchScr"};
+  toolkit::CheckBox ULSwitchNum{grpKeyboardLeds, "ULSwitchNum"};
+  Labelled<toolkit::SpinEdit> spnKeyLedsLimit{grpKeyboardLeds, "lblKeyLedsLimit",
+                                              "spnKeyLedsLimit"};
+  toolkit::GroupBox grpTransparency{*this, "grpTransparency"};
+  toolkit::CheckBox AutoTransparentONOFF{grpTransparency, "AutoTransparentONOFF"};
+  Labelled<toolkit::TrackBar> Win2kTransTrack{grpTransparency, "Win2kTransTrack"};
+  toolkit::CheckBox TransparentFade{grpTransparency, "TransparentFade"};
+  toolkit::GroupBox grpExit{*this, "grpExit"};
+  toolkit::CheckBox AskOnExit{grpExit, "AskOnExit"};
 };
 
 }  // namespace preferences

@@ -3,39 +3,37 @@
 #include <algorithm>
 #include <array>
 #include <set>
-#include <string>
+#include <string_view>
 #include <utility>
 
 #include "display/unit_BrisantoMain.h"
 #include "preferences/grouped_reset.h"
-#include "toolkit/controls/layout.h"
 
 namespace preferences {
 namespace {
 
 namespace text = language::text::SettingsForm;
 
-constexpr int kStepMs = 5;
 constexpr int kSteps = 100;
 
 struct Group {
   settings::ResetGroup group;
-  language::TextEntry text;
+  std::string_view name;  // of its box
 };
 
 constexpr std::array<Group, 12> kGroups = {{
-    {settings::ResetGroup::kGeneral, text::R1},
-    {settings::ResetGroup::kGraphColors, text::R2},
-    {settings::ResetGroup::kGraphGrids, text::R3},
-    {settings::ResetGroup::kGraphOther, text::R4},
-    {settings::ResetGroup::kNumericColors, text::R5},
-    {settings::ResetGroup::kNumericOther, text::R6},
-    {settings::ResetGroup::kBandwidthAlerts, text::R7},
-    {settings::ResetGroup::kNotifications, text::R8},
-    {settings::ResetGroup::kOther, text::R9},
-    {settings::ResetGroup::kDaily, text::R10},
-    {settings::ResetGroup::kWeekly, text::R11},
-    {settings::ResetGroup::kMonthly, text::R12},
+    {settings::ResetGroup::kGeneral, "R1"},
+    {settings::ResetGroup::kGraphColors, "R2"},
+    {settings::ResetGroup::kGraphGrids, "R3"},
+    {settings::ResetGroup::kGraphOther, "R4"},
+    {settings::ResetGroup::kNumericColors, "R5"},
+    {settings::ResetGroup::kNumericOther, "R6"},
+    {settings::ResetGroup::kBandwidthAlerts, "R7"},
+    {settings::ResetGroup::kNotifications, "R8"},
+    {settings::ResetGroup::kOther, "R9"},
+    {settings::ResetGroup::kDaily, "R10"},
+    {settings::ResetGroup::kWeekly, "R11"},
+    {settings::ResetGroup::kMonthly, "R12"},
 }};
 
 // What the line of numbers begins with after its reset; two blanks, unlike that of a start.
@@ -45,61 +43,45 @@ constexpr const char* kAverageText = "[ Average DL:0,0 kB  UL:0,0 kB ]";
 
 ResetSettingsPage::ResetSettingsPage(toolkit::Notebook& notebook, Context& context,
                                      std::function<void()> read_settings)
-    : Page(notebook, "ResetSettings", context),
-      read_settings_(std::move(read_settings)),
-      lblReset(*this, "lblReset", toolkit::kCaptionText),
-      groups_(MakeBoxes(*this)),
-      SelectAll(*this, "SelectAll"),
-      btnResetSettings(*this, "btnResetSettings"),
-      ResetSettingPrg(*this, "ResetSettingPrg"),
-      timer_(context.app, kStepMs, [this] { Progress(); }) {
-  PlaceControls();
+    : Page(notebook, "ResetSettings", context), read_settings_(std::move(read_settings)) {
+  constexpr int kRows = static_cast<int>(kGroups.size()) / 2;
+  constexpr int kColumn = (kWidth - kMargin) / 2;
+  constexpr int kTop = kMargin + kRow + 2;
+  constexpr int kBelow = kTop + kRows * kRow + kMargin;
+  constexpr int kButton = kBelow + kRow + kMargin;
+  constexpr int kButtonWidth = 110;
+  for (int i = 0; i < static_cast<int>(groups_.size()); ++i) {
+    toolkit::CheckBox& box = *groups_[static_cast<std::size_t>(i)];
+    box.SetBounds(
+        {kMargin + i / kRows * (kColumn + kMargin), kTop + i % kRows * kRow, kColumn, kBoxHeight});
+    box.OnClick = [this] { GroupClick(); };
+  }
+  Add({
+      {lblReset, Line(kMargin)},
+      {SelectAll, Line(kBelow)},
+      {btnResetSettings, {kMargin, kButton, kButtonWidth, kButtonHeight}},
+      {ResetSettingPrg,
+       {kMargin + kButtonWidth + kMargin, kButton + 4, kWidth - kButtonWidth - kMargin, 17}},
+  });
   ResetSettingPrg.SetRange(0, kSteps);
   SelectAll.OnClick = [this] { SelectAllClick(); };
-  for (const auto& box : groups_) box->OnClick = [this] { GroupClick(); };
   btnResetSettings.OnClick = [this] { btnResetSettingsClick(); };
 }
 
 ResetSettingsPage::Boxes ResetSettingsPage::MakeBoxes(toolkit::Control& parent) {
   Boxes boxes;
   for (const Group& group : kGroups) {
-    boxes.push_back(std::make_unique<toolkit::CheckBox>(parent, group.text.key));
+    boxes.push_back(std::make_unique<toolkit::CheckBox>(parent, group.name));
   }
   return boxes;
 }
 
-void ResetSettingsPage::PlaceControls() {
-  constexpr int kColumn = (kWidth - kMargin) / 2;
-  constexpr int kTop = kMargin + kRow + 2;
-  const int rows = static_cast<int>(groups_.size()) / 2;
-  for (int i = 0; i < static_cast<int>(groups_.size()); ++i) {
-    groups_[static_cast<std::size_t>(i)]->SetBounds(
-        {kMargin + i / rows * (kColumn + kMargin), kTop + i % rows * kRow, kColumn, kBoxHeight});
-  }
-  const int below = kTop + rows * kRow + kMargin;
-  constexpr int kButtonWidth = 110;
-  toolkit::ApplyLayout({
-      {lblReset, {kMargin, kMargin, kWidth, kBoxHeight}},
-      {SelectAll, {kMargin, below, kWidth, kBoxHeight}},
-      {btnResetSettings, {kMargin, below + kRow + kMargin, kButtonWidth, kButtonHeight}},
-      {ResetSettingPrg,
-       {kMargin + kButtonWidth + kMargin, below + kRow + kMargin + 4,
-        kWidth - kButtonWidth - kMargin, 17}},
-  });
-}
-
 void ResetSettingsPage::Localise(const language::Translation& say) {
+  Page::Localise(say);
   for (std::size_t i = 0; i < kGroups.size(); ++i) {
-    groups_[i]->SetCaption(say(kGroups[i].text));
     groups_[i]->SetHint(
         say(IsPeriod(kGroups[i].group) ? text::ResetPeriodHint : text::ResetOptionsHint));
   }
-  Say(say, {
-               {lblReset, text::lblReset},
-               {SelectAll, text::SelectAll, text::SelectAllHint},
-               {btnResetSettings, text::btnResetSettings, text::btnResetSettingsHint},
-               {ResetSettingPrg, text::ResetSettingPrg},
-           });
 }
 
 void ResetSettingsPage::SelectAllClick() {

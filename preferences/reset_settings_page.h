@@ -7,8 +7,6 @@
 
 #include "preferences/page.h"
 #include "toolkit/controls/button.h"
-#include "toolkit/controls/check_box.h"
-#include "toolkit/controls/label.h"
 #include "toolkit/controls/progress_bar.h"
 #include "toolkit/timer.h"
 
@@ -23,10 +21,11 @@ class ResetSettingsPage final : public Page {
   void Localise(const language::Translation& say) override;
 
  private:
+  static constexpr int kStepMs = 5;
+
   using Boxes = std::vector<std::unique_ptr<toolkit::CheckBox>>;
 
   [[nodiscard]] static Boxes MakeBoxes(toolkit::Control& parent);
-  void PlaceControls();
   void SelectAllClick();
   void GroupClick();
   void btnResetSettingsClick();
@@ -36,14 +35,14 @@ class ResetSettingsPage final : public Page {
 
   std::function<void()> read_settings_;
 
-  toolkit::Label lblReset;
-  Boxes groups_;  // R1 to R12
-  toolkit::CheckBox SelectAll;
-  toolkit::Button btnResetSettings;
-  toolkit::ProgressBar ResetSettingPrg;
+  toolkit::Label lblReset{*this, "lblReset", toolkit::kCaptionText};
+  const Boxes groups_ = MakeBoxes(*this);  // R1 to R12
+  toolkit::CheckBox SelectAll{*this, "SelectAll"};
+  toolkit::Button btnResetSettings{*this, "btnResetSettings"};
+  toolkit::ProgressBar ResetSettingPrg{*this, "ResetSettingPrg"};
 
   // The progress is for the eye; it goes on, hidden, when the window is closed, and ends with it.
-  toolkit::Timer timer_;
+  toolkit::Timer timer_{App(), kStepMs, [this] { Progress(); }};
   std::int64_t started_ = 0;  // ms of the steady clock
 };
 

@@ -1,64 +1,27 @@
 #include "preferences/text_colors_page.h"
 
 #include <algorithm>
-
-#include "toolkit/controls/layout.h"
+#include <string>
+#include <vector>
 
 namespace preferences {
 namespace {
 
 namespace setting = settings::setting;
-namespace text = language::text::SettingsForm;
-
-using Meter = display::RunningMeter;
 
 }  // namespace
 
 TextColorsPage::TextColorsPage(toolkit::Notebook& notebook, Context& context)
-    : Page(notebook, "TextColors", context),
-      lblFontColor(*this, "lblFontColor", toolkit::kCaptionText),
-      FontColor(*this, "FontColor"),
-      lblFontBackground(*this, "lblFontBackground", toolkit::kCaptionText),
-      FontBackground(*this, "FontBackground"),
-      lblFont(*this, "lblFont", toolkit::kCaptionText),
-      FontChoose(*this, "FontChoose"),
-      colours_(context) {
-  PlaceControls();
-  colours_.Connect({
-      {FontColor, setting::GraphColor_Font, text::GraphColor_Font,
-       [](const Meter& m, platform::Colour colour) { m.label.SetFontColour(colour); }},
-      {FontBackground, setting::GraphColor_FontBackground, text::GraphColor_FontBackground,
-       [](const Meter& m, platform::Colour colour) { m.label.SetColour(colour); }},
-  });
-  FontChoose.OnChange = [this] { FontChooseChange(); };
-}
-
-void TextColorsPage::PlaceControls() {
+    : Page(notebook, "TextColors", context) {
   constexpr FieldColumn kFields{kMargin, 170};
-  toolkit::ApplyLayout({
-      {lblFontColor, kFields.Label(0)},
-      {FontColor, kFields.Field(0, 80)},
-      {lblFontBackground, kFields.Label(1)},
-      {FontBackground, kFields.Field(1, 80)},
-      {lblFont, kFields.Label(2)},
-      {FontChoose, kFields.Field(2, kFields.FieldWidth())},
-  });
-}
-
-void TextColorsPage::Localise(const language::Translation& say) {
-  Say(say, {
-               {lblFontColor, text::GraphColor_Font},
-               {FontColor, text::GraphColor_Font, text::ColorPanelHint},
-               {lblFontBackground, text::GraphColor_FontBackground},
-               {FontBackground, text::GraphColor_FontBackground, text::ColorPanelHint},
-               {lblFont, text::lblFont},
-               {FontChoose, {}, text::FontChooseHint},
-           });
-}
-
-void TextColorsPage::Read() {
-  colours_.Read();
-  ReadFont();
+  Add(ReadStep::kNumericColours,
+      {
+          {FontColor, kFields.At(0, 80), setting::GraphColor_Font},
+          {FontBackground, kFields.At(1, 80), setting::GraphColor_FontBackground},
+          {FontChoose, kFields.At(2)},
+      });
+  Add(ReadStep::kNumericColours, [this] { ReadFont(); });
+  FontChoose.OnChange = [this] { FontChooseChange(); };
 }
 
 // The name counts, as the system reads it in small letters or capitals: another font may have come
@@ -87,11 +50,8 @@ void TextColorsPage::FontChooseChange() {
   const int index = FontChoose.ItemIndex();
   if (index < 0) return;
   const std::string& name = FontChoose.Items()[static_cast<std::size_t>(index)];
-  platform::FontSpec font = context_.meter.label.Font();
-  font.face = name;
-  context_.meter.label.SetFont(font);
-  context_.Save(setting::FontName, name);
-  context_.Save(setting::FontNameIndex, index);
+  context_.Change(setting::FontName, name);
+  context_.Change(setting::FontNameIndex, index);
 }
 
 }  // namespace preferences

@@ -1,10 +1,8 @@
 // The page "TextOther": what the numeric line shows, in which units, and where it is posted.
 #pragma once
 
-#include "preferences/options.h"
 #include "preferences/page.h"
 #include "toolkit/controls/button.h"
-#include "toolkit/controls/group_box.h"
 
 namespace preferences {
 
@@ -12,30 +10,18 @@ class TextOtherPage final : public Page {
  public:
   TextOtherPage(toolkit::Notebook& notebook, Context& context);
 
-  void Localise(const language::Translation& say) override;
-
-  // Parts of the settings read, which has other pages between them.
-  void ReadLine() { line_.Read(); }
-  void ReadWindowTitle() { titles_.Read(); }
-
  private:
-  void PlaceControls();
-  void ConnectHandlers();
-
-  toolkit::GroupBox grpNumericLine;
-  toolkit::CheckBox chkTariffName;
-  toolkit::CheckBox chkConnLength;
-  toolkit::CheckBox chkTotalCost;
-  toolkit::RadioGroup rdoScaleUnits;
-  toolkit::GroupBox grpWindowTitles;
-  toolkit::RadioButton Post0;
-  toolkit::RadioButton Post1;
-  toolkit::RadioButton Post2;
-  toolkit::RadioButton Post3;
-  toolkit::Button DefineButton;
-
-  Options line_;
-  Options titles_;
+  toolkit::GroupBox grpNumericLine{*this, "grpNumericLine"};
+  toolkit::CheckBox chkTariffName{grpNumericLine, "chkTariffName"};
+  toolkit::CheckBox chkConnLength{grpNumericLine, "chkConnLength"};
+  toolkit::CheckBox chkTotalCost{grpNumericLine, "chkTotalCost"};
+  toolkit::RadioGroup rdoScaleUnits{*this, "rdoScaleUnits"};
+  toolkit::GroupBox grpWindowTitles{*this, "grpWindowTitles"};
+  toolkit::RadioButton Post0{grpWindowTitles, "Post0"};
+  toolkit::RadioButton Post1{grpWindowTitles, "Post1"};
+  toolkit::RadioButton Post2{grpWindowTitles, "Post2"};
+  toolkit::RadioButton Post3{grpWindowTitles, "Post3"};
+  toolkit::Button DefineButton{grpWindowTitles, "DefineButton"};
 };
 
 }  // namespace preferences

@@ -18,27 +18,13 @@ constexpr int kFormHeight = kPageHeight + 5 * kMargin;
 
 constexpr std::string_view kPlacementKey = "\\Software\\BrisantoNET\\Settings\\SettingsScreen";
 
+ReadStep Next(ReadStep step) { return static_cast<ReadStep>(static_cast<int>(step) + 1); }
+
 }  // namespace
 
 T_frmPreferences::T_frmPreferences(toolkit::Application& app, const display::RunningMeter& meter)
     : Form(app, "T_frmPreferences", platform::Frame::kDialog),
       context_(app, meter),
-      TreeItems(*this, "TreeItems"),
-      PrefNotebook(*this, "PrefNotebook"),
-      general_(PrefNotebook, context_),
-      graph_colors_(PrefNotebook, context_),
-      graph_grids_(PrefNotebook, context_),
-      graph_others_(PrefNotebook, context_),
-      text_colors_(PrefNotebook, context_),
-      text_other_(PrefNotebook, context_),
-      speed_up_(PrefNotebook, "SpeedUp", context_),
-      admin_(PrefNotebook, context_),
-      interfaces_(PrefNotebook, context_),
-      bandwidth_alert_(PrefNotebook, context_),
-      notification_(PrefNotebook, context_),
-      other_(PrefNotebook, context_),
-      reset_settings_(PrefNotebook, context_, [this] { ReadSettings(); }),
-      btnClose(*this, "btnClose"),
       placement_(*this, kPlacementKey, toolkit::PlacementSaver::Restores::kPlace) {
   PlaceControls();
   Localise();
@@ -67,12 +53,7 @@ void T_frmPreferences::Localise() {
   std::vector<platform::TreeItem> items;
   for (const PageTreeItem& item : PageTree()) items.push_back({say(item.text), item.level});
   TreeItems.SetItems(items);
-  for (Page* page :
-       std::initializer_list<Page*>{&general_, &graph_colors_, &graph_grids_, &graph_others_,
-                                    &text_colors_, &text_other_, &speed_up_, &admin_, &interfaces_,
-                                    &bandwidth_alert_, &notification_, &other_, &reset_settings_}) {
-    page->Localise(say);
-  }
+  for (Page* page : pages_) page->Localise(say);
   btnClose.SetCaption(say(text::btnClose));
   btnClose.SetHint(say(text::btnCloseHint));
 }
@@ -89,32 +70,11 @@ void T_frmPreferences::Open() {
   if (toolkit::Form* modal = App().Modals().Top()) modal->Raise();
 }
 
-// In this order; what a page has between others is read there.
 void T_frmPreferences::ReadSettings() {
-  {
-    const Context::Reading scope(context_);
-    graph_others_.ReadBevels();
-    graph_grids_.Read();
-    general_.Read();
-    other_.ReadTransparency();
-    graph_colors_.ReadColours();
-    graph_colors_.ReadIconKind();
-    graph_others_.ReadOthers();
-    graph_others_.ReadScale();
-    graph_colors_.ReadIconFile();
-    text_colors_.Read();
-    text_other_.ReadLine();
-    admin_.Read();
-    text_other_.ReadWindowTitle();
-    other_.ReadExitAndFade();
-    notification_.ReadTicker();
-    bandwidth_alert_.Read();
-    notification_.ReadRule();
-    notification_.ReadActive();
-    other_.ReadLeds();
-    interfaces_.Read();
+  const Context::Reading scope(context_);
+  for (ReadStep step{}; step != ReadStep::kEnd; step = Next(step)) {
+    for (Page* page : pages_) page->Read(step);
   }
-  context_.meter.transparency.ApplyShape();
 }
 
 void T_frmPreferences::TreeItemsChange() {

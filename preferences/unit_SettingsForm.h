@@ -2,6 +2,7 @@
 // there is nothing to confirm and nothing to take back.
 #pragma once
 
+#include <array>
 #include <functional>
 
 #include "preferences/admin_page.h"
@@ -47,23 +48,27 @@ class T_frmPreferences final : public toolkit::Form {
   Context context_;
 
   // In the order of Tab.
-  toolkit::TreeView TreeItems;
-  toolkit::Notebook PrefNotebook;
-  GeneralPage general_;
-  GraphColorsPage graph_colors_;
-  GraphGridsPage graph_grids_;
-  GraphOthersPage graph_others_;
-  TextColorsPage text_colors_;
-  TextOtherPage text_other_;
-  Page speed_up_;
-  AdminPage admin_;
-  InterfacesPage interfaces_;
-  BandwidthAlertPage bandwidth_alert_;
-  NotificationPage notification_;
-  OtherPage other_;
-  ResetSettingsPage reset_settings_;
-  toolkit::Button btnClose;
+  toolkit::TreeView TreeItems{*this, "TreeItems"};
+  toolkit::Notebook PrefNotebook{*this, "PrefNotebook"};
+  GeneralPage general_{PrefNotebook, context_};
+  GraphColorsPage graph_colors_{PrefNotebook, context_};
+  GraphGridsPage graph_grids_{PrefNotebook, context_};
+  GraphOthersPage graph_others_{PrefNotebook, context_};
+  TextColorsPage text_colors_{PrefNotebook, context_};
+  TextOtherPage text_other_{PrefNotebook, context_};
+  Page speed_up_{PrefNotebook, "SpeedUp", context_};
+  AdminPage admin_{PrefNotebook, context_};
+  InterfacesPage interfaces_{PrefNotebook, context_};
+  BandwidthAlertPage bandwidth_alert_{PrefNotebook, context_};
+  NotificationPage notification_{PrefNotebook, context_};
+  OtherPage other_{PrefNotebook, context_};
+  ResetSettingsPage reset_settings_{PrefNotebook, context_, [this] { ReadSettings(); }};
+  toolkit::Button btnClose{*this, "btnClose"};
 
+  const std::array<Page*, 13> pages_ = {
+      &general_,      &graph_colors_, &graph_grids_,   &graph_others_, &text_colors_,
+      &text_other_,   &speed_up_,     &admin_,         &interfaces_,   &bandwidth_alert_,
+      &notification_, &other_,        &reset_settings_};
   toolkit::PlacementSaver placement_;
 };
 

@@ -4,18 +4,22 @@
 
 namespace settings {
 
-std::optional<AppliedScale> ReadScale(Store& store) {
-  const std::int64_t index = store.Read(setting::GraphScaleType);
+std::optional<AppliedScale> ScaleOf(std::int64_t index, std::int64_t custom_limit) {
   if (index < 0 || index >= std::ssize(kScaleChoices)) return std::nullopt;
   const ScaleChoice& choice = kScaleChoices[static_cast<std::size_t>(index)];
-  if (index != std::int64_t{kCustomScale}) {
-    return AppliedScale{choice.AutoScale, choice.SpeedLimit, choice.SpeedLimit};
-  }
+  const bool custom = index == std::int64_t{kCustomScale};
+  const std::int64_t limit = custom ? custom_limit : choice.SpeedLimit;
+  return AppliedScale{choice.AutoScale, limit, limit};
+}
+
+std::optional<AppliedScale> ReadScale(Store& store) {
+  const std::int64_t index = store.Read(setting::GraphScaleType);
+  if (index != std::int64_t{kCustomScale}) return ScaleOf(index, 0);
   // Two reads with two defaults. Where the value is missing the first read stores its own, so the
   // second default shows only when that could not be stored.
-  const std::int64_t limit = LimitOfStoredSpeed(store.Read(setting::SpeedLimit));
-  const std::int64_t cap = LimitOfStoredSpeed(store.ReadWith(setting::SpeedLimit, 1024));
-  return AppliedScale{choice.AutoScale, limit, cap};
+  auto scale = ScaleOf(index, LimitOfStoredSpeed(store.Read(setting::SpeedLimit)));
+  scale->SpeedCap = LimitOfStoredSpeed(store.ReadWith(setting::SpeedLimit, 1024));
+  return scale;
 }
 
 }  // namespace settings

@@ -15,7 +15,7 @@ namespace settings {
 struct ScaleChoice {
   std::string_view text;  // of the list; the first and the last have a language text of their own
   bool AutoScale;
-  std::int64_t SpeedLimit;  // bytes per scan at full scale; of the last one: see ReadScale
+  std::int64_t SpeedLimit;  // bytes per scan at full scale; of the last one: the custom speed
 };
 
 inline constexpr std::size_t kAutomaticScale = 0;
@@ -48,6 +48,10 @@ struct AppliedScale {
   std::int64_t SpeedLimit;  // of the graph meter, bytes per scan
   std::int64_t SpeedCap;    // of the sampler, bytes per scan; 0 for none
 };
+
+// What a choice means, with a limit of the custom speed in bytes per scan; nothing for an index
+// outside the list.
+[[nodiscard]] std::optional<AppliedScale> ScaleOf(std::int64_t index, std::int64_t custom_limit);
 
 // The stored choice; nothing for an index outside the list, which leaves the scale as it is.
 [[nodiscard]] std::optional<AppliedScale> ReadScale(Store& store);

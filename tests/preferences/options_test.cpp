@@ -13,7 +13,7 @@ using platform::memory::RegistryValue;
 
 class PreferenceOptions : public test::PreferencesTest {
  protected:
-  display::RunningMeter Meter() { return Window().Parts(); }
+  const display::MeterParts& Meter() { return Window().Parts().options.Parts(); }
 
   // What the user does on a page, and what comes of it.
   struct Row {
@@ -153,22 +153,22 @@ TEST_F(PreferenceOptions, TheCustomSpeedIsAnEighthOfWhatIsShownAndOutlastsAFixed
          Choose("ScaleCombo", 14),
          {{"GraphScaleType", Number(14)}},
          [&] {
-           return !Meter().graph.AutoScale && Meter().graph.SpeedLimit == 5929500 &&
+           return !Meter().graph.Look().AutoScale && Meter().graph.Look().SpeedLimit == 5929500 &&
                   Meter().SpeedCap == 5929500;
          }},
         {"Graph Other",
          Choose("ScaleCombo", 16),
          {{"GraphScaleType", Number(16)}},
-         [&] { return Meter().graph.SpeedLimit == 128 && Widget("CustomScale").enabled; }},
+         [&] { return Meter().graph.Look().SpeedLimit == 128 && Widget("CustomScale").enabled; }},
         {"Graph Other",
          Up("CustomScale"),
          {{"SpeedLimit", Number(256)}},
-         [&] { return Meter().graph.SpeedLimit == 256 && Meter().SpeedCap == 256; }},
+         [&] { return Meter().graph.Look().SpeedLimit == 256 && Meter().SpeedCap == 256; }},
         {"Graph Other",
          Choose("ScaleCombo", 0),
          {{"GraphScaleType", Number(0)}},
          [&] {
-           return Meter().graph.AutoScale && Meter().SpeedCap == 0 &&
+           return Meter().graph.Look().AutoScale && Meter().SpeedCap == 0 &&
                   Widget("CustomScale").text == "2048";
          }},
     });
@@ -274,7 +274,7 @@ TEST_F(PreferenceOptions, ACancelledColourPopupChangesNothing) {
     User().Press("DownloadLightColor");
     EXPECT_EQ(Changes(before, AllValues()), Values());
     EXPECT_EQ(Widget("DownloadLightColor").background, 0x8184FEU);
-    EXPECT_EQ(Meter().graph.InLight, 0x8184FEU);
+    EXPECT_EQ(Meter().graph.Look().InLight, 0x8184FEU);
   });
 }
 

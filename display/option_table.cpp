@@ -1,0 +1,194 @@
+#include "display/option_table.h"
+
+#include <functional>
+#include <iterator>
+#include <utility>
+#include <vector>
+
+#include "display/unit_BrisantoMain.h"
+#include "settings/autostart.h"
+#include "toolkit/application.h"
+
+namespace display {
+namespace {
+
+namespace setting = settings::setting;
+
+using Meter = const MeterParts&;
+using platform::Colour;
+
+// When an option has its effect.
+constexpr unsigned kAtStart = 1;  // at the start, an initialisation anew and a reset
+constexpr unsigned kChosen = 2;   // before another value is stored
+constexpr unsigned kStored = 4;   // when it is stored: of what is read when it is shown
+constexpr unsigned kBoth = kAtStart | kChosen;
+
+struct Row {
+  template <class Setting, class Effect>
+  Row(const Setting& of, unsigned at, Effect effect)
+      : name(of.name), moments(at), start([of, effect](Meter m) { effect(m, m.store.Read(of)); }) {
+    using Value = decltype(std::declval<settings::Store>().Read(of));
+    take = [effect](Meter m, const OptionValue& value) { effect(m, std::get<Value>(value)); };
+  }
+  // A property of the graph.
+  template <class Setting, class Owner, class Value>
+  Row(const Setting& of, Value Owner::* property)
+      : Row(of, kBoth, [property](Meter m, auto value) {
+          m.graph.Set(property, static_cast<Value>(value));
+        }) {}
+
+  std::string_view name;
+  unsigned moments;
+  std::function<void(Meter m)> start;
+  std::function<void(Meter m, const OptionValue& value)> take;
+};
+
+// An index that the list does not have keeps the present bevel.
+Row Bevel(const settings::IntegerSetting& of, toolkit::BevelCut GraphLook::* property) {
+  return {of, kBoth, [property](Meter m, std::int64_t index) {
+            using toolkit::BevelCut;
+            static constexpr BevelCut kCuts[] = {BevelCut::kRaised, BevelCut::kNone,
+                                                 BevelCut::kLowered, BevelCut::kSpace};
+            if (index < 0 || index >= std::ssize(kCuts)) return;
+            m.graph.Set(property, kCuts[static_cast<std::size_t>(index)]);
+          }};
+}
+
+ScaleUnits UnitsOf(std::int64_t index) {
+  return index == 0 ? ScaleUnits::kKBytes : ScaleUnits::kKBits;
+}
+
+void TakeUnits(Meter m, std::int64_t index) {
+  m.graph.Set(&GraphLook::ScaleUnits, UnitsOf(index));
+}
+
+// Amounts in the old unit would stand in the line until the next scan.
+void ChangeUnits(Meter m, std::int64_t index) {
+  if (m.graph.Look().ScaleUnits == UnitsOf(index)) return;
+  TakeUnits(m, index);
+  m.line.ShowUnit(index != 0);
+  m.window.LineChanged();
+}
+
+// Switched off, hints would come after a day and stay for no time: they never show.
+void ShowHints(Meter m, bool shown) {
+  m.hints.Pause = shown ? 0 : 100000000;
+  m.hints.HidePause = shown ? 1000000000 : 0;
+  m.hints.Colour = platform::colour::kWhite;
+}
+
+void TakeFont(Meter m, const std::string& face) {
+  platform::FontSpec font = m.label.Font();  // its size follows the width of the window
+  font.face = face;
+  m.label.SetFont(font);
+}
+
+Row LineMode(const settings::BooleanSetting& mode) {
+  return {mode, kChosen, [mode](Meter m, bool on) {
+            m.line.ShowMode(mode, on);
+            m.window.LineChanged();
+          }};
+}
+
+// The lines are read when they are drawn; the graph only has to be drawn anew.
+template <class Setting>
+Row Grid(const Setting& of) {
+  return {of, kStored, [](Meter m, const auto& /*value*/) { m.graph.Refresh(); }};
+}
+
+void TakeScale(Meter m, const std::optional<settings::AppliedScale>& scale) {
+  if (!scale) return;
+  m.graph.Set(&GraphLook::AutoScale, scale->AutoScale);
+  m.graph.Set(&GraphLook::SpeedLimit, scale->SpeedLimit);
+  m.SpeedCap = scale->SpeedCap;
+}
+
+// In the order in which they are applied.
+const std::vector<Row>& Rows() {
+  static const std::vector<Row> rows = {
+      {setting::StartIconMode, kAtStart, [](Meter m, bool on) { if (on) m.tray.LoadPictures(); }},
+
+      Bevel(setting::BevelInner, &GraphLook::BevelInner),
+      Bevel(setting::BevelOuter, &GraphLook::BevelOuter),
+      {setting::GraphColor_Download, &GraphLook::InColor},
+      {setting::GraphColor_DownloadLight, &GraphLook::InLight},
+      {setting::GraphColor_DownloadShadow, &GraphLook::InShadow},
+      {setting::GraphColor_Upload, &GraphLook::OutColor},
+      {setting::GraphColor_UploadLight, &GraphLook::OutLight},
+      {setting::GraphColor_UploadShadow, &GraphLook::OutShadow},
+      {setting::GraphColor_Background, &GraphLook::DisplayColor},
+      {setting::GraphColor_Border, &GraphLook::BorderColor},
+      {setting::FormMagnet, kBoth, [](Meter m, bool on) { m.magnet.Active = on; }},
+      {setting::BevelWidth, &GraphLook::BevelWidth},
+      {setting::BorderWidth, &GraphLook::BorderWidth},
+      {setting::ZeroBased, &GraphLook::ZeroBased},
+      {setting::ScaleShow, &GraphLook::ScaleShow},
+      {setting::Pulse3D, &GraphLook::Pulse3D},
+      {setting::PulseSpace, &GraphLook::PulseSpace},
+      {setting::PulseWidth, &GraphLook::PulseWidth},
+      {setting::ScaleUnit, kAtStart, TakeUnits},
+      {setting::ScaleUnit, kChosen, ChangeUnits},
+      Grid(setting::vGridVisible), Grid(setting::cmbVLineStyle),
+      Grid(setting::vLineSpace), Grid(setting::vLineColor),
+      Grid(setting::hGridVisible), Grid(setting::cmbHLineStyle),
+      Grid(setting::hLineSpace), Grid(setting::hLineColor),
+
+      {setting::ShowHints, kBoth, ShowHints},
+
+      {setting::GraphScaleType, kAtStart, [](Meter m, std::int64_t /*index*/) {
+         TakeScale(m, settings::ReadScale(m.store));
+       }},
+
+      {setting::GraphColor_FontBackground, kBoth, [](Meter m, Colour c) { m.label.SetColour(c); }},
+      {setting::GraphColor_Font, kBoth, [](Meter m, Colour c) { m.label.SetFontColour(c); }},
+      {setting::FontName, kBoth, TakeFont},
+
+      {setting::AvarageTime, kBoth,
+       [](Meter m, std::int64_t scans) { m.line.SetAveragePeriod(scans); }},
+
+      LineMode(setting::SOM1), LineMode(setting::SOM2), LineMode(setting::SOM3),
+      {setting::WindowTitle, kChosen, [](Meter m, std::int64_t mode) { m.titles.ChangeMode(mode); }},
+      {setting::IconType, kChosen, [](Meter m, std::int64_t kind) { m.tray.ChangeKind(kind); }},
+      {setting::TrayIconFile, kChosen,
+       [](Meter m, const std::string& path) { m.tray.ChangePictures(path); }},
+      {setting::GraphColor_HistogramReceiving, kChosen, [](Meter m, Colour c) {
+         m.tray.ChangeColours(c, m.store.Read(setting::GraphColor_HistogramSend));
+       }},
+      {setting::GraphColor_HistogramSend, kChosen, [](Meter m, Colour c) {
+         m.tray.ChangeColours(m.store.Read(setting::GraphColor_HistogramReceiving), c);
+       }},
+      {setting::AutoTransparentONOFF, kChosen,
+       [](Meter m, bool on) { m.transparency.ChangeAutomatic(on); }},
+      {setting::Win2kTransparentRatio, kChosen,
+       [](Meter m, std::int64_t ratio) { m.transparency.ChangeRatio(ratio); }},
+      // A tick of it waits for the next scan, which starts the timer.
+      {setting::NotificationsActive, kChosen, [](Meter m, bool on) {
+         if (!on) m.notifications.TimeOutTimer.SetEnabled(false);
+       }},
+      {setting::AutoStart, kChosen, [](Meter m, bool on) {
+         settings::StartWithWindows(m.store, m.window.App().Platform().files.ProgramPath(), on);
+       }},
+  };
+  return rows;
+}
+
+}  // namespace
+
+void OptionTable::ApplyStored() {
+  for (const Row& row : Rows()) {
+    if ((row.moments & kAtStart) != 0) row.start(parts_);
+  }
+}
+
+void OptionTable::TakeScale(const std::optional<settings::AppliedScale>& scale) {
+  display::TakeScale(parts_, scale);
+}
+
+void OptionTable::Run(std::string_view name, Moment moment, const OptionValue& value) {
+  const unsigned wanted = moment == Moment::kChosen ? kChosen : kStored;
+  for (const Row& row : Rows()) {
+    if (row.name == name && (row.moments & wanted) != 0) row.take(parts_, value);
+  }
+}
+
+}  // namespace display
