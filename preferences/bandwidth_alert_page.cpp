@@ -1,7 +1,9 @@
-#include "preferences/bandwidth_alert_page.h"
-
 #include <string>
 #include <vector>
+
+#include "preferences/action_fields.h"
+#include "preferences/pages.h"
+#include "toolkit/controls/list_box.h"
 
 namespace preferences {
 namespace {
@@ -11,54 +13,67 @@ namespace setting = settings::setting;
 constexpr int kDays = 31;
 constexpr Range kLimit{1, 2100000000};
 
+class BandwidthAlertPage final : public Page {
+ public:
+  BandwidthAlertPage(toolkit::Notebook& notebook, Context& context)
+      : Page(notebook, "BandwidthAlert", context) {
+    constexpr FieldColumn kFields{kMargin + kRow + 4, 156};
+    constexpr FieldColumn kLower{kFields.top + 4, kFields.label_width};
+    constexpr int kLeft = kFields.FieldLeft();
+    constexpr int kNumberWidth = 116;
+    constexpr int kUnitLeft = kLeft + kNumberWidth + kMargin;
+    constexpr Place kUnit{kUnitLeft, kFields.Top(2), kPageWidth - kMargin - kUnitLeft,
+                          kFieldHeight};
+    constexpr int kHalf = 120;
+    constexpr int kDirections = kFields.Top(3) + 2;
+    std::vector<std::string> days;
+    for (int day = 1; day <= kDays; ++day) days.push_back(std::to_string(day));
+    mPerStartsOn.SetItems(days);
+    const auto enable = [this] { EnablePlayControls(); };
+    // Where nothing is stored the box stays as it is.
+    const auto play = [this] {
+      return settings::BooleanSetting{setting::chkBAPlay.name, chkBAPlay.Checked()};
+    };
+    Add(ReadStep::kBandwidthAlert,
+        {
+            {BAAlertsCheckBox, Line(kMargin), setting::BAAlerts, enable},
+            {mPerStartsOn, kFields.At(0, kNumberWidth), setting::mPerStartsOn},
+            {wPerStartsOn, kFields.At(1), setting::wPerStartsOn, Items{"WeekDay"}},
+            {AlertsMoreThan, kUnit, setting::AlertsMoreThan, Items{"LimitUnit"}},
+            {MoreThan, kFields.At(2, kNumberWidth), setting::MoreThan, kLimit},
+            {cmbDayWeekMonth, kFields.At(4, kNumberWidth), setting::BADayWeekMonth,
+             Items{"Period"}},
+            {baDownload, {kLeft, kDirections, kHalf, kBoxHeight}, setting::baDownload},
+            {baUpload, {kLeft + kHalf, kDirections, kHalf, kBoxHeight}, setting::baUpload},
+            {chkBAPlay, Line(kLower.Top(5) + 2), play, enable},
+            {sound_, {kMargin, kFields.Top(6) + 2, kWidth, kFieldHeight}, setting::BaPlayFile},
+        });
+    Add(ReadStep::kBandwidthAlert, action_.Rows(kLower, 7, setting::BAAction, setting::BAMessage));
+    EnablePlayControls();
+  }
+
+ private:
+  void EnablePlayControls() {
+    sound_.SetEnabled(BAAlertsCheckBox.Checked() && chkBAPlay.Checked());
+  }
+
+  toolkit::CheckBox BAAlertsCheckBox{*this, "BAAlertsCheckBox"};
+  Labelled<toolkit::ComboBox> mPerStartsOn{*this, "lblMPerStartsOn", "mPerStartsOn"};
+  Labelled<toolkit::ComboBox> wPerStartsOn{*this, "lblWPerStartsOn", "wPerStartsOn"};
+  Labelled<toolkit::SpinEdit> MoreThan{*this, "MoreThan"};
+  toolkit::ComboBox AlertsMoreThan{*this, "AlertsMoreThan"};
+  toolkit::CheckBox baDownload{*this, "baDownload"};
+  toolkit::CheckBox baUpload{*this, "baUpload"};
+  Labelled<toolkit::ComboBox> cmbDayWeekMonth{*this, "lblDayWeekMonth", "cmbDayWeekMonth"};
+  toolkit::CheckBox chkBAPlay{*this, "chkBAPlay"};
+  SoundFile sound_{*this, "BaPlayFile", "BaSpeedbtn", "BaSpeedbtn2"};
+  ActionFields action_{{*this, "lblBaAction", "BaAction"}, {*this, "lblBaMessage", "BaMessage"}};
+};
+
 }  // namespace
 
-BandwidthAlertPage::BandwidthAlertPage(toolkit::Notebook& notebook, Context& context)
-    : Page(notebook, "BandwidthAlert", context) {
-  constexpr FieldColumn kFields{kMargin + kRow + 4, 156};
-  constexpr FieldColumn kLower{kFields.top + 4, kFields.label_width};
-  constexpr int kLeft = kFields.FieldLeft();
-  constexpr int kNumberWidth = 116;
-  constexpr int kUnitLeft = kLeft + kNumberWidth + kMargin;
-  constexpr int kHalf = 120;
-  constexpr int kDirections = kFields.Top(3) + 2;
-  std::vector<std::string> days;
-  for (int day = 1; day <= kDays; ++day) days.push_back(std::to_string(day));
-  mPerStartsOn.SetItems(days);
-  const auto enable = [this] { EnablePlayControls(); };
-  // Where nothing is stored the box stays as it is.
-  const auto play = [this] {
-    return settings::BooleanSetting{setting::chkBAPlay.name, chkBAPlay.Checked()};
-  };
-  Add(ReadStep::kBandwidthAlert,
-      {
-          {BAAlertsCheckBox, Line(kMargin), setting::BAAlerts, enable},
-          {mPerStartsOn, kFields.At(0, kNumberWidth), setting::mPerStartsOn},
-          {wPerStartsOn, kFields.At(1), setting::wPerStartsOn, Items{"WeekDay"}},
-          {AlertsMoreThan,
-           {kUnitLeft, kFields.Top(2), kPageWidth - kMargin - kUnitLeft, kFieldHeight},
-           setting::AlertsMoreThan,
-           Items{"LimitUnit"}},
-          {MoreThan, kFields.At(2, kNumberWidth), setting::MoreThan, kLimit},
-          {cmbDayWeekMonth, kFields.At(4, kNumberWidth), setting::BADayWeekMonth, Items{"Period"}},
-          {baDownload, {kLeft, kDirections, kHalf, kBoxHeight}, setting::baDownload},
-          {baUpload, {kLeft + kHalf, kDirections, kHalf, kBoxHeight}, setting::baUpload},
-          {chkBAPlay, Line(kLower.Top(5) + 2), play, enable},
-          {sound_, {kMargin, kFields.Top(6) + 2, kWidth, kFieldHeight}, setting::BaPlayFile},
-          {action_.action, kLower.At(7), setting::BAAction, Items{"Action"},
-           [this] { action_.ShowMessage(); }},
-          {action_.message, kLower.At(8), setting::BAMessage},
-      });
-  EnablePlayControls();
-}
-
-void BandwidthAlertPage::Localise(const language::Translation& say) {
-  Page::Localise(say);
-  action_.Localise(say);
-}
-
-void BandwidthAlertPage::EnablePlayControls() {
-  sound_.SetEnabled(BAAlertsCheckBox.Checked() && chkBAPlay.Checked());
+std::unique_ptr<Page> MakeBandwidthAlertPage(toolkit::Notebook& notebook, Context& context) {
+  return std::make_unique<BandwidthAlertPage>(notebook, context);
 }
 
 }  // namespace preferences

@@ -1,6 +1,8 @@
 // What the pages of the preferences work with.
 #pragma once
 
+#include <functional>
+
 #include "display/running_meter.h"
 #include "language/language.h"
 #include "settings/store.h"
@@ -20,6 +22,8 @@ class Context {
   const display::RunningMeter meter;
   settings::Store& store;
   language::Language& language;
+  // Shows what is stored, on all pages; the window sets it.
+  std::function<void()> ReadSettings;
 
   // While one exists, the controls take over what is stored. Their handlers push it into the meter
   // as ever but write nothing: it is stored already, perhaps in a form that a control cannot show,

@@ -1,9 +1,10 @@
-#include "preferences/graph_colors_page.h"
-
 #include <optional>
 #include <string>
 
+#include "preferences/pages.h"
+#include "preferences/picture_panel.h"
 #include "toolkit/forms/form.h"
+#include "toolkit/open_dialog.h"
 
 namespace preferences {
 namespace {
@@ -12,76 +13,104 @@ namespace setting = settings::setting;
 namespace text = language::text::SettingsForm;
 
 constexpr int kPanelWidth = 48;
+constexpr int kMeterHeight = kGroupTop + 4 * kFieldRow + 2;
+
+class GraphColorsPage final : public Page {
+ public:
+  GraphColorsPage(toolkit::Notebook& notebook, Context& context)
+      : Page(notebook, "GraphColors", context) {
+    const auto at = [](int column, int row) {
+      constexpr int kColumn = (kWidth - 3 * kMargin) / 2;
+      return LabelAndField(kMargin + column * (kColumn + kMargin), kGroupTop + row * kFieldRow,
+                           kColumn - kPanelWidth - kMargin, kPanelWidth);
+    };
+    Add(ReadStep::kGraphColours,
+        {
+            {grpMeterColors, {kMargin, kMargin, kWidth, kMeterHeight}},
+            {DownloadColor, at(0, 0), setting::GraphColor_Download},
+            {DownloadLightColor, at(0, 1), setting::GraphColor_DownloadLight},
+            {DownloadShadowColor, at(0, 2), setting::GraphColor_DownloadShadow},
+            {UploadColor, at(1, 0), setting::GraphColor_Upload},
+            {UploadLightColor, at(1, 1), setting::GraphColor_UploadLight},
+            {UploadShadowColor, at(1, 2), setting::GraphColor_UploadShadow},
+            {BackgroundColor, at(0, 3), setting::GraphColor_Background},
+            {BorderColor, at(1, 3), setting::GraphColor_Border},
+        });
+    AddTrayIcon();
+  }
+
+  void Localise(const language::Translation& say) override {
+    Page::Localise(say);
+    OpenPicture.Title = say(text::OpenPictureTitle);
+    OpenPicture.Kinds = {{say(text::PictureFilter), "*.bmp"}, {say(text::AllFilesFilter), "*.*"}};
+  }
+
+ private:
+  void AddTrayIcon() {
+    constexpr int kButtonRow = 30;
+    constexpr int kRadioWidth = kGroupWidth - PicturePanel::kWidth - kMargin;
+    constexpr int kColours = kGroupTop + 3 * kButtonRow;
+    constexpr Place kPictures{kMargin + kRadioWidth + kMargin, kGroupTop, PicturePanel::kWidth,
+                              PicturePanel::kHeight};
+    const auto radio = [](int row) { return Line(kGroupTop + row * kButtonRow + 4, kRadioWidth); };
+    const auto colour = [](int row) {
+      return LabelAndField(kMargin, kColours + row * kFieldRow, 200, kPanelWidth);
+    };
+    Add(ReadStep::kGraphColours,
+        {
+            {grpTrayIcon,
+             {kMargin, kMargin + kMeterHeight + kMargin, kWidth, kColours + 2 * kFieldRow + 2}},
+            {HisRecColor, colour(0), setting::GraphColor_HistogramReceiving},
+            {HisSendColor, colour(1), setting::GraphColor_HistogramSend},
+        });
+    Add(ReadStep::kIconKind, {
+                                 {Ic1, radio(0), Choice{setting::IconType, 0}},
+                                 {Ic2, radio(1), Choice{setting::IconType, 1}},
+                                 {Ic3, radio(2), Choice{setting::IconType, 2}},
+                                 {ImagesTrayIcon, kPictures, Says{text::OpenPictureTitle}},
+                             });
+    Add(ReadStep::kIconFile, [this] { ReadIconFile(); });
+    ImagesTrayIcon.OnClick = [this] { ImagesTrayIconClick(); };
+  }
+
+  void ReadIconFile() {
+    OpenPicture.InitialFolder = context_.store.ProgramFile("Icons");
+    ImagesTrayIcon.Load(context_.store.Read(setting::TrayIconFile),
+                        context_.store.Resolve(setting::TrayIconFile.read));
+  }
+
+  void ImagesTrayIconClick() {
+    const std::optional<std::string> path = OpenPicture.Execute(ParentForm());
+    if (!path) return;
+    context_.Change(setting::TrayIconFile, *path);
+    ReadIconFile();
+  }
+
+  using LabelledColour = Labelled<toolkit::ColourPanel>;
+  toolkit::GroupBox grpMeterColors{*this, "grpMeterColors"};
+  LabelledColour DownloadColor{grpMeterColors, "DownloadColor"};
+  LabelledColour DownloadLightColor{grpMeterColors, "DownloadLightColor"};
+  LabelledColour DownloadShadowColor{grpMeterColors, "DownloadShadowColor"};
+  LabelledColour UploadColor{grpMeterColors, "UploadColor"};
+  LabelledColour UploadLightColor{grpMeterColors, "UploadLightColor"};
+  LabelledColour UploadShadowColor{grpMeterColors, "UploadShadowColor"};
+  LabelledColour BackgroundColor{grpMeterColors, "BackgroundColor"};
+  LabelledColour BorderColor{grpMeterColors, "BorderColor"};
+  toolkit::GroupBox grpTrayIcon{*this, "grpTrayIcon"};
+  toolkit::RadioButton Ic1{grpTrayIcon, "Ic1"};
+  toolkit::RadioButton Ic2{grpTrayIcon, "Ic2"};
+  toolkit::RadioButton Ic3{grpTrayIcon, "Ic3"};
+  PicturePanel ImagesTrayIcon{grpTrayIcon, "ImagesTrayIcon"};
+  LabelledColour HisRecColor{grpTrayIcon, "HisRecColor"};
+  LabelledColour HisSendColor{grpTrayIcon, "HisSendColor"};
+
+  toolkit::OpenDialog OpenPicture;
+};
 
 }  // namespace
 
-GraphColorsPage::GraphColorsPage(toolkit::Notebook& notebook, Context& context)
-    : Page(notebook, "GraphColors", context) {
-  constexpr int kHeight = kGroupTop + 4 * kFieldRow + 2;
-  const auto at = [](int column, int row) {
-    constexpr int kColumn = (kWidth - 3 * kMargin) / 2;
-    return LabelAndField(kMargin + column * (kColumn + kMargin), kGroupTop + row * kFieldRow,
-                         kColumn - kPanelWidth - kMargin, kPanelWidth);
-  };
-  Add(ReadStep::kGraphColours,
-      {
-          {grpMeterColors, {kMargin, kMargin, kWidth, kHeight}},
-          {DownloadColor, at(0, 0), setting::GraphColor_Download},
-          {DownloadLightColor, at(0, 1), setting::GraphColor_DownloadLight},
-          {DownloadShadowColor, at(0, 2), setting::GraphColor_DownloadShadow},
-          {UploadColor, at(1, 0), setting::GraphColor_Upload},
-          {UploadLightColor, at(1, 1), setting::GraphColor_UploadLight},
-          {UploadShadowColor, at(1, 2), setting::GraphColor_UploadShadow},
-          {BackgroundColor, at(0, 3), setting::GraphColor_Background},
-          {BorderColor, at(1, 3), setting::GraphColor_Border},
-      });
-  AddTrayIcon(kMargin + kHeight + kMargin);
-}
-
-void GraphColorsPage::AddTrayIcon(int top) {
-  constexpr int kButtonRow = 30;
-  constexpr int kRadioWidth = kGroupWidth - PicturePanel::kWidth - kMargin;
-  constexpr int kLabelWidth = 200;
-  constexpr int kColours = kGroupTop + 3 * kButtonRow;
-  const auto radio = [](int row) { return Line(kGroupTop + row * kButtonRow + 4, kRadioWidth); };
-  Add(ReadStep::kGraphColours,
-      {
-          {grpTrayIcon, {kMargin, top, kWidth, kColours + 2 * kFieldRow + 2}},
-          {HisRecColor, LabelAndField(kMargin, kColours, kLabelWidth, kPanelWidth),
-           setting::GraphColor_HistogramReceiving},
-          {HisSendColor, LabelAndField(kMargin, kColours + kFieldRow, kLabelWidth, kPanelWidth),
-           setting::GraphColor_HistogramSend},
-      });
-  Add(ReadStep::kIconKind, {
-                               {Ic1, radio(0), Choice{setting::IconType, 0}},
-                               {Ic2, radio(1), Choice{setting::IconType, 1}},
-                               {Ic3, radio(2), Choice{setting::IconType, 2}},
-                               {ImagesTrayIcon,
-                                {kMargin + kRadioWidth + kMargin, kGroupTop, PicturePanel::kWidth,
-                                 PicturePanel::kHeight}},
-                           });
-  Add(ReadStep::kIconFile, [this] { ReadIconFile(); });
-  ImagesTrayIcon.OnClick = [this] { ImagesTrayIconClick(); };
-}
-
-void GraphColorsPage::Localise(const language::Translation& say) {
-  Page::Localise(say);
-  Say(say, {{ImagesTrayIcon, text::OpenPictureTitle}});
-  OpenPicture.Title = say(text::OpenPictureTitle);
-  OpenPicture.Kinds = {{say(text::PictureFilter), "*.bmp"}, {say(text::AllFilesFilter), "*.*"}};
-}
-
-void GraphColorsPage::ReadIconFile() {
-  OpenPicture.InitialFolder = context_.store.ProgramFile("Icons");
-  ImagesTrayIcon.Load(context_.store.Read(setting::TrayIconFile),
-                      context_.store.Resolve(setting::TrayIconFile.read));
-}
-
-void GraphColorsPage::ImagesTrayIconClick() {
-  const std::optional<std::string> path = OpenPicture.Execute(ParentForm());
-  if (!path) return;
-  context_.Change(setting::TrayIconFile, *path);
-  ReadIconFile();
+std::unique_ptr<Page> MakeGraphColorsPage(toolkit::Notebook& notebook, Context& context) {
+  return std::make_unique<GraphColorsPage>(notebook, context);
 }
 
 }  // namespace preferences

@@ -1,11 +1,11 @@
-#include "preferences/graph_others_page.h"
-
 #include <cstdint>
 #include <string>
 #include <vector>
 
+#include "preferences/pages.h"
 #include "settings/scale_choice.h"
 #include "settings/speed_limit.h"
+#include "toolkit/controls/list_box.h"
 
 namespace preferences {
 namespace {
@@ -25,87 +25,104 @@ constexpr Range kSpeed{1024, 2100000000, 1024};
 constexpr int kLabelWidth = 230;
 constexpr int kNumberWidth = 80;
 
+class GraphOthersPage final : public Page {
+ public:
+  GraphOthersPage(toolkit::Notebook& notebook, Context& context)
+      : Page(notebook, "GraphOthers", context) {
+    constexpr FieldColumn kFields{kMargin, kLabelWidth};
+    constexpr int kBoxes = kFields.Top(6) + 4;
+    Add(ReadStep::kBevels, {
+                               {BevelInner, kFields.At(0), setting::BevelInner, kBevels},
+                               {BevelOuter, kFields.At(1), setting::BevelOuter, kBevels},
+                           });
+    Add(ReadStep::kGraphOther,
+        {
+            {BevelWidth, kFields.At(2, kNumberWidth), setting::BevelWidth, kFrame},
+            {BorderWidth, kFields.At(3, kNumberWidth), setting::BorderWidth, kFrame},
+            {chkZeroBased, Line(kBoxes), setting::ZeroBased},
+            {chkScaleActive, Line(kBoxes + kRow), setting::ScaleShow},
+            {chk3dGraph, Line(kBoxes + 2 * kRow), setting::Pulse3D},
+            {PulseSpace, kFields.At(4, kNumberWidth), setting::PulseSpace, kGap},
+            {PulseWidth, kFields.At(5, kNumberWidth), setting::PulseWidth, kPulse},
+        });
+    AddScale(kBoxes + 3 * kRow + 6);
+  }
+
+  void Localise(const language::Translation& say) override {
+    Page::Localise(say);
+    SayScales(say);
+  }
+
+ private:
+  void AddScale(int top) {
+    Add({
+        {ScaleCombo, Below(top, {kMargin, top + 20, kWidth, kFieldHeight})},
+        {CustomScale, FieldColumn{top + 20 + kFieldRow + 4, kLabelWidth}.At(0), kSpeed},
+    });
+    Add(ReadStep::kScale, [this] { ReadScale(); });
+    CustomScale.SetEnabled(false);
+    ScaleCombo.OnChange = [this] { ScaleComboChange(); };
+    CustomScale.OnChange = [this] { CustomScaleChange(); };
+  }
+
+  // The first and the last have a text in the user's language; the speeds are the same in all.
+  void SayScales(const language::Translation& say) {
+    std::vector<std::string> scales;
+    for (const settings::ScaleChoice& choice : settings::kScaleChoices)
+      scales.emplace_back(choice.text);
+    scales[settings::kAutomaticScale] = say(text::S13);
+    scales[settings::kCustomScale] = say(text::S14);
+    if (scales != ScaleCombo.Items()) ScaleCombo.SetItems(scales);
+  }
+
+  // Both are read before either control changes, as the handler of each uses the other.
+  void ReadScale() {
+    SayScales(context_.language.Chosen());
+    const std::int64_t index = context_.store.Read(setting::GraphScaleType);
+    const std::int64_t speed = context_.store.Read(setting::SpeedLimit);
+    CustomScale.SetValue(settings::ShownSpeed(speed));
+    ShowIn(ScaleCombo, index);
+  }
+
+  [[nodiscard]] bool CustomChosen() const {
+    return ScaleCombo.ItemIndex() == static_cast<int>(settings::kCustomScale);
+  }
+
+  // The custom speed is stored with every choice, as it is shown: it outlasts a fixed one.
+  void ScaleComboChange() {
+    CustomScale.SetEnabled(CustomChosen());
+    PushScale();
+    context_.Change(setting::GraphScaleType, ScaleCombo.ItemIndex());
+    context_.Change(setting::SpeedLimit, settings::StoredSpeed(CustomScale.Value()));
+  }
+
+  void CustomScaleChange() {
+    if (CustomChosen()) PushScale();
+    context_.Change(setting::SpeedLimit, settings::StoredSpeed(CustomScale.Value()));
+  }
+
+  void PushScale() {
+    context_.meter.options.TakeScale(settings::ScaleOf(
+        ScaleCombo.ItemIndex(), settings::LimitOfShownSpeed(CustomScale.Value())));
+  }
+
+  Labelled<toolkit::ComboBox> BevelInner{*this, "BevelInner"};
+  Labelled<toolkit::ComboBox> BevelOuter{*this, "BevelOuter"};
+  Labelled<toolkit::SpinEdit> BevelWidth{*this, "BevelWidth"};
+  Labelled<toolkit::SpinEdit> BorderWidth{*this, "BorderWidth"};
+  Labelled<toolkit::SpinEdit> PulseSpace{*this, "PulseSpace"};
+  Labelled<toolkit::SpinEdit> PulseWidth{*this, "PulseWidth"};
+  toolkit::CheckBox chkZeroBased{*this, "chkZeroBased"};
+  toolkit::CheckBox chkScaleActive{*this, "chkScaleActive"};
+  toolkit::CheckBox chk3dGraph{*this, "chk3dGraph"};
+  Labelled<toolkit::ComboBox> ScaleCombo{*this, "lblScale", "ScaleCombo"};
+  Labelled<toolkit::SpinEdit> CustomScale{*this, "CustomScale"};
+};
+
 }  // namespace
 
-GraphOthersPage::GraphOthersPage(toolkit::Notebook& notebook, Context& context)
-    : Page(notebook, "GraphOthers", context) {
-  constexpr FieldColumn kFields{kMargin, kLabelWidth};
-  constexpr int kBoxes = kFields.Top(6) + 4;
-  Add(ReadStep::kBevels, {
-                             {BevelInner, kFields.At(0), setting::BevelInner, kBevels},
-                             {BevelOuter, kFields.At(1), setting::BevelOuter, kBevels},
-                         });
-  Add(ReadStep::kGraphOther,
-      {
-          {BevelWidth, kFields.At(2, kNumberWidth), setting::BevelWidth, kFrame},
-          {BorderWidth, kFields.At(3, kNumberWidth), setting::BorderWidth, kFrame},
-          {chkZeroBased, Line(kBoxes), setting::ZeroBased},
-          {chkScaleActive, Line(kBoxes + kRow), setting::ScaleShow},
-          {chk3dGraph, Line(kBoxes + 2 * kRow), setting::Pulse3D},
-          {PulseSpace, kFields.At(4, kNumberWidth), setting::PulseSpace, kGap},
-          {PulseWidth, kFields.At(5, kNumberWidth), setting::PulseWidth, kPulse},
-      });
-  AddScale(kBoxes + 3 * kRow + 6);
-}
-
-void GraphOthersPage::AddScale(int top) {
-  Add({
-      {ScaleCombo, {{kMargin, top + 20, kWidth, kFieldHeight}, Line(top).control}},
-      {CustomScale,
-       LabelAndField(kMargin, top + 20 + kFieldRow + 4, kLabelWidth,
-                     FieldColumn{0, kLabelWidth}.FieldWidth()),
-       kSpeed},
-  });
-  Add(ReadStep::kScale, [this] { ReadScale(); });
-  CustomScale.SetEnabled(false);
-  ScaleCombo.OnChange = [this] { ScaleComboChange(); };
-  CustomScale.OnChange = [this] { CustomScaleChange(); };
-}
-
-void GraphOthersPage::Localise(const language::Translation& say) {
-  Page::Localise(say);
-  SayScales(say);
-}
-
-// The first and the last have a text in the user's language; the speeds are the same in all.
-void GraphOthersPage::SayScales(const language::Translation& say) {
-  std::vector<std::string> scales;
-  for (const settings::ScaleChoice& choice : settings::kScaleChoices)
-    scales.emplace_back(choice.text);
-  scales[settings::kAutomaticScale] = say(text::S13);
-  scales[settings::kCustomScale] = say(text::S14);
-  if (scales != ScaleCombo.Items()) ScaleCombo.SetItems(scales);
-}
-
-// Both are read before either control changes, as the handler of each uses the other.
-void GraphOthersPage::ReadScale() {
-  SayScales(context_.language.Chosen());
-  const std::int64_t index = context_.store.Read(setting::GraphScaleType);
-  const std::int64_t speed = context_.store.Read(setting::SpeedLimit);
-  CustomScale.SetValue(settings::ShownSpeed(speed));
-  ShowIn(ScaleCombo, index);
-}
-
-bool GraphOthersPage::CustomChosen() const {
-  return ScaleCombo.ItemIndex() == static_cast<int>(settings::kCustomScale);
-}
-
-// The custom speed is stored with every choice, as it is shown: it outlasts a fixed one.
-void GraphOthersPage::ScaleComboChange() {
-  CustomScale.SetEnabled(CustomChosen());
-  PushScale();
-  context_.Change(setting::GraphScaleType, ScaleCombo.ItemIndex());
-  context_.Change(setting::SpeedLimit, settings::StoredSpeed(CustomScale.Value()));
-}
-
-void GraphOthersPage::CustomScaleChange() {
-  if (CustomChosen()) PushScale();
-  context_.Change(setting::SpeedLimit, settings::StoredSpeed(CustomScale.Value()));
-}
-
-void GraphOthersPage::PushScale() {
-  context_.meter.options.TakeScale(
-      settings::ScaleOf(ScaleCombo.ItemIndex(), settings::LimitOfShownSpeed(CustomScale.Value())));
+std::unique_ptr<Page> MakeGraphOthersPage(toolkit::Notebook& notebook, Context& context) {
+  return std::make_unique<GraphOthersPage>(notebook, context);
 }
 
 }  // namespace preferences

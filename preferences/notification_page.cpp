@@ -1,10 +1,14 @@
-#include "preferences/notification_page.h"
+#include "preferences/action_fields.h"
+#include "preferences/pages.h"
+#include "toolkit/controls/list_box.h"
 
 namespace preferences {
 namespace {
 
 namespace setting = settings::setting;
 namespace text = language::text::SettingsForm;
+
+constexpr platform::TextStyle kWord{platform::TextAlign::kLeft};
 
 constexpr Range kBytes{0, 2100000000, 1000};
 constexpr Range kSeconds{1, 86400};
@@ -14,109 +18,142 @@ constexpr int kNumberWidth = 116;
 constexpr FieldColumn kFields{kMargin + kRow + 4, 156};
 constexpr FieldColumn kLower{kFields.top + 4, kFields.label_width};
 
-}  // namespace
-
-struct NotificationPage::Rule {
-  settings::BooleanSetting is_play;
-  settings::TextSetting wave;
-  settings::IntegerSetting bytes;
+// The stored values of a rule.
+struct TrafficRule {
   settings::BooleanSetting downloaded;
   settings::BooleanSetting uploaded;
+  settings::IntegerSetting bytes;
   settings::IntegerSetting seconds;
+  settings::BooleanSetting is_play;
+  settings::TextSetting wave;
   settings::IntegerSetting action;
   settings::TextSetting message;
 };
 
-const NotificationPage::Rule NotificationPage::kLess{
-    setting::LessIsPlay,     setting::LessPlayWavFile,   setting::LessByteWere,
-    setting::LessDownloaded, setting::LessUploaded,      setting::LessNotSecs,
-    setting::LessAction,     setting::LessDisplayMessage};
-const NotificationPage::Rule NotificationPage::kMore{
-    setting::MoreIsPlay,     setting::MorePlayWavFile,   setting::MoreByteWere,
-    setting::MoreDownloaded, setting::MoreUploaded,      setting::MoreNotSecs,
-    setting::MoreAction,     setting::MoreDisplayMessage};
+constexpr TrafficRule kLessRule{setting::LessDownloaded, setting::LessUploaded,
+                                setting::LessByteWere,   setting::LessNotSecs,
+                                setting::LessIsPlay,     setting::LessPlayWavFile,
+                                setting::LessAction,     setting::LessDisplayMessage};
+constexpr TrafficRule kMoreRule{setting::MoreDownloaded, setting::MoreUploaded,
+                                setting::MoreByteWere,   setting::MoreNotSecs,
+                                setting::MoreIsPlay,     setting::MorePlayWavFile,
+                                setting::MoreAction,     setting::MoreDisplayMessage};
 
-NotificationPage::NotificationPage(toolkit::Notebook& notebook, Context& context)
-    : Page(notebook, "Notification", context) {
-  Add(ReadStep::kNotificationsActive,
-      {{NotificationsCheckBox, Line(kMargin), setting::NotificationsActive}});
-  AddRule();
-  AddTicker(kLower.Top(7) + 8);
-}
+// Two rules, which share one set of controls, and the ticker.
+class NotificationPage final : public Page {
+ public:
+  NotificationPage(toolkit::Notebook& notebook, Context& context)
+      : Page(notebook, "Notification", context) {
+    Add(ReadStep::kNotificationsActive,
+        {{NotificationsCheckBox, Line(kMargin), setting::NotificationsActive}});
+    AddRule();
+    AddTicker(kLower.Top(7) + 8);
+  }
 
-void NotificationPage::AddRule() {
-  constexpr int kLeft = kFields.FieldLeft();
-  constexpr int kHalf = 124;
-  constexpr int kDirections = kFields.Top(1) + 2;
-  const auto unit = [](int row) {
-    constexpr int kUnitLeft = kLeft + kNumberWidth + kMargin;
-    return Place{kUnitLeft, kFields.Top(row) + 2, kPageWidth - kMargin - kUnitLeft, kBoxHeight};
-  };
-  const auto of_rule = [this](auto Rule::*setting) {
-    return [this, setting] { return Chosen().*setting; };
-  };
-  Add({
-      {LessOrMore, {kMargin, kFields.top, kFields.label_width, kFieldHeight}, Items{"LessOrMore"}},
-      {lblBytes, unit(0)},
-      {lblInLast, {kMargin, kFields.Top(2) + 2, kFields.label_width, kBoxHeight}},
-      {lblSeconds, unit(2)},
-  });
-  Add(ReadStep::kNotificationRule, [this] { ReadChoice(); });
-  Add(ReadStep::kNotificationRule,
-      {
-          {PlayEnabled, Line(kLower.Top(3) + 2), of_rule(&Rule::is_play)},
-          {sound_, {kMargin, kFields.Top(4) + 2, kWidth, kFieldHeight}, of_rule(&Rule::wave)},
-          {BytesSpin, kFields.At(0, kNumberWidth), of_rule(&Rule::bytes), kBytes},
-          {WhenDownload, {kLeft, kDirections, kHalf, kBoxHeight}, of_rule(&Rule::downloaded)},
-          {WhenUpload, {kLeft + kHalf, kDirections, kHalf, kBoxHeight}, of_rule(&Rule::uploaded)},
-          {BytesSec, kFields.At(2, kNumberWidth), of_rule(&Rule::seconds), kSeconds},
-          {action_.action, kLower.At(5), of_rule(&Rule::action), Items{"Action"},
-           [this] { action_.ShowMessage(); }},
-          {action_.message, kLower.At(6), of_rule(&Rule::message)},
-      });
-  LessOrMore.OnChange = [this] { LessOrMoreChange(); };
-}
+ private:
+  void AddRule() {
+    constexpr int kLeft = kFields.FieldLeft();
+    constexpr int kHalf = 124;
+    constexpr int kDirections = kFields.Top(1) + 2;
+    const auto unit = [](int row) {
+      constexpr int kUnitLeft = kLeft + kNumberWidth + kMargin;
+      return Place{kUnitLeft, kFields.Top(row) + 2, kPageWidth - kMargin - kUnitLeft, kBoxHeight};
+    };
+    const auto of_rule = [this](auto TrafficRule::*setting) {
+      return [this, setting] { return Chosen().*setting; };
+    };
+    Add({
+        {LessOrMore,
+         {kMargin, kFields.top, kFields.label_width, kFieldHeight},
+         Items{"LessOrMore"}},
+        {lblBytes, unit(0)},
+        {lblInLast, {kMargin, kFields.Top(2) + 2, kFields.label_width, kBoxHeight}},
+        {lblSeconds, unit(2)},
+    });
+    Add(ReadStep::kNotificationRule, [this] { ReadChoice(); });
+    Add(ReadStep::kNotificationRule,
+        {
+            {PlayEnabled, Line(kLower.Top(3) + 2), of_rule(&TrafficRule::is_play)},
+            {sound_,
+             {kMargin, kFields.Top(4) + 2, kWidth, kFieldHeight},
+             of_rule(&TrafficRule::wave)},
+            {BytesSpin, kFields.At(0, kNumberWidth), of_rule(&TrafficRule::bytes), kBytes},
+            {WhenDownload,
+             {kLeft, kDirections, kHalf, kBoxHeight},
+             of_rule(&TrafficRule::downloaded)},
+            {WhenUpload,
+             {kLeft + kHalf, kDirections, kHalf, kBoxHeight},
+             of_rule(&TrafficRule::uploaded)},
+            {BytesSec, kFields.At(2, kNumberWidth), of_rule(&TrafficRule::seconds), kSeconds},
+        });
+    Add(ReadStep::kNotificationRule,
+        action_.Rows(kLower, 5, of_rule(&TrafficRule::action), of_rule(&TrafficRule::message)));
+    LessOrMore.OnChange = [this] { LessOrMoreChange(); };
+  }
 
-void NotificationPage::AddTicker(int top) {
-  constexpr int kLeftWidth = 156;
-  constexpr int kUnitLeft = kLeftWidth + kNumberWidth + 2 * kMargin;
-  Add(ReadStep::kTicker,
-      {
-          {grpTicker, {kMargin, top, kWidth, kGroupTop + 2 * kFieldRow + 4}},
-          {TickerCheckBox, Line(kGroupTop + 2, kLeftWidth - kMargin), setting::TickerActive},
-          {TickerSpin,
-           {kLeftWidth + kMargin, kGroupTop, kNumberWidth, kFieldHeight},
-           setting::TickerBytes,
-           kTicker},
-          {lblTickerBytes, {kUnitLeft, kGroupTop + 2, kWidth - kMargin - kUnitLeft, kBoxHeight}},
-          {ticker_sound_,
-           {kMargin, kGroupTop + kFieldRow, kGroupWidth, kFieldHeight},
-           setting::TickerWav},
-      });
-}
+  void AddTicker(int top) {
+    constexpr int kLeftWidth = 156;
+    constexpr int kUnitLeft = kLeftWidth + kNumberWidth + 2 * kMargin;
+    Add(ReadStep::kTicker,
+        {
+            {grpTicker, {kMargin, top, kWidth, kGroupTop + 2 * kFieldRow + 4}},
+            {TickerCheckBox, Line(kGroupTop + 2, kLeftWidth - kMargin), setting::TickerActive},
+            {TickerSpin,
+             {kLeftWidth + kMargin, kGroupTop, kNumberWidth, kFieldHeight},
+             setting::TickerBytes,
+             kTicker},
+            {lblTickerBytes,
+             {kUnitLeft, kGroupTop + 2, kWidth - kMargin - kUnitLeft, kBoxHeight},
+             Says{text::lblBytes}},
+            {ticker_sound_,
+             {kMargin, kGroupTop + kFieldRow, kGroupWidth, kFieldHeight},
+             setting::TickerWav},
+        });
+  }
 
-void NotificationPage::Localise(const language::Translation& say) {
-  Page::Localise(say);
-  Say(say, {{lblTickerBytes, text::lblBytes}});
-  action_.Localise(say);
-}
+  // Asked of the store anew by every handler: another program may have chosen the other one.
+  const TrafficRule& Chosen() {
+    // Every number but 0 is the second rule.
+    return context_.store.Read(setting::LessOrMore) == 0 ? kLessRule : kMoreRule;
+  }
 
-const NotificationPage::Rule& NotificationPage::Chosen() {
-  return context_.store.Read(setting::LessOrMore) == 0 ? kLess : kMore;
-}
+  void ReadChoice() {
+    LessOrMore.SetItemIndex(&Chosen() == &kLessRule ? 0 : 1);
+    // An action that does not exist shows none: the one in the list may be the other rule's.
+    action_.action.SetItemIndex(-1);
+  }
 
-void NotificationPage::ReadChoice() {
-  // Every number but 0 is the second rule.
-  LessOrMore.SetItemIndex(context_.store.Read(setting::LessOrMore) == 0 ? 0 : 1);
-  // An action that does not exist shows none: the one in the list may be the other rule's.
-  action_.action.SetItemIndex(-1);
-}
+  void LessOrMoreChange() {
+    if (context_.IsReading()) return;
+    context_.Change(setting::LessOrMore, LessOrMore.ItemIndex());
+    const Context::Reading scope(context_);
+    Read(ReadStep::kNotificationRule);
+  }
 
-void NotificationPage::LessOrMoreChange() {
-  if (context_.IsReading()) return;
-  context_.Change(setting::LessOrMore, LessOrMore.ItemIndex());
-  const Context::Reading scope(context_);
-  Read(ReadStep::kNotificationRule);
+  toolkit::CheckBox NotificationsCheckBox{*this, "NotificationsCheckBox"};
+  toolkit::ComboBox LessOrMore{*this, "LessOrMore"};
+  toolkit::SpinEdit BytesSpin{*this, "BytesSpin"};
+  toolkit::Label lblBytes{*this, "lblBytes", kWord};
+  toolkit::CheckBox WhenDownload{*this, "WhenDownload"};
+  toolkit::CheckBox WhenUpload{*this, "WhenUpload"};
+  toolkit::Label lblInLast{*this, "lblInLast", kWord};
+  toolkit::SpinEdit BytesSec{*this, "BytesSec"};
+  toolkit::Label lblSeconds{*this, "lblSeconds", kWord};
+  toolkit::CheckBox PlayEnabled{*this, "PlayEnabled"};
+  SoundFile sound_{*this, "PlayWavFile", "PlayOpenBtn", "PlayPreview"};
+  ActionFields action_{{*this, "lblAction", "ActionComboBox"},
+                       {*this, "lblDisplayMessage", "DisplayMessage"}};
+  toolkit::GroupBox grpTicker{*this, "grpTicker"};
+  toolkit::CheckBox TickerCheckBox{grpTicker, "TickerCheckBox"};
+  toolkit::SpinEdit TickerSpin{grpTicker, "TickerSpin"};
+  toolkit::Label lblTickerBytes{grpTicker, "lblTickerBytes", kWord};
+  SoundFile ticker_sound_{grpTicker, "TickerWavFile", "TickerOpenWav", "TickerPlayWav"};
+};
+
+}  // namespace
+
+std::unique_ptr<Page> MakeNotificationPage(toolkit::Notebook& notebook, Context& context) {
+  return std::make_unique<NotificationPage>(notebook, context);
 }
 
 }  // namespace preferences

@@ -18,7 +18,7 @@ void SayNames(const toolkit::Control& parent, const language::Translation& say) 
 
 void Page::Localise(const language::Translation& say) {
   SayNames(*this, say);
-  for (const auto& wording : wordings_) wording(say);
+  for (const Row::Words& words : says_) words(say);
 }
 
 void Page::Read(ReadStep step) {
@@ -27,23 +27,16 @@ void Page::Read(ReadStep step) {
   }
 }
 
-void Page::Add(ReadStep step, std::initializer_list<Row> rows) {
+void Page::Add(ReadStep step, const std::vector<Row>& rows) {
   for (const Row& row : rows) {
     if (row.connect) row.connect(context_, row.follows);
     if (row.read) Add(step, [this, read = row.read] { read(context_); });
-    if (row.say) wordings_.push_back(row.say);
+    says_.insert(says_.end(), row.says.begin(), row.says.end());
   }
 }
 
 void Page::Add(ReadStep step, std::function<void()> read) {
   parts_.push_back({step, std::move(read)});
-}
-
-void Page::Say(const language::Translation& say, std::initializer_list<Wording> wordings) {
-  for (const Wording& wording : wordings) {
-    if (!wording.text.key.empty()) wording.control.SetCaption(say(wording.text));
-    if (!wording.hint.key.empty()) wording.control.SetHint(say(wording.hint));
-  }
 }
 
 }  // namespace preferences

@@ -2,12 +2,10 @@
 #pragma once
 
 #include <functional>
-#include <initializer_list>
 #include <string_view>
 #include <vector>
 
 #include "language/language.h"
-#include "language/texts.h"
 #include "preferences/context.h"
 #include "preferences/places.h"
 #include "preferences/row.h"
@@ -40,13 +38,6 @@ enum class ReadStep {
   kEnd,
 };
 
-// A control's text and hint where they are not those of its name.
-struct Wording {
-  toolkit::Control& control;
-  language::TextEntry text;
-  language::TextEntry hint = {};
-};
-
 class Page : public toolkit::NotebookPage {
  public:
   Page(toolkit::Notebook& notebook, std::string_view name, Context& context)
@@ -61,13 +52,11 @@ class Page : public toolkit::NotebookPage {
 
  protected:
   // Once, when the page is made: the rows of a step, in the order in which they are read.
-  void Add(ReadStep step, std::initializer_list<Row> rows);
+  void Add(ReadStep step, const std::vector<Row>& rows);
   // Rows that are read elsewhere, or have nothing to be read.
-  void Add(std::initializer_list<Row> rows) { Add(ReadStep::kEnd, rows); }
+  void Add(const std::vector<Row>& rows) { Add(ReadStep::kEnd, rows); }
   // What else is read in a step, behind the rows so far.
   void Add(ReadStep step, std::function<void()> read);
-
-  static void Say(const language::Translation& say, std::initializer_list<Wording> wordings);
 
   Context& context_;
 
@@ -77,7 +66,7 @@ class Page : public toolkit::NotebookPage {
     std::function<void()> read;
   };
   std::vector<Part> parts_;
-  std::vector<std::function<void(const language::Translation&)>> wordings_;
+  std::vector<Row::Words> says_;
 };
 
 }  // namespace preferences

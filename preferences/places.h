@@ -41,6 +41,11 @@ constexpr Place LabelAndField(int left, int top, int label_width, int field_widt
           {left, top + 2, label_width, kBoxHeight}};
 }
 
+// A field with its label on the line above it.
+constexpr Place Below(int label_top, const platform::Rect& field) {
+  return {field, {kMargin, label_top, kWidth, kBoxHeight}};
+}
+
 // A column of labels, each with a field behind it.
 struct FieldColumn {
   int top;

@@ -68,11 +68,11 @@ void Row::BindColour(toolkit::ColourPanel& panel, toolkit::Label* label,
     panel.SetColour(stored);
     context.Change(setting, stored);
   };
-  say = [&panel, label, setting](const language::Translation& words) {
-    panel.SetCaption(NameOf(setting, words));
-    panel.SetHint(words(text::ColorPanelHint));
+  says.emplace_back([&panel, label, setting](const auto& say) {
+    panel.SetCaption(NameOf(setting, say));
+    panel.SetHint(say(text::ColorPanelHint));
     if (label != nullptr && FindText(label->Name()) == nullptr) label->SetCaption(panel.Caption());
-  };
+  });
 }
 
 void Row::Design(toolkit::RadioButton& button, const Choice& choice) {
@@ -88,11 +88,19 @@ void Row::Design(toolkit::RadioButton& button, const Choice& choice) {
 
 void Row::Design(toolkit::SpinEdit& spin, const Range& range) {
   spin.SetRange(range.lowest, range.highest, range.step);
-  say = [&spin, range](const language::Translation& words) {
-    const language::TextEntry& hint = range.step == 1 ? range.hint : text::RangeStepHint;
-    spin.SetHint(words(hint, {std::to_string(range.lowest), std::to_string(range.highest),
-                              std::to_string(range.step)}));
-  };
+  says.emplace_back([&spin, range](const auto& say) {
+    const language::TextEntry& usual = range.step == 1 ? text::RangeHint : text::RangeStepHint;
+    spin.SetHint(say(
+        range.hint != nullptr ? *range.hint : usual,
+        {std::to_string(range.lowest), std::to_string(range.highest), std::to_string(range.step)}));
+  });
+}
+
+void Row::Design(toolkit::SpinEdit& spin, const Steps& steps) {
+  spin.SetRange(spin.Lowest(), spin.Highest(), steps.step);
+  says.emplace_back([&spin](const auto& say) {
+    spin.SetHint(say(text::StepHint, {std::to_string(spin.StepSize())}));
+  });
 }
 
 void Row::Design(toolkit::TrackBar& bar, const Range& range) {
@@ -101,13 +109,18 @@ void Row::Design(toolkit::TrackBar& bar, const Range& range) {
 }
 
 void Row::Design(toolkit::ListControl& list, const Items& items) {
-  say = [&list, items](const language::Translation& words) { list.SetItems(Texts(items, words)); };
+  says.emplace_back([&list, items](const auto& say) { list.SetItems(Texts(items, say)); });
 }
 
 void Row::Design(toolkit::RadioGroup& group, const Items& items) {
-  say = [&group, items](const language::Translation& words) {
-    group.SetItems(Texts(items, words));
-  };
+  says.emplace_back([&group, items](const auto& say) { group.SetItems(Texts(items, say)); });
+}
+
+void Row::Design(toolkit::Control& control, const Says& texts) {
+  says.emplace_back([&control, texts](const auto& say) {
+    if (!texts.caption.key.empty()) control.SetCaption(say(texts.caption));
+    if (!texts.hint.key.empty()) control.SetHint(say(texts.hint));
+  });
 }
 
 }  // namespace preferences

@@ -31,18 +31,29 @@ namespace preferences {
 [[nodiscard]] const language::TextEntry* FindText(std::string_view key);
 
 // What can be entered; `step` is the page step of a track bar. A spin edit says it in its hint,
-// with `hint` in place of the usual words for steps of one.
+// with `hint` in place of the usual words.
 struct Range {
   std::int64_t lowest;
   std::int64_t highest;
   std::int64_t step = 1;
-  language::TextEntry hint = language::text::SettingsForm::RangeHint;
+  const language::TextEntry* hint = nullptr;
+};
+
+// A spin edit whose only bounds are those of what can be stored.
+struct Steps {
+  std::int64_t step;
 };
 
 // The rows of a list or buttons of a group: the texts of `key` with 0, 1, 2 behind it, as far as
 // there are any.
 struct Items {
   std::string_view key;
+};
+
+// Other texts than those of the name; an empty one leaves what there is.
+struct Says {
+  language::TextEntry caption;
+  language::TextEntry hint = {};
 };
 
 // A radio button that stands for one value.
@@ -79,7 +90,7 @@ inline void ShowIn(SoundFile& file, const std::string& value) { file.SetPath(val
 
 // Made where the page is made; the control outlives it. Behind the place stand, in any order:
 //   a setting, or a call that gives the one that counts at the moment
-//   Range, Items or Choice
+//   Range, Steps, Items, Choice or Says
 //   a call of what else on the page follows the control, made before the value is pushed
 class Row {
  public:
@@ -87,7 +98,7 @@ class Row {
   Row(Control& control, const Place& place, const More&... more) {
     if constexpr (std::is_same_v<Control, SoundFile>) {
       control.Place(place.control);
-      say = [&control](const language::Translation& words) { control.Localise(words); };
+      says.emplace_back([&control](const auto& say) { control.Localise(say); });
     } else {
       control.SetBounds(place.control);
       if (toolkit::Label* label = LabelOf(control)) label->SetBounds(place.label);
@@ -95,11 +106,13 @@ class Row {
     (Take(control, more), ...);
   }
 
+  using Words = std::function<void(const language::Translation& say)>;
+
   // Each is empty where there is nothing to do.
-  Event follows;                                          // of the page
-  std::function<void(Context&, const Event&)> connect;    // makes the handler of the control
-  std::function<void(Context&)> read;                     // shows what is stored
-  std::function<void(const language::Translation&)> say;  // texts but those of the name
+  Event follows;                                        // of the page
+  std::function<void(Context&, const Event&)> connect;  // makes the handler of the control
+  std::function<void(Context&)> read;                   // shows what is stored
+  std::vector<Words> says;                              // texts but those of the name
 
  private:
   template <class Control, class More>
@@ -145,9 +158,11 @@ class Row {
                   const settings::ColourSetting& setting);
   void Design(toolkit::RadioButton& button, const Choice& choice);
   void Design(toolkit::SpinEdit& spin, const Range& range);
+  void Design(toolkit::SpinEdit& spin, const Steps& steps);
   void Design(toolkit::TrackBar& bar, const Range& range);
   void Design(toolkit::ListControl& list, const Items& items);
   void Design(toolkit::RadioGroup& group, const Items& items);
+  void Design(toolkit::Control& control, const Says& texts);
 };
 
 }  // namespace preferences

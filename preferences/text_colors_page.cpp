@@ -1,57 +1,71 @@
-#include "preferences/text_colors_page.h"
-
 #include <algorithm>
 #include <string>
 #include <vector>
+
+#include "preferences/pages.h"
+#include "toolkit/controls/list_box.h"
 
 namespace preferences {
 namespace {
 
 namespace setting = settings::setting;
 
+class TextColorsPage final : public Page {
+ public:
+  TextColorsPage(toolkit::Notebook& notebook, Context& context)
+      : Page(notebook, "TextColors", context) {
+    constexpr FieldColumn kFields{kMargin, 170};
+    Add(ReadStep::kNumericColours,
+        {
+            {FontColor, kFields.At(0, 80), setting::GraphColor_Font},
+            {FontBackground, kFields.At(1, 80), setting::GraphColor_FontBackground},
+            {FontChoose, kFields.At(2)},
+        });
+    Add(ReadStep::kNumericColours, [this] { ReadFont(); });
+    FontChoose.OnChange = [this] { FontChooseChange(); };
+  }
+
+ private:
+  // The name counts, as the system reads it in small letters or capitals: another font may have
+  // come to stand at the stored index. One that is not installed leaves the list without a choice.
+  void ReadFont() {
+    const std::int64_t index = context_.store.Read(setting::FontNameIndex);
+    const std::string name = context_.store.Read(setting::FontName);
+    const std::vector<std::string> fonts = context_.app.Platform().fonts.Families();
+    if (fonts != FontChoose.Items()) {
+      FontChoose.SetItemIndex(-1);
+      FontChoose.SetItems(fonts);
+    }
+    platform::Locale& locale = context_.app.Platform().locale;
+    const auto is_named = [&locale, wanted = locale.Lower(name)](const std::string& font) {
+      return locale.Lower(font) == wanted;
+    };
+    if (index >= 0 && index < std::ssize(fonts) &&
+        is_named(fonts[static_cast<std::size_t>(index)])) {
+      FontChoose.SetItemIndex(static_cast<int>(index));
+      return;
+    }
+    const auto found = std::find_if(fonts.begin(), fonts.end(), is_named);
+    FontChoose.SetItemIndex(found != fonts.end() ? static_cast<int>(found - fonts.begin()) : -1);
+  }
+
+  void FontChooseChange() {
+    const int index = FontChoose.ItemIndex();
+    if (index < 0) return;
+    const std::string& name = FontChoose.Items()[static_cast<std::size_t>(index)];
+    context_.Change(setting::FontName, name);
+    context_.Change(setting::FontNameIndex, index);
+  }
+
+  Labelled<toolkit::ColourPanel> FontColor{*this, "FontColor"};
+  Labelled<toolkit::ColourPanel> FontBackground{*this, "FontBackground"};
+  Labelled<toolkit::FontComboBox> FontChoose{*this, "lblFont", "FontChoose"};
+};
+
 }  // namespace
 
-TextColorsPage::TextColorsPage(toolkit::Notebook& notebook, Context& context)
-    : Page(notebook, "TextColors", context) {
-  constexpr FieldColumn kFields{kMargin, 170};
-  Add(ReadStep::kNumericColours,
-      {
-          {FontColor, kFields.At(0, 80), setting::GraphColor_Font},
-          {FontBackground, kFields.At(1, 80), setting::GraphColor_FontBackground},
-          {FontChoose, kFields.At(2)},
-      });
-  Add(ReadStep::kNumericColours, [this] { ReadFont(); });
-  FontChoose.OnChange = [this] { FontChooseChange(); };
-}
-
-// The name counts, as the system reads it in small letters or capitals: another font may have come
-// to stand at the stored index. One that is not installed leaves the list without a choice.
-void TextColorsPage::ReadFont() {
-  const std::int64_t index = context_.store.Read(setting::FontNameIndex);
-  const std::string name = context_.store.Read(setting::FontName);
-  const std::vector<std::string> fonts = context_.app.Platform().fonts.Families();
-  if (fonts != FontChoose.Items()) {
-    FontChoose.SetItemIndex(-1);
-    FontChoose.SetItems(fonts);
-  }
-  platform::Locale& locale = context_.app.Platform().locale;
-  const auto is_named = [&locale, wanted = locale.Lower(name)](const std::string& font) {
-    return locale.Lower(font) == wanted;
-  };
-  if (index >= 0 && index < std::ssize(fonts) && is_named(fonts[static_cast<std::size_t>(index)])) {
-    FontChoose.SetItemIndex(static_cast<int>(index));
-    return;
-  }
-  const auto found = std::find_if(fonts.begin(), fonts.end(), is_named);
-  FontChoose.SetItemIndex(found != fonts.end() ? static_cast<int>(found - fonts.begin()) : -1);
-}
-
-void TextColorsPage::FontChooseChange() {
-  const int index = FontChoose.ItemIndex();
-  if (index < 0) return;
-  const std::string& name = FontChoose.Items()[static_cast<std::size_t>(index)];
-  context_.Change(setting::FontName, name);
-  context_.Change(setting::FontNameIndex, index);
+std::unique_ptr<Page> MakeTextColorsPage(toolkit::Notebook& notebook, Context& context) {
+  return std::make_unique<TextColorsPage>(notebook, context);
 }
 
 }  // namespace preferences

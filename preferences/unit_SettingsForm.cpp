@@ -1,9 +1,8 @@
 #include "preferences/unit_SettingsForm.h"
 
-#include <memory>
-#include <vector>
+#include <string_view>
 
-#include "preferences/page_tree.h"
+#include "preferences/pages.h"
 #include "toolkit/controls/layout.h"
 
 namespace preferences {
@@ -18,6 +17,51 @@ constexpr int kFormHeight = kPageHeight + 5 * kMargin;
 
 constexpr std::string_view kPlacementKey = "\\Software\\BrisantoNET\\Settings\\SettingsScreen";
 
+// In the order of the notebook.
+std::vector<std::unique_ptr<Page>> MakePages(toolkit::Notebook& notebook, Context& context) {
+  const auto empty = [](toolkit::Notebook& of, Context& with) {
+    return std::make_unique<Page>(of, "SpeedUp", with);
+  };
+  std::vector<std::unique_ptr<Page>> pages;
+  for (MakePage* make : std::initializer_list<MakePage*>{
+           MakeGeneralPage, MakeGraphColorsPage, MakeGraphGridsPage, MakeGraphOthersPage,
+           MakeTextColorsPage, MakeTextOtherPage, empty, MakeAdminPage, MakeInterfacesPage,
+           MakeBandwidthAlertPage, MakeNotificationPage, MakeOtherPage, MakeResetSettingsPage}) {
+    pages.push_back(make(notebook, context));
+  }
+  return pages;
+}
+
+struct PageTreeItem {
+  int number;  // what the item is known by, wherever it stands
+  int level;   // 0 at the root
+  language::TextEntry text;
+  std::string_view page;  // empty for a heading, which leads nowhere
+};
+
+// In the order in which they stand in the expanded tree.
+constexpr PageTreeItem kTree[] = {
+    {0, 0, text::TreeItem0, "General"},
+    {4, 0, text::TreeItem4, ""},
+    {1, 1, text::TreeItem1, "GraphColors"},
+    {15, 1, text::TreeItem15, "GraphGrids"},
+    {2, 1, text::TreeItem2, "GraphOthers"},
+    {9, 0, text::TreeItem9, ""},
+    {3, 1, text::TreeItem3, "TextColors"},
+    {11, 1, text::TreeItem11, "TextOther"},
+    {14, 0, text::TreeItem14, ""},
+    {5, 1, text::TreeItem5, "Notification"},
+    {13, 1, text::TreeItem13, "BandwidthAlert"},
+    {6, 0, text::TreeItem6, "Interfaces"},
+    {7, 0, text::TreeItem7, "Admin"},
+    {8, 0, text::TreeItem8, "Other"},
+    // Places kept for what is not there: an empty page, twice, and a page that does not exist.
+    {10, 0, text::TreeItem10, "SpeedUp"},
+    {16, 0, text::TreeItem16, "BrisantoScript"},
+    {17, 0, text::TreeItem17, "SpeedUp"},
+    {12, 0, text::TreeItem12, "ResetSettings"},
+};
+
 ReadStep Next(ReadStep step) { return static_cast<ReadStep>(static_cast<int>(step) + 1); }
 
 }  // namespace
@@ -25,7 +69,9 @@ ReadStep Next(ReadStep step) { return static_cast<ReadStep>(static_cast<int>(ste
 T_frmPreferences::T_frmPreferences(toolkit::Application& app, const display::RunningMeter& meter)
     : Form(app, "T_frmPreferences", platform::Frame::kDialog),
       context_(app, meter),
+      pages_(MakePages(PrefNotebook, context_)),
       placement_(*this, kPlacementKey, toolkit::PlacementSaver::Restores::kPlace) {
+  context_.ReadSettings = [this] { ReadSettings(); };
   PlaceControls();
   Localise();
   TreeItems.SetItemIndex(0);
@@ -51,9 +97,9 @@ void T_frmPreferences::Localise() {
   const language::Translation say = context_.language.Chosen();
   SetCaption(say(text::Title));
   std::vector<platform::TreeItem> items;
-  for (const PageTreeItem& item : PageTree()) items.push_back({say(item.text), item.level});
+  for (const PageTreeItem& item : kTree) items.push_back({say(item.text), item.level});
   TreeItems.SetItems(items);
-  for (Page* page : pages_) page->Localise(say);
+  for (const auto& page : pages_) page->Localise(say);
   btnClose.SetCaption(say(text::btnClose));
   btnClose.SetHint(say(text::btnCloseHint));
 }
@@ -73,14 +119,14 @@ void T_frmPreferences::Open() {
 void T_frmPreferences::ReadSettings() {
   const Context::Reading scope(context_);
   for (ReadStep step{}; step != ReadStep::kEnd; step = Next(step)) {
-    for (Page* page : pages_) page->Read(step);
+    for (const auto& page : pages_) page->Read(step);
   }
 }
 
 void T_frmPreferences::TreeItemsChange() {
   const int row = TreeItems.ItemIndex();
   if (row < 0) return;
-  PrefNotebook.SetActivePage(PageTree()[static_cast<std::size_t>(row)].page);
+  PrefNotebook.SetActivePage(kTree[row].page);
 }
 
 std::function<void()> PreferencesOf(toolkit::Application& app, const display::RunningMeter& meter) {
