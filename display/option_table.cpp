@@ -17,35 +17,36 @@ namespace setting = settings::setting;
 using Meter = const MeterParts&;
 using platform::Colour;
 
-// When an option has its effect.
-constexpr unsigned kAtStart = 1;  // at the start, an initialisation anew and a reset
-constexpr unsigned kChosen = 2;   // before another value is stored
-constexpr unsigned kStored = 4;   // when it is stored: of what is read when it is shown
-constexpr unsigned kBoth = kAtStart | kChosen;
+// When another value than before has its effect.
+enum class On {
+  kChoice,   // before it is stored
+  kStorage,  // when it is stored: of what is read from there when it is shown
+  kStart,    // only at the next start
+};
 
 struct Row {
   template <class Setting, class Effect>
-  Row(const Setting& of, unsigned at, Effect effect)
-      : name(of.name), moments(at), start([of, effect](Meter m) { effect(m, m.store.Read(of)); }) {
+  Row(const Setting& of, Effect effect, On when = On::kChoice)
+      : name(of.name), when(when), start([of, effect](Meter m) { effect(m, m.store.Read(of)); }) {
     using Value = decltype(std::declval<settings::Store>().Read(of));
     take = [effect](Meter m, const OptionValue& value) { effect(m, std::get<Value>(value)); };
   }
   // A property of the graph.
   template <class Setting, class Owner, class Value>
-  Row(const Setting& of, Value Owner::* property)
-      : Row(of, kBoth, [property](Meter m, auto value) {
-          m.graph.Set(property, static_cast<Value>(value));
-        }) {}
+  Row(const Setting& of, Value Owner::*property)
+      : Row(of,
+            [property](Meter m, auto value) { m.graph.Set(property, static_cast<Value>(value)); }) {
+  }
 
   std::string_view name;
-  unsigned moments;
+  On when;
   std::function<void(Meter m)> start;
   std::function<void(Meter m, const OptionValue& value)> take;
 };
 
 // An index that the list does not have keeps the present bevel.
-Row Bevel(const settings::IntegerSetting& of, toolkit::BevelCut GraphLook::* property) {
-  return {of, kBoth, [property](Meter m, std::int64_t index) {
+Row Bevel(const settings::IntegerSetting& of, toolkit::BevelCut GraphLook::*property) {
+  return {of, [property](Meter m, std::int64_t index) {
             using toolkit::BevelCut;
             static constexpr BevelCut kCuts[] = {BevelCut::kRaised, BevelCut::kNone,
                                                  BevelCut::kLowered, BevelCut::kSpace};
@@ -58,9 +59,7 @@ ScaleUnits UnitsOf(std::int64_t index) {
   return index == 0 ? ScaleUnits::kKBytes : ScaleUnits::kKBits;
 }
 
-void TakeUnits(Meter m, std::int64_t index) {
-  m.graph.Set(&GraphLook::ScaleUnits, UnitsOf(index));
-}
+void TakeUnits(Meter m, std::int64_t index) { m.graph.Set(&GraphLook::ScaleUnits, UnitsOf(index)); }
 
 // Amounts in the old unit would stand in the line until the next scan.
 void ChangeUnits(Meter m, std::int64_t index) {
@@ -84,7 +83,7 @@ void TakeFont(Meter m, const std::string& face) {
 }
 
 Row LineMode(const settings::BooleanSetting& mode) {
-  return {mode, kChosen, [mode](Meter m, bool on) {
+  return {mode, [mode](Meter m, bool on) {
             m.line.ShowMode(mode, on);
             m.window.LineChanged();
           }};
@@ -93,7 +92,7 @@ Row LineMode(const settings::BooleanSetting& mode) {
 // The lines are read when they are drawn; the graph only has to be drawn anew.
 template <class Setting>
 Row Grid(const Setting& of) {
-  return {of, kStored, [](Meter m, const auto& /*value*/) { m.graph.Refresh(); }};
+  return {of, [](Meter m, const auto& /*value*/) { m.graph.Refresh(); }, On::kStorage};
 }
 
 void TakeScale(Meter m, const std::optional<settings::AppliedScale>& scale) {
@@ -103,11 +102,18 @@ void TakeScale(Meter m, const std::optional<settings::AppliedScale>& scale) {
   m.SpeedCap = scale->SpeedCap;
 }
 
-// In the order in which they are applied.
-const std::vector<Row>& Rows() {
-  static const std::vector<Row> rows = {
-      {setting::StartIconMode, kAtStart, [](Meter m, bool on) { if (on) m.tray.LoadPictures(); }},
+void TakeStoredScale(Meter m, std::int64_t /*index*/) {
+  TakeScale(m, settings::ReadScale(m.store));
+}
 
+void LoadPictures(Meter m, bool on) {
+  if (on) m.tray.LoadPictures();
+}
+
+// What the meter takes over from the store, in this order.
+const std::vector<Row>& StoredRows() {
+  static const std::vector<Row> rows = {
+      {setting::StartIconMode, LoadPictures, On::kStart},
       Bevel(setting::BevelInner, &GraphLook::BevelInner),
       Bevel(setting::BevelOuter, &GraphLook::BevelOuter),
       {setting::GraphColor_Download, &GraphLook::InColor},
@@ -118,7 +124,7 @@ const std::vector<Row>& Rows() {
       {setting::GraphColor_UploadShadow, &GraphLook::OutShadow},
       {setting::GraphColor_Background, &GraphLook::DisplayColor},
       {setting::GraphColor_Border, &GraphLook::BorderColor},
-      {setting::FormMagnet, kBoth, [](Meter m, bool on) { m.magnet.Active = on; }},
+      {setting::FormMagnet, [](Meter m, bool on) { m.magnet.Active = on; }},
       {setting::BevelWidth, &GraphLook::BevelWidth},
       {setting::BorderWidth, &GraphLook::BorderWidth},
       {setting::ZeroBased, &GraphLook::ZeroBased},
@@ -126,46 +132,54 @@ const std::vector<Row>& Rows() {
       {setting::Pulse3D, &GraphLook::Pulse3D},
       {setting::PulseSpace, &GraphLook::PulseSpace},
       {setting::PulseWidth, &GraphLook::PulseWidth},
-      {setting::ScaleUnit, kAtStart, TakeUnits},
-      {setting::ScaleUnit, kChosen, ChangeUnits},
-      Grid(setting::vGridVisible), Grid(setting::cmbVLineStyle),
-      Grid(setting::vLineSpace), Grid(setting::vLineColor),
-      Grid(setting::hGridVisible), Grid(setting::cmbHLineStyle),
-      Grid(setting::hLineSpace), Grid(setting::hLineColor),
+      {setting::ScaleUnit, TakeUnits, On::kStart},
+      {setting::ShowHints, ShowHints},
+      {setting::GraphScaleType, TakeStoredScale, On::kStart},
+      {setting::GraphColor_FontBackground, [](Meter m, Colour c) { m.label.SetColour(c); }},
+      {setting::GraphColor_Font, [](Meter m, Colour c) { m.label.SetFontColour(c); }},
+      {setting::FontName, TakeFont},
+      {setting::AvarageTime, [](Meter m, std::int64_t scans) { m.line.SetAveragePeriod(scans); }},
+  };
+  return rows;
+}
 
-      {setting::ShowHints, kBoth, ShowHints},
-
-      {setting::GraphScaleType, kAtStart, [](Meter m, std::int64_t /*index*/) {
-         TakeScale(m, settings::ReadScale(m.store));
-       }},
-
-      {setting::GraphColor_FontBackground, kBoth, [](Meter m, Colour c) { m.label.SetColour(c); }},
-      {setting::GraphColor_Font, kBoth, [](Meter m, Colour c) { m.label.SetFontColour(c); }},
-      {setting::FontName, kBoth, TakeFont},
-
-      {setting::AvarageTime, kBoth,
-       [](Meter m, std::int64_t scans) { m.line.SetAveragePeriod(scans); }},
-
-      LineMode(setting::SOM1), LineMode(setting::SOM2), LineMode(setting::SOM3),
-      {setting::WindowTitle, kChosen, [](Meter m, std::int64_t mode) { m.titles.ChangeMode(mode); }},
-      {setting::IconType, kChosen, [](Meter m, std::int64_t kind) { m.tray.ChangeKind(kind); }},
-      {setting::TrayIconFile, kChosen,
+// What has its effect only when the user, or another program, has chosen another value.
+const std::vector<Row>& ChosenRows() {
+  static const std::vector<Row> rows = {
+      {setting::ScaleUnit, ChangeUnits},
+      Grid(setting::vGridVisible),
+      Grid(setting::cmbVLineStyle),
+      Grid(setting::vLineSpace),
+      Grid(setting::vLineColor),
+      Grid(setting::hGridVisible),
+      Grid(setting::cmbHLineStyle),
+      Grid(setting::hLineSpace),
+      Grid(setting::hLineColor),
+      LineMode(setting::SOM1),
+      LineMode(setting::SOM2),
+      LineMode(setting::SOM3),
+      {setting::WindowTitle, [](Meter m, std::int64_t mode) { m.titles.ChangeMode(mode); }},
+      {setting::IconType, [](Meter m, std::int64_t kind) { m.tray.ChangeKind(kind); }},
+      {setting::TrayIconFile,
        [](Meter m, const std::string& path) { m.tray.ChangePictures(path); }},
-      {setting::GraphColor_HistogramReceiving, kChosen, [](Meter m, Colour c) {
+      {setting::GraphColor_HistogramReceiving,
+       [](Meter m, Colour c) {
          m.tray.ChangeColours(c, m.store.Read(setting::GraphColor_HistogramSend));
        }},
-      {setting::GraphColor_HistogramSend, kChosen, [](Meter m, Colour c) {
+      {setting::GraphColor_HistogramSend,
+       [](Meter m, Colour c) {
          m.tray.ChangeColours(m.store.Read(setting::GraphColor_HistogramReceiving), c);
        }},
-      {setting::AutoTransparentONOFF, kChosen,
-       [](Meter m, bool on) { m.transparency.ChangeAutomatic(on); }},
-      {setting::Win2kTransparentRatio, kChosen,
+      {setting::AutoTransparentONOFF, [](Meter m, bool on) { m.transparency.ChangeAutomatic(on); }},
+      {setting::Win2kTransparentRatio,
        [](Meter m, std::int64_t ratio) { m.transparency.ChangeRatio(ratio); }},
       // A tick of it waits for the next scan, which starts the timer.
-      {setting::NotificationsActive, kChosen, [](Meter m, bool on) {
+      {setting::NotificationsActive,
+       [](Meter m, bool on) {
          if (!on) m.notifications.TimeOutTimer.SetEnabled(false);
        }},
-      {setting::AutoStart, kChosen, [](Meter m, bool on) {
+      {setting::AutoStart,
+       [](Meter m, bool on) {
          settings::StartWithWindows(m.store, m.window.App().Platform().files.ProgramPath(), on);
        }},
   };
@@ -175,9 +189,7 @@ const std::vector<Row>& Rows() {
 }  // namespace
 
 void OptionTable::ApplyStored() {
-  for (const Row& row : Rows()) {
-    if ((row.moments & kAtStart) != 0) row.start(parts_);
-  }
+  for (const Row& row : StoredRows()) row.start(parts_);
 }
 
 void OptionTable::TakeScale(const std::optional<settings::AppliedScale>& scale) {
@@ -185,9 +197,11 @@ void OptionTable::TakeScale(const std::optional<settings::AppliedScale>& scale) 
 }
 
 void OptionTable::Run(std::string_view name, Moment moment, const OptionValue& value) {
-  const unsigned wanted = moment == Moment::kChosen ? kChosen : kStored;
-  for (const Row& row : Rows()) {
-    if (row.name == name && (row.moments & wanted) != 0) row.take(parts_, value);
+  const On wanted = moment == Moment::kChosen ? On::kChoice : On::kStorage;
+  for (const std::vector<Row>* rows : {&StoredRows(), &ChosenRows()}) {
+    for (const Row& row : *rows) {
+      if (row.name == name && row.when == wanted) row.take(parts_, value);
+    }
   }
 }
 
