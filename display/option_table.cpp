@@ -95,15 +95,16 @@ Row Grid(const Setting& of) {
   return {of, [](Meter m, const auto& /*value*/) { m.graph.Refresh(); }, On::kStorage};
 }
 
-void TakeScale(Meter m, const std::optional<settings::AppliedScale>& scale) {
+void TakeScaleOf(Meter m, const std::optional<settings::AppliedScale>& scale,
+                 OptionTable::Cap cap) {
   if (!scale) return;
   m.graph.Set(&GraphLook::AutoScale, scale->AutoScale);
   m.graph.Set(&GraphLook::SpeedLimit, scale->SpeedLimit);
-  m.SpeedCap = scale->SpeedCap;
+  if (cap == OptionTable::Cap::kFollows) m.SpeedCap = scale->SpeedCap;
 }
 
 void TakeStoredScale(Meter m, std::int64_t /*index*/) {
-  TakeScale(m, settings::ReadScale(m.store));
+  TakeScaleOf(m, settings::ReadScale(m.store), OptionTable::Cap::kFollows);
 }
 
 void LoadPictures(Meter m, bool on) {
@@ -188,12 +189,15 @@ const std::vector<Row>& ChosenRows() {
 
 }  // namespace
 
-void OptionTable::ApplyStored() {
-  for (const Row& row : StoredRows()) row.start(parts_);
+void OptionTable::ApplyStored(ScaleTaken scale) {
+  for (const Row& row : StoredRows()) {
+    const bool is_scale = row.name == setting::GraphScaleType.name;
+    if (!is_scale || scale == ScaleTaken::kFromStore) row.start(parts_);
+  }
 }
 
-void OptionTable::TakeScale(const std::optional<settings::AppliedScale>& scale) {
-  display::TakeScale(parts_, scale);
+void OptionTable::TakeScale(const std::optional<settings::AppliedScale>& scale, Cap cap) {
+  TakeScaleOf(parts_, scale, cap);
 }
 
 void OptionTable::Run(std::string_view name, Moment moment, const OptionValue& value) {

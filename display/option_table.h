@@ -43,6 +43,9 @@ struct MeterParts {
 // By the type of the setting.
 using OptionValue = std::variant<bool, std::int64_t, platform::Colour, std::string>;
 
+// Whether the scale and the cap that goes with it are taken from the store too, or stay.
+enum class ScaleTaken { kFromStore, kAsItIs };
+
 class OptionTable {
  public:
   // What is behind the parts outlives it.
@@ -52,7 +55,7 @@ class OptionTable {
 
   // Takes the stored appearance over: icon pictures, graph, docking, hints, scale, label and
   // averaging period, in this order.
-  void ApplyStored();
+  void ApplyStored(ScaleTaken scale);
 
   // The user has chosen another value: the meter takes it, then it is stored, and then what is read
   // from the store when it is shown is shown anew. Throws std::runtime_error when the system
@@ -70,8 +73,10 @@ class OptionTable {
     Run(setting.name, Moment::kStored, value);
   }
 
-  // The scale, which two values make together; nothing changes nothing.
-  void TakeScale(const std::optional<settings::AppliedScale>& scale);
+  // The scale, which two values make together, for the graph and, unless it stays, the cap of the
+  // sampler. Nothing, for a choice that the list does not have, changes nothing.
+  enum class Cap { kFollows, kStays };
+  void TakeScale(const std::optional<settings::AppliedScale>& scale, Cap cap);
 
   [[nodiscard]] const MeterParts& Parts() const { return parts_; }
 

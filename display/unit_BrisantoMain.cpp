@@ -194,8 +194,8 @@ RunningMeter T_frmBrisanto::Parts() {
   return {*this, RegME, _ReadLangauge, options_, numeric_line_, adapter_menus_};
 }
 
-void T_frmBrisanto::ApplyDisplaySettings() {
-  options_.ApplyStored();
+void T_frmBrisanto::ApplyDisplaySettings(ScaleTaken scale) {
+  options_.ApplyStored(scale);
   numeric_line_.Reset();
   ShowLine();
   ApplyAlwaysOnTop();

@@ -57,7 +57,7 @@ class T_frmBrisanto final : public toolkit::Form,
 
   // Takes the stored display settings over into all parts: at the start, when the adapters changed,
   // and after a reset of the settings.
-  void ApplyDisplaySettings();
+  void ApplyDisplaySettings(ScaleTaken scale = ScaleTaken::kFromStore);
 
   // Shows the numeric line as it is now, in the window and in the hint of the icon.
   void LineChanged();

@@ -101,9 +101,17 @@ class GraphOthersPage final : public Page {
     context_.Change(setting::SpeedLimit, settings::StoredSpeed(CustomScale.Value()));
   }
 
+  // While the settings are read, the graph takes what is stored, as at the start. The cap stays:
+  // who only looks at the settings changes nothing of what is counted.
   void PushScale() {
-    context_.meter.options.TakeScale(settings::ScaleOf(
-        ScaleCombo.ItemIndex(), settings::LimitOfShownSpeed(CustomScale.Value())));
+    using Cap = display::OptionTable::Cap;
+    display::OptionTable& options = context_.meter.options;
+    if (context_.IsReading()) {
+      options.TakeScale(settings::ReadScale(context_.store), Cap::kStays);
+    } else {
+      const std::int64_t custom = settings::LimitOfShownSpeed(CustomScale.Value());
+      options.TakeScale(settings::ScaleOf(ScaleCombo.ItemIndex(), custom), Cap::kFollows);
+    }
   }
 
   Labelled<toolkit::ComboBox> BevelInner{*this, "BevelInner"};

@@ -119,7 +119,7 @@ class ResetSettingsPage final : public Page {
   // The meter takes over what the controls have not pushed, as they had it already.
   void ShowInMeter(bool line_was_reset) {
     const display::RunningMeter& meter = context_.meter;
-    meter.window.ApplyDisplaySettings();
+    meter.window.ApplyDisplaySettings(display::ScaleTaken::kAsItIs);  // no group has the scale
     if (line_was_reset) meter.line.SetAverageText(kAverageText);
     meter.window.LineChanged();
   }

@@ -175,6 +175,23 @@ TEST_F(PreferenceOptions, TheCustomSpeedIsAnEighthOfWhatIsShownAndOutlastsAFixed
   });
 }
 
+TEST_F(PreferenceOptions, NeitherALookNorAResetChangesTheScaleOrTheCap) {
+  Set("GraphScaleType", 16);
+  Set("SpeedLimit", 128000);
+  RunOpen([&] {
+    EXPECT_EQ(Meter().graph.Look().SpeedLimit, 16000) << "as at the start";
+    EXPECT_EQ(Meter().SpeedCap, 0) << "a fresh run has no cap";
+    ChoosePage("Graph Other");
+    User().PressKey("CustomScale", platform::Key::kUp);
+    EXPECT_EQ(Meter().SpeedCap, 128128);
+    ChoosePage("Reset Settings");
+    User().Press("R3");
+    User().Press("btnResetSettings");
+    EXPECT_EQ(Meter().graph.Look().SpeedLimit, 128128);
+    EXPECT_EQ(Meter().SpeedCap, 128128);
+  });
+}
+
 TEST_F(PreferenceOptions, OfTheNumericLineWorkedOnceWriteTheirValueAndShowInTheMeter) {
   RunOpen([&] {
     Check({
