@@ -113,7 +113,7 @@ void LoadPictures(Meter m, bool on) {
 
 // What the meter takes over from the store, in this order.
 const std::vector<Row>& StoredRows() {
-  static const std::vector<Row> rows = {
+  static const std::vector<Row> kRows = {
       {setting::StartIconMode, LoadPictures, On::kStart},
       Bevel(setting::BevelInner, &GraphLook::BevelInner),
       Bevel(setting::BevelOuter, &GraphLook::BevelOuter),
@@ -141,12 +141,12 @@ const std::vector<Row>& StoredRows() {
       {setting::FontName, TakeFont},
       {setting::AvarageTime, [](Meter m, std::int64_t scans) { m.line.SetAveragePeriod(scans); }},
   };
-  return rows;
+  return kRows;
 }
 
 // What has its effect only when the user, or another program, has chosen another value.
 const std::vector<Row>& ChosenRows() {
-  static const std::vector<Row> rows = {
+  static const std::vector<Row> kRows = {
       {setting::ScaleUnit, ChangeUnits},
       Grid(setting::vGridVisible),
       Grid(setting::cmbVLineStyle),
@@ -184,7 +184,7 @@ const std::vector<Row>& ChosenRows() {
          settings::StartWithWindows(m.store, m.window.App().Platform().files.ProgramPath(), on);
        }},
   };
-  return rows;
+  return kRows;
 }
 
 }  // namespace
