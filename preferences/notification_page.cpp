@@ -1,3 +1,5 @@
+#include <cstdint>
+
 #include "preferences/action_fields.h"
 #include "preferences/pages.h"
 #include "toolkit/controls/list_box.h"
@@ -52,62 +54,55 @@ class NotificationPage final : public Page {
 
  private:
   void AddRule() {
+    using Rule = TrafficRule;
     constexpr int kLeft = kFields.FieldLeft();
-    constexpr int kHalf = 124;
-    constexpr int kDirections = kFields.Top(1) + 2;
+    constexpr Place kChoice{kMargin, kFields.top, kFields.label_width, kFieldHeight};
+    constexpr Place kSound{kMargin, kFields.Top(4) + 2, kWidth, kFieldHeight};
+    const auto direction = [](int column) {
+      constexpr int kHalf = 124;
+      return Place{kLeft + column * kHalf, kFields.Top(1) + 2, kHalf, kBoxHeight};
+    };
     const auto unit = [](int row) {
       constexpr int kUnitLeft = kLeft + kNumberWidth + kMargin;
       return Place{kUnitLeft, kFields.Top(row) + 2, kPageWidth - kMargin - kUnitLeft, kBoxHeight};
     };
-    const auto of_rule = [this](auto TrafficRule::*setting) {
+    const auto of_rule = [this](auto Rule::*setting) {
       return [this, setting] { return Chosen().*setting; };
     };
     Add({
-        {LessOrMore,
-         {kMargin, kFields.top, kFields.label_width, kFieldHeight},
-         Items{"LessOrMore"}},
+        {LessOrMore, kChoice, Items{"LessOrMore"}},
         {lblBytes, unit(0)},
-        {lblInLast, {kMargin, kFields.Top(2) + 2, kFields.label_width, kBoxHeight}},
+        {lblInLast, Line(kFields.Top(2) + 2, kFields.label_width)},
         {lblSeconds, unit(2)},
     });
     Add(ReadStep::kNotificationRule, [this] { ReadChoice(); });
     Add(ReadStep::kNotificationRule,
         {
-            {PlayEnabled, Line(kLower.Top(3) + 2), of_rule(&TrafficRule::is_play)},
-            {sound_,
-             {kMargin, kFields.Top(4) + 2, kWidth, kFieldHeight},
-             of_rule(&TrafficRule::wave)},
-            {BytesSpin, kFields.At(0, kNumberWidth), of_rule(&TrafficRule::bytes), kBytes},
-            {WhenDownload,
-             {kLeft, kDirections, kHalf, kBoxHeight},
-             of_rule(&TrafficRule::downloaded)},
-            {WhenUpload,
-             {kLeft + kHalf, kDirections, kHalf, kBoxHeight},
-             of_rule(&TrafficRule::uploaded)},
-            {BytesSec, kFields.At(2, kNumberWidth), of_rule(&TrafficRule::seconds), kSeconds},
+            {PlayEnabled, Line(kLower.Top(3) + 2), of_rule(&Rule::is_play)},
+            {sound_, kSound, of_rule(&Rule::wave)},
+            {BytesSpin, kFields.At(0, kNumberWidth), of_rule(&Rule::bytes), kBytes},
+            {WhenDownload, direction(0), of_rule(&Rule::downloaded)},
+            {WhenUpload, direction(1), of_rule(&Rule::uploaded)},
+            {BytesSec, kFields.At(2, kNumberWidth), of_rule(&Rule::seconds), kSeconds},
         });
     Add(ReadStep::kNotificationRule,
-        action_.Rows(kLower, 5, of_rule(&TrafficRule::action), of_rule(&TrafficRule::message)));
+        action_.Rows(kLower, 5, of_rule(&Rule::action), of_rule(&Rule::message)));
     LessOrMore.OnChange = [this] { LessOrMoreChange(); };
   }
 
   void AddTicker(int top) {
     constexpr int kLeftWidth = 156;
-    constexpr int kUnitLeft = kLeftWidth + kNumberWidth + 2 * kMargin;
+    constexpr Place kSpin{kLeftWidth + kMargin, kGroupTop, kNumberWidth, kFieldHeight};
+    constexpr int kUnitLeft = kSpin.control.Right() + kMargin;
+    constexpr Place kUnit{kUnitLeft, kGroupTop + 2, kWidth - kMargin - kUnitLeft, kBoxHeight};
+    constexpr Place kSound{kMargin, kGroupTop + kFieldRow, kGroupWidth, kFieldHeight};
     Add(ReadStep::kTicker,
         {
             {grpTicker, {kMargin, top, kWidth, kGroupTop + 2 * kFieldRow + 4}},
             {TickerCheckBox, Line(kGroupTop + 2, kLeftWidth - kMargin), setting::TickerActive},
-            {TickerSpin,
-             {kLeftWidth + kMargin, kGroupTop, kNumberWidth, kFieldHeight},
-             setting::TickerBytes,
-             kTicker},
-            {lblTickerBytes,
-             {kUnitLeft, kGroupTop + 2, kWidth - kMargin - kUnitLeft, kBoxHeight},
-             Says{text::lblBytes}},
-            {ticker_sound_,
-             {kMargin, kGroupTop + kFieldRow, kGroupWidth, kFieldHeight},
-             setting::TickerWav},
+            {TickerSpin, kSpin, setting::TickerBytes, kTicker},
+            {lblTickerBytes, kUnit, Says{text::lblBytes}},
+            {ticker_sound_, kSound, setting::TickerWav},
         });
   }
 
@@ -120,7 +115,8 @@ class NotificationPage final : public Page {
   void ReadChoice() {
     LessOrMore.SetItemIndex(&Chosen() == &kLessRule ? 0 : 1);
     // An action that does not exist shows none: the one in the list may be the other rule's.
-    action_.action.SetItemIndex(-1);
+    const std::int64_t action = context_.store.Read(Chosen().action);
+    if (action < 0 || action >= action_.action.Count()) action_.action.SetItemIndex(-1);
   }
 
   void LessOrMoreChange() {

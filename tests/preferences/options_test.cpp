@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <functional>
 #include <string>
 #include <utility>
@@ -357,6 +358,26 @@ TEST_F(PreferenceOptions, OpeningShowsWhatIsStoredAndChangesNoStoredValue) {
       });
     }
   }
+}
+
+TEST_F(PreferenceOptions, TheTransparentMeterHasTheShapeOfLinesAsSoonAsTheyAreShown) {
+  Set("Transparent", 1);
+  Set("hLineSpace", 40);
+  Set("cmbHLineStyle", 0);
+  RunOpen([&] {
+    ChoosePage("Graph Grids");
+    const auto has_line = [&] {
+      const auto& shape = *Widget("T_frmBrisanto").shape;
+      return std::any_of(shape.begin(), shape.end(), [](const platform::Rect& part) {
+        return part.Contains({41, 41});
+      });
+    };
+    EXPECT_FALSE(has_line());
+    User().Press("hGridsVisibleCheckBox");
+    EXPECT_TRUE(has_line());
+    User().Press("hGridsVisibleCheckBox");
+    EXPECT_FALSE(has_line());
+  });
 }
 
 TEST_F(PreferenceOptions, TheStyleOfGridLinesIsReadWithTheLines) {
