@@ -17,6 +17,7 @@ constexpr int kUnlocked = 0;
 // missing password for an empty one.
 constexpr std::string_view kPasswordIfNone = "Quillmoth";
 
+// Puts the administrator lock on and takes it off.
 class AdminPage final : public Page {
  public:
   AdminPage(toolkit::Notebook& notebook, Context& context) : Page(notebook, "Admin", context) {

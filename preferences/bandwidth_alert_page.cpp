@@ -13,6 +13,7 @@ namespace setting = settings::setting;
 constexpr int kDays = 31;
 constexpr Range kLimit{1, 2100000000};
 
+// The limit of a period, and what comes when it is reached.
 class BandwidthAlertPage final : public Page {
  public:
   BandwidthAlertPage(toolkit::Notebook& notebook, Context& context)

@@ -9,6 +9,7 @@ namespace {
 
 namespace setting = settings::setting;
 
+// What has no page of its own.
 class GeneralPage final : public Page {
  public:
   GeneralPage(toolkit::Notebook& notebook, Context& context) : Page(notebook, "General", context) {

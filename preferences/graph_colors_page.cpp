@@ -15,6 +15,7 @@ namespace text = language::text::SettingsForm;
 constexpr int kPanelWidth = 48;
 constexpr int kMeterHeight = kGroupTop + 4 * kFieldRow + 2;
 
+// Colours of the graph, kind and colours of the tray icon.
 class GraphColorsPage final : public Page {
  public:
   GraphColorsPage(toolkit::Notebook& notebook, Context& context)

@@ -10,6 +10,7 @@ namespace {
 namespace setting = settings::setting;
 namespace text = language::text::SettingsForm;
 
+// The lines over the graph.
 class GraphGridsPage final : public Page {
  public:
   GraphGridsPage(toolkit::Notebook& notebook, Context& context)

@@ -25,6 +25,7 @@ constexpr Range kSpeed{1024, 2100000000, 1024};
 constexpr int kLabelWidth = 230;
 constexpr int kNumberWidth = 80;
 
+// Frame, bars and scale of the graph.
 class GraphOthersPage final : public Page {
  public:
   GraphOthersPage(toolkit::Notebook& notebook, Context& context)

@@ -9,6 +9,7 @@
 namespace preferences {
 namespace {
 
+// Which network adapters count. Its rows are those of the meter's menus and come and go with them.
 class InterfacesPage final : public Page {
  public:
   InterfacesPage(toolkit::Notebook& notebook, Context& context)

@@ -5,6 +5,7 @@ namespace {
 
 namespace setting = settings::setting;
 
+// Keyboard lights, transparency, exit.
 class OtherPage final : public Page {
  public:
   OtherPage(toolkit::Notebook& notebook, Context& context) : Page(notebook, "Other", context) {

@@ -43,6 +43,7 @@ constexpr std::array<Group, 12> kGroups = {{
 // What the line of numbers begins with after its reset; two blanks, unlike that of a start.
 constexpr const char* kAverageText = "[ Average DL:0,0 kB  UL:0,0 kB ]";
 
+// Puts options back to their defaults, group by group.
 class ResetSettingsPage final : public Page {
  public:
   ResetSettingsPage(toolkit::Notebook& notebook, Context& context)

@@ -126,7 +126,7 @@ class Row {
     } else if constexpr (std::is_void_v<std::invoke_result_t<More>>) {
       follows = more;
     } else {
-      Bind(control, more);
+      Bind(control, more);  // a call that gives the setting
     }
   }
 

@@ -10,6 +10,7 @@ namespace {
 
 namespace setting = settings::setting;
 
+// Colours and font of the numeric line.
 class TextColorsPage final : public Page {
  public:
   TextColorsPage(toolkit::Notebook& notebook, Context& context)
