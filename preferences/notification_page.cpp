@@ -106,16 +106,23 @@ class NotificationPage final : public Page {
         });
   }
 
-  // Asked of the store anew by every handler: another program may have chosen the other one.
+  // Every number but 0 is the second rule.
+  static const TrafficRule& RuleOf(std::int64_t less_or_more) {
+    return less_or_more == 0 ? kLessRule : kMoreRule;
+  }
+
+  // Asked of the store anew by every handler: another program may have chosen the other one. What
+  // is read follows the list, which was read before it.
   const TrafficRule& Chosen() {
-    // Every number but 0 is the second rule.
-    return context_.store.Read(setting::LessOrMore) == 0 ? kLessRule : kMoreRule;
+    return RuleOf(context_.IsReading() ? LessOrMore.ItemIndex()
+                                       : context_.store.Read(setting::LessOrMore));
   }
 
   void ReadChoice() {
-    LessOrMore.SetItemIndex(&Chosen() == &kLessRule ? 0 : 1);
+    const TrafficRule& rule = RuleOf(context_.store.Read(setting::LessOrMore));
+    LessOrMore.SetItemIndex(&rule == &kLessRule ? 0 : 1);
     // An action that does not exist shows none: the one in the list may be the other rule's.
-    const std::int64_t action = context_.store.Read(Chosen().action);
+    const std::int64_t action = context_.store.Read(rule.action);
     if (action < 0 || action >= action_.action.Count()) action_.action.SetItemIndex(-1);
   }
 
