@@ -1,19 +1,11 @@
-// The parts of the running meter that a changed option is pushed into.
+// What the preferences work on.
 #pragma once
 
-#include <cstdint>
-
-#include "alerts/notifications.h"
 #include "display/adapter_menus.h"
-#include "display/graph/kxintermeter.h"
 #include "display/numeric_line.h"
-#include "display/transparency.h"
-#include "display/tray/tray_icon.h"
+#include "display/option_table.h"
 #include "language/language.h"
 #include "settings/store.h"
-#include "toolkit/controls/label.h"
-#include "toolkit/forms/docking_magnet.h"
-#include "toolkit/hint_window.h"
 
 namespace display {
 
@@ -24,16 +16,9 @@ struct RunningMeter {
   T_frmBrisanto& window;
   settings::Store& store;
   language::Language& language;
-  TKxInterMeter& graph;
-  toolkit::Label& label;  // shows the numeric line
+  OptionTable& options;
   NumericLine& line;
-  TrayIcon& tray;
-  Transparency& transparency;
-  toolkit::DockingMagnet& magnet;
-  toolkit::HintWindow& hints;
-  std::int64_t& SpeedCap;  // of the sampler, bytes per scan; 0 for none
   AdapterMenus& adapters;
-  alerts::Notifications& notifications;
 };
 
 }  // namespace display

@@ -82,8 +82,7 @@ void Transparency::SetTransparent(bool on) {
   for (toolkit::MenuItem* mode : {menu_.mnuGraphMode, menu_.mnuTextMode, menu_.mnuTextandGraph}) {
     mode->Enabled = !on;
   }
-  meter_.Transparent = on;
-  ApplyShape();
+  meter_.Set(&GraphLook::Transparent, on);
 }
 
 void Transparency::SetWindowAlpha(std::int64_t alpha) {
@@ -147,7 +146,7 @@ void Transparency::Check() {
 void Transparency::ApplyShape() {
   platform::TopWindow& window = window_.Window();
   const platform::Bitmap* picture =
-      meter_.Transparent && meter_.Visible() ? meter_.Picture() : nullptr;
+      meter_.Look().Transparent && meter_.Visible() ? meter_.Picture() : nullptr;
   if (picture == nullptr) {
     window.ResetShape();
     return;
@@ -159,7 +158,8 @@ void Transparency::ApplyShape() {
                               size.height};
   std::vector<platform::Rect> shape;
   AddFrame(shape, {bounds.width, bounds.height}, client);
-  const platform::Colour background = window_.App().Platform().screen.Resolve(meter_.DisplayColor);
+  const platform::Colour background =
+      window_.App().Platform().screen.Resolve(meter_.Look().DisplayColor);
   // The graph fills the client area down to the line below it.
   for (platform::Rect part : VisibleParts(*picture, background)) {
     part.left += client.left;

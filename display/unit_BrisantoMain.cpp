@@ -2,7 +2,6 @@
 
 #include "alerts/keyboard_leds.h"
 #include "display/about.h"
-#include "display/display_settings.h"
 #include "display/graph/grid_lines.h"
 #include "display/titles/unit_AddTitlesForm.h"
 #include "engine/local_ip.h"
@@ -75,6 +74,8 @@ T_frmBrisanto::T_frmBrisanto(toolkit::Application& app)
       bandwidth_alert_(app, RegME, quantity_, _ReadLangauge, reactions_, _MainMenu.popup),
       statistics_windows_({app, RegME, quantity_, _ReadLangauge, traffic_},
                           [this] { Settings1Click(); }),
+      options_({*this, RegME, _tlkInterMeter, _tlkDLULMeter, numeric_line_, _TrayIcon,
+                transparency_, _FormMagnet, app.Hints(), traffic_.SpeedCap, notifications_}),
       GlobalAtomKey(
           app,
           {{toolkit::kCtrl | toolkit::kAlt | 'F', [this] { GlobalAtomKeyGlobalKeys0KeyDown(); }},
@@ -123,6 +124,7 @@ void T_frmBrisanto::DesignControls() {
 }
 
 void T_frmBrisanto::ConnectHandlers() {
+  _tlkInterMeter.OnChange = [this] { transparency_.ApplyShape(); };
   _tlkInterMeter.OnScan = [this] { _tlkInterMeterScan(); };
   _tlkInterMeter.OnDisplay = [this](platform::Canvas& canvas) { _tlkInterMeterDisplay(canvas); };
   _tlkInterMeter.OnMouseMoved = [this](const auto& event) { _tlkInterMeterMouseMove(event); };
@@ -188,29 +190,17 @@ void T_frmBrisanto::SetPreferences(std::function<void()> open) {
 }
 
 RunningMeter T_frmBrisanto::Parts() {
-  return {*this,         RegME,         _ReadLangauge,     _tlkInterMeter,
-          _tlkDLULMeter, numeric_line_, _TrayIcon,         transparency_,
-          _FormMagnet,   App().Hints(), traffic_.SpeedCap, adapter_menus_,
-          notifications_};
+  return {*this, RegME, _ReadLangauge, options_, numeric_line_, adapter_menus_};
 }
 
 void T_frmBrisanto::ApplyDisplaySettings(ScaleTaken scale) {
-  if (RegME.Read(setting::StartIconMode)) _TrayIcon.LoadPictures();
-  ApplyGraphAppearance(RegME, _tlkInterMeter);
-  _FormMagnet.Active = RegME.Read(setting::FormMagnet);
-  ApplyHints(RegME, App().Hints());
-  if (scale == ScaleTaken::kFromStore) {
-    ApplyScale(settings::ReadScale(RegME), _tlkInterMeter, &traffic_.SpeedCap);
-  }
-  ApplyLabelAppearance(RegME, _tlkDLULMeter);
-  numeric_line_.SetAveragePeriod(RegME.Read(setting::AvarageTime));
+  options_.ApplyStored(scale);
   numeric_line_.Reset();
   ShowLine();
   ApplyAlwaysOnTop();
   ApplyWindowMode();
   title_posting_.SetLines(LoadTitleFile(App().Platform().files, App().Platform().locale).lines);
   _TrayIcon.ShowStart();
-  transparency_.ApplyShape();
 }
 
 void T_frmBrisanto::ApplyAlwaysOnTop() {
@@ -229,6 +219,7 @@ void T_frmBrisanto::ApplyWindowMode() {
   if (mode == kGraphMode) mnuGraphModeClick();
   if (mode == kTextMode) mnuTextModeClick();
   if (mode == kTextAndGraphMode) mnuTextandGraphClick();
+  transparency_.ApplyShape();
 }
 
 void T_frmBrisanto::_tlkInterMeterScan() {
@@ -329,7 +320,6 @@ void T_frmBrisanto::_TrayIconClick() {
 
 void T_frmBrisanto::Clear1Click() {
   _tlkInterMeter.Clear();
-  transparency_.ApplyShape();
   numeric_line_.ClearSums();
   _TrayIcon.Clear();
 }
@@ -354,7 +344,6 @@ void T_frmBrisanto::FormResize() {
   font.height = toolkit::PointsToDesignPixels(LabelPoints(Unscale(WindowBounds().width)));
   _tlkDLULMeter.SetFont(font);
   _tlkDLULMeter.Invalidate();
-  transparency_.ApplyShape();
 }
 
 void T_frmBrisanto::FormShow() { _tlkDLULMeter.Invalidate(); }
@@ -365,10 +354,7 @@ void T_frmBrisanto::FormDisplayChange() { StayOnTop(); }
 
 void T_frmBrisanto::FormResumed() { sampler_.TakePresentCounters(); }
 
-void T_frmBrisanto::FormSettingChange() {
-  _tlkInterMeter.Refresh();
-  transparency_.ApplyShape();
-}
+void T_frmBrisanto::FormSettingChange() { _tlkInterMeter.Refresh(); }
 
 void T_frmBrisanto::RestrictSize() {
   Window().SetSizeLimits({Scale(kSmallest.width), Scale(kSmallest.height)},
@@ -390,7 +376,6 @@ void T_frmBrisanto::Reinitialise() {
 void T_frmBrisanto::FeedGraph(std::int32_t TestRead, std::int32_t TestWrite) {
   _tlkInterMeter.SetTestRead(TestRead);
   _tlkInterMeter.SetTestWrite(TestWrite);
-  transparency_.ApplyShape();
 }
 
 void T_frmBrisanto::ShowIcon(const engine::ScanAmounts& scan) { _TrayIcon.ShowScan(scan); }

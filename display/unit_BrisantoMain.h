@@ -17,6 +17,7 @@
 #include "display/hot_keys.h"
 #include "display/main_menu.h"
 #include "display/numeric_line.h"
+#include "display/option_table.h"
 #include "display/running_meter.h"
 #include "display/statistics_windows.h"
 #include "display/titles/posting.h"
@@ -37,9 +38,6 @@
 #include "toolkit/forms/placement_saver.h"
 
 namespace display {
-
-// Whether the scale and the cap that goes with it are taken from the store too, or stay.
-enum class ScaleTaken { kFromStore, kAsItIs };
 
 class T_frmBrisanto final : public toolkit::Form, private engine::ScanSteps {
  public:
@@ -155,6 +153,7 @@ class T_frmBrisanto final : public toolkit::Form, private engine::ScanSteps {
   alerts::BandwidthAlert bandwidth_alert_;
 
   StatisticsWindows statistics_windows_;
+  OptionTable options_;
 
   HotKeyHolder GlobalAtomKey;
   Exit exit_;

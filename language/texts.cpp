@@ -17,6 +17,13 @@ constexpr TextEntry kTexts[] = {
 
 std::span<const TextEntry> TextCatalogue() { return kTexts; }
 
+const TextEntry* FindText(std::string_view section, std::string_view key) {
+  for (const TextEntry& entry : kTexts) {
+    if (entry.key == key && entry.section == section) return &entry;
+  }
+  return nullptr;
+}
+
 int PlaceHolders(std::string_view text) {
   int count = 0;
   for (std::size_t at = text.find(kPlaceHolder); at != std::string_view::npos;

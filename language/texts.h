@@ -28,6 +28,9 @@ namespace text {
 // All texts and headings in their order.
 [[nodiscard]] std::span<const TextEntry> TextCatalogue();
 
+// The text of this section and key; null when there is none.
+[[nodiscard]] const TextEntry* FindText(std::string_view section, std::string_view key);
+
 // How many "%s" a text has.
 [[nodiscard]] int PlaceHolders(std::string_view text);
 

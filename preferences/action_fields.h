@@ -1,45 +1,37 @@
-// What an alert does: the list of actions, and the message for the one that shows it. Two rows of a
-// page.
+// What an alert does: the list of actions, and the message for the one that shows it.
 #pragma once
 
-#include <string_view>
+#include <vector>
 
-#include "language/language.h"
-#include "language/texts.h"
-#include "preferences/page.h"
-#include "toolkit/controls/edit.h"
-#include "toolkit/controls/label.h"
+#include "alerts/reactions.h"
+#include "preferences/row.h"
 #include "toolkit/controls/list_box.h"
 
 namespace preferences {
 
-class ActionFields {
- public:
-  // The names of its controls; those of the labels are also the keys of their texts.
-  struct Names {
-    language::TextEntry action_label;
-    std::string_view action;
-    language::TextEntry message_label;
-    std::string_view message;
-  };
-  // `parent` outlives it. The handlers of `action` and `message` are the owner's.
-  ActionFields(toolkit::Control& parent, const Names& names);
-
-  // The list into a row of the column, the message into the next one.
-  void Place(const FieldColumn& column, int row);
-  void Localise(const language::Translation& say);
+struct ActionFields {
+  Labelled<toolkit::ComboBox> action;
+  Labelled<toolkit::Edit> message;
 
   // Shows the message only with the action that displays it; after every change of the list.
-  void ShowMessage();
+  void ShowMessage() {
+    const bool shown = action.ItemIndex() == alerts::kDisplayMessage;
+    message.label.SetVisible(shown);
+    message.SetVisible(shown);
+  }
 
-  toolkit::Label action_label;
-  toolkit::ComboBox action;
-  toolkit::Label message_label;
-  toolkit::Edit message;
-
- private:
-  language::TextEntry action_text_;
-  language::TextEntry message_text_;
+  // Its two rows, from this one of the column on, with their settings as a row takes them.
+  template <class Action, class Message>
+  std::vector<Row> Rows(const FieldColumn& column, int row, const Action& action_setting,
+                        const Message& message_setting) {
+    namespace text = language::text::SettingsForm;
+    constexpr int kLongestMessage = 254;  // characters
+    message.SetMaxLength(kLongestMessage);
+    ShowMessage();
+    return {{action, column.At(row), action_setting, Items{"Action"}, Says{{}, text::ActionHint},
+             [this] { ShowMessage(); }},
+            {message, column.At(row + 1), message_setting, Says{{}, text::MessageHint}}};
+  }
 };
 
 }  // namespace preferences

@@ -1,9 +1,8 @@
-#include "preferences/admin_page.h"
-
 #include <string>
 
+#include "preferences/pages.h"
 #include "settings/administrator_lock.h"
-#include "toolkit/controls/layout.h"
+#include "toolkit/controls/button.h"
 
 namespace preferences {
 namespace {
@@ -18,98 +17,96 @@ constexpr int kUnlocked = 0;
 // missing password for an empty one.
 constexpr std::string_view kPasswordIfNone = "Quillmoth";
 
-constexpr platform::TextStyle kLine{platform::TextAlign::kLeft};
+// Puts the administrator lock on and takes it off.
+class AdminPage final : public Page {
+ public:
+  AdminPage(toolkit::Notebook& notebook, Context& context) : Page(notebook, "Admin", context) {
+    constexpr FieldColumn kFields{kMargin + 2 * kRow, 150};
+    constexpr int kFieldWidth = 180;
+    Add({
+        {lblAdmin, {kMargin, kMargin, kWidth, 2 * kBoxHeight}},
+        {AdminPassword, kFields.At(0, kFieldWidth)},
+        {AdminVerifyPass, kFields.At(1, kFieldWidth)},
+        {CaseSensitive, Line(kFields.Top(2) + 2)},
+        {LockBtn, {kFields.FieldLeft(), kFields.Top(3), 110, kButtonHeight}},
+    });
+    Add(ReadStep::kLock, [this] { ReadLock(); });
+    LockBtn.SetDefault(true);  // of this page: it is out of reach behind the others
+    LockBtn.OnClick = [this] { LockBtnClick(); };
+  }
+
+  void Localise(const language::Translation& say) override {
+    Page::Localise(say);
+    ShowTexts(say);
+  }
+
+ private:
+  // Shows whether the lock is on, with empty edits.
+  void ReadLock() {
+    AdminPassword.SetText("");
+    AdminVerifyPass.SetText("");
+    again_ = false;
+    Show(context_.store.Read(setting::zdP1) ? kLocked : kUnlocked);
+  }
+
+  void LockBtnClick() { LockBtn.Tag == kLocked ? Unlock() : Lock(); }
+
+  void Lock() {
+    const std::string password = AdminPassword.Text();
+    const bool given = !password.empty() && password == AdminVerifyPass.Text();
+    if (given) {
+      context_.store.Write(setting::zdP, password);
+      context_.store.Write(setting::zdP1, true);
+    }
+    AdminPassword.SetText("");
+    AdminVerifyPass.SetText("");
+    again_ = !given;
+    Show(given ? kLocked : kUnlocked);
+    if (given) return;
+    App().Platform().sound.Beep();
+    // Also where another program has put the lock on meanwhile.
+    context_.store.Write(setting::zdP1, false);
+    AdminPassword.SetFocus();
+  }
+
+  // The password stays stored.
+  void Unlock() {
+    if (!settings::PasswordMatches(context_.store, AdminPassword.Text(), kPasswordIfNone)) return;
+    context_.store.Write(setting::zdP1, false);
+    again_ = false;
+    Show(kUnlocked);
+    AdminPassword.SetText("");
+    AdminPassword.SetFocus();
+  }
+
+  // The page as it looks while the lock is on (1) or off (0), which is the button's tag.
+  void Show(int tag) {
+    LockBtn.Tag = tag;
+    AdminVerifyPass.label.SetVisible(tag == kUnlocked);
+    AdminVerifyPass.SetVisible(tag == kUnlocked);
+    ShowTexts(context_.language.Chosen());
+  }
+
+  void ShowTexts(const language::Translation& say) {
+    const bool locked = LockBtn.Tag == kLocked;
+    LockBtn.SetCaption(say(locked ? text::Ad7 : text::Ad5));
+    CaseSensitive.SetCaption(say(locked   ? text::Ad6
+                                 : again_ ? text::PasswordAgain
+                                          : text::CaseSensitive));
+  }
+
+  toolkit::Label lblAdmin{*this, "lblAdmin", toolkit::kWrappedText};
+  Labelled<toolkit::PasswordEdit> AdminPassword{*this, "AdminPassword"};
+  Labelled<toolkit::PasswordEdit> AdminVerifyPass{*this, "AdminVerifyPass"};
+  toolkit::Label CaseSensitive{*this, "CaseSensitive", {platform::TextAlign::kLeft}};
+  toolkit::Button LockBtn{*this, "LockBtn"};
+  bool again_ = false;  // two different passwords, or none, were given last
+};
 
 }  // namespace
 
-AdminPage::AdminPage(toolkit::Notebook& notebook, Context& context)
-    : Page(notebook, "Admin", context),
-      lblAdmin(*this, "lblAdmin", toolkit::kWrappedText),
-      lblAdminPassword(*this, "lblAdminPassword", toolkit::kCaptionText),
-      AdminPassword(*this, "AdminPassword"),
-      lblAdminVerifyPass(*this, "lblAdminVerifyPass", toolkit::kCaptionText),
-      AdminVerifyPass(*this, "AdminVerifyPass"),
-      CaseSensitive(*this, "CaseSensitive", kLine),
-      LockBtn(*this, "LockBtn") {
-  constexpr int kLabelWidth = 150;
-  constexpr int kFieldLeft = kMargin + kLabelWidth + kMargin;
-  constexpr int kFieldWidth = 180;
-  constexpr int kPasswordTop = kMargin + 2 * kRow;
-  toolkit::ApplyLayout({
-      {lblAdmin, {kMargin, kMargin, kWidth, 2 * kBoxHeight}},
-      {lblAdminPassword, {kMargin, kPasswordTop + 2, kLabelWidth, kBoxHeight}},
-      {AdminPassword, {kFieldLeft, kPasswordTop, kFieldWidth, kFieldHeight}},
-      {lblAdminVerifyPass, {kMargin, kPasswordTop + kFieldRow + 2, kLabelWidth, kBoxHeight}},
-      {AdminVerifyPass, {kFieldLeft, kPasswordTop + kFieldRow, kFieldWidth, kFieldHeight}},
-      {CaseSensitive, {kMargin, kPasswordTop + 2 * kFieldRow + 2, kWidth, kBoxHeight}},
-      {LockBtn, {kFieldLeft, kPasswordTop + 3 * kFieldRow, 110, kButtonHeight}},
-  });
-  LockBtn.SetDefault(true);  // of this page: it is out of reach behind the others
-  LockBtn.OnClick = [this] { LockBtnClick(); };
-}
-
-void AdminPage::Localise(const language::Translation& say) {
-  Say(say, {
-               {lblAdmin, text::lblAdmin},
-               {lblAdminPassword, text::lblAdminPassword},
-               {AdminPassword, {}, text::AdminPasswordHint},
-               {lblAdminVerifyPass, text::lblAdminVerifyPass},
-               {AdminVerifyPass, {}, text::AdminVerifyPassHint},
-               {LockBtn, {}, text::LockBtnHint},
-           });
-  ShowTexts(say);
-}
-
-void AdminPage::Read() {
-  AdminPassword.SetText("");
-  AdminVerifyPass.SetText("");
-  again_ = false;
-  Show(context_.store.Read(setting::zdP1) ? kLocked : kUnlocked);
-}
-
-void AdminPage::LockBtnClick() { LockBtn.Tag == kLocked ? Unlock() : Lock(); }
-
-void AdminPage::Lock() {
-  const std::string password = AdminPassword.Text();
-  const bool given = !password.empty() && password == AdminVerifyPass.Text();
-  if (given) {
-    context_.store.Write(setting::zdP, password);
-    context_.store.Write(setting::zdP1, true);
-  }
-  AdminPassword.SetText("");
-  AdminVerifyPass.SetText("");
-  again_ = !given;
-  Show(given ? kLocked : kUnlocked);
-  if (given) return;
-  App().Platform().sound.Beep();
-  // Also where another program has put the lock on meanwhile.
-  context_.store.Write(setting::zdP1, false);
-  AdminPassword.SetFocus();
-}
-
-// The password stays stored.
-void AdminPage::Unlock() {
-  if (!settings::PasswordMatches(context_.store, AdminPassword.Text(), kPasswordIfNone)) return;
-  context_.store.Write(setting::zdP1, false);
-  again_ = false;
-  Show(kUnlocked);
-  AdminPassword.SetText("");
-  AdminPassword.SetFocus();
-}
-
-void AdminPage::Show(int tag) {
-  LockBtn.Tag = tag;
-  lblAdminVerifyPass.SetVisible(tag == kUnlocked);
-  AdminVerifyPass.SetVisible(tag == kUnlocked);
-  ShowTexts(context_.language.Chosen());
-}
-
-void AdminPage::ShowTexts(const language::Translation& say) {
-  const bool locked = LockBtn.Tag == kLocked;
-  LockBtn.SetCaption(say(locked ? text::Ad7 : text::Ad5));
-  CaseSensitive.SetCaption(say(locked   ? text::Ad6
-                               : again_ ? text::PasswordAgain
-                                        : text::CaseSensitive));
+std::unique_ptr<Page> MakeAdminPage(toolkit::Notebook& notebook, Context& context) {
+  return std::make_unique<AdminPage>(notebook, context);
 }
 
 }  // namespace preferences

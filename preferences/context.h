@@ -1,6 +1,8 @@
 // What the pages of the preferences work with.
 #pragma once
 
+#include <functional>
+
 #include "display/running_meter.h"
 #include "language/language.h"
 #include "platform/scoped_value.h"
@@ -21,6 +23,8 @@ class Context {
   const display::RunningMeter meter;
   settings::Store& store;
   language::Language& language;
+  // Shows what is stored, on all pages; the window sets it.
+  std::function<void()> ReadSettings;
 
   // While one exists, the controls take over what is stored. Their handlers push it into the meter
   // as ever but write nothing: it is stored already, perhaps in a form that a control cannot show,
@@ -30,13 +34,14 @@ class Context {
   };
   [[nodiscard]] bool IsReading() const { return reading_; }
 
-  // The last step of every handler, behind the push: stores the value, and the meter shows what
-  // both have changed.
+  // The last step of every handler: pushes the value into the meter and then stores it.
   template <class Setting, class Value>
-  void Save(const Setting& setting, const Value& value) {
-    if (reading_) return;
-    store.Write(setting, value);
-    meter.transparency.ApplyShape();
+  void Change(const Setting& setting, const Value& value) {
+    if (reading_) {
+      meter.options.Take(setting, value);
+    } else {
+      meter.options.Change(setting, value);
+    }
   }
 
  private:

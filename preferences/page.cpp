@@ -1,28 +1,42 @@
 #include "preferences/page.h"
 
-namespace preferences {
+#include <string>
+#include <utility>
 
-void Page::Say(const language::Translation& say, std::initializer_list<Wording> wordings) {
-  for (const Wording& wording : wordings) {
-    if (!wording.text.key.empty()) wording.control.SetCaption(say(wording.text));
-    if (!wording.hint.key.empty()) wording.control.SetHint(say(wording.hint));
+namespace preferences {
+namespace {
+
+void SayNames(const toolkit::Control& parent, const language::Translation& say) {
+  for (toolkit::Control* control : parent.Children()) {
+    if (const auto* text = FindText(control->Name())) control->SetCaption(say(*text));
+    if (const auto* hint = FindText(control->Name() + "Hint")) control->SetHint(say(*hint));
+    if (!control->IsComposite()) SayNames(*control, say);
   }
 }
 
-std::string Page::RangeOf(const toolkit::SpinEdit& spin, const language::Translation& say,
-                          const language::TextEntry& steps_of_one) {
-  const std::string lowest = std::to_string(spin.Lowest());
-  const std::string highest = std::to_string(spin.Highest());
-  if (spin.StepSize() == 1) return say(steps_of_one, {lowest, highest});
-  return say(language::text::SettingsForm::RangeStepHint,
-             {lowest, highest, std::to_string(spin.StepSize())});
+}  // namespace
+
+void Page::Localise(const language::Translation& say) {
+  SayNames(*this, say);
+  for (const Row::Words& words : says_) words(say);
 }
 
-std::vector<std::string> Texts(const language::Translation& say,
-                               std::initializer_list<language::TextEntry> entries) {
-  std::vector<std::string> texts;
-  for (const language::TextEntry& entry : entries) texts.push_back(say(entry));
-  return texts;
+void Page::Read(ReadStep step) {
+  for (const Part& part : parts_) {
+    if (part.step == step) part.read();
+  }
+}
+
+void Page::Add(ReadStep step, const std::vector<Row>& rows) {
+  for (const Row& row : rows) {
+    if (row.connect) row.connect(context_, row.follows);
+    if (row.read) Add(step, [this, read = row.read] { read(context_); });
+    says_.insert(says_.end(), row.says.begin(), row.says.end());
+  }
+}
+
+void Page::Add(ReadStep step, std::function<void()> read) {
+  parts_.push_back({step, std::move(read)});
 }
 
 }  // namespace preferences

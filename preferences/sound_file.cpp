@@ -15,8 +15,9 @@ namespace text = language::text::SettingsForm;
 
 }  // namespace
 
-SoundFile::SoundFile(toolkit::Control& parent, const Names& names)
-    : path_(parent, names.path), open_(parent, names.open), play_(parent, names.play) {
+SoundFile::SoundFile(toolkit::Control& parent, std::string_view path, std::string_view open,
+                     std::string_view play)
+    : path_(parent, path), open_(parent, open), play_(parent, play) {
   // Signs that need no translation; the hints say what they do.
   open_.SetCaption("...");
   play_.SetCaption(">");

@@ -15,11 +15,9 @@ namespace preferences {
 
 class SoundFile {
  public:
-  struct Names {
-    std::string_view path, open, play;
-  };
-  // `parent` outlives it.
-  SoundFile(toolkit::Control& parent, const Names& names);
+  // The names of its controls. `parent` outlives it.
+  SoundFile(toolkit::Control& parent, std::string_view path, std::string_view open,
+            std::string_view play);
 
   // Design pixels of the whole line.
   void Place(const platform::Rect& line);

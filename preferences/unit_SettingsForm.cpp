@@ -1,9 +1,8 @@
 #include "preferences/unit_SettingsForm.h"
 
-#include <memory>
-#include <vector>
+#include <string_view>
 
-#include "preferences/page_tree.h"
+#include "preferences/pages.h"
 #include "settings/placement_keys.h"
 #include "toolkit/controls/layout.h"
 
@@ -17,29 +16,62 @@ constexpr int kTreeWidth = 164;
 constexpr int kFormWidth = kMargin + kTreeWidth + kMargin + kPageWidth;
 constexpr int kFormHeight = kPageHeight + 5 * kMargin;
 
+// In the order of the notebook.
+std::vector<std::unique_ptr<Page>> MakePages(toolkit::Notebook& notebook, Context& context) {
+  const auto empty = [](toolkit::Notebook& of, Context& with) {
+    return std::make_unique<Page>(of, "SpeedUp", with);
+  };
+  std::vector<std::unique_ptr<Page>> pages;
+  for (MakePage* make : std::initializer_list<MakePage*>{
+           MakeGeneralPage, MakeGraphColorsPage, MakeGraphGridsPage, MakeGraphOthersPage,
+           MakeTextColorsPage, MakeTextOtherPage, empty, MakeAdminPage, MakeInterfacesPage,
+           MakeBandwidthAlertPage, MakeNotificationPage, MakeOtherPage, MakeResetSettingsPage}) {
+    pages.push_back(make(notebook, context));
+  }
+  return pages;
+}
+
+struct PageTreeItem {
+  int number;  // what the item is known by, wherever it stands
+  int level;   // 0 at the root
+  language::TextEntry text;
+  std::string_view page;  // empty for a heading, which leads nowhere
+};
+
+// In the order in which they stand in the expanded tree.
+constexpr PageTreeItem kTree[] = {
+    {0, 0, text::TreeItem0, "General"},
+    {4, 0, text::TreeItem4, ""},
+    {1, 1, text::TreeItem1, "GraphColors"},
+    {15, 1, text::TreeItem15, "GraphGrids"},
+    {2, 1, text::TreeItem2, "GraphOthers"},
+    {9, 0, text::TreeItem9, ""},
+    {3, 1, text::TreeItem3, "TextColors"},
+    {11, 1, text::TreeItem11, "TextOther"},
+    {14, 0, text::TreeItem14, ""},
+    {5, 1, text::TreeItem5, "Notification"},
+    {13, 1, text::TreeItem13, "BandwidthAlert"},
+    {6, 0, text::TreeItem6, "Interfaces"},
+    {7, 0, text::TreeItem7, "Admin"},
+    {8, 0, text::TreeItem8, "Other"},
+    // Places kept for what is not there: an empty page, twice, and a page that does not exist.
+    {10, 0, text::TreeItem10, "SpeedUp"},
+    {16, 0, text::TreeItem16, "BrisantoScript"},
+    {17, 0, text::TreeItem17, "SpeedUp"},
+    {12, 0, text::TreeItem12, "ResetSettings"},
+};
+
+ReadStep Next(ReadStep step) { return static_cast<ReadStep>(static_cast<int>(step) + 1); }
+
 }  // namespace
 
 T_frmPreferences::T_frmPreferences(toolkit::Application& app, const display::RunningMeter& meter)
     : Form(app, "T_frmPreferences", platform::Frame::kDialog),
       context_(app, meter),
-      TreeItems(*this, "TreeItems"),
-      PrefNotebook(*this, "PrefNotebook"),
-      general_(PrefNotebook, context_),
-      graph_colors_(PrefNotebook, context_),
-      graph_grids_(PrefNotebook, context_),
-      graph_others_(PrefNotebook, context_),
-      text_colors_(PrefNotebook, context_),
-      text_other_(PrefNotebook, context_),
-      speed_up_(PrefNotebook, "SpeedUp", context_),
-      admin_(PrefNotebook, context_),
-      interfaces_(PrefNotebook, context_),
-      bandwidth_alert_(PrefNotebook, context_),
-      notification_(PrefNotebook, context_),
-      other_(PrefNotebook, context_),
-      reset_settings_(PrefNotebook, context_, [this] { ReadSettings(); }),
-      btnClose(*this, "btnClose"),
+      pages_(MakePages(PrefNotebook, context_)),
       placement_(*this, settings::placement_key::kSettings,
                  toolkit::PlacementSaver::Restores::kPlace) {
+  context_.ReadSettings = [this] { ReadSettings(); };
   PlaceControls();
   Localise();
   TreeItems.SetItemIndex(0);
@@ -65,14 +97,9 @@ void T_frmPreferences::Localise() {
   const language::Translation say = context_.language.Chosen();
   SetCaption(say(text::Title));
   std::vector<platform::TreeItem> items;
-  for (const PageTreeItem& item : PageTree()) items.push_back({say(item.text), item.level});
+  for (const PageTreeItem& item : kTree) items.push_back({say(item.text), item.level});
   TreeItems.SetItems(items);
-  for (Page* page :
-       std::initializer_list<Page*>{&general_, &graph_colors_, &graph_grids_, &graph_others_,
-                                    &text_colors_, &text_other_, &speed_up_, &admin_, &interfaces_,
-                                    &bandwidth_alert_, &notification_, &other_, &reset_settings_}) {
-    page->Localise(say);
-  }
+  for (const auto& page : pages_) page->Localise(say);
   btnClose.SetCaption(say(text::btnClose));
   btnClose.SetHint(say(text::btnCloseHint));
 }
@@ -87,38 +114,17 @@ void T_frmPreferences::Open() {
   }
 }
 
-// In this order; what a page has between others is read there.
 void T_frmPreferences::ReadSettings() {
-  {
-    const Context::Reading scope(context_);
-    graph_others_.ReadBevels();
-    graph_grids_.Read();
-    general_.Read();
-    other_.ReadTransparency();
-    graph_colors_.ReadColours();
-    graph_colors_.ReadIconKind();
-    graph_others_.ReadOthers();
-    graph_others_.ReadScale();
-    graph_colors_.ReadIconFile();
-    text_colors_.Read();
-    text_other_.ReadLine();
-    admin_.Read();
-    text_other_.ReadWindowTitle();
-    other_.ReadExitAndFade();
-    notification_.ReadTicker();
-    bandwidth_alert_.Read();
-    notification_.ReadRule();
-    notification_.ReadActive();
-    other_.ReadLeds();
-    interfaces_.Read();
+  const Context::Reading scope(context_);
+  for (ReadStep step{}; step != ReadStep::kEnd; step = Next(step)) {
+    for (const auto& page : pages_) page->Read(step);
   }
-  context_.meter.transparency.ApplyShape();
 }
 
 void T_frmPreferences::TreeItemsChange() {
   const int row = TreeItems.ItemIndex();
   if (row < 0) return;
-  PrefNotebook.SetActivePage(PageTree()[static_cast<std::size_t>(row)].page);
+  PrefNotebook.SetActivePage(kTree[row].page);
 }
 
 std::function<void()> PreferencesOf(toolkit::Application& app, const display::RunningMeter& meter) {

@@ -3,21 +3,11 @@
 #pragma once
 
 #include <functional>
+#include <memory>
+#include <vector>
 
-#include "preferences/admin_page.h"
-#include "preferences/bandwidth_alert_page.h"
 #include "preferences/context.h"
-#include "preferences/general_page.h"
-#include "preferences/graph_colors_page.h"
-#include "preferences/graph_grids_page.h"
-#include "preferences/graph_others_page.h"
-#include "preferences/interfaces_page.h"
-#include "preferences/notification_page.h"
-#include "preferences/other_page.h"
 #include "preferences/page.h"
-#include "preferences/reset_settings_page.h"
-#include "preferences/text_colors_page.h"
-#include "preferences/text_other_page.h"
 #include "toolkit/controls/button.h"
 #include "toolkit/controls/notebook.h"
 #include "toolkit/controls/tree_view.h"
@@ -47,22 +37,10 @@ class T_frmPreferences final : public toolkit::Form {
   Context context_;
 
   // In the order of Tab.
-  toolkit::TreeView TreeItems;
-  toolkit::Notebook PrefNotebook;
-  GeneralPage general_;
-  GraphColorsPage graph_colors_;
-  GraphGridsPage graph_grids_;
-  GraphOthersPage graph_others_;
-  TextColorsPage text_colors_;
-  TextOtherPage text_other_;
-  Page speed_up_;
-  AdminPage admin_;
-  InterfacesPage interfaces_;
-  BandwidthAlertPage bandwidth_alert_;
-  NotificationPage notification_;
-  OtherPage other_;
-  ResetSettingsPage reset_settings_;
-  toolkit::Button btnClose;
+  toolkit::TreeView TreeItems{*this, "TreeItems"};
+  toolkit::Notebook PrefNotebook{*this, "PrefNotebook"};
+  const std::vector<std::unique_ptr<Page>> pages_;
+  toolkit::Button btnClose{*this, "btnClose"};
 
   toolkit::PlacementSaver placement_;
 };

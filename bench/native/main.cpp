@@ -43,13 +43,12 @@ void ComposeGraph(benchmark::State& state) {
   platform::memory::Machine machine;
   const auto bitmap = machine.graphics.CreateBitmap(kSize);
   display::GraphLook look;
-  look.pulse_width = 3;
   std::vector<display::GraphSample> samples;
   for (int sample = 0; sample < kSize.width; ++sample) {
     samples.push_back({1000 * (sample % 37), 600 * (sample % 23)});
   }
   for (auto iteration : state) {
-    display::PaintGraph(bitmap->GetCanvas(), look, samples, display::ScaleRule(), ",");
+    display::PaintGraph(bitmap->GetCanvas(), look, samples, ",");
   }
 }
 BENCHMARK(ComposeGraph);

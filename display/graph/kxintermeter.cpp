@@ -13,7 +13,7 @@ constexpr int kScanPeriodMs = 1000;
 // Samples; wider than any screen with bars of one pixel.
 constexpr std::size_t kLongestHistory = 4096;
 // Design pixels; beyond it nothing changes any more.
-constexpr std::int64_t kWidestDrawn = 1000;
+constexpr int kWidestDrawn = 1000;
 const platform::FontSpec kScaleFont{"Small Fonts", 9, true};
 
 // More than the 31 bits of an input can hold, 2 GiB a second, arrives as less than nothing.
@@ -44,7 +44,7 @@ void TKxInterMeter::SetTestWrite(std::int32_t bytes) {
   Changed();
 }
 
-int TKxInterMeter::FramePixels() { return FrameWidth(Look()); }
+int TKxInterMeter::FramePixels() { return FrameWidth(PixelLook()); }
 
 void TKxInterMeter::Rescale() {
   Control::Rescale();
@@ -54,6 +54,7 @@ void TKxInterMeter::Rescale() {
 void TKxInterMeter::Changed() {
   picture_is_old_ = true;
   Invalidate();
+  if (OnChange) OnChange();
 }
 
 void TKxInterMeter::Paint(platform::Canvas& canvas) {
@@ -73,36 +74,23 @@ void TKxInterMeter::Compose(platform::Size size) {
     if (picture_ == nullptr) return;
   }
   picture_is_old_ = false;
-  const GraphLook look = Look();
+  const GraphLook look = PixelLook();
   const std::size_t fit = std::min(SamplesThatFit(look, size.width), history_.size());
   const std::vector<GraphSample> samples(history_.end() - static_cast<std::ptrdiff_t>(fit),
                                          history_.end());
   platform::Canvas& canvas = picture_->GetCanvas();
-  PaintGraph(canvas, look, samples, {AutoScale, SpeedLimit, ZeroBased, ScaleUnits},
-             App().Platform().locale.DecimalSeparator());
+  PaintGraph(canvas, look, samples, App().Platform().locale.DecimalSeparator());
   if (OnDisplay) OnDisplay(canvas);
 }
 
-GraphLook TKxInterMeter::Look() {
-  const auto pixels = [this](std::int64_t design) {
-    return Scale(static_cast<int>(std::clamp(design, -kWidestDrawn, kWidestDrawn)));
-  };
-  GraphLook look;
-  look.in = {InColor, InLight, InShadow};
-  look.out = {OutColor, OutLight, OutShadow};
-  look.background = DisplayColor;
-  look.border = BorderColor;
-  look.bevel_inner = BevelInner;
-  look.bevel_outer = BevelOuter;
-  look.bevel_width = pixels(BevelWidth);
-  look.border_width = pixels(BorderWidth);
-  look.pulse_3d = Pulse3D;
-  look.pulse_width = pixels(PulseWidth);
-  look.pulse_space = pixels(PulseSpace);
-  look.scale_show = ScaleShow;
-  look.scale_on_right = ScalePosition == display::ScalePosition::kRight;
-  look.font = Scale(Font());
-  look.font_colour = FontColour();
+GraphLook TKxInterMeter::PixelLook() {
+  GraphLook look = look_;
+  for (int GraphLook::*width : {&GraphLook::BevelWidth, &GraphLook::BorderWidth,
+                                &GraphLook::PulseWidth, &GraphLook::PulseSpace}) {
+    look.*width = Scale(std::clamp(look.*width, -kWidestDrawn, kWidestDrawn));
+  }
+  look.Font = Scale(Font());
+  look.FontColour = FontColour();
   return look;
 }
 

@@ -7,6 +7,7 @@
 #include <functional>
 #include <memory>
 #include <string_view>
+#include <type_traits>
 
 #include "display/graph/picture.h"
 #include "toolkit/controls/control.h"
@@ -14,62 +15,23 @@
 
 namespace display {
 
-enum class ScalePosition { kLeft, kRight };
-
-class TKxInterMeter;
-
-// A property of the meter: setting another value asks for a new picture, setting the same does
-// nothing.
-template <class Value>
-class MeterProperty {
- public:
-  MeterProperty(TKxInterMeter& meter, Value design) : meter_(meter), value_(design) {}
-  MeterProperty(const MeterProperty&) = delete;
-  MeterProperty& operator=(const MeterProperty&) = delete;
-
-  MeterProperty& operator=(Value value);
-  operator Value() const { return value_; }  // NOLINT(google-explicit-constructor): as a member
-
- private:
-  TKxInterMeter& meter_;
-  Value value_;
-};
-
 class TKxInterMeter : public toolkit::Control {
  public:
   TKxInterMeter(toolkit::Control& parent, std::string_view name);
 
-  // Colours of the bars: face, left and upper edge, right edge.
-  MeterProperty<platform::Colour> InColor{*this, 0x0000CD};
-  MeterProperty<platform::Colour> InLight{*this, 0x8184FE};
-  MeterProperty<platform::Colour> InShadow{*this, 0x004000};
-  MeterProperty<platform::Colour> OutColor{*this, 0x00FFFF};
-  MeterProperty<platform::Colour> OutLight{*this, 251900};
-  MeterProperty<platform::Colour> OutShadow{*this, 0x004000};
-  MeterProperty<platform::Colour> DisplayColor{*this, platform::colour::kButtonFace};  // background
-  MeterProperty<platform::Colour> BorderColor{*this, platform::colour::kBlack};
-  MeterProperty<toolkit::BevelCut> BevelInner{*this, toolkit::BevelCut::kNone};
-  MeterProperty<toolkit::BevelCut> BevelOuter{*this, toolkit::BevelCut::kNone};
-  // Design pixels; what lies below the smallest width that can be drawn is drawn as that.
-  MeterProperty<std::int64_t> BevelWidth{*this, 1};
-  MeterProperty<std::int64_t> BorderWidth{*this, 1};
-  MeterProperty<std::int64_t> PulseWidth{*this, 3};
-  MeterProperty<std::int64_t> PulseSpace{*this, 0};
-  MeterProperty<bool> Pulse3D{*this, true};  // bars with light and shadow edges
-  // Off: the lower end of the scale follows the smallest amount in sight.
-  MeterProperty<bool> ZeroBased{*this, false};
-  MeterProperty<bool> ScaleShow{*this, true};
-  MeterProperty<display::ScalePosition> ScalePosition{*this, display::ScalePosition::kLeft};
-  MeterProperty<display::ScaleUnits> ScaleUnits{*this, display::ScaleUnits::kKBytes};
-  // On: the scale fits the largest amount in sight. Off: it ends at SpeedLimit.
-  MeterProperty<bool> AutoScale{*this, true};
-  MeterProperty<std::int64_t> SpeedLimit{*this, 0};  // bytes per second
+  // Its properties; widths are design pixels. Setting another value asks for a new picture, setting
+  // the same does nothing.
+  [[nodiscard]] const GraphLook& Look() const { return look_; }
+  template <class Owner, class Value>
+  void Set(Value Owner::*property, std::type_identity_t<Value> value) {
+    if (look_.*property == value) return;
+    look_.*property = value;
+    Changed();
+  }
   // As designed: scanning goes on while nothing moves, and what is sent says nothing about the
   // connection. Nobody switches them on.
-  MeterProperty<bool> StopInactive{*this, false};
-  MeterProperty<bool> UseSentToDetermineConnect{*this, false};
-  // No background: what is neither bar nor text nor frame is left out of the window.
-  MeterProperty<bool> Transparent{*this, false};
+  bool StopInactive = false;
+  bool UseSentToDetermineConnect = false;
 
   // Starts or stops scanning, once a second.
   void Activate(bool on) { timer_.SetActive(on); }
@@ -87,6 +49,8 @@ class TKxInterMeter : public toolkit::Control {
 
   // Once a second while active.
   std::function<void()> OnScan;
+  // Shows something else from now on: whoever follows the picture takes it anew.
+  std::function<void()> OnChange;
   // After the picture was painted and before it is shown; the handler may draw on it.
   std::function<void(platform::Canvas& canvas)> OnDisplay;
 
@@ -102,28 +66,18 @@ class TKxInterMeter : public toolkit::Control {
   void Rescale() override;
 
  private:
-  template <class Value>
-  friend class MeterProperty;
-
   // The picture is composed anew once, before it is next shown; until then it is only copied.
   void Changed();
   void Compose(platform::Size size);
-  [[nodiscard]] GraphLook Look();
+  // The look in real pixels.
+  [[nodiscard]] GraphLook PixelLook();
 
+  GraphLook look_;
   std::deque<GraphSample> history_;  // the newest last
   std::int32_t test_read_ = 0;
   std::unique_ptr<platform::Bitmap> picture_;
   bool picture_is_old_ = true;
   toolkit::PhaseTimer timer_;
 };
-
-template <class Value>
-MeterProperty<Value>& MeterProperty<Value>::operator=(Value value) {
-  if (value != value_) {
-    value_ = value;
-    meter_.Changed();
-  }
-  return *this;
-}
 
 }  // namespace display

@@ -8,22 +8,28 @@ namespace {
 
 constexpr int kScaleGap = 3;  // pixels between scale text and bars
 
+struct BarColours {
+  platform::Colour face;
+  platform::Colour light;   // left and upper edge
+  platform::Colour shadow;  // right edge
+};
+
 // What a user or a damaged store may have put in is drawn as the nearest width that can be drawn.
-int PulseWidth(const GraphLook& look) { return std::max(1, look.pulse_width); }
-int SlotWidth(const GraphLook& look) { return PulseWidth(look) + std::max(0, look.pulse_space); }
+int PulseWidth(const GraphLook& look) { return std::max(1, look.PulseWidth); }
+int SlotWidth(const GraphLook& look) { return PulseWidth(look) + std::max(0, look.PulseSpace); }
 
 platform::Rect PaintFrame(platform::Canvas& canvas, const GraphLook& look) {
   const platform::Size size = canvas.Extent();
   const platform::Rect all{0, 0, size.width, size.height};
-  canvas.Fill(all, look.background);
+  canvas.Fill(all, look.DisplayColor);
   const platform::Rect border =
-      toolkit::DrawBevel(canvas, all, look.bevel_outer, look.bevel_width, look.background);
-  const platform::Rect inner = border.Shrunk(std::max(0, look.border_width));
-  if (look.border_width > 0) {
-    canvas.Fill(border, look.border);
-    canvas.Fill(inner, look.background);
+      toolkit::DrawBevel(canvas, all, look.BevelOuter, look.BevelWidth, look.DisplayColor);
+  const platform::Rect inner = border.Shrunk(std::max(0, look.BorderWidth));
+  if (look.BorderWidth > 0) {
+    canvas.Fill(border, look.BorderColor);
+    canvas.Fill(inner, look.DisplayColor);
   }
-  return toolkit::DrawBevel(canvas, inner, look.bevel_inner, look.bevel_width, look.background);
+  return toolkit::DrawBevel(canvas, inner, look.BevelInner, look.BevelWidth, look.DisplayColor);
 }
 
 // The column of the scale is as wide as its widest text, so that the bars do not jump sideways when
@@ -36,14 +42,14 @@ struct ScaleColumn {
 ScaleColumn DivideArea(platform::Canvas& canvas, const GraphLook& look, const platform::Rect& area,
                        std::string_view decimal_separator) {
   const std::string widest = "88" + std::string(decimal_separator) + "8 MB";
-  const platform::Size text = canvas.TextSize(widest, look.font);
+  const platform::Size text = canvas.TextSize(widest, look.Font);
   const int width = text.width + 2 * kScaleGap;
   // A meter too small for scale and bars shows the bars.
-  if (!look.scale_show || width * 2 > area.width || text.height > area.height) return {{}, area};
+  if (!look.ScaleShow || width * 2 > area.width || text.height > area.height) return {{}, area};
   ScaleColumn divided{area, area};
   divided.column.width = width;
   divided.bars.width -= width;
-  if (look.scale_on_right) {
+  if (look.ScalePosition == ScalePosition::kRight) {
     divided.column.left = divided.bars.Right();
   } else {
     divided.bars.left += width;
@@ -52,11 +58,11 @@ ScaleColumn DivideArea(platform::Canvas& canvas, const GraphLook& look, const pl
 }
 
 void PaintScale(platform::Canvas& canvas, const GraphLook& look, const platform::Rect& column,
-                const GraphScale& scale, ScaleUnits units, std::string_view decimal_separator) {
-  const int height = canvas.TextSize("8", look.font).height;
+                const GraphScale& scale, std::string_view decimal_separator) {
+  const int height = canvas.TextSize("8", look.Font).height;
   const auto write = [&](int top, std::int64_t amount) {
     canvas.Text({column.left + kScaleGap, top, column.width - 2 * kScaleGap, height},
-                ScaleText(amount, units, decimal_separator), look.font, look.font_colour,
+                ScaleText(amount, look.ScaleUnits, decimal_separator), look.Font, look.FontColour,
                 platform::TextAlign::kRight);
   };
   write(column.top, scale.high);
@@ -87,18 +93,20 @@ void PaintBar(platform::Canvas& canvas, const platform::Rect& bar, const BarColo
 void PaintPulse(platform::Canvas& canvas, const GraphLook& look, const platform::Rect& slot,
                 int in_height, int out_height) {
   const bool in_behind = in_height >= out_height;
-  const BarColours& behind = in_behind ? look.in : look.out;
+  const BarColours in{look.InColor, look.InLight, look.InShadow};
+  const BarColours out{look.OutColor, look.OutLight, look.OutShadow};
+  const BarColours& behind = in_behind ? in : out;
   const int back = std::max(in_height, out_height);
   int front = std::min(in_height, out_height);
   const auto bar = [&slot](int inset, int height) {
     return platform::Rect{slot.left + inset, slot.Bottom() - height, slot.width - inset, height};
   };
-  if (back > 0) PaintBar(canvas, bar(0, back), behind, look.pulse_3d);
+  if (back > 0) PaintBar(canvas, bar(0, back), behind, look.Pulse3D);
   if (front == back && front > 1) --front;
   if (front <= 0) return;
   const int inset = slot.width > 1 ? 1 : 0;
   canvas.Fill({slot.left, slot.Bottom() - front, inset, front}, behind.face);
-  PaintBar(canvas, bar(inset, front), in_behind ? look.out : look.in, look.pulse_3d);
+  PaintBar(canvas, bar(inset, front), in_behind ? out : in, look.Pulse3D);
 }
 
 void PaintBars(platform::Canvas& canvas, const GraphLook& look, const platform::Rect& area,
@@ -116,9 +124,9 @@ void PaintBars(platform::Canvas& canvas, const GraphLook& look, const platform::
 }  // namespace
 
 int FrameWidth(const GraphLook& look) {
-  const int bevels = (look.bevel_inner != toolkit::BevelCut::kNone ? 1 : 0) +
-                     (look.bevel_outer != toolkit::BevelCut::kNone ? 1 : 0);
-  return bevels * std::max(0, look.bevel_width) + std::max(0, look.border_width);
+  const int bevels = (look.BevelInner != toolkit::BevelCut::kNone ? 1 : 0) +
+                     (look.BevelOuter != toolkit::BevelCut::kNone ? 1 : 0);
+  return bevels * std::max(0, look.BevelWidth) + std::max(0, look.BorderWidth);
 }
 
 std::size_t SamplesThatFit(const GraphLook& look, int width) {
@@ -126,16 +134,15 @@ std::size_t SamplesThatFit(const GraphLook& look, int width) {
 }
 
 void PaintGraph(platform::Canvas& canvas, const GraphLook& look,
-                std::span<const GraphSample> samples, const ScaleRule& choice,
-                std::string_view decimal_separator) {
+                std::span<const GraphSample> samples, std::string_view decimal_separator) {
   const platform::Rect area = PaintFrame(canvas, look);
   if (area.Empty()) return;
   const ScaleColumn divided = DivideArea(canvas, look, area, decimal_separator);
   const std::size_t fit = SamplesThatFit(look, divided.bars.width);
   const std::span<const GraphSample> in_sight = samples.last(std::min(fit, samples.size()));
-  const GraphScale scale = ScaleFor(in_sight, choice);
+  const GraphScale scale = ScaleFor(in_sight, look);
   if (!divided.column.Empty()) {
-    PaintScale(canvas, look, divided.column, scale, choice.units, decimal_separator);
+    PaintScale(canvas, look, divided.column, scale, decimal_separator);
   }
   PaintBars(canvas, look, divided.bars, in_sight, scale);
 }

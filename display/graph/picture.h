@@ -10,29 +10,36 @@
 
 namespace display {
 
-struct BarColours {
-  platform::Colour face = 0;
-  platform::Colour light = 0;   // left and upper edge
-  platform::Colour shadow = 0;  // right edge
-};
+enum class ScalePosition { kLeft, kRight };
 
-// How the graph looks; widths in real pixels.
-struct GraphLook {
-  BarColours in;
-  BarColours out;
-  platform::Colour background = platform::colour::kButtonFace;
-  platform::Colour border = platform::colour::kBlack;
-  toolkit::BevelCut bevel_inner = toolkit::BevelCut::kNone;
-  toolkit::BevelCut bevel_outer = toolkit::BevelCut::kNone;
-  int bevel_width = 1;
-  int border_width = 1;
-  bool pulse_3d = true;
-  int pulse_width = 3;
-  int pulse_space = 0;
-  bool scale_show = true;
-  bool scale_on_right = false;
-  platform::FontSpec font;
-  platform::Colour font_colour = platform::colour::kWindowText;
+// What the graph meter shows: its properties, with the values of its design.
+struct GraphLook : ScaleRule {
+  // Colours of the bars: face, left and upper edge, right edge.
+  platform::Colour InColor = 0x0000CD;
+  platform::Colour InLight = 0x8184FE;
+  platform::Colour InShadow = 0x004000;
+  platform::Colour OutColor = 0x00FFFF;
+  platform::Colour OutLight = 251900;
+  platform::Colour OutShadow = 0x004000;
+  platform::Colour DisplayColor = platform::colour::kButtonFace;  // background
+  platform::Colour BorderColor = platform::colour::kBlack;
+  toolkit::BevelCut BevelInner = toolkit::BevelCut::kNone;
+  toolkit::BevelCut BevelOuter = toolkit::BevelCut::kNone;
+  // Pixels; what lies below the smallest width that can be drawn is drawn as that.
+  int BevelWidth = 1;
+  int BorderWidth = 1;
+  int PulseWidth = 3;
+  int PulseSpace = 0;
+  bool Pulse3D = true;  // bars with light and shadow edges
+  bool ScaleShow = true;
+  display::ScalePosition ScalePosition = display::ScalePosition::kLeft;
+  // No background: what is neither bar nor text nor frame is left out of the window.
+  bool Transparent = false;
+  // Of the scale.
+  platform::FontSpec Font;
+  platform::Colour FontColour = platform::colour::kWindowText;
+
+  friend bool operator==(const GraphLook&, const GraphLook&) = default;
 };
 
 // The sum of the frame widths on one side: outer bevel, border and inner bevel, as far as shown.
@@ -44,7 +51,6 @@ struct GraphLook {
 // Paints the whole canvas. `samples` ends with the newest; those that do not fit are left out. The
 // newest stands at the right edge.
 void PaintGraph(platform::Canvas& canvas, const GraphLook& look,
-                std::span<const GraphSample> samples, const ScaleRule& choice,
-                std::string_view decimal_separator);
+                std::span<const GraphSample> samples, std::string_view decimal_separator);
 
 }  // namespace display

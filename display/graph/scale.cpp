@@ -62,9 +62,9 @@ GraphScale ScaleFor(std::span<const GraphSample> in_sight, const ScaleRule& choi
     smallest = std::min({smallest, std::int64_t{sample.in}, std::int64_t{sample.out}});
   }
   GraphScale scale;
-  scale.high = choice.auto_scale ? AutomaticEdge(peak, choice.units)
-                                 : std::max<std::int64_t>(1, choice.speed_limit);
-  if (!choice.zero_based && !in_sight.empty()) {
+  scale.high = choice.AutoScale ? AutomaticEdge(peak, choice.ScaleUnits)
+                                : std::max<std::int64_t>(1, choice.SpeedLimit);
+  if (!choice.ZeroBased && !in_sight.empty()) {
     scale.low = std::clamp<std::int64_t>(smallest, 0, scale.high - 1);
   }
   return scale;

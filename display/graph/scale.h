@@ -26,10 +26,13 @@ struct GraphScale {
 };
 
 struct ScaleRule {
-  bool auto_scale = true;
-  std::int64_t speed_limit = 0;  // bytes per second at the upper edge, when not automatic
-  bool zero_based = false;       // off: the lower edge follows the smallest amount in sight
-  ScaleUnits units = ScaleUnits::kKBytes;
+  // On: the scale fits the largest amount in sight. Off: it ends at SpeedLimit.
+  bool AutoScale = true;
+  std::int64_t SpeedLimit = 0;  // bytes per second
+  bool ZeroBased = false;       // off: the lower end follows the smallest amount in sight
+  display::ScaleUnits ScaleUnits = display::ScaleUnits::kKBytes;
+
+  friend bool operator==(const ScaleRule&, const ScaleRule&) = default;
 };
 
 // The scale for the samples in sight. Automatic: the upper edge is a round number of the chosen

@@ -64,13 +64,13 @@ TEST(GraphScale, TheUpperEdgeRisesWithThePeakToARoundNumber) {
 TEST(GraphScale, TheLowerEdgeFollowsTheSmallestAmountUnlessItIsZeroBased) {
   const GraphSample samples[] = {{5000, 7000}, {3000, 9000}};
   ScaleRule rule;
-  rule.zero_based = true;
+  rule.ZeroBased = true;
   EXPECT_EQ(ScaleFor(samples, rule).low, 0);
-  rule.zero_based = false;
+  rule.ZeroBased = false;
   EXPECT_EQ(ScaleFor(samples, rule).low, 3000);
-  rule.auto_scale = false;
+  rule.AutoScale = false;
   for (const std::int64_t limit : {std::int64_t{0}, std::int64_t{-5}, std::int64_t{1800}}) {
-    rule.speed_limit = limit;  // all amounts above the limit: the edges must not meet
+    rule.SpeedLimit = limit;  // all amounts above the limit: the edges must not meet
     const display::GraphScale scale = ScaleFor(samples, rule);
     EXPECT_LT(scale.low, scale.high);
     EXPECT_EQ(scale.HeightOf(9000, 50), 50);

@@ -168,9 +168,10 @@ TEST_F(AlertPages, OfTheRulesEachControlWritesIntoTheChosenOne) {
             },
             {{"LessOrMore", Number(0)}, {"LessNotSecs", Number(62)}}}});
     Scan({1, 1});
-    EXPECT_TRUE(Window().Parts().notifications.TimeOutTimer.Enabled());
+    EXPECT_TRUE(Window().Parts().options.Parts().notifications.TimeOutTimer.Enabled());
     User().Press("NotificationsCheckBox");
-    EXPECT_FALSE(Window().Parts().notifications.TimeOutTimer.Enabled()) << "at once";
+    EXPECT_FALSE(Window().Parts().options.Parts().notifications.TimeOutTimer.Enabled())
+        << "at once";
   });
 }
 

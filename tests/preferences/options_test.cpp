@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <fstream>
 #include <functional>
 #include <iterator>
@@ -15,7 +16,7 @@ using platform::memory::RegistryValue;
 
 class PreferenceOptions : public test::PreferencesTest {
  protected:
-  display::RunningMeter Meter() { return Window().Parts(); }
+  const display::MeterParts& Meter() { return Window().Parts().options.Parts(); }
 
   // What the user does on a page, and what comes of it.
   struct Row {
@@ -155,22 +156,22 @@ TEST_F(PreferenceOptions, TheCustomSpeedIsAnEighthOfWhatIsShownAndOutlastsAFixed
          Choose("ScaleCombo", 14),
          {{"GraphScaleType", Number(14)}},
          [&] {
-           return !Meter().graph.AutoScale && Meter().graph.SpeedLimit == 5929500 &&
+           return !Meter().graph.Look().AutoScale && Meter().graph.Look().SpeedLimit == 5929500 &&
                   Meter().SpeedCap == 5929500;
          }},
         {"Graph Other",
          Choose("ScaleCombo", 16),
          {{"GraphScaleType", Number(16)}},
-         [&] { return Meter().graph.SpeedLimit == 128 && Widget("CustomScale").enabled; }},
+         [&] { return Meter().graph.Look().SpeedLimit == 128 && Widget("CustomScale").enabled; }},
         {"Graph Other",
          Up("CustomScale"),
          {{"SpeedLimit", Number(256)}},
-         [&] { return Meter().graph.SpeedLimit == 256 && Meter().SpeedCap == 256; }},
+         [&] { return Meter().graph.Look().SpeedLimit == 256 && Meter().SpeedCap == 256; }},
         {"Graph Other",
          Choose("ScaleCombo", 0),
          {{"GraphScaleType", Number(0)}},
          [&] {
-           return Meter().graph.AutoScale && Meter().SpeedCap == 0 &&
+           return Meter().graph.Look().AutoScale && Meter().SpeedCap == 0 &&
                   Widget("CustomScale").text == "2048";
          }},
     });
@@ -181,7 +182,7 @@ TEST_F(PreferenceOptions, NeitherALookNorAResetChangesTheScaleOrTheCap) {
   Set("GraphScaleType", 16);
   Set("SpeedLimit", 128000);
   RunOpen([&] {
-    EXPECT_EQ(Meter().graph.SpeedLimit, 16000) << "as at the start";
+    EXPECT_EQ(Meter().graph.Look().SpeedLimit, 16000) << "as at the start";
     EXPECT_EQ(Meter().SpeedCap, 0) << "a fresh run has no cap";
     ChoosePage("Graph Other");
     User().PressKey("CustomScale", platform::Key::kUp);
@@ -189,7 +190,7 @@ TEST_F(PreferenceOptions, NeitherALookNorAResetChangesTheScaleOrTheCap) {
     ChoosePage("Reset Settings");
     User().Press("R3");
     User().Press("btnResetSettings");
-    EXPECT_EQ(Meter().graph.SpeedLimit, 128128);
+    EXPECT_EQ(Meter().graph.Look().SpeedLimit, 128128);
     EXPECT_EQ(Meter().SpeedCap, 128128);
   });
 }
@@ -297,7 +298,7 @@ TEST_F(PreferenceOptions, ACancelledColourPopupChangesNothing) {
     User().Press("DownloadLightColor");
     EXPECT_EQ(Changes(before, AllValues()), Values());
     EXPECT_EQ(Widget("DownloadLightColor").background, 0x8184FEU);
-    EXPECT_EQ(Meter().graph.InLight, 0x8184FEU);
+    EXPECT_EQ(Meter().graph.Look().InLight, 0x8184FEU);
   });
 }
 
@@ -362,6 +363,26 @@ TEST_F(PreferenceOptions, OpeningShowsWhatIsStoredAndChangesNoStoredValue) {
       });
     }
   }
+}
+
+TEST_F(PreferenceOptions, TheTransparentMeterHasTheShapeOfLinesAsSoonAsTheyAreShown) {
+  Set("Transparent", 1);
+  Set("hLineSpace", 40);
+  Set("cmbHLineStyle", 0);
+  RunOpen([&] {
+    ChoosePage("Graph Grids");
+    const auto has_line = [&] {
+      const auto& shape = *Widget("T_frmBrisanto").shape;
+      return std::any_of(shape.begin(), shape.end(), [](const platform::Rect& part) {
+        return part.Contains({41, 41});
+      });
+    };
+    EXPECT_FALSE(has_line());
+    User().Press("hGridsVisibleCheckBox");
+    EXPECT_TRUE(has_line());
+    User().Press("hGridsVisibleCheckBox");
+    EXPECT_FALSE(has_line());
+  });
 }
 
 TEST_F(PreferenceOptions, TheStyleOfGridLinesIsReadWithTheLines) {

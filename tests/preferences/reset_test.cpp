@@ -123,7 +123,7 @@ TEST_F(Reset, WritesDefaultsOfItsOwnAndTheMeterTakesThem) {
     EXPECT_EQ(Widget("AvarageTrackBar").position, 5);
     EXPECT_EQ(Widget("FontChoose").text, "Tahoma");
     EXPECT_EQ(Widget("UploadColor").background, 0xFF0000U);
-    EXPECT_EQ(Window().Parts().graph.OutColor, 0xFF0000U);
+    EXPECT_EQ(Window().Parts().options.Parts().graph.Look().OutColor, 0xFF0000U);
     EXPECT_EQ(Line(), "[ Average DL:0,0 kB  UL:0,0 kB ]") << "two blanks";
   });
 }
