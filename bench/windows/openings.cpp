@@ -90,7 +90,8 @@ void OpenEveryWindow(PlayedMeter& meter, Report& report) {
        }},
       {L"T_frmAddTitles", "The editor of the window titles",
        [&] {
-         return make_unique<display::T_frmAddTitles>(app, posting, parts.tray, parts.language);
+         return make_unique<display::T_frmAddTitles>(app, posting, parts.options.Parts().tray,
+                                                     parts.language);
        }},
       {L"T_frmAreYouSure", "The exit question",
        [&] { return make_unique<display::T_frmAreYouSure>(app, parts.store, parts.language); }},
