@@ -23,7 +23,8 @@ ManifestSupportedOS all
 !define PLACES_KEY "Software\BrisantoNET"
 !define RUN_KEY "Software\Microsoft\Windows\CurrentVersion\Run"
 !define RUN_VALUE "BrisantoXP"
-!define UNINSTALL_KEY "Software\Microsoft\Windows\CurrentVersion\Uninstall\Tremolux"
+!define APPS_KEY "Software\Microsoft\Windows\CurrentVersion\Uninstall"
+!define UNINSTALL_KEY "${APPS_KEY}\Tremolux"
 !define SHORTCUT "$SMPROGRAMS\${PRODUCT}.lnk"
 
 Name "${PRODUCT}"
@@ -257,9 +258,11 @@ Section "-un.files"
     DeleteRegValue HKCU "${RUN_KEY}" "${RUN_VALUE}"
   ${EndIf}
   DeleteRegKey HKCU "${UNINSTALL_KEY}"
+  DeleteRegKey /ifempty HKCU "${APPS_KEY}" ; that and the folder of programs may not have been there
   SetOutPath "$TEMP" ; nobody removes the folder that he stands in
   !insertmacro ShippedFolders RemoveFolder
   RMDir "$INSTDIR"
+  RMDir "$LOCALAPPDATA\Programs"
 SectionEnd
 
 Function un.onInit
