@@ -49,6 +49,19 @@ def bitmap(size):
     return header + pixels + mask
 
 
+def banner(width, height):
+    """The bars alone, for the last page of the installer: a bitmap of 24 bits."""
+    def colour(x, y):
+        high, bar = BARS[x * len(BARS) // width]
+        return bar if y * 16 < high * height else CARD
+
+    rows = b"".join(  # the lowest first, each a multiple of four bytes
+        b"".join(bytes(colour(x, y)[2::-1]) for x in range(width)).ljust((width * 3 + 3) // 4 * 4)
+        for y in range(height))
+    header = struct.pack("<IiiHHIIiiII", 40, width, height, 1, 24, 0, len(rows), 0, 0, 0, 0)
+    return struct.pack("<2sIHHI", b"BM", 54 + len(rows), 0, 0, 54) + header + rows
+
+
 def main():
     images = [bitmap(size) if size <= 64 else png(size) for size in SIZES]
     offset = 6 + 16 * len(images)

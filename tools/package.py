@@ -17,6 +17,8 @@ import tempfile
 import time
 import zipfile
 
+import make_icon
+
 SOURCE = pathlib.Path(__file__).resolve().parents[1]
 PRODUCT = "Korvane Tremolux"
 
@@ -71,7 +73,10 @@ def make_installer(folder, version, path):
     with tempfile.TemporaryDirectory() as work:
         files = pathlib.Path(work) / "files.nsh"
         files.write_text(list_for_installer(names_of(folder)), encoding="utf-8")
-        defines = {"VERSION": version, "FOLDER": folder, "FILES": files, "OUTPUT": path}
+        banner = pathlib.Path(work) / "banner.bmp"
+        banner.write_bytes(make_icon.banner(164, 314))
+        defines = {"VERSION": version, "FOLDER": folder, "FILES": files, "BANNER": banner,
+                   "OUTPUT": path}
         if os.environ.get("TREMOLUX_CERTIFICATE"):
             defines["SIGN"] = shlex.join([sys.executable, str(SOURCE / "tools/package.py"), "--sign"])
         subprocess.check_call(

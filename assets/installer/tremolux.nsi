@@ -2,6 +2,7 @@
 ;   VERSION  three numbers with points between them
 ;   FOLDER   the program folder that is shipped
 ;   FILES    a script with the macro ShippedFiles, a line a file
+;   BANNER   the picture of the last page, 164 x 314 pixels
 ;   OUTPUT   the installer to write
 ;   SIGN     (optional) the command that signs a file, whose name follows it
 ;
@@ -47,7 +48,7 @@ VIAddVersionKey LegalCopyright ""
 !define MUI_ICON "..\tremolux.ico"
 !define MUI_UNICON "..\tremolux.ico"
 !define MUI_COMPONENTSPAGE_NODESC
-!define MUI_FINISHPAGE_NOAUTOCLOSE
+!define MUI_WELCOMEFINISHPAGE_BITMAP "${BANNER}"
 !define MUI_FINISHPAGE_RUN "${PROGRAM}"
 
 Var meter_ran    ; 1 when a meter had to end for this
