@@ -69,12 +69,13 @@ def list_for_installer(names):
          "!macroend", ""])
 
 
-def make_installer(folder, version, path):
+def make_installer(folder, version, date, path):
     with tempfile.TemporaryDirectory() as work:
         files = pathlib.Path(work) / "files.nsh"
         files.write_text(list_for_installer(names_of(folder)), encoding="utf-8")
         banner = pathlib.Path(work) / "banner.bmp"
         banner.write_bytes(make_icon.banner(164, 314))
+        os.utime(banner, (date, date))
         defines = {"VERSION": version, "FOLDER": folder, "FILES": files, "BANNER": banner,
                    "OUTPUT": path}
         if os.environ.get("TREMOLUX_CERTIFICATE"):
@@ -106,7 +107,7 @@ def make_release(program, version, output):
         for name in names_of(folder):
             os.utime(folder / name, (date, date))
         stem = f"{PRODUCT.replace(' ', '')}-{version}"
-        make_installer(folder, version, output / f"{stem}-setup.exe")
+        make_installer(folder, version, date, output / f"{stem}-setup.exe")
         make_zip(folder, date, output / f"{stem}.zip")
     sums = [f"{hashlib.sha256((output / name).read_bytes()).hexdigest()}  {name}\n"
             for name in names_of(output)]
