@@ -9,6 +9,7 @@ endif()
 
 add_library(tremolux_options INTERFACE)
 target_include_directories(tremolux_options INTERFACE ${CMAKE_SOURCE_DIR})
+target_compile_definitions(tremolux_options INTERFACE TREMOLUX_VERSION="${PROJECT_VERSION}")
 target_compile_options(tremolux_options INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Werror)
 
 if(CMAKE_BUILD_TYPE STREQUAL "Release")
@@ -24,5 +25,7 @@ endif()
 if(WIN32)
   add_compile_definitions(UNICODE _UNICODE WIN32_LEAN_AND_MEAN NOMINMAX _WIN32_WINNT=0x0A00)
   add_compile_options(-ffunction-sections -fdata-sections)
-  add_link_options(-static -Wl,--gc-sections)
+  # Nothing of the hour and the folder of a build gets into the program.
+  add_compile_options(-ffile-prefix-map=${CMAKE_SOURCE_DIR}/=)
+  add_link_options(-static -Wl,--gc-sections -Wl,--no-insert-timestamp)
 endif()

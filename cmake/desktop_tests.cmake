@@ -31,9 +31,16 @@ TREMOLUX_FAKED_CLOCK=Z:${faked_clock}")
     message(WARNING "without the package faketime the tests on other dates do not run")
   endif()
 
-  # Adapters of the tests' own need a network of their own, and Wine all in it.
-  find_program(PYTHON python3 NO_CMAKE_FIND_ROOT_PATH)
+  # Adapters of the tests' own need a network of their own, and Wine all in it. The installer makes
+  # a Wine of its own, and tests the release that `release` has made.
   if(PYTHON)
+    add_test(NAME installer_test COMMAND ${PYTHON} ${CMAKE_SOURCE_DIR}/tests/release/installer_test.py
+                                         ${RELEASE_FOLDER})
+    set_tests_properties(
+      installer_test
+      PROPERTIES RUN_SERIAL ON TIMEOUT 300
+                 ENVIRONMENT "WINEPREFIX=${CMAKE_BINARY_DIR}/wine-installer;WINEDEBUG=-all;\
+LC_ALL=C.UTF-8;WINEDLLOVERRIDES=mscoree=\\;mshtml=\\;winemenubuilder.exe=")
     add_test(NAME desktop_tests_on_own_network
              COMMAND ${PYTHON} ${CMAKE_SOURCE_DIR}/tests/desktop/line/network_line.py sh -c
                      "'${WINESERVER}' --kill; '${WINE}' '$<TARGET_FILE:desktop_tests>' \
@@ -44,6 +51,6 @@ TREMOLUX_FAKED_CLOCK=Z:${faked_clock}")
                  FIXTURES_REQUIRED "wine;wine_desktop;program_folder"
                  ENVIRONMENT "${WINE_ENVIRONMENT}")
   else()
-    message(WARNING "without python3 the tests on a network of their own do not run")
+    message(WARNING "without python3 the tests of the installer and of own networks do not run")
   endif()
 endif()

@@ -12,9 +12,17 @@ if(TARGET windows)
   endif()
 endif()
 
+# The icon, the manifest and the version.
+enable_language(RC)
+set(RESOURCES ${CMAKE_BINARY_DIR}/tremolux.rc)
+configure_file(assets/tremolux.rc.in ${RESOURCES} @ONLY)
+set_source_files_properties(
+  ${RESOURCES} PROPERTIES INCLUDE_DIRECTORIES ${CMAKE_SOURCE_DIR}/assets
+                          OBJECT_DEPENDS "${CMAKE_SOURCE_DIR}/assets/tremolux.ico;\
+${CMAKE_SOURCE_DIR}/assets/tremolux.manifest")
+
 if(EXISTS ${CMAKE_SOURCE_DIR}/program/main.cpp)
-  enable_language(RC)
-  add_executable(Tremolux WIN32 program/main.cpp assets/tremolux.rc)
+  add_executable(Tremolux WIN32 program/main.cpp ${RESOURCES})
   target_link_libraries(Tremolux PRIVATE program windows)
   # The entry lies in the windows library, which is searched before anything asks for it.
   target_link_options(Tremolux PRIVATE -municode -s -Wl,-u,wWinMain)

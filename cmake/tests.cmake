@@ -87,7 +87,7 @@ endfunction()
 if(WIN32)
   test_program(contract_tests_windows tests/contract windows)
   # With the program's manifest it gets the controls that the program has.
-  target_sources(contract_tests_windows PRIVATE ${CMAKE_SOURCE_DIR}/assets/tremolux.rc)
+  target_sources(contract_tests_windows PRIVATE ${RESOURCES})
 
   # The desktop tests drive the real program from outside.
   floor(desktop_driver tests/desktop/driver windows)

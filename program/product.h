@@ -8,7 +8,7 @@ namespace program {
 // Also the name of the mutex that keeps a second copy from running.
 inline constexpr std::string_view kProductTitle = "Korvane Tremolux";
 
-// As in CMakeLists.txt and in the resources of the executable; a test compares.
-inline constexpr std::string_view kVersion = "1.0.0";
+// Three numbers with points between them; CMakeLists.txt says which.
+inline constexpr std::string_view kVersion = TREMOLUX_VERSION;
 
 }  // namespace program

@@ -4,7 +4,7 @@ import pathlib
 import struct
 import zlib
 
-SIZES = (16, 24, 32, 48, 64, 256)
+SIZES = (16, 20, 24, 32, 40, 48, 64, 96, 128, 256)
 FRAME = (64, 64, 64, 255)
 CARD = (255, 255, 255, 255)
 CLEAR = (0, 0, 0, 0)
@@ -40,7 +40,7 @@ def png(size):
 
 
 def bitmap(size):
-    """The small sizes as bitmaps, which every version of Windows reads."""
+    """The small sizes as bitmaps, which every part of Windows reads."""
     header = struct.pack("<IiiHHIIiiII", 40, size, 2 * size, 1, 32, 0, 0, 0, 0, 0, 0)
     pixels = b"".join(
         struct.pack("4B", *(pixel(x, y, size)[i] for i in (2, 1, 0, 3)))
@@ -49,8 +49,21 @@ def bitmap(size):
     return header + pixels + mask
 
 
+def banner(width, height):
+    """The bars alone, for the last page of the installer: a bitmap of 24 bits."""
+    def colour(x, y):
+        high, bar = BARS[x * len(BARS) // width]
+        return bar if y * 16 < high * height else CARD
+
+    rows = b"".join(  # the lowest first, each a multiple of four bytes
+        b"".join(bytes(colour(x, y)[2::-1]) for x in range(width)).ljust((width * 3 + 3) // 4 * 4)
+        for y in range(height))
+    header = struct.pack("<IiiHHIIiiII", 40, width, height, 1, 24, 0, len(rows), 0, 0, 0, 0)
+    return struct.pack("<2sIHHI", b"BM", 54 + len(rows), 0, 0, 54) + header + rows
+
+
 def main():
-    images = [png(size) if size == 256 else bitmap(size) for size in SIZES]
+    images = [bitmap(size) if size <= 64 else png(size) for size in SIZES]
     offset = 6 + 16 * len(images)
     directory = struct.pack("<HHH", 0, 1, len(images))
     for size, image in zip(SIZES, images):

@@ -5,6 +5,7 @@
 
 #include "display/program_image.h"
 #include "platform/memory/canvas.h"
+#include "program/product.h"
 #include "tests/display/meter.h"
 #include "toolkit/controls/layout.h"
 
@@ -17,7 +18,7 @@ TEST_F(About, TellsNameAndVersionOnceAtATime) {
     machine.message_loop.Then([&] {
       EXPECT_EQ(Widget("T_frmAbout").text, "About Korvane Tremolux");
       EXPECT_EQ(Widget("lblProduct").text, "Korvane Tremolux");
-      EXPECT_EQ(Widget("lblVersion").text, "Version 1.0.0");
+      EXPECT_EQ(Widget("lblVersion").text, "Version " + std::string(program::kVersion));
       EXPECT_EQ(toolkit::LayoutFaults(*App().Modals().Top()), std::vector<std::string>());
       machine.menus.WillChoose("About Korvane Tremolux");
       machine.notification_area.RightClick({900, 700});

@@ -4,7 +4,6 @@
 #include <set>
 #include <sstream>
 
-#include "program/product.h"
 #include "tests/house/source_tree.h"
 
 namespace house {
@@ -47,25 +46,6 @@ TEST(Readme, DevListsItsWordsItself) {
   for (const std::string& word : WordsOfDev()) {
     EXPECT_NE(script.find("\n#   " + word + " "), std::string::npos)
         << "the usage at the head of ./dev lacks \"" << word << "\"";
-  }
-}
-
-TEST(Version, IsTheSameWhereverItIsWritten) {
-  const std::string version(program::kVersion);
-  std::string commas = version + ".0";
-  for (std::size_t at = 0; (at = commas.find('.', at)) != std::string::npos;) {
-    commas.replace(at, 1, ", ");
-  }
-  EXPECT_NE(ReadFile("CMakeLists.txt").find("Tremolux VERSION " + version + " "),
-            std::string::npos);
-  const std::string resources = ReadFile("assets/tremolux.rc");
-  for (const char* name : {"FileVersion", "ProductVersion"}) {
-    EXPECT_NE(resources.find('"' + std::string(name) + "\", \"" + version + ".0\""),
-              std::string::npos)
-        << name;
-  }
-  for (const char* name : {"FILEVERSION ", "PRODUCTVERSION "}) {
-    EXPECT_NE(resources.find(name + commas + '\n'), std::string::npos) << name;
   }
 }
 
