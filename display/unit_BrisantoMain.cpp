@@ -199,7 +199,8 @@ void T_frmBrisanto::ApplyDisplaySettings(ScaleTaken scale) {
   ShowLine();
   ApplyAlwaysOnTop();
   ApplyWindowMode();
-  title_posting_.SetLines(LoadTitleFile(App().Platform().files, App().Platform().locale).lines);
+  const TitleFile titles = LoadTitleFile(App().Platform().files, App().Platform().locale);
+  if (titles.readable) title_posting_.SetLines(titles.lines);
   _TrayIcon.ShowStart();
 }
 

@@ -1,5 +1,7 @@
 #include "engine/error_log.h"
 
+#include <utility>
+
 #include "platform/text.h"
 #include "settings/text_file.h"
 
@@ -38,44 +40,50 @@ std::string TextOf(const std::vector<std::string>& lines) {
 std::string ErrorLog::Path() const { return files_.ProgramFolder() + "err.log"; }
 
 void ErrorLog::Append(std::string_view message) {
-  const std::string line = OnOneLine(message);
+  const std::size_t waiting_before = waiting_.size();
+  CommonMemo_.push_back(OnOneLine(message));
+  waiting_ += CommonMemo_.back();
+  waiting_ += kLineEnd;
+  if (Write()) {
+    waiting_.clear();
+  } else if (waiting_.size() > kErrorLogWaitingLimit) {
+    CommonMemo_.pop_back();
+    waiting_.resize(waiting_before);
+  }
+}
+
+bool ErrorLog::Write() {
   const auto size = files_.Size(Path());
-  const bool full = size && *size + line.size() + kLineEnd.size() > kErrorLogLimit;
-  if (full) {
-    if (!files_.Rename(Path(), files_.ProgramFolder() + "err.old.log")) return;
-    CommonMemo_.clear();
-  }
-  const bool there = size && !full;
-  if (there && *size == size_) {
-    AppendLine(line);
-  } else if (!there || TakeOver()) {
-    Rewrite(line);
-  }
+  if (!size) return Rewrite();
+  if (*size + waiting_.size() > kErrorLogLimit) return PutAside() && Rewrite();
+  return *size == size_ ? AppendWaiting() : TakeOver() && Rewrite();
 }
 
-void ErrorLog::AppendLine(const std::string& line) {
-  CommonMemo_.push_back(line);
-  const std::string bytes = TextOf({line});
-  if (files_.Append(Path(), bytes)) size_ += bytes.size();
+bool ErrorLog::AppendWaiting() {
+  if (!files_.Append(Path(), waiting_)) return false;
+  size_ += waiting_.size();
+  return true;
 }
 
-// False for a file that cannot be read: what is in it must not be lost.
+bool ErrorLog::PutAside() {
+  if (!files_.Rename(Path(), files_.ProgramFolder() + "err.old.log")) return false;
+  CommonMemo_ = LinesOf(waiting_);
+  return true;
+}
+
 bool ErrorLog::TakeOver() {
   const auto bytes = files_.Load(Path(), kErrorLogLimit);
-  if (bytes) CommonMemo_ = LinesOf(settings::DecodeTextFile(*bytes, locale_));
-  return bytes.has_value();
+  if (!bytes) return false;
+  CommonMemo_ = LinesOf(settings::DecodeTextFile(*bytes, locale_));
+  for (std::string& line : LinesOf(waiting_)) CommonMemo_.push_back(std::move(line));
+  return true;
 }
 
-// What could not be written stays in the memo as far as the log may grow; the first messages tell
-// the cause.
-void ErrorLog::Rewrite(const std::string& line) {
-  CommonMemo_.push_back(line);
+bool ErrorLog::Rewrite() {
   const std::string text = TextOf(CommonMemo_);
-  if (files_.Save(Path(), text)) {
-    size_ = text.size();
-  } else if (text.size() > kErrorLogLimit) {
-    CommonMemo_.pop_back();
-  }
+  if (!files_.Save(Path(), text)) return false;
+  size_ = text.size();
+  return true;
 }
 
 }  // namespace engine

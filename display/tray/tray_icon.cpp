@@ -100,12 +100,12 @@ void TrayIcon::ShowActivity(TrayActivity activity) {
     ShowHistogram(TrayHistogram());
     return;
   }
-  if (activity == shown_activity_ && activity_taken_) return;
   const int size = icon_->PictureSize();
+  if (activity == shown_activity_ && size == activity_size_) return;
   const auto picture = app_.Platform().graphics.CreateBitmap({size, size});
   if (!picture) return;
   pictures_.Draw(activity, picture->GetCanvas(), pictures_.SeeThrough());
-  activity_taken_ = icon_->SetPicture(*picture, pictures_.SeeThrough());
+  activity_size_ = icon_->SetPicture(*picture, pictures_.SeeThrough()) ? size : 0;
   shown_activity_ = activity;
   shown_size_ = 0;
 }

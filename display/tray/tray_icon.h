@@ -83,7 +83,7 @@ class TrayIcon final : public alerts::Balloons, private platform::TrayIconEvents
   TrayHistogram shown_histogram_;
   // What the icon shows; nothing while it is the histogram or the pictures were loaded anew.
   std::optional<TrayActivity> shown_activity_;
-  bool activity_taken_ = false;  // by the shell
+  int activity_size_ = 0;  // the side of that picture; 0 when the shell has not taken it
   // The histogram that the icon shows, and the side of its picture; 0 while it shows none or the
   // shell has not taken it.
   TrayHistogram::Half shown_upper_;

@@ -1,7 +1,9 @@
 // What only the real system has: styles, hit tests, messages of the session.
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <stdexcept>
+#include <utility>
 #include <vector>
 
 #include "platform/windows/machine.h"
@@ -25,6 +27,10 @@ struct Heard : platform::TopWindowEvents {
     asked.push_back(bounds);
     if (bounds.left < 15) bounds.left = 0;
   }
+  void OnPlaced() override {
+    if (placed) std::exchange(placed, nullptr)();
+  }
+  std::function<void()> placed;
   std::vector<Rect> asked;
   int context_menus = 0;
   int resumes = 0;
@@ -218,11 +224,42 @@ TEST_F(RealTopWindow, WhereAnotherProgramMovesTheWindowItIsAskedOnceAtTheEnd) {
 }
 
 TEST_F(RealTopWindow, HangsOnThePointerWhereTheButtonWentDownHoweverLongTheFirstMove) {
-  ::SendMessageW(Window(), WM_PARENTNOTIFY, WM_LBUTTONDOWN, MAKELPARAM(19, 29));
+  const HWND surface = WidgetWindow::Of(*surface_);
+  const auto drag = [&] {
+    ::PostMessageW(Window(), WM_LBUTTONUP, 0, 0);
+    window_->BeginDrag();
+    return window_->Bounds();
+  };
   ::SetCursorPos(420, 330);
+  EXPECT_EQ(drag(), (Rect{100, 100, 274, 135})) << "pressed elsewhere: it does not jump";
+  ::SendMessageW(surface, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(19, 29));
+  ::SendMessageW(surface, WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(319, 229));
+  EXPECT_EQ(drag(), (Rect{400, 300, 274, 135}));
+
+  ::SetCursorPos(520, 430);
+  EXPECT_EQ(drag(), (Rect{400, 300, 274, 135})) << "that press is over";
+  for (const UINT end : {WM_LBUTTONUP, WM_MOUSEMOVE}) {
+    ::SendMessageW(surface, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(19, 29));
+    ::SendMessageW(surface, end, 0, MAKELPARAM(19, 29));
+    EXPECT_EQ(drag(), (Rect{400, 300, 274, 135})) << "it was let go in between";
+  }
+}
+
+TEST_F(RealTopWindow, ADragCountsFromThePlaceWhereThePointerHasTheWindow) {
+  ::SetCursorPos(420, 330);
+  ::SendMessageW(WidgetWindow::Of(*surface_), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(19, 29));
+  // On the way from the button to the drag the pointer goes on.
+  heard_.placed = [&] {
+    ::SetCursorPos(470, 350);
+    RECT proposed{0, 0, 274, 135};
+    ::SendMessageW(Window(), WM_ENTERSIZEMOVE, 0, 0);
+    ::SendMessageW(Window(), WM_MOVING, WMSZ_TOP, reinterpret_cast<LPARAM>(&proposed));
+    ::SendMessageW(Window(), WM_EXITSIZEMOVE, 0, 0);
+  };
   ::PostMessageW(Window(), WM_LBUTTONUP, 0, 0);
   window_->BeginDrag();
-  EXPECT_EQ(window_->Bounds(), (Rect{400, 300, 274, 135}));
+  ASSERT_FALSE(heard_.asked.empty());
+  EXPECT_EQ(heard_.asked[0], (Rect{450, 320, 274, 135}));
 }
 
 // Fills its surface with a colour and, inside, asks for another painting.

@@ -153,14 +153,18 @@ TEST_F(Graph, DownloadAndUploadAreBothSeenWhateverTheirSizes) {
 TEST_F(Graph, TheScaleComesDownWhenThePeakHasLeftThePicture) {
   Set("ScaleShow", 1);
   const auto highest = [&] { return MeterTest::Graph()->Texts().front().text; };
-  Run([&] {
-    Scan({100 * 1024, 0});
-    EXPECT_EQ(highest(), "100 kB");
-    for (int i = 0; i < 30; ++i) Scan({1024, 0});
-    EXPECT_EQ(highest(), "100 kB");
-    for (int i = 0; i < 80; ++i) Scan({1024, 0});
-    EXPECT_EQ(highest(), "1 kB");
-  });
+  Run(
+      [&] {
+        Scan({100 * 1024, 0});
+        EXPECT_EQ(highest(), "100 kB");
+        for (int i = 0; i < 30; ++i) Scan({1024, 0});
+        EXPECT_EQ(highest(), "100 kB");
+        for (int i = 0; i < 80; ++i) Scan({1024, 0});
+        EXPECT_EQ(highest(), "1 kB");
+        Scan({3U << 30U, 0});
+        EXPECT_EQ(highest(), "2 GB")
+            << "more than an input holds is the largest, not less than nothing";
+      });
 }
 
 TEST_F(Graph, EveryPropertyShows) {

@@ -117,7 +117,14 @@ TEST_F(Meter, AlwaysOnTopIsToggledStoredAndComesBackAfterAFullScreenProgram) {
     Scan({});
     EXPECT_FALSE(Widget("T_frmBrisanto").topmost);
   });
-  Run([&] { EXPECT_FALSE(Entry("Always on Top").checked); });
+  Run([&] {
+    EXPECT_FALSE(Entry("Always on Top").checked);
+    Choose("Always on Top");
+    Choose("Show / Hide Graph");
+    machine.menus.WillChoose("DL-UL Statistics");
+    machine.notification_area.RightClick({900, 700});
+    EXPECT_TRUE(Widget("T_frmConnInfo").topmost) << "the meter would cover it when it comes back";
+  });
 }
 
 TEST_F(Meter, IsDraggedByGraphAndLine) {

@@ -72,6 +72,13 @@ TEST_F(Titles, ModeTwoPostsWhereALineOfTheListOccurs) {
     machine.other_windows.Find(notes).title = "Sheet";
     Scan({});
     EXPECT_EQ(Title(notes), "Sheet");
+
+    machine.files.SetHeld(machine.files.ProgramFolder() + std::string(kListFile), true);
+    machine.interface_table.AddRow(platform::memory::MakeRow("Another"));
+    Scan({});
+    Scan({1024, 0});
+    EXPECT_EQ(Title(cyrillic), "\xD0\xB6\xD1\x83\xD0\xBA|[ DL:1 kB UL:0,0 kB ]")
+        << "a list that cannot be read now stays in use";
   });
 }
 

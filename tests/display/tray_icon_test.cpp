@@ -212,6 +212,9 @@ TEST_F(Tray, ActivityIsShownByFourPictures) {
     const int updates = machine.notification_area.picture_updates;
     Scan({});
     EXPECT_EQ(machine.notification_area.picture_updates, updates) << "nothing has changed";
+    machine.notification_area.picture_size = 32;
+    Scan({});
+    EXPECT_EQ(machine.notification_area.Picture()->Extent(), (platform::Size{32, 32}));
   });
 }
 

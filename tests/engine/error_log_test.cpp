@@ -67,13 +67,54 @@ TEST_F(ErrorLog, ADeletedFileComesBackWithTheLinesThatAreKnown) {
 }
 
 TEST_F(ErrorLog, WhatCannotBeWrittenIsKeptForLater) {
-  machine.files.SetWritable(folder, false);
-  log.Append("a");
-  log.Append("b");
-  EXPECT_EQ(File(), "(none)");
-  machine.files.SetWritable(folder, true);
-  log.Append("c");
-  EXPECT_EQ(File(), "a\r\nb\r\nc\r\n");
+  const std::string full = std::string(engine::kErrorLogLimit - 2, 'x') + "\r\n";
+  struct Row {
+    const char* why;
+    std::string before;  // none: no file
+    std::string refuses;
+    std::string after;
+  };
+  const Row rows[] = {
+      {"the folder", "", folder, "a\r\nb\r\nc\r\n"},
+      {"a file held", "old\r\n", folder + "err.log", "old\r\na\r\nb\r\nc\r\n"},
+      {"the full log cannot be put aside", full, folder + "err.old.log", "a\r\nb\r\nc\r\n"},
+  };
+  for (const Row& row : rows) {
+    for (const bool wrote_before : {false, true}) {
+      SCOPED_TRACE(std::string(row.why) + (wrote_before ? ", written in this run" : ""));
+      memo.clear();
+      engine::ErrorLog fresh(machine.files, machine.locale, memo);
+      machine.files.Remove(folder + "err.log");
+      if (wrote_before && row.before.size() > 2) {
+        fresh.Append(std::string_view(row.before).substr(0, row.before.size() - 2));
+      } else if (!row.before.empty()) {
+        machine.files.PutBesideProgram("err.log", row.before);
+      }
+      const auto refuse = [&](bool refuses) {
+        machine.files.SetHeld(row.refuses, refuses);
+        machine.files.SetWritable(row.refuses, !refuses);
+      };
+      refuse(true);
+      fresh.Append("a");
+      fresh.Append("b");
+      EXPECT_EQ(File(), row.before.empty() ? "(none)" : row.before);
+      refuse(false);
+      fresh.Append("c");
+      EXPECT_EQ(File(), row.after);
+    }
+  }
+}
+
+TEST_F(ErrorLog, OfWhatCannotBeWrittenTheFirstIsKept) {
+  log.Append("old");
+  machine.files.SetHeld(folder + "err.log", true);
+  log.Append("the cause");
+  for (int more = 0; more < 100; ++more) log.Append(std::string(1000, 'x'));
+  EXPECT_LT(memo.size(), 80U);
+  machine.files.SetHeld(folder + "err.log", false);
+  log.Append("new");
+  EXPECT_TRUE(File().starts_with("old\r\nthe cause\r\nx"));
+  EXPECT_TRUE(File().ends_with("x\r\nnew\r\n"));
 }
 
 TEST_F(ErrorLog, LinesThatTheUserTookOutStayOut) {
@@ -105,7 +146,7 @@ TEST_F(ErrorLog, AFileThatCannotBeReadIsNotOverwritten) {
   log.Append("b");
   EXPECT_EQ(File(), "a\r\n");
   log.Append("c");
-  EXPECT_EQ(File(), "a\r\nc\r\n");
+  EXPECT_EQ(File(), "a\r\nb\r\nc\r\n");
 }
 
 }  // namespace

@@ -110,9 +110,8 @@ Form::~Form() {
 void Form::Show(platform::Activation activation) {
   Settle();
   const std::vector<Form*>& forms = App().Forms();
-  const bool any_topmost = std::any_of(forms.begin(), forms.end(), [](const Form* form) {
-    return form->Showing() && form->Window().Topmost();
-  });
+  const bool any_topmost = std::any_of(forms.begin(), forms.end(),
+                                       [](const Form* form) { return form->Window().Topmost(); });
   if (any_topmost && !Window().Topmost()) Window().SetTopmost(true);
   Window().Show(activation);
   FormShow();

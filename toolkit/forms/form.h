@@ -26,7 +26,7 @@ class Form : public Control {
   [[nodiscard]] Form& ParentForm() override { return *this; }
 
   // An activated form has the keyboard in its first control. Shown, it is where the user can take
-  // hold of it, and topmost if one that is shown is.
+  // hold of it, and topmost if another form is, also one that is hidden: it may come back.
   void Show(platform::Activation activation = platform::Activation::kActivate);
   void Hide();
   [[nodiscard]] bool Showing() const { return Window().Visible(); }

@@ -147,6 +147,11 @@ void WidgetWindow::StartReporting() {
   reporting_ = true;
 }
 
+void WidgetWindow::ReportMouse(const Message& message) {
+  if (WidgetWindow* top = Of(::GetAncestor(hwnd(), GA_ROOT))) top->HearMouse(hwnd(), message);
+  mouse_.Report(hwnd(), message, events_, lifetime());
+}
+
 void WidgetWindow::PublishName(std::string_view name) {
   published_name_ = ToWide(name);
   if (!published_name_.empty()) ::SetPropW(hwnd(), published_name_.c_str(), ThisModule());

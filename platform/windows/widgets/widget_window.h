@@ -57,6 +57,8 @@ class WidgetWindow : public NativeWindow {
   [[nodiscard]] virtual KeyTaker TakerOf(WPARAM /*key*/) { return KeyTaker::kDialog; }
   // The keyboard came to it by Tab.
   virtual void Reached() {}
+  // A mouse message came to a window inside it, or to itself.
+  virtual void HearMouse(HWND /*hwnd*/, const Message& /*message*/) {}
 
  protected:
   // `drawing` and `events` outlive this.
@@ -83,7 +85,7 @@ class WidgetWindow : public NativeWindow {
   void PublishName(std::string_view name);
   void ForgetName();
   void ReportSize();
-  void ReportMouse(const Message& message) { mouse_.Report(hwnd(), message, events_, lifetime()); }
+  void ReportMouse(const Message& message);
 
   [[nodiscard]] Drawing& drawing() const { return drawing_; }
   [[nodiscard]] WidgetEvents& events() const { return events_; }

@@ -1,6 +1,8 @@
 // A window while the user moves or sizes it.
 #pragma once
 
+#include <optional>
+
 #include "platform/geometry.h"
 #include "platform/windows/win32.h"
 
@@ -10,11 +12,17 @@ class DragWatch {
  public:
   [[nodiscard]] bool Active() const { return active_; }
 
-  void Begin(const Rect& bounds) {
+  // `grip`: where on the screen the pointer has hold of the window; nothing: where it is now, as
+  // when the system began the drag.
+  void Begin(const Rect& bounds, const std::optional<POINT>& grip) {
     active_ = true;
     heard_moves_ = false;
     start_ = bounds;
-    ::GetCursorPos(&grip_);
+    if (grip) {
+      grip_ = *grip;
+    } else {
+      ::GetCursorPos(&grip_);
+    }
   }
   void End() { active_ = false; }
 
@@ -40,7 +48,7 @@ class DragWatch {
   bool active_ = false;
   bool heard_moves_ = false;
   Rect start_;
-  POINT grip_{};  // where the pointer was
+  POINT grip_{};
 };
 
 }  // namespace platform::windows

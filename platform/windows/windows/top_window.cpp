@@ -170,20 +170,34 @@ void TopWindow::BeginDrag() {
   if (watch.Gone()) return;
   ::ReleaseCapture();
   ::SendMessageW(hwnd(), WM_SYSCOMMAND, kMoveByCaption, 0);
-  if (!watch.Gone()) dragging_ = false;
+  if (watch.Gone()) return;
+  dragging_ = false;
+  pressed_.reset();  // the release went to the system
+  grip_.reset();
 }
 
 // The drag is begun by the first move, which may be a long one; the system, or a window manager,
 // takes hold of the window only then, and it would trail behind the pointer by so much.
 void TopWindow::FollowPointer() {
-  POINT pressed = pressed_;
   POINT pointer{};
+  if (!pressed_ || !::GetCursorPos(&pointer)) return;
+  grip_ = pointer;
+  POINT pressed = *pressed_;
   ::ClientToScreen(hwnd(), &pressed);
-  if (!::GetCursorPos(&pointer)) return;
   Rect bounds = Bounds();
   bounds.left += static_cast<int>(pointer.x - pressed.x);
   bounds.top += static_cast<int>(pointer.y - pressed.y);
   SetBounds(bounds);
+}
+
+void TopWindow::HearMouse(HWND hwnd, const Message& message) {
+  const bool moves = message.id == WM_MOUSEMOVE;
+  if (message.id == WM_LBUTTONDOWN) {
+    pressed_ = PointIn(message.l);
+    ::MapWindowPoints(hwnd, this->hwnd(), &*pressed_, 1);
+  } else if (message.id == WM_LBUTTONUP || (moves && (message.w & MK_LBUTTON) == 0)) {
+    pressed_.reset();
+  }
 }
 
 void TopWindow::SetAlpha(std::uint8_t alpha) { SetWindowOpacity(hwnd(), alpha); }
@@ -285,11 +299,8 @@ std::optional<LRESULT> TopWindow::HandleSystem(const Message& message) {
 
 std::optional<LRESULT> TopWindow::HandleDrag(const Message& message) {
   switch (message.id) {
-    case WM_PARENTNOTIFY:
-      if (LOWORD(message.w) == WM_LBUTTONDOWN) pressed_ = PointIn(message.l);
-      return std::nullopt;
     case WM_ENTERSIZEMOVE:
-      drag_.Begin(Bounds());
+      drag_.Begin(Bounds(), grip_);
       return std::nullopt;
     case WM_EXITSIZEMOVE:
       EndDrag();

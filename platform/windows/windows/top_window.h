@@ -36,6 +36,7 @@ class TopWindow final : public WidgetOf<platform::TopWindow> {
   void CancelKey() { events_.OnCancelKey(); }
   // The focus came to this control of it.
   void FocusMoved(HWND control);
+  void HearMouse(HWND hwnd, const Message& message) override;
 
  protected:
   std::optional<LRESULT> Handle(const Message& message) override;
@@ -69,7 +70,10 @@ class TopWindow final : public WidgetOf<platform::TopWindow> {
   Rect reported_bounds_;
   ULONGLONG declines_focus_until_ = 0;  // in ticks of the system
   bool dragging_ = false;               // inside BeginDrag
-  POINT pressed_{};                     // where the button last went down, in the client area
+  // Where the left button, still down, went down in the client area; nothing when that was
+  // elsewhere.
+  std::optional<POINT> pressed_;
+  std::optional<POINT> grip_;  // inside BeginDrag: where on the screen the pointer has hold of it
   DragWatch drag_;
   WindowShape shape_;
 };
