@@ -5,10 +5,11 @@
 
 namespace program {
 
-// Also the name of the mutex that keeps a second copy from running.
+// This is also the name of the mutex that keeps a second copy from running.
 inline constexpr std::string_view kProductTitle = "Korvane Tremolux";
 
-// As in CMakeLists.txt and in the resources of the executable; a test compares.
+// The same version stands in CMakeLists.txt and in the resources of the executable; a test compares
+// them.
 inline constexpr std::string_view kVersion = "1.0.0";
 
 }  // namespace program
