@@ -21,8 +21,9 @@ class BandwidthAlert {
                  const language::Language& language, Reactions& reactions,
                  toolkit::PopupMenu& menu);
 
-  // The scan's step. Returns when the window that it may show is closed; scans go on meanwhile.
-  // From under an open menu it returns at once, and the window shows when the menu is gone.
+  // The alert's step of a scan. When it shows the window, it returns when the window is closed;
+  // scans go on meanwhile. While a menu is open it returns at once, and the window shows when the
+  // menu is gone.
   void Check();
 
   toolkit::Action Action{"BandwidthAlert"};

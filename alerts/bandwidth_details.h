@@ -20,15 +20,14 @@ class BandwidthDetails {
   BandwidthDetails(toolkit::Control& parent, settings::Store& store,
                    const language::Language& language);
 
-  // Design pixels; at least 200 wide and 134 high.
+  // `bounds` is in design pixels, at least 200 wide and 134 high.
   void SetBounds(const platform::Rect& bounds);
 
-  // Texts and hints in the user's language.
+  // Gives the rows their texts and hints in the user's language.
   void Localise();
 
-  // Shows the stored figures. A stored unit or period that does not exist
-  // leaves its rows at their text. Throws settings::ConversionError when a
-  // stored total is no number.
+  // Shows the stored figures. When the stored unit or period does not exist, the rows that depend
+  // on it keep their text. Throws settings::ConversionError when a stored total is no number.
   void Refresh(const quantity::Formatter& format);
 
  private:

@@ -19,11 +19,13 @@ class Notifications {
   Notifications(toolkit::Application& app, settings::Store& store,
                 const language::Language& language, Reactions& reactions);
 
-  // The scan's step: counts the scans in a row that were at or below, at or above the stored number
-  // of bytes. Switched off, it stops the timer and leaves the counts as they are.
+  // The notifications' step of a scan: counts the scans in a row whose bytes were at or below
+  // ("Less") or at or above ("More") the stored threshold. When notifications are switched off, it
+  // stops the timer and leaves the counts as they are.
   void CheckNotifications(const engine::ScanAmounts& scan);
 
-  // Compares the counts with the stored seconds, once a second while a rule watches something.
+  // The timer compares the counts with the stored seconds, once a second while a rule watches
+  // something.
   toolkit::Timer TimeOutTimer;
 
   toolkit::Action LessNotification{"LessNotification"};
@@ -41,7 +43,7 @@ class Notifications {
   const language::Language& language_;
   Reactions& reactions_;
 
-  // Scans in a row that the rule holds for.
+  // The number of scans in a row for which the rule holds.
   std::int64_t LessUploadedTicks = 0;
   std::int64_t LessDownloadedTicks = 0;
   std::int64_t MoreUploadedTicks = 0;

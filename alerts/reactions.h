@@ -11,17 +11,18 @@
 namespace alerts {
 
 // The stored codes of "LessAction", "MoreAction" and "BAAction". The lists offer "Display Message"
-// twice, and the second one does nothing; users have both stored. Other codes do nothing either.
+// twice, and the second one (code 3) does nothing; both codes are kept. Other codes do nothing
+// either.
 inline constexpr std::int64_t kNoAction = 0;
 inline constexpr std::int64_t kDisplayMessage = 1;
 inline constexpr std::int64_t kShutdownComputer = 2;
 inline constexpr std::int64_t kInertDisplayMessage = 3;
 
-// Shows balloons; the tray icon does.
+// Shows balloons; the tray icon implements it.
 class Balloons {
  public:
   virtual ~Balloons() = default;
-  // Cut at 63 characters of title and 255 of text.
+  // Shows a balloon for so many seconds. The title is cut at 63 characters, the text at 255.
   virtual void ShowBalloon(std::string_view title, std::string_view text,
                            platform::BalloonIcon icon, int seconds) = 0;
 };
@@ -32,12 +33,12 @@ class Reactions {
   Reactions(platform::Sound& sound, Balloons& balloons, Shutdown& shutdown)
       : sound_(sound), balloons_(balloons), shutdown_(shutdown) {}
 
-  // Starts the sound and does not wait for it; a file that cannot be played is silence.
+  // Starts the sound and does not wait for its end. A file that cannot be played stays silent.
   void PlayWave(std::string_view path) { sound_.Play(path); }
   void Warn(std::string_view title, std::string_view text, int seconds) {
     balloons_.ShowBalloon(title, text, platform::BalloonIcon::kWarning, seconds);
   }
-  // Without a question; a refusal of the system is silent.
+  // Ends the session without asking the user. Nothing happens when the system refuses.
   void ShutDownComputer() { shutdown_.Execute(); }
 
  private:

@@ -1,4 +1,4 @@
-// What the program does to the system itself: its end and its lock keys.
+// What the program does to the system itself: it ends the session and presses lock keys.
 #pragma once
 
 #include <cstdint>
@@ -11,7 +11,7 @@
 
 namespace alerts {
 
-// By the flag of ExitWindowsEx.
+// Each value is the flag of ExitWindowsEx.
 enum class ExitType : std::uint32_t {
   xLogoff = 0,
   xReboot = 2,
@@ -29,21 +29,21 @@ class Shutdown {
   std::string ConfirmText = "Are you sure you want to reboot your PC now ?";
 
   std::function<void()> OnBeforeShutdown;
-  // Asks a Yes/No question; true for Yes. Without a handler the answer is No.
+  // Asks the user a Yes/No question and returns true for Yes. Without a handler the answer is No.
   std::function<bool(std::string_view question)> OnConfirm;
   std::function<void(std::uint32_t code)> OnError;
 
-  // Asks the system to end the session, with the privilege that this takes enabled meanwhile. On
-  // success the program ends too. Returns 0, also when the user said No, or the system's error
-  // code; the program then goes on.
+  // Asks the system to end the session (ExitWindowsEx), with the privilege that this takes enabled
+  // meanwhile. Returns 0 when the session ends, and the program then ends too; 0 when the user said
+  // No; otherwise the system's error code. In the last two cases the program goes on.
   std::uint32_t Execute();
 
  private:
   toolkit::Application& app_;
 };
 
-// A lock key as its byte of the keyboard state: 1 on, 0 off; another value means that the key is
-// held down just now, and then nobody knows.
+// The lock keys. Each state is the key's byte of the keyboard state: 1 for on, 0 for off. Another
+// value means that the key is held down just now, so that its state is not known.
 class TQelSysKeys {
  public:
   explicit TQelSysKeys(platform::Keyboard& keyboard) : keyboard_(keyboard) {}
@@ -52,8 +52,8 @@ class TQelSysKeys {
   [[nodiscard]] std::uint8_t NumLock() const { return keyboard_.State(kNumLock); }
   [[nodiscard]] std::uint8_t ScrollLock() const { return keyboard_.State(kScroll); }
 
-  // Presses and releases the key, which toggles it whatever its state is. So it is only called when
-  // the state differs from the wanted one.
+  // Press and release the key, which toggles it whatever its state is. Call them only when the
+  // state differs from the wanted one.
   void ToggleCapsLock() { Stroke(kCapital); }
   void ToggleNumLock() { Stroke(kNumLock); }
   void ToggleScrollLock() { Stroke(kScroll); }
@@ -62,7 +62,7 @@ class TQelSysKeys {
   static constexpr std::uint8_t kCapital = 20;
   static constexpr std::uint8_t kNumLock = 144;
   static constexpr std::uint8_t kScroll = 145;
-  // That of Num Lock, sent for all three: the system goes by the virtual key.
+  // The scan code of Num Lock is sent for all three keys: the system goes by the virtual key.
   static constexpr std::uint8_t kScanCode = 69;
 
   void Stroke(std::uint8_t virtual_key) {

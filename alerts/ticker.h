@@ -14,8 +14,8 @@ class Ticker {
   // Both outlive the ticker.
   Ticker(settings::Store& store, Reactions& reactions) : store_(store), reactions_(reactions) {}
 
-  // Counts a scan in which bytes moved both ways, and plays at most one sound. What is counted
-  // beyond one tick is kept for the scans that follow.
+  // Counts a scan, if bytes moved in both directions, and plays at most one sound. Bytes counted
+  // beyond one tick are kept for the scans that follow.
   void Update(const engine::ScanAmounts& scan);
 
  private:

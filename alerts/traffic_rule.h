@@ -8,15 +8,16 @@
 namespace alerts {
 
 struct TrafficRule {
-  settings::BooleanSetting downloaded;  // it watches this direction
+  settings::BooleanSetting downloaded;  // the rule watches this direction
   settings::BooleanSetting uploaded;
-  settings::IntegerSetting bytes;    // its threshold
-  settings::IntegerSetting seconds;  // it reacts after so many scans in a row
+  settings::IntegerSetting bytes;    // the rule's threshold
+  settings::IntegerSetting seconds;  // the rule reacts after so many scans in a row
   settings::BooleanSetting is_play;
   settings::TextSetting wave;
   settings::IntegerSetting action;  // a code of alerts/reactions.h
   settings::TextSetting message;
-  // Whether the bytes of a scan qualify. The threshold itself does for both rules.
+  // Returns whether the bytes of a scan qualify. An amount equal to the threshold qualifies for
+  // both rules.
   bool (*qualifies)(std::int64_t amount, std::int64_t threshold);
 };
 

@@ -1,4 +1,4 @@
-// The window that tells that the bandwidth limit is reached.
+// The bandwidth alert window, which tells the user that the bandwidth limit is reached.
 #pragma once
 
 #include "alerts/bandwidth_details.h"
@@ -16,8 +16,8 @@ inline constexpr std::string_view kBandWidthAlertForm = "T_frmBandWidthAlert";
 
 class T_frmBandWidthAlert final : public toolkit::Form {
  public:
-  // Made hidden, its figures filled in with the first tick. All outlive the
-  // window.
+  // Makes the window hidden; its figures are filled in at the first tick of the timer. All
+  // arguments outlive the window.
   T_frmBandWidthAlert(toolkit::Application& app, settings::Store& store,
                       quantity::Quantity& quantity, const language::Language& language);
 

@@ -9,7 +9,7 @@ class Application;
 
 namespace display {
 
-// Returns when it is closed. One that is open already is raised.
+// Shows the about box and returns when it is closed. An about box that is open already is raised.
 void ShowAbout(toolkit::Application& app, const language::Language& language);
 
 }  // namespace display

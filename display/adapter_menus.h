@@ -29,7 +29,8 @@ class AdapterMenus {
   // Takes the ticks of "Connection Sources" over from the store.
   void ReadTicks();
 
-  // The adapters are others, or one was ticked or unticked in the menu.
+  // Runs when the list of adapters was replaced, or when the user ticked or unticked an adapter in
+  // the menu.
   std::function<void()> OnChange;
 
   // Opens the statistics window of the adapter with this description; while it is empty the items

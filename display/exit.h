@@ -1,4 +1,4 @@
-// The end of the program at the user's wish.
+// Ends the program when the user asks for it.
 #pragma once
 
 #include "language/language.h"
@@ -10,17 +10,17 @@ class Application;
 
 namespace display {
 
-// Two things can stand in its way: the administrator lock ("zdP1") with the password prompt, and
-// then, if "AskOnExit" is on, the question.
+// Before the end come the password prompt, if the administrator lock ("zdP1") is on, and then, if
+// "AskOnExit" is on, the question whether the user is sure.
 class Exit {
  public:
-  // All outlive it.
+  // All arguments outlive the object.
   Exit(toolkit::Application& app, settings::Store& store, const language::Language& language)
       : app_(app), store_(store), language_(language) {}
 
-  // Asks what there is to ask, while scans go on, and ends the program unless the user stays. What
-  // is open meanwhile, also around the caller, ends with kCancel. While something is asked already
-  // it is raised, and nothing else happens.
+  // Asks for the password and the confirmation as needed, while scans go on, and ends the program
+  // unless the user declines. Every modal window that is open then, the caller's own too, ends with
+  // kCancel. While a prompt or question is open already, it is raised and nothing else happens.
   void Request();
 
  private:

@@ -20,8 +20,8 @@ struct HotKeyItem {
   std::function<void()> OnKeyDown;
 };
 
-// Registered with the system as long as it exists. One that another program has taken already stays
-// silent.
+// Keeps the hot keys registered with the system as long as it exists. A combination that another
+// program has taken does nothing, and the user is not told.
 class HotKeyHolder {
  public:
   HotKeyHolder(toolkit::Application& app, std::vector<HotKeyItem> items);

@@ -6,7 +6,7 @@
 
 namespace display {
 
-// The items in their order; what they do is set by the window. The items belong to the menu.
+// The items stand in the order of the menu, which owns them. The meter window sets what they do.
 struct MainMenu {
   explicit MainMenu(toolkit::Application& app);
 

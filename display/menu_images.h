@@ -5,7 +5,7 @@
 
 namespace display {
 
-// Indices into MenuImages; that of the adapters is part of the menu's design.
+// Indices into kMenuImages.
 inline constexpr int kStatisticsImage = 0;
 inline constexpr int kGraphImage = 1;
 inline constexpr int kAdapterImage = 2;

@@ -12,8 +12,8 @@
 
 namespace display {
 
-// Whether a text has the form of the numeric line, whatever the language, the unit and the decimal
-// separator were when it was made. An empty line has none.
+// Returns whether a text has the form of the numeric line, whatever the language, the unit and the
+// decimal separator were when it was made. Returns false for an empty text.
 [[nodiscard]] bool IsNumericLine(std::string_view text);
 
 class NumericLine {
@@ -23,19 +23,20 @@ class NumericLine {
               const language::Language& language)
       : store_(store), quantity_(quantity), language_(language) {}
 
-  // The averaging period in scans. Another one than before starts the average anew.
+  // Sets the averaging period, in scans. A changed period starts the average anew.
   void SetAveragePeriod(std::int64_t scans);
 
-  // The texts of an idle line, each only if its mode is on.
+  // Sets the texts of an idle line, each only if its mode is on.
   void Reset();
 
-  // A mode is switched on, in bits or bytes, which shows the text of an idle line until the next
-  // amounts come, or off; the others stay. What is not stored yet counts here.
+  // Switches one mode on or off; the other modes stay. A mode that is switched on shows the text of
+  // an idle line, in bits or bytes, until the next amounts come. `on` counts, whatever is stored.
   void ShowMode(const settings::BooleanSetting& mode, bool on);
-  // The line in another unit: the texts of an idle line.
+  // Changes the unit of the line: sets the texts of an idle line in that unit.
   void ShowUnit(bool bits);
 
-  // Takes over another language's words, in texts that stay until an average is next due too.
+  // Takes over the words of the user's language, also in the texts that stay until an average is
+  // next due.
   void Localise();
 
   // Takes the amounts of one scan and makes the texts of the modes that are on.
@@ -44,11 +45,13 @@ class NumericLine {
   // Zeroes the sums of the average but leaves its scan counter where it stands.
   void ClearSums();
 
-  // The texts of the modes that are on, one behind the other; empty with all three off.
+  // Returns the texts of the modes that are on, one after the other, or an empty text when all
+  // three are off.
   [[nodiscard]] std::string Joined() const { return current_ + average_ + maximum_; }
-  // What the meter shows: the joined texts or, with all three off, the product's name.
+  // Returns what the meter shows: the joined texts, or the product's name when all three modes are
+  // off.
   [[nodiscard]] std::string Label() const;
-  // What the tray icon's hint says.
+  // Returns the text of the tray icon's hint.
   [[nodiscard]] std::string TrayHint() const;
 
   // Replaces the average text until the average is next due.
@@ -64,7 +67,7 @@ class NumericLine {
   quantity::Quantity& quantity_;
   const language::Language& language_;
 
-  // Looked up anew, and remembered.
+  // Looks the start of the average's text up and remembers it in average_start_.
   std::string AverageStart();
 
   std::string current_;

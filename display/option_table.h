@@ -1,5 +1,5 @@
-// What the stored options do to the running meter. The start, an initialisation anew, a reset and
-// every control of the preferences go down the one table in option_table.cpp.
+// What the stored options do to the running meter. The start, a new initialisation, a reset and
+// every control of the preferences all use the one table in option_table.cpp.
 #pragma once
 
 #include <cstdint>
@@ -38,15 +38,16 @@ struct MeterParts {
   alerts::Notifications& notifications;
 };
 
-// By the type of the setting.
+// The value of an option; its alternative depends on the type of the setting.
 using OptionValue = std::variant<bool, std::int64_t, platform::Colour, std::string>;
 
-// Whether the scale and the cap that goes with it are taken from the store too, or stay.
+// Whether the scale and the speed cap that goes with it are taken from the store too, or stay as
+// they are.
 enum class ScaleTaken { kFromStore, kAsItIs };
 
 class OptionTable {
  public:
-  // What is behind the parts outlives it.
+  // Everything that `parts` refers to outlives the table.
   explicit OptionTable(const MeterParts& parts) : parts_(parts) {}
   OptionTable(const OptionTable&) = delete;
   OptionTable& operator=(const OptionTable&) = delete;
@@ -55,24 +56,24 @@ class OptionTable {
   // averaging period, in this order.
   void ApplyStored(ScaleTaken scale);
 
-  // The user has chosen another value: the meter takes it, then it is stored, and then what is read
-  // from the store when it is shown is shown anew. Throws std::runtime_error when the system
-  // refuses to store it.
+  // Applies a value that the user has chosen: gives it to the meter, stores it, and then shows anew
+  // what reads the store when it is shown. Throws std::runtime_error when the system refuses to
+  // store the value.
   template <class Setting, class Value>
   void Change(const Setting& setting, const Value& value) {
     Run(setting.name, Moment::kChosen, value);
     parts_.store.Write(setting, value);
     Run(setting.name, Moment::kStored, value);
   }
-  // The meter takes a value that is stored already.
+  // Gives the meter a value that is stored already.
   template <class Setting, class Value>
   void Take(const Setting& setting, const Value& value) {
     Run(setting.name, Moment::kChosen, value);
     Run(setting.name, Moment::kStored, value);
   }
 
-  // The scale, which two values make together, for the graph and, unless it stays, the cap of the
-  // sampler. Nothing, for a choice that the list does not have, changes nothing.
+  // Gives the graph its scale, which two stored values make together, and with kFollows the sampler
+  // its cap. A nullopt, which stands for a choice that the list does not have, changes nothing.
   enum class Cap { kFollows, kStays };
   void TakeScale(const std::optional<settings::AppliedScale>& scale, Cap cap);
 

@@ -1,4 +1,4 @@
-// What the preferences work on.
+// The parts of the running meter that the preferences work on.
 #pragma once
 
 #include "display/adapter_menus.h"

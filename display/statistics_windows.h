@@ -16,15 +16,15 @@ namespace display {
 class StatisticsWindows {
  public:
   // What `context` names outlives the windows.
-  //   open_settings  opens the preferences, from a window's own link
+  //   open_settings  opens the preferences, used by the link in a window
   StatisticsWindows(const stats::StatisticsContext& context, std::function<void()> open_settings);
   ~StatisticsWindows();
 
-  // Shows "DL-UL Statistics"; one that is open is raised.
+  // Shows the window "DL-UL Statistics", or raises it when it is open.
   void OpenMachine();
 
-  // Shows the window of the adapter with this description and returns when it is closed; while one
-  // is open it is raised, whichever adapter's it is.
+  // Shows the window of the adapter with this description and returns when it is closed. While an
+  // adapter's window is open, that one is raised instead, whichever adapter it shows.
   void OpenAdapter(const std::string& description);
 
  private:

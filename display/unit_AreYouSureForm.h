@@ -15,10 +15,10 @@ namespace display {
 
 inline constexpr std::string_view kAreYouSureForm = "T_frmAreYouSure";
 
-// Ends with kYes or kNo; closed in another way, with kCancel.
+// Ends with kYes or kNo, or with kCancel when it is closed in another way.
 class T_frmAreYouSure final : public toolkit::Form {
  public:
-  // Made hidden; shown by the modal stack. All outlive it.
+  // Makes the window hidden; the modal stack shows it. All arguments outlive the window.
   T_frmAreYouSure(toolkit::Application& app, settings::Store& store,
                   const language::Language& language);
 

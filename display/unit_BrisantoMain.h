@@ -41,19 +41,20 @@ namespace display {
 
 class T_frmBrisanto final : public toolkit::Form, private engine::ScanSteps {
  public:
-  // Made, initialised, shown without taking the focus, and scanning. `app` outlives the window.
+  // Makes the window, initialises it, shows it without taking the focus and starts the scans. `app`
+  // outlives the window.
   explicit T_frmBrisanto(toolkit::Application& app);
   ~T_frmBrisanto() override;
 
   [[nodiscard]] engine::TrafficState& Traffic() { return traffic_; }
   [[nodiscard]] RunningMeter Parts();
 
-  // The one call that opens the preferences, which belong to it; until it is set they cannot be
-  // opened.
+  // Sets the function that opens the preferences and owns them. Until it is set, the preferences
+  // cannot be opened.
   void SetPreferences(std::function<void()> open);
 
-  // Takes the stored display settings over into all parts: at the start, when the adapters changed,
-  // and after a reset of the settings.
+  // Applies the stored display settings to all parts. It runs at the start, when the adapters
+  // changed, and after a reset of the settings.
   void ApplyDisplaySettings(ScaleTaken scale = ScaleTaken::kFromStore);
 
   // Shows the numeric line as it is now, in the window and in the hint of the icon.
@@ -65,8 +66,8 @@ class T_frmBrisanto final : public toolkit::Form, private engine::ScanSteps {
   void Localise() override;
 
  private:
-  // The initialisation; run again by the scan when the number of adapters changed, and then it
-  // leaves run totals, counts, sums, visibility, focus, place and the scan's phase alone.
+  // Initialises the window. The scan runs it again when the number of adapters changed; then it
+  // keeps run totals, counts, sums, visibility, focus, place and the scan's phase.
   void FormCreate();
   void DesignControls();
   void ConnectHandlers();
@@ -158,7 +159,8 @@ class T_frmBrisanto final : public toolkit::Form, private engine::ScanSteps {
   HotKeyHolder GlobalAtomKey;
   Exit exit_;
 
-  std::function<void()> open_preferences_;  // last: the preferences go before what they change
+  std::function<void()>
+      open_preferences_;  // last, so that the preferences are destroyed before what they change
 };
 
 }  // namespace display

@@ -12,19 +12,21 @@
 
 namespace engine {
 
-// The description, which is the adapter's identity everywhere in the program. May be empty.
+// Returns the description, which is the adapter's identity everywhere in the program. It may be
+// empty.
 [[nodiscard]] std::string AdapterDescription(const platform::InterfaceRow& row,
                                              platform::Locale& locale);
 
-// Whether this is the loopback, which neither counts nor is persisted. The case of A to Z does not
-// matter, a blank at an end does.
+// Returns whether this is the loopback, which is neither counted nor persisted. The case of A to Z
+// does not matter; a blank at either end does.
 [[nodiscard]] bool IsLoopback(std::string_view description);
 
-// "00-1A-2B-3C-4D-5E"; "00-00-00-00-00-00" for no bytes at all.
+// Returns a text like "00-1A-2B-3C-4D-5E", or "00-00-00-00-00-00" when there are no bytes.
 [[nodiscard]] std::string FormatMacAddress(std::span<const std::uint8_t> address);
 [[nodiscard]] std::string FormatMacAddress(const platform::InterfaceRow& row);
 
-// Stores hardware address, speed and MTU.
+// Stores the adapter's hardware address, speed and MTU. Throws std::runtime_error when a write is
+// refused.
 void WriteAdapterData(settings::Store& store, std::string_view description,
                       const platform::InterfaceRow& row);
 

@@ -16,11 +16,12 @@ struct CounterGroup {
   settings::CounterSetting total_ul;
   settings::CounterSetting max_dl;
   settings::CounterSetting max_ul;
-  // A reset writes the totals and then the maxima, DL first; the week's maxima UL first.
+  // A reset writes the totals and then the maxima, DL before UL. Only the week's maxima are written
+  // UL before DL.
   bool resets_max_ul_first = false;
 };
 
-// Since the last reset; the machine's totals of this kind are not kept by the scan.
+// The counters since the last reset. The scan does not keep the machine's totals of this group.
 inline constexpr CounterGroup kInfoGroup{
     settings::setting::InfoTotalDL, settings::setting::InfoTotalUL, settings::setting::InfoMaxDL,
     settings::setting::InfoMaxUL};
@@ -34,7 +35,7 @@ inline constexpr CounterGroup kMonthGroup{
     settings::setting::CurrentMonthTotalDL, settings::setting::CurrentMonthTotalUL,
     settings::setting::CurrentMonthMaxDL, settings::setting::CurrentMonthMaxUL};
 
-// What a scan adds to a group: bytes, and the candidates for the maxima.
+// What a scan adds to a group: its bytes, and the candidates for the maxima (bytes too).
 struct GroupAmounts {
   std::int64_t dl = 0;
   std::int64_t ul = 0;
@@ -42,18 +43,20 @@ struct GroupAmounts {
   std::int64_t max_ul = 0;
 };
 
-// Whose counters they are: the machine's, under Settings, or an adapter's, under AdapterDatas with
-// the adapter's name in front of each value name.
+// The owner of a set of counters: the machine, whose counters are stored under Settings, or an
+// adapter, whose counters are stored under AdapterDatas with the adapter's name in front of each
+// value name.
 class CounterOwner {
  public:
   [[nodiscard]] static CounterOwner Machine(settings::Store& store);
-  // As the scan counts it: under the trimmed name.
+  // Returns the owner that the scan counts for: the adapter under its trimmed name.
   [[nodiscard]] static CounterOwner Adapter(settings::Store& store, std::string_view description);
-  // As its window shows it: blanks at the ends of the caption are kept, so the window of an adapter
-  // whose description has some shows zeros; both forms stay as they are.
+  // Returns the owner that the adapter's window shows. Blanks at the ends of the caption are kept,
+  // so the window of an adapter whose description has such blanks shows zeros. Both forms of the
+  // name are kept.
   [[nodiscard]] static CounterOwner AdapterWindow(settings::Store& store, std::string_view caption);
 
-  // Throws ConversionError when the stored text is no number.
+  // Returns the stored value. Throws ConversionError when the stored text is no number.
   [[nodiscard]] std::int64_t Read(const settings::CounterSetting& counter) const;
 
   // Adds to the totals and raises the maxima, each value read, changed and written in turn. Throws
@@ -61,12 +64,13 @@ class CounterOwner {
   // what was written before stays.
   void Add(const CounterGroup& group, const GroupAmounts& amounts) const;
 
-  // Write "0", to one or to all four. Throw std::runtime_error when a write is refused.
+  // Write "0" to one counter, or to all four of a group. Throw std::runtime_error when a write is
+  // refused.
   void Reset(const settings::CounterSetting& counter) const;
   void Reset(const CounterGroup& group) const;
 
  private:
-  // When a candidate replaces a stored maximum. An adapter also writes one that is equal.
+  // When a candidate replaces a stored maximum. For an adapter an equal candidate is written too.
   enum class MaxRule { kGreater, kGreaterOrEqual };
 
   CounterOwner(settings::Store& store, settings::KeyIndex key, std::string prefix, MaxRule rule)

@@ -18,18 +18,18 @@ class InterfaceReader {
  public:
   explicit InterfaceReader(platform::InterfaceTable& source) : source_(source) {}
 
-  // Refills `table`. When the system refuses, or the table grew between the two calls that it
-  // takes, or nothing is in it, `table` keeps what it holds. A row of which the system does not say
-  // whether it is a filter is left out and asked about at the next read that asks; after three
-  // refusals it counts.
+  // Refills `table`. When the system refuses, or the table grew between the two calls that a read
+  // takes, or the system's table is empty, `table` keeps what it holds. When the system does not
+  // say whether a row is a filter, the row is left out, and the next read with kAskAbout asks
+  // again; after three refusals the row counts.
   void ReadInterfaceTable(std::vector<platform::InterfaceRow>& table,
                           NewRows new_rows = NewRows::kAskAbout);
 
  private:
   struct KnownRow {
     std::uint32_t index;
-    std::string description;     // bytes of the code page
-    std::optional<bool> filter;  // nothing: the system has not said yet
+    std::string description;     // as bytes of the system's code page
+    std::optional<bool> filter;  // nullopt: the system has not said yet
     int refusals = 0;
   };
 

@@ -39,7 +39,7 @@ class InterfaceSampler {
   // Throws what the store throws; the table then counts as not initialised.
   [[nodiscard]] std::vector<AdapterItem> InitAdapters();
 
-  // Reads the table; whether its row count differs from that of the last InitAdapters.
+  // Reads the table and returns whether its row count differs from that at the last InitAdapters.
   [[nodiscard]] bool RowCountChanged();
 
   // Reads the table and measures one scan; hands each adapter that is to be persisted to `persist`,
@@ -48,11 +48,11 @@ class InterfaceSampler {
   // this scan are not counted by a later one.
   [[nodiscard]] ScanAmounts SampleInterfaces(const Persist& persist);
 
-  // Takes the present counters as those of the previous scan. For the return from sleep, when
-  // drivers may have started theirs anew and a difference is no traffic.
+  // Takes the present counters as those of the previous scan. This is for the return from sleep,
+  // when drivers may have started their counters anew, so that a difference is no traffic.
   void TakePresentCounters();
 
-  // The adapters' descriptions by row of the table as last read.
+  // Returns the description of each row of the table as last read, in row order.
   [[nodiscard]] std::vector<std::string> Descriptions() const;
 
  private:

@@ -9,11 +9,12 @@
 
 namespace engine {
 
-// The last of the addresses that the machine's name has, as dotted text; empty when there is none.
-// May block as long as the look-up does.
+// Returns the last of the addresses that the machine's name has, as dotted text, or an empty text
+// when there is none. Blocks as long as the look-up takes.
 [[nodiscard]] std::string GetLocalIP(platform::Sockets& sockets);
 
-// The start's step: copies the address if the user wants that ("CopyIP").
+// A step of the program's start: copies the address to the clipboard if the user wants that
+// ("CopyIP").
 void CopyLocalIPIfWanted(settings::Store& store, platform::Sockets& sockets,
                          platform::Clipboard& clipboard);
 

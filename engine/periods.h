@@ -11,15 +11,15 @@ namespace engine {
 
 enum class Period { kDay, kWeek, kMonth };
 
-// In the order in which they are brought up to date.
+// The periods in the order in which they are brought up to date.
 inline constexpr std::array kPeriods = {Period::kDay, Period::kWeek, Period::kMonth};
 
 [[nodiscard]] const CounterGroup& CountersOf(Period period);
 
-// How a stored marker ("CurrentDay", "CurrentWeek", "CurrentMonth") stands to today.
+// How a stored marker ("CurrentDay", "CurrentWeek", "CurrentMonth") compares with today.
 enum class MarkerAge {
-  kSame,  // today's
-  kNext,  // a neighbour: the period is over once its start day is reached
+  kSame,  // the marker is today's
+  kNext,  // a neighbour: the old period is over once the start day is reached
   kFar,   // too far away to wait for a start day
 };
 
@@ -29,20 +29,20 @@ class Periods {
   //   today  midnight of the local date
   Periods(settings::Store& store, platform::DateTime today);
 
-  // Reads the marker.
+  // Reads the period's marker and returns its age.
   //   day    another date is kNext, and every day has begun: it rolls over at once.
   //   week   one number higher is kNext; lower (a new year, a clock set back) or further is kFar.
   //   month  one number higher or lower is kNext, all else kFar: from 12 to 1 rolls over at once.
   [[nodiscard]] MarkerAge Age(Period period) const;
 
-  // Whether today is the start day of the new period or behind it. Reads "wPerStartsOn" (1 = Sunday
-  // ... 7 = Saturday, smaller ones mean the day on which the week number changes) or "mPerStartsOn"
-  // (the month starts on the day after that one).
+  // Returns whether today is the start day of the new period or later. Reads "wPerStartsOn" (1 =
+  // Sunday ... 7 = Saturday; a smaller value means the day on which the week number changes) or
+  // "mPerStartsOn" (the month starts on the day after the stored one).
   [[nodiscard]] bool HasStarted(Period period) const;
 
-  // Begins today's period for the machine: writes its marker, "0" to its counters, and that the
-  // bandwidth alert may be given again. Throws std::runtime_error when the system refuses a write;
-  // what was written before stays.
+  // Begins today's period for the machine: writes the period's marker, writes "0" to its counters,
+  // and allows the bandwidth alert again. Throws std::runtime_error when the system refuses a
+  // write; what was written before stays.
   void RollOver(Period period) const;
 
  private:

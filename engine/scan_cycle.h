@@ -10,14 +10,14 @@
 
 namespace engine {
 
-// The steps of a scan that belong to the floors above; the meter window implements them. Each may
-// throw, which ends the scan.
+// The steps of a scan that belong to the floors above; the meter window implements them. Each step
+// may throw, which ends the scan.
 class ScanSteps {
  public:
   virtual ~ScanSteps() = default;
 
-  // The number of adapters changed: empties both adapter menus and runs the window's whole
-  // initialisation again.
+  // Runs when the number of adapters changed: empties both adapter menus and runs the window's
+  // whole initialisation again.
   virtual void Reinitialise() = 0;
   // Hands the graph its bytes of this scan (`TestRead`, `TestWrite`).
   virtual void FeedGraph(std::int32_t TestRead, std::int32_t TestWrite) = 0;
@@ -25,9 +25,9 @@ class ScanSteps {
   virtual void ShowKeyboardLights(const ScanAmounts& scan) = 0;
   // Advances the counts of the traffic notifications.
   virtual void CheckNotifications(const ScanAmounts& scan) = 0;
-  // The numeric line, the tray icon's hint and the posted titles.
+  // Updates the numeric line, the tray icon's hint and the posted titles.
   virtual void ShowNumericLine(const ScanAmounts& scan) = 0;
-  // The ticker's sound.
+  // Counts the scan for the ticker, which may play its sound.
   virtual void Tick(const ScanAmounts& scan) = 0;
   // May show a modal window, during which further scans run.
   virtual void CheckBandwidthAlert() = 0;
@@ -42,13 +42,13 @@ class ScanCycle {
   ScanCycle(const ScanCycle&) = delete;
   ScanCycle& operator=(const ScanCycle&) = delete;
 
-  // One scan, called once a second. Whatever a step throws passes out to the caller; the steps
-  // behind it are left out, and the next scan starts clean. Called while a scan is under way it
-  // does nothing, except inside that scan's bandwidth step.
+  // Does one scan; it is called once a second. An exception of a step passes out to the caller; the
+  // later steps are left out, and the next scan starts clean. A call while a scan is under way does
+  // nothing, except inside that scan's bandwidth step.
   void Run();
 
  private:
-  // Where the scan that is under way stands.
+  // How far the scan that is under way has come.
   enum class Stage { kIdle, kBusy, kInBandwidthStep };
 
   void ReinitialiseIfRowsChanged();

@@ -11,13 +11,14 @@
 
 namespace engine {
 
-// All of it throws what the store throws: settings::ConversionError for a stored counter that is no
-// number, std::runtime_error for a refused write. What was written before stays.
+// All functions throw what the store throws: settings::ConversionError for a stored counter that is
+// no number, std::runtime_error for a refused write. What was written before stays.
 class Statistics {
  public:
   explicit Statistics(settings::Store& store) : store_(store) {}
 
-  // Counts the start. The very first one also sets the period markers and includes every adapter.
+  // Counts the start of the program. The very first start also sets the period markers and includes
+  // every adapter.
   //   descriptions  of all rows of the interface table, the loopback's too
   //   now           local date and time
   void InitStatistics(std::span<const std::string> descriptions, platform::DateTime now);
@@ -26,9 +27,10 @@ class Statistics {
   //   today  midnight of the local date
   void PersistAdapter(const AdapterScan& adapter, platform::DateTime today);
 
-  // The statistics of one adapter, in a scan that persists it. It compares with the machine's
-  // period markers and does not write them, so that all adapters of the scan roll over together;
-  // one that is not persisted in that scan misses the reset and goes on adding to the old values.
+  // Updates the statistics of one adapter, in a scan that persists it. It compares today with the
+  // machine's period markers and does not write them, so that all adapters of the scan roll over
+  // together. An adapter that is not persisted in that scan misses the reset and goes on adding to
+  // the old values.
   //   today  midnight of the local date
   void UpdateAdapterStatistics(std::string_view description, const AdapterCounters& counters,
                                platform::DateTime today);

@@ -17,12 +17,12 @@ namespace engine {
 struct ScanAmounts {
   std::int64_t ScanSumDL = 0;
   std::int64_t ScanSumUL = 0;
-  // Sums of the adapters' largest scans so far, which need not have been the same scan.
+  // The sums of each adapter's largest scan so far; these need not be the same scan.
   std::int64_t ScanMaxDL = 0;
   std::int64_t ScanMaxUL = 0;
 };
 
-// Of one row of the interface table. All wrap at 2^32.
+// The counters of one row of the interface table. All wrap at 2^32.
 struct AdapterCounters {
   std::uint32_t ActiveInScans = 0;  // scans in which something was received
   std::uint32_t ActiveOutScans = 0;
@@ -36,17 +36,19 @@ struct AdapterCounters {
   std::uint32_t MaxOut = 0;
 };
 
-// What one scan hands on of an adapter.
+// What one scan hands on about one adapter.
 struct AdapterScan {
   std::string_view description;
   const platform::InterfaceRow& row;
   const AdapterCounters& counters;
 };
 
-// No table has this highest index (an empty one has -1), so a table of any size differs from it.
+// The highest row index while nothing is initialised. No table has it (an empty table has -1), so a
+// table of any size differs from it.
 inline constexpr std::int32_t kNotInitialised = -2;
 
-// Owned by the meter window, lent to the engine and to the statistics windows.
+// The traffic figures of the run. The meter window owns them and lends them to the engine and to
+// the statistics windows.
 struct TrafficState {
   std::vector<platform::InterfaceRow> interface_table;
   std::vector<AdapterCounters> adapter_counters;  // by row
@@ -58,16 +60,17 @@ struct TrafficState {
   // Bytes that one scan may count for an adapter and direction; 0 for no limit.
   std::int64_t SpeedCap = 0;
 
-  // Bytes since the start of the run or the last reset of the statistics, and when that was.
+  // The bytes since the start of the run or the last reset of the statistics, and the moment of
+  // that start or reset.
   std::int64_t RunTotalDL = 0;
   std::int64_t RunTotalUL = 0;
   platform::DateTime RunStartDate = 0;  // midnight
   platform::DateTime RunStartTime = 0;  // time of day
 
   void AddToRunTotals(const ScanAmounts& scan);
-  // The start is now; the totals stay.
+  // Sets the start to `now`; the totals stay.
   void RestartSince(platform::DateTime now);
-  // The run begins anew: totals zero, start now.
+  // Begins the run anew: sets the totals to zero and the start to `now`.
   void RestartRun(platform::DateTime now);
 };
 

@@ -5,8 +5,9 @@
 
 namespace engine {
 
-// The number of the week, weeks beginning on Monday, 1 to 53; never 1 for the last days of
-// December. A time of day counts to the nearest day, so that after noon it is the next day's.
+// Returns the number of the week, 1 to 53, with weeks that begin on Monday. The last days of
+// December never give 1. A date with a time of day is rounded to the nearest day, so that an
+// afternoon counts as the next day.
 [[nodiscard]] int WeekOfYear(platform::DateTime date);
 
 }  // namespace engine

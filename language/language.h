@@ -16,17 +16,17 @@
 
 namespace language {
 
-// One language's texts, for a window that takes many of them. Stays as it is when the user chooses
-// another language meanwhile; do not keep it beyond the moment.
+// The texts of one language, for a window that takes many of them. A translation stays the same
+// when the user chooses another language meanwhile, so do not keep it.
 class Translation {
  public:
-  // Without a file all texts are the built-in ones.
+  // When `file` is null, all texts are the built-in ones.
   explicit Translation(std::shared_ptr<const LanguageFile> file) : file_(std::move(file)) {}
 
-  // The language file's text, or else the built-in English one; also when the file's text has not
-  // the same number of "%s". Never fails.
+  // Returns the language file's text. Returns the built-in English text when the file has none, or
+  // when its text has another number of "%s". Never fails.
   [[nodiscard]] std::string operator()(const TextEntry& entry) const;
-  // With its "%s" filled in.
+  // Returns the same text with its "%s" replaced by `values`.
   [[nodiscard]] std::string operator()(const TextEntry& entry,
                                        std::initializer_list<std::string_view> values) const {
     return Filled((*this)(entry), values);
@@ -36,44 +36,46 @@ class Translation {
   std::shared_ptr<const LanguageFile> file_;
 };
 
-// The language store `_ReadLangauge`. Every look-up names its section; none is remembered between
-// two of them, since a window may look texts up while another one's look-up is still under way.
+// The language store `_ReadLangauge`. Every look-up names its section; no section is remembered
+// between look-ups, since a window may look texts up while the look-up of another window is still
+// under way.
 //
-// Which language it is, is read from "Language" at each look-up. The file behind that name is read
-// when the name is new, and again when the user chooses it: a scan costs no file, and a file that
-// was edited meanwhile needs no restart. One that could not be read is tried again by each window
-// that takes its texts over.
+// Each look-up reads the language's name from "Language". The file of that name is read when the
+// name is new, and again when the user chooses it: a scan reads no file, and a file that was edited
+// meanwhile needs no restart. A file that could not be read is tried again by each window that
+// takes its texts over.
 class Language {
  public:
-  // All outlive it.
+  // All arguments outlive the language store.
   Language(settings::Store& store, platform::Files& files, platform::Locale& locale)
       : store_(store), files_(files), locale_(locale) {}
 
-  // A text in the user's language; see Translation.
+  // Returns a text in the user's language; see Translation.
   [[nodiscard]] std::string Text(const TextEntry& entry) const { return Kept()(entry); }
   [[nodiscard]] std::string Text(const TextEntry& entry,
                                  std::initializer_list<std::string_view> values) const {
     return Kept()(entry, values);
   }
 
-  // The language as it is chosen now, for a window.
+  // Returns the texts of the language that is chosen now, for a window.
   [[nodiscard]] Translation Chosen() const;
 
-  // The languages that the user can choose from: English, which needs no file, and the files found,
-  // sorted. Names without folder and ending.
+  // Returns the languages that the user can choose from: English, which needs no file, and the
+  // language files, sorted. Each name comes without folder and ending.
   [[nodiscard]] std::vector<std::string> Names() const;
-  // How a language of that name calls itself, by its file; the name itself when the file has no
-  // word.
+  // Returns what the language of that name calls itself in its file, or `name` when the file does
+  // not say.
   [[nodiscard]] std::string OwnName(const std::string& name) const;
-  // Which of `names` is in use; English's when the stored language is not among them.
+  // Returns the index of the language in use, or that of English when the stored language is not
+  // among `names`.
   [[nodiscard]] std::size_t IndexIn(const std::vector<std::string>& names) const;
 
-  // Stores the choice and takes its file anew. The windows take their texts over only when they are
-  // told: toolkit::Application::LanguageChanged.
+  // Stores the choice and reads its file anew. The windows take their new texts only when
+  // toolkit::Application::LanguageChanged is called.
   void Choose(std::string_view name);
 
  private:
-  // The file of a language; nothing when it could not be read.
+  // The file of a language; `file` is null when it could not be read.
   struct KeptFile {
     std::string name;  // as stored; empty for the built-in texts
     std::shared_ptr<const LanguageFile> file = std::make_shared<LanguageFile>();
@@ -89,7 +91,8 @@ class Language {
   mutable KeptFile kept_;
 };
 
-// The names of the files of a folder, with or without the backslash at its end, that match a mask.
+// Returns the names of the files in a folder that match a mask. The folder may be given with or
+// without a backslash at its end.
 [[nodiscard]] std::vector<std::string> LoadDirectory(platform::Files& files,
                                                      std::string_view folder,
                                                      std::string_view mask);

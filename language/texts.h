@@ -1,5 +1,5 @@
-// The catalogue of what the user reads. language/texts.inc holds the texts themselves; code names
-// one by its constant, as in `text::Security::Title`.
+// The catalogue of what the user reads. language/texts.inc holds the texts themselves; code names a
+// text by its constant, as in `text::Security::Title`.
 #pragma once
 
 #include <initializer_list>
@@ -25,17 +25,17 @@ namespace text {
 #undef UI_TEXT
 }  // namespace text
 
-// All texts and headings in their order.
+// Returns all texts and headings in their order.
 [[nodiscard]] std::span<const TextEntry> TextCatalogue();
 
-// The text of this section and key; null when there is none.
+// Returns the text of this section and key, or null when there is none.
 [[nodiscard]] const TextEntry* FindText(std::string_view section, std::string_view key);
 
-// How many "%s" a text has.
+// Returns how many "%s" a text has.
 [[nodiscard]] int PlaceHolders(std::string_view text);
 
-// `format` with its "%s" replaced by the values, first by first. A value that is missing leaves its
-// "%s" standing, one too many is dropped.
+// Returns `format` with its "%s" replaced by the values in order. A "%s" without a value stays; a
+// value without a "%s" is dropped.
 [[nodiscard]] std::string Filled(std::string_view format,
                                  std::initializer_list<std::string_view> values);
 

@@ -12,7 +12,7 @@
 namespace platform {
 
 struct FontSpec {
-  std::string face = "Tahoma";  // the system's nearest font when it is not installed
+  std::string face = "Tahoma";  // when it is not installed, the system's nearest font is used
   int height = 11;              // pixels, character height without internal leading (96 dpi: 8 pt)
   bool bold = false;
   friend bool operator==(const FontSpec&, const FontSpec&) = default;
@@ -34,17 +34,16 @@ class Canvas {
 
   virtual void Fill(const Rect& area, Colour colour) = 0;
 
-  // A line one pixel wide; its end point is not painted. The gaps of a broken style stay as they
-  // were.
+  // Draws a line one pixel wide without its end point. The gaps of a broken style are not painted.
   virtual void Line(Point from, Point to, Colour colour, PenStyle style = PenStyle::kSolid) = 0;
 
-  // One line of text, centred vertically in `box` and clipped to it, without a background of its
-  // own. "&" has no meaning here.
+  // Draws one line of text, centred vertically in `box` and clipped to it, without a background.
+  // "&" has no special meaning.
   virtual void Text(const Rect& box, std::string_view text, const FontSpec& font, Colour colour,
                     TextAlign align) = 0;
   [[nodiscard]] virtual Size TextSize(std::string_view text, const FontSpec& font) = 0;
 
-  // Copies a whole bitmap, its top left corner at `at`.
+  // Copies a whole bitmap with its top left corner at `at`.
   virtual void Draw(const Bitmap& bitmap, Point at) = 0;
 };
 
@@ -55,10 +54,10 @@ class Bitmap {
 
   [[nodiscard]] virtual Size Extent() const = 0;
   [[nodiscard]] virtual Canvas& GetCanvas() = 0;
-  // The colour of a pixel as 0x00BBGGRR; black outside.
+  // Returns the colour of a pixel as 0x00BBGGRR, or black for a point outside.
   [[nodiscard]] virtual Colour Pixel(Point at) const = 0;
-  // The colours of row `y` from its left end; much faster than pixel by pixel. `row` is as long as
-  // the bitmap is wide, and `y` inside.
+  // Copies the colours of row `y` into `row` from the left; much faster than pixel by pixel. `row`
+  // is as long as the bitmap is wide, and `y` lies inside.
   virtual void ReadRow(int y, std::span<Colour> row) const = 0;
 };
 
@@ -66,7 +65,7 @@ class Graphics {
  public:
   virtual ~Graphics() = default;
 
-  // Null when a side is not 1 to 16384 pixels or memory is short.
+  // Returns null when a side is not 1 to 16384 pixels or memory is short.
   [[nodiscard]] virtual std::unique_ptr<Bitmap> CreateBitmap(Size size) = 0;
 };
 

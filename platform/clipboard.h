@@ -9,8 +9,8 @@ class Clipboard {
  public:
   virtual ~Clipboard() = default;
 
-  // Replaces what the clipboard holds. False, with nothing changed, when another program keeps it
-  // open or memory is short.
+  // Replaces the content of the clipboard. Returns false and changes nothing when another program
+  // keeps it open or memory is short.
   virtual bool SetText(std::string_view text) = 0;
 };
 

@@ -11,10 +11,12 @@ class Clock {
  public:
   virtual ~Clock() = default;
 
-  // Local date and time, to the millisecond (GetLocalTime). The user may set it back.
+  // Returns the local date and time, to the millisecond (GetLocalTime). The user may set the clock
+  // back.
   [[nodiscard]] virtual DateTime Now() = 0;
 
-  // Milliseconds that never run backwards and are not moved by setting the date (GetTickCount64).
+  // Returns milliseconds that never run backwards and that setting the date does not change
+  // (GetTickCount64).
   [[nodiscard]] virtual std::int64_t SteadyMilliseconds() = 0;
 };
 

@@ -5,7 +5,8 @@
 
 namespace platform {
 
-// 0x00BBGGRR, or 0x80000000 plus the index of a system colour (15 is the face of buttons).
+// A colour as 0x00BBGGRR, or 0x80000000 plus the index of a system colour (15 is the face of
+// buttons).
 using Colour = std::uint32_t;
 
 namespace colour {
@@ -17,7 +18,7 @@ inline constexpr Colour kLime = 0x00FF00;
 inline constexpr Colour kRed = 0x0000FF;
 inline constexpr Colour kBlue = 0xFF0000;
 
-// A system colour, following the user's scheme: `index` as for GetSysColor.
+// Returns a system colour, which follows the user's scheme. `index` is that of GetSysColor.
 constexpr Colour System(std::uint32_t index) { return 0x80000000U | index; }
 inline constexpr Colour kMenu = System(4);
 inline constexpr Colour kWindow = System(5);
@@ -33,7 +34,7 @@ inline constexpr Colour kButtonText = System(18);
 inline constexpr Colour kButtonHighlight = System(20);
 }  // namespace colour
 
-// Whether `c` names a system colour rather than a fixed one.
+// Returns whether `c` names a system colour rather than a fixed one.
 constexpr bool IsSystemColour(Colour c) { return (c & 0x80000000U) != 0; }
 
 }  // namespace platform

@@ -1,5 +1,5 @@
-// The system's own controls: their look, keyboard and screen reader support are the system's. What
-// the code sets is never reported back.
+// The system's own controls. The system gives them their look, keyboard and screen reader support.
+// A change by the code is never reported back.
 #pragma once
 
 #include <span>
@@ -13,13 +13,14 @@ namespace platform {
 
 enum class Border { kNone, kSunken };
 
-// How a text stands in its box (STATIC). One that wraps starts at the top; the others are centred
-// vertically.
+// How a text stands in its box (STATIC). A text that wraps starts at the top; the others are
+// centred vertically.
 struct TextStyle {
   TextAlign align = TextAlign::kLeft;
   Border border = Border::kNone;
   bool wraps = false;
-  // "&" marks the key of the control that follows in tab order; off: it is a letter like any other.
+  // When true, "&" marks the key of the control that follows in tab order; when false, "&" is a
+  // letter like any other.
   bool mnemonic = false;
 };
 
@@ -31,15 +32,15 @@ enum class ButtonKind {
   kPainted,  // a push button whose face the program paints (OnPaint); its text is only its name
 };
 
-// A button of the system (BUTTON). "&" in its text marks the key. Click: OnClicked, after the box
-// has changed. The radio buttons of one parent that were made one after the other exclude each
-// other when the user chooses; of what the code checks, each stays as it is.
+// A button of the system (BUTTON). "&" in its text marks the key. A click reports OnClicked, after
+// the box has changed. The radio buttons of one parent that were made one after the other exclude
+// each other when the user chooses one; when the code checks one, the others stay as they are.
 class Button : public Widget {
  public:
   virtual void SetChecked(bool checked) = 0;
   [[nodiscard]] virtual bool Checked() const = 0;
-  // Pressed by Enter anywhere in the window, unless another push button has the keyboard; at most
-  // one of a window.
+  // Makes this the default button: Enter presses it anywhere in the window, unless another push
+  // button has the focus. A window has at most one.
   virtual void SetDefault(bool is_default) = 0;
 };
 
@@ -50,12 +51,12 @@ struct EditStyle {
   Border border = Border::kSunken;
 };
 
-// An edit (EDIT). Typing: OnChanged. A password shows "x" for every character. A memo has several
-// lines, separated by "\n", and its own scroll bar, and takes Enter for itself.
+// An edit (EDIT). Typing reports OnChanged. A password edit shows "x" for every character. A memo
+// has several lines, separated by "\n", has its own scroll bar and takes Enter for itself.
 class Edit : public Widget {
  public:
-  // Characters (code points) that the user can enter; 0 for no limit. What is too much of a typed
-  // or pasted text is left out at its end. The code may set a longer text.
+  // Sets how many characters (code points) the user can enter; 0 means no limit. A typed or pasted
+  // text that is too long is cut at its end. The code may set a longer text.
   virtual void SetMaxLength(int characters) = 0;
   virtual void SetReadOnly(bool read_only) = 0;
   virtual void SelectAll() = 0;
@@ -63,21 +64,21 @@ class Edit : public Widget {
 
 enum class ListKind {
   kBox,        // LISTBOX
-  kCombo,      // drops down (COMBOBOX); its height is that of the closed one
-  kFontCombo,  // a kCombo that shows each row in the font that it names, if that has letters
+  kCombo,      // drops down (COMBOBOX); its height is that of the closed list
+  kFontCombo,  // a kCombo that shows each row in the font that the row names, if that has letters
   kCheckBox,   // a check box in each row (SysListView32)
 };
 
-// A list. Selecting: OnChanged; ticking: OnRowChecked.
+// A list. Selecting a row reports OnChanged; ticking one reports OnRowChecked.
 class ItemList : public Widget {
  public:
-  // Replaces the rows; the selection is gone, nothing is ticked.
+  // Replaces the rows. Afterwards no row is selected and none is ticked.
   virtual void SetItems(std::span<const std::string> items) = 0;
   [[nodiscard]] virtual int Count() const = 0;
-  // The selected row, -1 for none.
+  // The selected row; -1 means none.
   virtual void SetIndex(int index) = 0;
   [[nodiscard]] virtual int Index() const = 0;
-  // Check lists only.
+  // For kCheckBox lists only.
   virtual void SetChecked(int row, bool checked) = 0;
   [[nodiscard]] virtual bool Checked(int row) const = 0;
 };
@@ -87,43 +88,44 @@ struct TreeItem {
   int level = 0;  // 0 at the root
 };
 
-// A tree (SysTreeView32), all of it expanded. Selecting: OnChanged.
+// A tree (SysTreeView32) with all items expanded. Selecting an item reports OnChanged.
 class Tree : public Widget {
  public:
-  // Replaces all items; the selection is gone. A level is at most one deeper than that before it.
+  // Replaces all items. Afterwards none is selected. The level of an item is at most one deeper
+  // than that of the item before it.
   virtual void SetItems(std::span<const TreeItem> items) = 0;
-  // Position in the expanded tree, -1 for none.
+  // The selected item, as its position in the expanded tree; -1 means none.
   virtual void SetIndex(int index) = 0;
   [[nodiscard]] virtual int Index() const = 0;
-  // Expands what the user has collapsed.
+  // Expands the items that the user has collapsed.
   virtual void ExpandAll() = 0;
 };
 
 // A row of tabs over an area for the pages (SysTabControl32), which are made as its children.
-// Choosing a tab, also by Ctrl+Tab anywhere in the window: OnChanged.
+// Choosing a tab, also by Ctrl+Tab anywhere in the window, reports OnChanged.
 class Tabs : public Widget {
  public:
-  // The chosen tab stays the one with the same number, or is the first.
+  // Replaces the tabs. The chosen tab keeps its number, or is the first when that number is gone.
   virtual void SetItems(std::span<const std::string> captions) = 0;
   virtual void SetIndex(int index) = 0;
-  // -1 only without tabs.
+  // Returns the number of the chosen tab, or -1 when there are no tabs.
   [[nodiscard]] virtual int Index() const = 0;
-  // The area below the tabs, in client pixels.
+  // Returns the area below the tabs, in client pixels.
   [[nodiscard]] virtual Rect PageArea() const = 0;
-  // What the system fills that area with.
+  // Returns the colour with which the system fills that area.
   [[nodiscard]] virtual Colour PageColour() const = 0;
 };
 
-// A slider (msctls_trackbar32). Moving it: OnChanged.
+// A slider (msctls_trackbar32). Moving it reports OnChanged.
 class TrackBar : public Widget {
  public:
-  // `page` is the step of the page keys. The position is moved into the range.
+  // Sets the range and moves the position into it. `page` is the step of the page keys.
   virtual void SetRange(int lowest, int highest, int page) = 0;
   virtual void SetPosition(int position) = 0;
   [[nodiscard]] virtual int Position() const = 0;
 };
 
-// How far something has come (msctls_progress32).
+// A progress bar (msctls_progress32).
 class ProgressBar : public Widget {
  public:
   virtual void SetRange(int lowest, int highest) = 0;

@@ -25,27 +25,29 @@ struct ClockTime {
   friend bool operator==(const ClockTime&, const ClockTime&) = default;
 };
 
-// The moment at midnight of a date of the Gregorian calendar. The date must exist.
+// Returns the moment at midnight of a date of the Gregorian calendar. The date must exist.
 [[nodiscard]] DateTime EncodeDate(int year, int month, int day);
 
-// The moment plus a time of day; hour 0 to 23, minute and second 0 to 59, milliseconds 0 to 999.
+// Returns the moment at a time of day of such a date: hour 0 to 23, minute and second 0 to 59,
+// millisecond 0 to 999.
 [[nodiscard]] DateTime EncodeDateTime(int year, int month, int day, int hour, int minute,
                                       int second, int millisecond = 0);
 
-// The calendar date that `moment` lies in. What was stored may be anything: a moment outside the
-// years 1 to 9999 gives the first or last day of these, what is no number gives 1899-12-30.
+// Returns the calendar date that `moment` lies in. A stored moment may be any double: one outside
+// the years 1 to 9999 gives the first or last day of these years, one that is not a number gives
+// 1899-12-30.
 [[nodiscard]] CivilDate DecodeDate(DateTime moment);
 
-// The time of day of `moment` to the nearest millisecond, never past 23:59:59.999.
+// Returns the time of day of `moment` to the nearest millisecond, never past 23:59:59.999.
 [[nodiscard]] ClockTime DecodeTime(DateTime moment);
 
-// Midnight at the start of the day of `moment`.
+// Returns midnight at the start of the day of `moment`.
 [[nodiscard]] DateTime DateOf(DateTime moment);
 
-// The time of day alone: 0.0 up to, but not including, 1.0.
+// Returns the time of day alone: 0.0 up to, but not including, 1.0.
 [[nodiscard]] DateTime TimeOf(DateTime moment);
 
-// 1 = Sunday ... 7 = Saturday.
+// Returns the day of the week: 1 = Sunday ... 7 = Saturday.
 [[nodiscard]] int DayOfWeek(DateTime moment);
 
 }  // namespace platform

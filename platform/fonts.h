@@ -10,8 +10,9 @@ class Fonts {
  public:
   virtual ~Fonts() = default;
 
-  // The names of all families, each once, in the order of the user's alphabet; without those for
-  // vertical writing, which begin with "@" (EnumFontFamiliesEx). Empty when the system refuses.
+  // Returns the names of all font families, each once, in the order of the user's alphabet
+  // (EnumFontFamiliesEx). Fonts for vertical writing, whose names begin with "@", are left out.
+  // Returns no names when the system refuses.
   [[nodiscard]] virtual std::vector<std::string> Families() = 0;
 };
 

@@ -27,7 +27,7 @@ struct Rect {
   [[nodiscard]] constexpr bool Contains(Point p) const {
     return p.x >= left && p.x < Right() && p.y >= top && p.y < Bottom();
   }
-  // The rectangle with `margin` pixels less on each side; may come out empty.
+  // Returns the rectangle with `margin` pixels less on each side; it may be empty.
   [[nodiscard]] constexpr Rect Shrunk(int margin) const {
     return {left + margin, top + margin, width - 2 * margin, height - 2 * margin};
   }

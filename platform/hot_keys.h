@@ -16,7 +16,7 @@ struct KeyCombination {
   friend bool operator==(const KeyCombination&, const KeyCombination&) = default;
 };
 
-// Registered while it exists.
+// A hot key, which is registered while it exists.
 class HotKey {
  public:
   virtual ~HotKey() = default;
@@ -26,10 +26,11 @@ class HotKeys {
  public:
   virtual ~HotKeys() = default;
 
-  // Calls `pressed`, from the message loop, each time that the combination goes down; holding it
-  // down does not repeat it (RegisterHotKey). `pressed` may destroy the hot key.
-  //   name  of the global atom that numbers it (GlobalAddAtom); another one for each hot key
-  // Null when another program has taken the combination, or the system refuses.
+  // Registers a combination (RegisterHotKey). `pressed` is called from the message loop each time
+  // that the combination goes down; holding it down does not repeat the call. `pressed` may destroy
+  // the hot key.
+  //   name  of the global atom that numbers the hot key (GlobalAddAtom); each hot key needs its own
+  // Returns null when another program has taken the combination, or the system refuses.
   [[nodiscard]] virtual std::unique_ptr<HotKey> Register(std::string_view name,
                                                          const KeyCombination& keys,
                                                          std::function<void()> pressed) = 0;

@@ -9,8 +9,8 @@
 
 namespace platform {
 
-// One row of the table, laid out as the system's MIB_IFROW. Only the fields that the program reads
-// are spoken of elsewhere; the others keep the layout.
+// One row of the table, laid out as the system's MIB_IFROW. The program reads only some of the
+// fields; the others keep the layout.
 struct InterfaceRow {
   std::array<char16_t, 256> wszName{};
   std::uint32_t dwIndex = 0;
@@ -58,15 +58,16 @@ class InterfaceTable {
   //   buffer  the caller's, not kept; empty to ask for the size only.
   //   size    out: bytes that the table needs now; set when 0 or 122 is returned.
   // Returns 0; 122 when `buffer` is too small (the table may have grown since it was asked for its
-  // size); else the system's code, with `buffer` and `size` untouched.
+  // size); otherwise the system's code, with `buffer` and `size` untouched.
   [[nodiscard]] virtual std::uint32_t Read(std::span<std::byte> buffer, std::uint32_t& size) = 0;
 
-  // Whether the interface with this `dwIndex` is a lightweight filter, which repeats the octets of
-  // the adapter that it sits on (GetIfEntry2, FilterInterface). Nothing when the system cannot say.
+  // Returns whether the interface with this `dwIndex` is a lightweight filter, which repeats the
+  // octets of the adapter that it sits on (GetIfEntry2, FilterInterface). Returns nullopt when the
+  // system cannot say.
   [[nodiscard]] virtual std::optional<bool> IsFilter(std::uint32_t index) = 0;
 
-  // The present octets of the interface with this `dwIndex` (GetIfEntry2, InOctets, OutOctets).
-  // Nothing when the system cannot say.
+  // Returns the present octets of the interface with this `dwIndex` (GetIfEntry2, InOctets,
+  // OutOctets), or nullopt when the system cannot say.
   [[nodiscard]] virtual std::optional<LongOctets> Octets(std::uint32_t index) = 0;
 };
 

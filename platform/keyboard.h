@@ -9,11 +9,11 @@ class Keyboard {
  public:
   virtual ~Keyboard() = default;
 
-  // The key's byte of the keyboard state (GetKeyboardState): bit 0 on, for a lock key; bit 7 held
-  // down. 0 when the system cannot say.
+  // Returns the key's byte of the keyboard state (GetKeyboardState): bit 0 is set when a lock key
+  // is on, bit 7 when the key is held down. Returns 0 when the system cannot say.
   [[nodiscard]] virtual std::uint8_t State(std::uint8_t virtual_key) = 0;
 
-  // One event (keybd_event) with these codes and flags; extra information 0.
+  // Sends one key event (keybd_event) with these codes and flags; the extra information is 0.
   virtual void Send(std::uint8_t virtual_key, std::uint8_t scan_code, std::uint32_t flags) = 0;
 };
 

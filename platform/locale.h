@@ -12,15 +12,17 @@ class Locale {
  public:
   virtual ~Locale() = default;
 
-  // The decimal separator of the user's number format, such as "," (LOCALE_SDECIMAL).
+  // Returns the decimal separator of the user's number format, such as "," (LOCALE_SDECIMAL).
   [[nodiscard]] virtual std::string DecimalSeparator() = 0;
-  // A date in the user's short form; empty for one before 1601, which the system's calendar lacks.
+  // Returns a date in the user's short form, or an empty text for a date before 1601, which the
+  // system's calendar lacks.
   [[nodiscard]] virtual std::string ShortDate(DateTime moment) = 0;
-  // A time of day in the user's long form.
+  // Returns a time of day in the user's long form.
   [[nodiscard]] virtual std::string LongTime(DateTime moment) = 0;
-  // In small letters, of all scripts and whatever the user's language (LCMapStringEx).
+  // Returns the text in small letters, for all scripts and whatever the user's language
+  // (LCMapStringEx).
   [[nodiscard]] virtual std::string Lower(std::string_view text) = 0;
-  // Bytes in the system's code page (CP_ACP) as UTF-8.
+  // Converts bytes in the system's code page (CP_ACP) to UTF-8.
   [[nodiscard]] virtual std::string FromCodePage(std::string_view bytes) = 0;
 };
 

@@ -11,18 +11,18 @@
 
 namespace platform {
 
-// A menu as it stands while it is open; made anew for each opening.
+// An entry of a menu. The entries are made anew each time the menu opens.
 struct MenuEntry {
-  int id = 0;            // above 0, unique in the menu; returned when it is chosen
+  int id = 0;            // above 0, unique in the menu; returned when the entry is chosen
   std::string text;      // "&" marks the key, "&&" is an ampersand
   std::string shortcut;  // shown at the right, such as "Ctrl+Alt+F"; empty for none
-  KeyCombination keys;   // choose it while the menu is open, at any depth; key 0 for none
-  std::string hint;      // for whoever shows it while the entry is highlighted
+  KeyCombination keys;   // choose the entry while the menu is open, at any depth; key 0 for none
+  std::string hint;      // for the painter, which may show it while the entry is highlighted
   bool separator = false;
   bool enabled = true;
   bool checked = false;
   bool radio = false;  // the check is a dot
-  int image = -1;      // index for whoever draws the entry
+  int image = -1;      // index for the painter
   std::vector<MenuEntry> children;
 };
 
@@ -31,12 +31,12 @@ struct MenuEntryState {
   int dpi = 96;
 };
 
-// Draws the entries and hears which one the user is on. The entry keeps its text for screen
-// readers.
+// Draws the entries and is told which one is highlighted. Screen readers get the text of the entry
+// itself.
 class MenuPainter {
  public:
   virtual ~MenuPainter() = default;
-  // Pixels at `dpi`. `canvas` serves to measure text.
+  // Returns the size of an entry in pixels at `dpi`. `canvas` serves to measure text.
   [[nodiscard]] virtual Size Measure(const MenuEntry& entry, Canvas& canvas, int dpi) = 0;
   virtual void Paint(const MenuEntry& entry, const MenuEntryState& state, Canvas& canvas,
                      const Rect& area) = 0;
@@ -48,13 +48,13 @@ class Menus {
  public:
   virtual ~Menus() = default;
 
-  // Shows the menu with a corner at `at` (screen pixels) and waits; timers go on meanwhile
-  // (TrackPopupMenuEx). It closes when the user clicks elsewhere or presses Esc.
-  // Returns the chosen entry's id, 0 when none was.
+  // Shows the menu with a corner at `at` (screen pixels) and waits until it closes
+  // (TrackPopupMenuEx); timers go on meanwhile. The menu also closes when the user clicks elsewhere
+  // or presses Esc. Returns the chosen entry's id, or 0 when none was chosen.
   [[nodiscard]] virtual int Popup(TopWindow& owner, Point at, const std::vector<MenuEntry>& entries,
                                   MenuPainter& painter) = 0;
 
-  // Closes an open menu as if the user had pressed Esc; nothing when none is open.
+  // Closes the open menu as if the user had pressed Esc. Does nothing when none is open.
   virtual void Cancel() = 0;
 };
 

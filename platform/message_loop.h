@@ -9,17 +9,18 @@ class MessageLoop {
  public:
   virtual ~MessageLoop() = default;
 
-  // Delivers messages until `done` is true, asked before each wait, or Quit was called. May be
-  // nested. Returns false when it ended by Quit, which also ends every loop around it.
+  // Delivers messages until `done`, which is called before each wait, returns true, or until Quit
+  // is called. Calls may be nested. Returns false when Quit ended it, which also ends every loop
+  // around it.
   virtual bool RunUntil(const std::function<bool()>& done) = 0;
 
-  // Delivers what is waiting and returns. False after Quit.
+  // Delivers the messages that are waiting and returns; returns false after Quit.
   virtual bool ProcessPending() = 0;
 
-  // Delivers messages for so long, waiting for more. False, at once, after Quit.
+  // Delivers messages for so long and waits for more. After Quit, returns false at once.
   virtual bool ProcessFor(int milliseconds) = 0;
 
-  // Ends every running loop; one that starts later ends at once.
+  // Ends every running loop; a loop that starts later ends at once.
   virtual void Quit() = 0;
 };
 

@@ -14,29 +14,30 @@ enum class BalloonIcon { kNone, kInformation, kWarning, kError };
 class TrayIconEvents {
  public:
   virtual ~TrayIconEvents() = default;
-  // Clicked with the left button, or chosen with the keyboard.
+  // The user clicked the icon with the left button, or chose it with the keyboard.
   virtual void OnTrayClick() {}
-  // Its menu is wanted at this place of the screen (right click, menu key).
+  // The user asks for the icon's menu at this place of the screen (right click, menu key).
   virtual void OnTrayMenu(Point) {}
 };
 
-// An icon in the notification area, there until it is destroyed (Shell_NotifyIcon). It is added
-// again by itself when the shell starts anew ("TaskbarCreated") and tried again for a while when
-// the shell was too busy to take it.
+// An icon in the notification area, shown until it is destroyed (Shell_NotifyIcon). It adds itself
+// again when the shell starts anew ("TaskbarCreated"), and tries again for a while when the shell
+// was too busy to take it.
 class TrayIcon {
  public:
   virtual ~TrayIcon() = default;
 
-  // The picture, with or without a colour that is see-through. The bitmap is not kept; icons made
-  // for earlier ones are freed. False when the shell has not taken it (yet).
+  // Sets the picture, with or without a see-through colour. The bitmap is not kept, and icons made
+  // of earlier pictures are freed. Returns false when the shell has not taken the picture (yet).
   virtual bool SetPicture(const Bitmap& picture) = 0;
   virtual bool SetPicture(const Bitmap& picture, Colour see_through) = 0;
-  // Cut at what the system takes, 127 characters.
+  // Sets the hint, cut at 127 characters, the most that the system takes.
   virtual void SetHint(std::string_view hint) = 0;
-  // Title and text are cut at 63 and 255 characters. Replaces a balloon that is still shown.
+  // Shows a balloon in place of one that is still shown. Title and text are cut at 63 and 255
+  // characters.
   virtual void ShowBalloon(std::string_view title, std::string_view text, BalloonIcon icon,
                            int seconds) = 0;
-  // The side of the pictures that the area shows, in pixels: 16 at 96 dpi.
+  // Returns the side of the pictures that the area shows, in pixels: 16 at 96 dpi.
   [[nodiscard]] virtual int PictureSize() const = 0;
 };
 
@@ -44,8 +45,8 @@ class NotificationArea {
  public:
   virtual ~NotificationArea() = default;
 
-  // An icon with an empty picture. `events` must outlive it. Never null: an icon that the shell
-  // does not take is tried again.
+  // Makes an icon with an empty picture. `events` must outlive it. Never returns null: an icon that
+  // the shell does not take is tried again.
   [[nodiscard]] virtual std::unique_ptr<TrayIcon> CreateIcon(TrayIconEvents& events) = 0;
 };
 

@@ -9,7 +9,8 @@
 
 namespace platform {
 
-// Names a window as long as it exists; the system may use the number again afterwards.
+// The number of a window, valid as long as the window exists; the system may use it again
+// afterwards.
 using WindowId = std::uintptr_t;
 
 // The beginning of a window's title.
@@ -20,28 +21,28 @@ struct WindowTitle {
 
 enum class TitleOutcome {
   kSet,
-  kRefused,   // the window is gone, or the system keeps us from touching it
-  kNoAnswer,  // its program took longer than we would wait
+  kRefused,   // the window is gone, or the system does not let this program change it
+  kNoAnswer,  // its program took longer than the wait
 };
 
 class OtherWindows {
  public:
   virtual ~OtherWindows() = default;
 
-  // All top-level windows, this program's own ones too, visible or not, from the front to the back
+  // Returns all top-level windows, this program's own ones too, visible or not, from front to back
   // (EnumWindows).
   [[nodiscard]] virtual std::vector<WindowId> TopLevel() = 0;
 
-  // At most the first `characters` of the title; empty when the window is gone. Never waits for the
-  // window's program (InternalGetWindowText).
+  // Returns at most the first `characters` of the title, or an empty title when the window is gone.
+  // Never waits for the window's program (InternalGetWindowText).
   [[nodiscard]] virtual WindowTitle Title(WindowId window, std::size_t characters) = 0;
 
   // Gives the window a title (WM_SETTEXT). Waits for the window's program at most `patience_ms`
-  // (above 0), and not at all for one that the system knows to be hanging; nothing that is sent to
-  // this program is handled meanwhile.
+  // (above 0), and not at all for a program that the system knows to be hanging. Messages sent to
+  // this program are not handled meanwhile.
   virtual TitleOutcome SetTitle(WindowId window, std::string_view title, int patience_ms) = 0;
 
-  // The window that the user works in (GetForegroundWindow); 0 for none.
+  // Returns the window that the user works in (GetForegroundWindow), or 0 for none.
   [[nodiscard]] virtual WindowId Foreground() = 0;
 };
 

@@ -1,4 +1,4 @@
-// All Windows services that the program uses. Handed down by reference; there is no global.
+// All Windows services that the program uses. They are handed down by reference; none is global.
 #pragma once
 
 #include "platform/canvas.h"
@@ -26,7 +26,7 @@
 
 namespace platform {
 
-// References to the services; the services outlive it.
+// References to the services, which outlive this object.
 struct Platform {
   InterfaceTable& interface_table;
   Registry& registry;

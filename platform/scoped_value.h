@@ -5,7 +5,7 @@
 
 namespace platform {
 
-// Sets a variable, which outlives this, and puts back at the end what it was.
+// Sets a variable and puts its earlier value back at the end. The variable outlives this object.
 template <class Value>
 class ScopedValue {
  public:

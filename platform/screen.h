@@ -18,11 +18,11 @@ class Screen {
  public:
   virtual ~Screen() = default;
 
-  // All monitors, the primary one first; never empty.
+  // Returns all monitors, the primary one first. There is always at least one.
   [[nodiscard]] virtual std::vector<Monitor> Monitors() = 0;
-  // The monitor that `area` lies on for the most part, or else the nearest.
+  // Returns the monitor that the largest part of `area` lies on, or else the nearest one.
   [[nodiscard]] virtual Monitor MonitorOf(const Rect& area) = 0;
-  // A system colour as 0x00BBGGRR; a fixed colour unchanged.
+  // Returns a system colour as 0x00BBGGRR, and a fixed colour unchanged.
   [[nodiscard]] virtual Colour Resolve(Colour colour) = 0;
   [[nodiscard]] virtual Point Pointer() = 0;
 };

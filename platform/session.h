@@ -1,4 +1,4 @@
-// The user's session: privileges and its end.
+// The user's session: its privileges and its end.
 #pragma once
 
 #include <cstdint>
@@ -13,9 +13,10 @@ class Session {
   virtual ~Session() = default;
 
   // Switches a privilege of the process on or off (OpenProcessToken, LookupPrivilegeValue,
-  // AdjustTokenPrivileges). False when the system refuses.
+  // AdjustTokenPrivileges). Returns false when the system refuses.
   virtual bool SetPrivilege(std::string_view name, Privilege wanted) = 0;
-  // Asks the system to end the session (ExitWindowsEx with these flags). 0, or the error code.
+  // Asks the system to end the session (ExitWindowsEx with these flags). Returns 0 or the error
+  // code.
   [[nodiscard]] virtual std::uint32_t EndSession(std::uint32_t flags) = 0;
 };
 

@@ -9,9 +9,9 @@ class SingleInstance {
  public:
   virtual ~SingleInstance() = default;
 
-  // Creates the mutex, initially owned; it ends with the process (CreateMutex). True when no other
-  // process of the session has it. A mutex that could not be made at all also counts as first: a
-  // meter that runs is worth more than one that refuses.
+  // Creates the mutex, initially owned (CreateMutex); it ends with the process. Returns true when
+  // no other process of the session has it. Also returns true when the mutex could not be made at
+  // all: a meter that runs is worth more than one that refuses.
   [[nodiscard]] virtual bool ClaimFirst(std::string_view name) = 0;
 };
 

@@ -16,20 +16,20 @@ enum class Frame {
 };
 
 struct TopWindowParams {
-  std::string name;  // of the form; how other programs find the window (its class)
+  std::string name;  // the form's name; other programs find the window by it (its class)
   std::string caption;
   Frame frame = Frame::kDialog;
-  // Without a caption bar: the pop-up style set, the dialog frame cleared. What remains of a
-  // sizeable window is a frame one pixel wide whose edges still size it.
+  // When true, the window has no caption bar: its pop-up style is set and its dialog frame cleared.
+  // A sizeable window keeps a frame one pixel wide whose edges still size it.
   bool bare_popup = false;
 };
 
-// An inside that is higher than its window; pixels.
+// The scroll state of a window whose content is higher than the window, in pixels.
 struct Scroll {
-  int content = 0;   // the height of the inside
-  int page = 0;      // what of it the window shows
-  int position = 0;  // what it has above the window
-  int line = 0;      // a small step
+  int content = 0;   // the height of the content
+  int page = 0;      // the height of the part that the window shows
+  int position = 0;  // the height of the part above the window
+  int line = 0;      // the height of a small step
   bool operator==(const Scroll&) const = default;
 };
 
@@ -39,20 +39,21 @@ class TopWindowEvents : public WidgetEvents {
   virtual void OnClose() {}
   // The window was moved or sized, whoever did it.
   virtual void OnPlaced() {}
-  // The user drags the window, which is to get these bounds now; they follow the pointer whatever
-  // the last ones were changed to, and the handler may change them. Where a window manager moves
-  // the window by itself, this comes once, when the user has let go.
+  // The user drags the window, which is about to get these bounds. The handler may change them; the
+  // next bounds follow the pointer again, whatever the last ones were changed to. When a window
+  // manager moves the window itself, this report comes once, after the user has let go.
   virtual void OnMoving(Rect& /*bounds*/) {}
   // The user has let go after moving or sizing the window.
   virtual void OnDragEnded() {}
-  // The user wants to see the inside from here on, which may be beyond its ends.
+  // The user scrolls to this position, which may be beyond the ends of the content.
   virtual void OnScroll(int /*position*/) {}
-  // The keyboard, or the code, brought the focus to a control that takes this of the client area.
+  // The keyboard, or the code, brought the focus to a control that takes this area of the client
+  // area.
   virtual void OnFocusMoved(const Rect& /*area*/) {}
-  // It became or ceased to be the active window.
+  // The window became active or ceased to be.
   virtual void OnActivate(bool /*active*/) {}
-  // It came onto a monitor of another resolution, or the user changed it; `bounds` is the size that
-  // keeps its look.
+  // The window came onto a monitor of another resolution, or the user changed the resolution.
+  // `bounds` are the bounds at which the window keeps its look.
   virtual void OnDpiChanged(int /*dpi*/, const Rect& /*bounds*/) {}
   // The resolution or arrangement of the monitors changed.
   virtual void OnDisplayChange() {}
@@ -70,47 +71,51 @@ enum class Activation { kActivate, kLeaveFocus };
 
 class TopWindow : public Widget {
  public:
-  // Shows it; kLeaveFocus never takes the keyboard from the program that the user works in. A
-  // dialog that was hidden and is activated has the keyboard in its first control; hidden again, it
-  // gives the keyboard back to the window that had it.
+  // Shows the window. kLeaveFocus never takes the focus from the program that the user works in. A
+  // hidden dialog that is activated has the focus in its first control; when it is hidden again, it
+  // gives the focus back to the window that had it.
   virtual void Show(Activation activation) = 0;
 
-  // Above all windows that are not topmost, without moving, sizing or activating it.
+  // Puts the window above all windows that are not topmost, or ends that, without moving, sizing or
+  // activating it.
   virtual void SetTopmost(bool topmost) = 0;
-  // What the system says; a program that ran on the full screen may have taken it away.
+  // Returns whether the system has the window as topmost; a full-screen program may have taken that
+  // away.
   [[nodiscard]] virtual bool Topmost() const = 0;
 
-  // The smallest and largest outer size, from the next SetBounds on as well as for the user; a
-  // largest size of zero lifts the limits. Sizeable windows only.
+  // Sets the smallest and largest outer size of a sizeable window, for the user and for SetBounds
+  // from the next call on. A largest size of zero lifts the limits.
   virtual void SetSizeLimits(Size smallest, Size largest) = 0;
 
-  // Sizes it so that its client area has this size, in pixels; its place stays.
+  // Sizes the window so that its client area has this size, in pixels; its place stays.
   virtual void SetClientSize(Size client) = 0;
 
-  // With a scroll bar, which takes some of the width, while the inside is higher than the page. The
-  // controls stay where they are.
+  // Shows a scroll bar, which takes some of the width, while the content is higher than the page.
+  // The controls stay where they are.
   virtual void SetScroll(const Scroll& scroll) = 0;
 
-  // While the left button is down: lets the user drag the window as if by its caption. Returns when
-  // the drag is over, on systems where that is a loop of its own.
+  // Lets the user drag the window as if by its caption; call it while the left button is down.
+  // Where the system drags in a loop of its own, it returns when the drag is over.
   virtual void BeginDrag() = 0;
-  // Whether the user is moving or sizing the window just now.
+  // Returns whether the user is moving or sizing the window just now.
   [[nodiscard]] virtual bool Dragging() const = 0;
 
-  // How much the whole window covers what is behind it: 0 not at all, 255 fully. Nothing happens on
-  // systems that have no layered windows (SetLayeredWindowAttributes).
+  // Sets the opacity of the whole window, from 0 (not visible) to 255 (opaque)
+  // (SetLayeredWindowAttributes). Does nothing on systems without layered windows.
   virtual void SetAlpha(std::uint8_t alpha) = 0;
 
-  // Only these parts of the window exist, for the eye and for the mouse; counted from its upper
-  // left corner, the frame included (SetWindowRgn). Setting the shape that it has does nothing.
+  // Limits the window to these parts, for the eye and for the mouse (SetWindowRgn). They count from
+  // the upper left corner of the window with its frame. Setting the present shape does nothing.
   virtual void SetShape(std::span<const Rect> parts) = 0;
-  // All of the window exists, as at first.
+  // Gives the window its whole shape back, as at first.
   virtual void ResetShape() = 0;
 
-  // Whether the pointer is on the window or on a control of it, and no other window is between.
+  // Returns whether the pointer is on the window or on one of its controls, with no other window in
+  // between.
   [[nodiscard]] virtual bool UnderPointer() const = 0;
 
-  // To the front and active; with a dialog of the system above it, that is active.
+  // Brings the window to the front and activates it, or the system dialog above it when there is
+  // one.
   virtual void Raise() = 0;
 
   [[nodiscard]] virtual int Dpi() const = 0;

@@ -1,13 +1,13 @@
-// What a wave file must be before the system is asked to play it.
+// Checks a wave file before the system is asked to play it.
 #pragma once
 
 #include <string_view>
 
 namespace platform {
 
-// Whether the bytes are a wave file: "RIFF" and "WAVE", chunks that lie within it up to the sound,
-// and before that a format whose numbers a player can divide by. The system's own player trusts
-// what the file says of itself, and a broken one may end the program there.
+// Returns whether the bytes are a wave file: "RIFF" and "WAVE", chunks up to the sound that lie
+// within the file, and before the sound a format whose numbers a player can divide by. The system's
+// player trusts these numbers, and a broken file may crash the program in it.
 [[nodiscard]] bool IsWaveFile(std::string_view bytes);
 
 }  // namespace platform

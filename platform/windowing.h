@@ -13,46 +13,47 @@ namespace platform {
 // What a surface is among its siblings.
 enum class SurfaceKind {
   kArea,
-  // One of many of which the user sees one: what lies on a hidden one may get its windows, and
-  // report its first size, only when the page is shown or the program idles.
+  // One of many pages of which the user sees one. The controls on a hidden page may get their
+  // windows, and report their first size, only when the page is shown or the program idles.
   kPage,
 };
 
-// Every `events` must outlive its widget. Widgets are made hidden with bounds of zero; a failure of
-// the system throws std::runtime_error. `name` lets tests and screen readers of other programs find
-// the widget; it may be empty.
+// Every `events` must outlive its widget. Widgets are made hidden, with bounds of zero. Making one
+// throws std::runtime_error when the system refuses. `name` lets tests and screen readers find the
+// widget; it may be empty.
 //
-// The keyboard in a window with a caption: Tab goes through its controls in the order in which they
-// were made, those on a surface in the place of the surface; of radio buttons that exclude each
-// other it takes the chosen one, and the arrow keys move among them. Alt with the marked letter
-// reaches a control; Enter presses the default button; Esc is OnCancelKey; Ctrl+Tab goes to the
-// next of the tabs that the keyboard is in, or of the first ones.
+// The keyboard works like this in a window with a caption. Tab goes through the controls in the
+// order in which they were made, with the controls on a surface in the place of the surface. Of
+// radio buttons that exclude each other, Tab goes to the chosen one, and the arrow keys move among
+// them. Alt with the marked letter reaches a control, Enter presses the default button, and Esc
+// reports OnCancelKey. Ctrl+Tab goes to the next tab of the Tabs control that has the focus, or of
+// the first one in the window.
 class Windowing {
  public:
   virtual ~Windowing() = default;
 
-  // The hidden window of the application, which owns all top windows, gets this title.
+  // Sets the title of the application's hidden window, which owns all top windows.
   virtual void SetApplicationTitle(std::string_view title) = 0;
   // Gives the application's window the tool-window style, so that the taskbar shows no button.
   virtual void HideTaskbarButton() = 0;
 
-  // A hidden top window. `owner` (null: the application) stays below it.
+  // Makes a hidden top window. `owner` (null for the application) stays below it.
   [[nodiscard]] virtual std::unique_ptr<TopWindow> CreateTopWindow(const TopWindowParams& params,
                                                                    TopWindow* owner,
                                                                    TopWindowEvents& events) = 0;
 
-  // An area that the program paints (OnPaint) and that may hold other widgets; never has the
-  // keyboard itself.
+  // Makes an area that the program paints (OnPaint) and that may hold other widgets. It never has
+  // the focus itself.
   [[nodiscard]] virtual std::unique_ptr<Widget> CreateSurface(Widget& parent, std::string_view name,
                                                               SurfaceKind kind,
                                                               WidgetEvents& events) = 0;
 
-  // A text; reports the mouse. Never has the keyboard.
+  // Makes a text, which reports the mouse and never has the focus.
   [[nodiscard]] virtual std::unique_ptr<Widget> CreateText(Widget& parent, std::string_view name,
                                                            const TextStyle& style,
                                                            WidgetEvents& events) = 0;
 
-  // The system's controls.
+  // The functions that follow make the system's controls.
   [[nodiscard]] virtual std::unique_ptr<Button> CreateButton(Widget& parent, std::string_view name,
                                                              ButtonKind kind,
                                                              WidgetEvents& events) = 0;

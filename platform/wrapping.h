@@ -1,12 +1,12 @@
-// Sums of 64-bit numbers that wrap at their end instead of stopping the program.
+// Sums of 64-bit numbers that wrap at 2^64 instead of overflowing.
 #pragma once
 
 #include <cstdint>
 
 namespace platform {
 
-// Sum, difference and absolute value modulo 2^64.
-// The absolute value of the smallest number is that number itself.
+// Return sum, difference and absolute value modulo 2^64. The absolute value of the smallest number
+// is that number itself.
 [[nodiscard]] constexpr std::int64_t WrappingAdd(std::int64_t a, std::int64_t b) {
   return static_cast<std::int64_t>(static_cast<std::uint64_t>(a) + static_cast<std::uint64_t>(b));
 }

@@ -1,4 +1,5 @@
-// What an alert does: the list of actions, and the message for the one that shows it.
+// The fields for what an alert does: the list of actions, and the message for the action that shows
+// one.
 #pragma once
 
 #include <vector>
@@ -13,14 +14,16 @@ struct ActionFields {
   Labelled<toolkit::ComboBox> action;
   Labelled<toolkit::Edit> message;
 
-  // Shows the message only with the action that displays it; after every change of the list.
+  // Shows the message field only for the action that displays a message. Call it after every change
+  // of the list.
   void ShowMessage() {
     const bool shown = action.ItemIndex() == alerts::kDisplayMessage;
     message.label.SetVisible(shown);
     message.SetVisible(shown);
   }
 
-  // Its two rows, from this one of the column on, with their settings as a row takes them.
+  // Returns the two rows, which stand at `row` and below it in the column, with the settings in the
+  // forms that Row takes.
   template <class Action, class Message>
   std::vector<Row> Rows(const FieldColumn& column, int row, const Action& action_setting,
                         const Message& message_setting) {

@@ -1,4 +1,4 @@
-// What the pages of the preferences work with.
+// The objects and calls that the pages of the preferences share.
 #pragma once
 
 #include <functional>
@@ -13,7 +13,7 @@ namespace preferences {
 
 class Context {
  public:
-  // Both outlive it.
+  // Both arguments outlive the context.
   Context(toolkit::Application& app, const display::RunningMeter& meter)
       : app(app), meter(meter), store(meter.store), language(meter.language) {}
   Context(const Context&) = delete;
@@ -23,18 +23,19 @@ class Context {
   const display::RunningMeter meter;
   settings::Store& store;
   language::Language& language;
-  // Shows what is stored, on all pages; the window sets it.
+  // Shows the stored values on all pages. The preferences window sets this function.
   std::function<void()> ReadSettings;
 
-  // While one exists, the controls take over what is stored. Their handlers push it into the meter
-  // as ever but write nothing: it is stored already, perhaps in a form that a control cannot show,
-  // and opening the preferences changes no stored value.
+  // While a Reading exists, the controls take over what is stored. Their handlers push the values
+  // into the meter as usual but write nothing: the values are stored already, perhaps in a form
+  // that a control cannot show, and opening the preferences changes no stored value.
   struct Reading : platform::ScopedValue<bool> {
     explicit Reading(Context& context) : ScopedValue(context.reading_, true) {}
   };
   [[nodiscard]] bool IsReading() const { return reading_; }
 
-  // The last step of every handler: pushes the value into the meter and then stores it.
+  // Pushes the value into the meter and, unless IsReading, then stores it. It is the last step of
+  // every handler.
   template <class Setting, class Value>
   void Change(const Setting& setting, const Value& value) {
     if (reading_) {

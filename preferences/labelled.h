@@ -14,8 +14,8 @@ struct LabelBefore {
   toolkit::Label label;
 };
 
-// The field itself. Its label is made first: the marked letter of a label leads to the control that
-// was made next.
+// A field together with its label. The label is made first: the marked letter of a label leads to
+// the control that was made next.
 template <class Field>
 class Labelled : public LabelBefore, public Field {
  public:

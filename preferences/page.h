@@ -13,7 +13,8 @@
 
 namespace preferences {
 
-// The steps of the settings read, in their order; a page has its part in one or several.
+// The steps in which the stored settings are read, in their order. A page takes part in one or
+// several of them.
 enum class ReadStep {
   kBevels,
   kGrids,
@@ -43,19 +44,20 @@ class Page : public toolkit::NotebookPage {
   Page(toolkit::Notebook& notebook, std::string_view name, Context& context)
       : NotebookPage(notebook, name), context_(context) {}
 
-  // Gives every control on the page the text under its name and, as its hint, that under its name
-  // with "Hint" behind it, as far as there are such; then the rows theirs.
+  // Gives every control on the page the text under its name and, as its hint, the text under its
+  // name with "Hint" behind it, as far as there are such texts. Then the rows set their own texts.
   virtual void Localise(const language::Translation& say);
 
-  // Shows what is stored, as far as it belongs to this step.
+  // Shows the stored values that belong to this step.
   void Read(ReadStep step);
 
  protected:
-  // Once, when the page is made: the rows of a step, in the order in which they are read.
+  // Adds the rows of a step, in the order in which they are read. Call it once for each row, when
+  // the page is made.
   void Add(ReadStep step, const std::vector<Row>& rows);
-  // Rows that are read elsewhere, or have nothing to be read.
+  // Adds rows that are read elsewhere, or have nothing to be read.
   void Add(const std::vector<Row>& rows) { Add(ReadStep::kEnd, rows); }
-  // What else is read in a step, behind the rows so far.
+  // Adds something else to be read in a step, after the rows added so far.
   void Add(ReadStep step, std::function<void()> read);
 
   Context& context_;

@@ -7,7 +7,7 @@
 
 namespace preferences {
 
-// Each makes its page in the notebook; both outlive it.
+// Each function makes its page in the notebook. Both arguments outlive the page.
 using MakePage = std::unique_ptr<Page>(toolkit::Notebook& notebook, Context& context);
 
 MakePage MakeGeneralPage;

@@ -13,7 +13,7 @@ class PicturePanel final : public toolkit::Control {
  public:
   PicturePanel(toolkit::Control& parent, std::string_view name);
 
-  // Shows the pictures of a file, or else of `fallback`, or else none.
+  // Shows the pictures of the file at `path`, or else those of `fallback`, or else none.
   void Load(const std::string& path, const std::string& fallback);
 
   // Design pixels of the whole panel.

@@ -1,4 +1,4 @@
-// Where things are on a page, in design pixels.
+// The places of the controls on a page, in design pixels.
 #pragma once
 
 #include "platform/geometry.h"
@@ -9,8 +9,8 @@ namespace preferences {
 inline constexpr int kPageWidth = 424;
 inline constexpr int kPageHeight = 400;
 inline constexpr int kMargin = 8;
-inline constexpr int kWidth = kPageWidth - 2 * kMargin;   // of what is on a page
-inline constexpr int kGroupWidth = kWidth - 2 * kMargin;  // of what is in a group
+inline constexpr int kWidth = kPageWidth - 2 * kMargin;   // of the controls on a page
+inline constexpr int kGroupWidth = kWidth - 2 * kMargin;  // of the controls in a group
 inline constexpr int kGroupTop = toolkit::GroupBox::kTitleHeight + 5;
 inline constexpr int kRow = 23;          // from one line of controls to the next
 inline constexpr int kFieldRow = 27;     // the same where there are fields
@@ -18,7 +18,7 @@ inline constexpr int kBoxHeight = 17;    // check boxes, radio buttons, labels
 inline constexpr int kFieldHeight = 21;  // edits and lists
 inline constexpr int kButtonHeight = 25;
 
-// Of a control, and of its label where it has one.
+// The place of a control, and of its label where it has one.
 struct Place {
   constexpr Place(int left, int top, int width, int height) : control{left, top, width, height} {}
   constexpr Place(const platform::Rect& control, const platform::Rect& label)
@@ -28,20 +28,20 @@ struct Place {
   platform::Rect label;
 };
 
-// A line of its own on a page or, with kGroupWidth, in a group.
+// Returns a whole line of a page or, with kGroupWidth, of a group.
 constexpr Place Line(int top, int width = kWidth) { return {kMargin, top, width, kBoxHeight}; }
 
-// A line of a group, from 0.
+// Returns the line of a group with this number, counted from 0.
 constexpr Place GroupLine(int row) { return Line(kGroupTop + row * kRow, kGroupWidth); }
 
-// A label and, behind it, a field. The label is two pixels lower, so that their texts stand on one
-// line.
+// Returns the places of a label and of the field behind it. The label is two pixels lower, so that
+// the two texts stand on one line.
 constexpr Place LabelAndField(int left, int top, int label_width, int field_width) {
   return {{left + label_width + kMargin, top, field_width, kFieldHeight},
           {left, top + 2, label_width, kBoxHeight}};
 }
 
-// A field with its label on the line above it.
+// Returns the places of a field and of its label on a line above it.
 constexpr Place Below(int label_top, const platform::Rect& field) {
   return {field, {kMargin, label_top, kWidth, kBoxHeight}};
 }
@@ -52,7 +52,7 @@ struct FieldColumn {
   int label_width;
 
   [[nodiscard]] constexpr int FieldLeft() const { return kMargin + label_width + kMargin; }
-  // Up to the margin of the page.
+  // Returns the width from the field's left side to the margin of the page.
   [[nodiscard]] constexpr int FieldWidth() const { return kPageWidth - kMargin - FieldLeft(); }
   [[nodiscard]] constexpr int Top(int row) const { return top + row * kFieldRow; }
   [[nodiscard]] constexpr Place At(int row, int width) const {

@@ -27,11 +27,11 @@
 
 namespace preferences {
 
-// The text of the preferences under this key; null when there is none.
+// Returns the text of the preferences under this key, or null when there is none.
 [[nodiscard]] const language::TextEntry* FindText(std::string_view key);
 
-// What can be entered; `step` is the page step of a track bar. A spin edit says it in its hint,
-// with `hint` in place of the usual words.
+// The numbers that can be entered; for a track bar, `step` is the page step. A spin edit states its
+// range in its hint, with the text `hint`, if there is one, in place of the usual words.
 struct Range {
   std::int64_t lowest;
   std::int64_t highest;
@@ -39,18 +39,18 @@ struct Range {
   const language::TextEntry* hint = nullptr;
 };
 
-// A spin edit whose only bounds are those of what can be stored.
+// The step of a spin edit whose only bounds are those of what can be stored.
 struct Steps {
   std::int64_t step;
 };
 
-// The rows of a list or buttons of a group: the texts of `key` with 0, 1, 2 behind it, as far as
-// there are any.
+// The rows of a list or the buttons of a group: the texts under `key` with 0, 1, 2 and so on behind
+// it, as far as there are such texts.
 struct Items {
   std::string_view key;
 };
 
-// Other texts than those of the name; an empty one leaves what there is.
+// Texts other than those under the control's name. An empty one leaves the control's text as it is.
 struct Says {
   language::TextEntry caption;
   language::TextEntry hint = {};
@@ -62,9 +62,10 @@ struct Choice {
   std::int64_t value;
 };
 
-// How each kind of control tells of a change, says its value, and shows one. Of lists and groups it
-// is the number of the row or button; one that does not exist leaves the choice as it is. A number
-// outside a range is shown as it is by a spin edit, and as the nearest end by a track bar.
+// For each kind of control: the event that reports a change, the present value, and the call that
+// shows a value. The value of a list or group is the number of the row or button; a number that
+// does not exist leaves the choice as it is. A spin edit shows a number outside its range as it is,
+// a track bar shows the nearer end.
 using Event = std::function<void()>;
 inline Event& EventOf(toolkit::CheckBox& box) { return box.OnClick; }
 inline Event& EventOf(toolkit::ListControl& list) { return list.OnChange; }
@@ -88,7 +89,8 @@ void ShowIn(toolkit::TrackBar& bar, std::int64_t value);
 inline void ShowIn(toolkit::Edit& edit, const std::string& value) { edit.SetText(value); }
 inline void ShowIn(SoundFile& file, const std::string& value) { file.SetPath(value); }
 
-// Made where the page is made; the control outlives it. Behind the place stand, in any order:
+// A row is made where its page is made; the control outlives it. After the place come, in any
+// order:
 //   a setting, or a call that gives the one that counts at the moment
 //   Range, Steps, Items, Choice or Says
 //   a call of what else on the page follows the control, made before the value is pushed
@@ -108,11 +110,11 @@ class Row {
 
   using Words = std::function<void(const language::Translation& say)>;
 
-  // Each is empty where there is nothing to do.
-  Event follows;                                        // of the page
-  std::function<void(Context&, const Event&)> connect;  // makes the handler of the control
+  // Each of these is empty when there is nothing to do.
+  Event follows;                                        // updates the rest of the page
+  std::function<void(Context&, const Event&)> connect;  // sets the handler of the control
   std::function<void(Context&)> read;                   // shows what is stored
-  std::vector<Words> says;                              // texts but those of the name
+  std::vector<Words> says;  // set the texts other than those under the name
 
  private:
   template <class Control, class More>

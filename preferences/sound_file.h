@@ -15,20 +15,20 @@ namespace preferences {
 
 class SoundFile {
  public:
-  // The names of its controls. `parent` outlives it.
+  // The texts are the names of the controls. `parent` outlives the line.
   SoundFile(toolkit::Control& parent, std::string_view path, std::string_view open,
             std::string_view play);
 
-  // Design pixels of the whole line.
+  // Places the whole line, in design pixels.
   void Place(const platform::Rect& line);
   void Localise(const language::Translation& say);
 
-  // Empty for silence.
+  // Returns the path of the sound file, or an empty text for silence.
   [[nodiscard]] const std::string& Path() const { return path_.Text(); }
   void SetPath(std::string_view path) { path_.SetText(path); }
   void SetEnabled(bool enabled);
 
-  // The path is another one, chosen or typed.
+  // Runs when the path has changed, whether it was chosen, typed or set by code.
   std::function<void()> OnChange;
 
  private:

@@ -1,5 +1,5 @@
-// The preferences: a tree of page names, and the pages. Whatever the user changes counts at once;
-// there is nothing to confirm and nothing to take back.
+// The preferences window: a tree of page names, and the pages. Whatever the user changes takes
+// effect at once; there is no button to confirm or to cancel.
 #pragma once
 
 #include <functional>
@@ -18,14 +18,15 @@ namespace preferences {
 
 class T_frmPreferences final : public toolkit::Form {
  public:
-  // Made hidden. The application and the meter's parts outlive it.
+  // Makes the window hidden. The application and the meter's parts outlive it.
   T_frmPreferences(toolkit::Application& app, const display::RunningMeter& meter);
 
-  // Shows it with what is stored now, or brings it to the front.
+  // Shows the window with the values that are stored now, or brings it to the front when it is
+  // open.
   void Open();
 
-  // Puts every stored value into its control. A control that changes fires its handler, and that is
-  // how the running meter takes over what was stored from elsewhere.
+  // Puts every stored value into its control. A control that changes fires its handler; in this way
+  // the running meter takes over values that were stored by something else.
   void ReadSettings();
 
   void Localise() override;
@@ -45,7 +46,8 @@ class T_frmPreferences final : public toolkit::Form {
   toolkit::PlacementSaver placement_;
 };
 
-// The call that opens the preferences of a meter: it makes them the first time and keeps them.
+// Returns the function that opens the preferences of a meter. It makes the window the first time
+// and keeps it.
 [[nodiscard]] std::function<void()> PreferencesOf(toolkit::Application& app,
                                                   const display::RunningMeter& meter);
 

@@ -10,16 +10,16 @@
 
 namespace program {
 
-// Returns what `run` returns, the exit code. A second copy of the program returns 0 at once,
-// without a window or a word, and leaves the first alone. The first thing of all, before the system
-// is asked for any window.
+// Runs `run` and returns its exit code. A second copy of the program returns 0 at once, without a
+// window or a message, and leaves the first copy alone. This is called first of all, before the
+// system is asked for any window.
 int RunOnce(platform::SingleInstance& single_instance, const std::function<int()>& run);
 
-// The meter window with its preferences. Once a start, when the window has counted it, every option
-// that is not stored yet is stored with its default.
+// The meter window with its preferences. At each start, after the window has counted it, every
+// option that is not stored yet is stored with its default.
 class Program {
  public:
-  // Makes the window, initialised and shown; what it throws passes out. `platform` outlives it.
+  // Makes, initialises and shows the window; exceptions pass out. `platform` outlives the program.
   explicit Program(platform::Platform& platform);
 
   // Runs until the message loop is quit and returns the exit code.

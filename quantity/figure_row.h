@@ -1,4 +1,4 @@
-// A row of a group of figures: what it is, its value, its unit.
+// A row of a group of figures: a caption, a value and a unit.
 #pragma once
 
 #include <string_view>
@@ -15,19 +15,19 @@ struct FigureRow {
     std::string_view value;
     std::string_view unit;
   };
-  // How the rows of a group are divided, in design pixels; the caption takes so much of what is
-  // left beside the unit.
+  // How the rows of a group are divided, in design pixels. The caption takes `caption_percent` of
+  // the width that is left beside the unit.
   struct Columns {
     int unit_width;
     int gap;
     int caption_percent;
   };
 
-  // Made as a zero, "0,0" and "kB". The value stands in a sunken box.
+  // Makes the row with the value "0,0" and the unit "kB". The value stands in a sunken box.
   FigureRow(toolkit::Control& parent, const Names& names, const platform::TextStyle& caption_style,
             const platform::TextStyle& unit_style);
 
-  // Design pixels. Where the unit is hidden the value takes its place.
+  // `bounds` is in design pixels. When the unit is hidden, the value takes its place.
   void Place(const platform::Rect& bounds, const Columns& columns);
 
   void SetColour(platform::Colour colour);

@@ -10,12 +10,12 @@
 
 namespace quantity {
 
-// An amount to be read: "1,5" and "kB". Both are empty for an amount that has no text.
+// The text of an amount, such as "1,5" and "kB". Both are empty for an amount that has no text.
 struct QuantityText {
   std::string number;
   std::string unit;
 
-  // "1,5 kB"; one blank of an amount without a text.
+  // Returns a text like "1,5 kB", or one blank for an amount without a text.
   [[nodiscard]] std::string Joined() const { return number + ' ' + unit; }
 };
 
@@ -28,11 +28,11 @@ class Formatter {
   // The locale gives the decimal separator of the user's number format; it outlives the formatter.
   Formatter(Units units, platform::Locale& locale) : units_(units), locale_(locale) {}
 
-  // For amounts that are never negative. No text for an amount in none of the ranges: below zero,
-  // in one of the gaps between them, or 1023999999999999 and more.
+  // Formats amounts that are never negative. An amount in none of the ranges has no text: below
+  // zero, in one of the gaps between the ranges, or 1023999999999999 and more.
   [[nodiscard]] QuantityText Text(std::int64_t bytes) const;
 
-  // The same with ranges below zero. Zero bytes are "0", "kB" here.
+  // Formats in the same way, with ranges below zero too. Zero bytes give "0" and "kB" here.
   [[nodiscard]] QuantityText SignedText(std::int64_t bytes) const;
 
  private:
@@ -45,13 +45,13 @@ class Formatter {
 
 class Quantity {
  public:
-  // Both outlive it.
+  // Both arguments outlive the quantity.
   Quantity(settings::Store& store, platform::Locale& locale) : store_(store), locale_(locale) {}
 
-  // For one step, in the unit family that "ScaleUnit" has now.
+  // Returns a formatter for one step, in the unit family that "ScaleUnit" has now.
   [[nodiscard]] Formatter ForStep() const;
 
-  // "1,5|kB|": number, bar, unit, bar, as the formatter has them; empty for an amount without a
+  // Return number, bar, unit and bar, such as "1,5|kB|", or an empty text for an amount without a
   // text. "ScaleUnit" is read at each call.
   [[nodiscard]] std::string FormatQuantity(std::int64_t bytes) const;
   [[nodiscard]] std::string FormatSignedQuantity(std::int64_t bytes) const;
@@ -61,9 +61,9 @@ class Quantity {
   platform::Locale& locale_;
 };
 
-// The Index-th (from 1) piece of S, each piece ending at a Delimiter; empty where the Delimiter is
-// missing and for an Index of 0 or less. Of a Delimiter longer than one character only the first is
-// taken off with the piece before it.
+// Returns the Index-th piece of S, counted from 1; each piece ends at a Delimiter. Returns an empty
+// text when that Delimiter is missing and when Index is 0 or less. When a Delimiter is longer than
+// one character, only its first character is removed together with the piece before it.
 [[nodiscard]] std::string GetToken(std::string_view S, std::string_view Delimiter, int Index);
 
 }  // namespace quantity

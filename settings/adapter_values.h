@@ -1,9 +1,9 @@
 // The names under which the values of a network adapter are stored. An adapter is known by its
 // description alone.
 //
-// There are two forms of a name, and they differ for a description with blanks at its ends: the
-// include flag that the engine reads and the adapter data keep the blanks, the menu's include flag
-// and the statistics do not. Stored values of users depend on it; do not unify them.
+// A name has two forms, which differ for a description with blanks at its ends: the include flag
+// that the engine reads and the adapter data keep the blanks; the menu's include flag and the
+// statistics drop them. Both forms are kept; do not unify them.
 #pragma once
 
 #include <string>
@@ -11,11 +11,12 @@
 
 namespace settings {
 
-// The description in lower case (A to Z only), blanks kept: include flag of the engine (a boolean
-// under Settings), adapter data.
+// Returns the description in lower case (A to Z only) with its blanks kept. It names the include
+// flag of the engine (a boolean under Settings) and the adapter data.
 [[nodiscard]] std::string AdapterName(std::string_view description);
 
-// The same without blanks at its ends: include flag of the menu, statistics.
+// Returns the same text without blanks at its ends. It names the include flag of the menu and the
+// statistics.
 [[nodiscard]] std::string TrimmedAdapterName(std::string_view description);
 
 // Suffixes of the adapter data under AdapterDatas, behind AdapterName. The suffixes of the

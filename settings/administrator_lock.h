@@ -1,4 +1,4 @@
-// The administrator lock: the settings and the exit of the program behind a password of the user's.
+// The administrator lock, which protects the settings and the exit of the program with a password.
 #pragma once
 
 #include <string_view>
@@ -7,11 +7,11 @@
 
 namespace settings {
 
-// Whether the lock is on. Off, the password stays stored.
+// Returns whether the lock is on. The password stays stored while the lock is off.
 [[nodiscard]] bool LockEngaged(Store& store);
 
-// Whether a text is the stored password: letter by letter, capitals too.
-//   if_none  taken for the password when none is stored
+// Returns whether a text is the stored password; the case of the letters matters.
+//   if_none  the text that counts as the password when none is stored
 [[nodiscard]] bool PasswordMatches(Store& store, std::string_view typed,
                                    std::string_view if_none = {});
 

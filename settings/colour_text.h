@@ -9,12 +9,12 @@
 
 namespace settings {
 
-// "clRed" for one of the sixteen standard colours, "clBtnFace" for a system colour, otherwise "$"
-// and eight hexadecimal digits of 0x00BBGGRR.
+// Returns a name like "clRed" for one of the sixteen standard colours, a name like "clBtnFace" for
+// a system colour, and otherwise "$" and eight hexadecimal digits of 0x00BBGGRR.
 [[nodiscard]] std::string ColourText(platform::Colour colour);
 
-// What ColourText writes, names and digits in any case, "$" with fewer digits, or a decimal number
-// of 32 bits. Nothing for any other text.
+// Returns the colour of a text that ColourText writes, with names and digits in any case; also of
+// "$" with fewer digits, and of a decimal number of 32 bits. Returns nullopt for any other text.
 [[nodiscard]] std::optional<platform::Colour> ParseColour(std::string_view text);
 
 }  // namespace settings

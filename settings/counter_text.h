@@ -8,18 +8,18 @@
 
 namespace settings {
 
-// A stored text that should be a number is none: "'abc' is not a valid integer value". Of a text of
-// more than 100 characters only those are quoted, with its length.
+// Thrown when a stored text that should be a number is none. Its message is like "'abc' is not a
+// valid integer value"; of a longer text it quotes the first 100 characters and states the length.
 class ConversionError : public std::runtime_error {
  public:
   explicit ConversionError(std::string_view text);
 };
 
-// An optional sign and decimal digits that fit into 64 bits; throws ConversionError for anything
-// else, also for an empty text or one with blanks.
+// Returns the number in a text of an optional sign and decimal digits that fit into 64 bits. Throws
+// ConversionError for any other text, also for an empty text and for one with blanks.
 [[nodiscard]] std::int64_t ParseCounter(std::string_view text);
 
-// The decimal digits of the absolute value.
+// Returns the decimal digits of the absolute value.
 [[nodiscard]] std::string CounterText(std::int64_t value);
 
 }  // namespace settings

@@ -1,4 +1,4 @@
-// What a first start leaves in the registry.
+// Fills the registry at the first start.
 #pragma once
 
 #include "platform/date_time.h"

@@ -15,25 +15,27 @@ namespace settings {
 
 // The dialog shows bits per second; what is stored is an eighth of that. Every limit that is
 // computed from the store, in bytes per scan, is once more an eighth of what is stored. So a custom
-// speed limits to an eighth of the bytes that its text promises: users' stored values count on it,
-// and this is the only place that knows.
+// speed limits to an eighth of the bytes that its text promises. This rule is kept, and it stands
+// in this file only.
 constexpr std::int64_t ShownSpeed(std::int64_t stored) { return stored * 8; }
 constexpr std::int64_t StoredSpeed(std::int64_t shown) { return shown / 8; }
 constexpr std::int64_t LimitOfStoredSpeed(std::int64_t stored) { return stored / 8; }
-// The exception: while the user changes it in the dialog, the meter is given the shown speed's own
-// bytes, until the limit is next computed from the store.
+// The exception: while the user changes the speed in the dialog, the meter is given the full bytes
+// of the shown speed, until the limit is next computed from the store.
 constexpr std::int64_t LimitOfShownSpeed(std::int64_t shown) { return shown / 8; }
 
 struct ScaleChoice {
-  std::string_view text;  // of the list; the first and the last have a language text of their own
+  std::string_view
+      text;  // text in the list; the first and the last have a language text of their own
   bool AutoScale;
-  std::int64_t SpeedLimit;  // bytes per scan at full scale; of the last one: the custom speed
+  std::int64_t
+      SpeedLimit;  // bytes per scan at full scale; the last choice has the custom speed instead
 };
 
 inline constexpr std::size_t kAutomaticScale = 0;
 inline constexpr std::size_t kCustomScale = 16;
 
-// By the stored "GraphScaleType".
+// The index is the stored "GraphScaleType".
 inline constexpr std::array<ScaleChoice, 17> kScaleChoices = {{
     {language::text::SettingsForm::S13.english, true, 0},
     {"14.4     kbps [ Analog Modem ]", false, 1800},
@@ -49,7 +51,7 @@ inline constexpr std::array<ScaleChoice, 17> kScaleChoices = {{
     {"1.544   mbps [ T1,DSL,Cable Modem ]", false, 193000},
     {"2          mbps [ DSL,Cable Modem ]", false, 250000},
     {"10        mbps [ DSL,Cable Modem,LAN ]", false, 1250000},
-    // The limit is that of 47.436 Mbit/s, although the text says 47.736; both are meant to stay.
+    // The limit is that of 47.436 Mbit/s, although the text says 47.736; both are kept.
     {"47.736 mbps [ DS3 ]", false, 5929500},
     {"100      mbps [ LAN ]", false, 12500000},
     {language::text::SettingsForm::S14.english, false, 0},
@@ -61,11 +63,12 @@ struct AppliedScale {
   std::int64_t SpeedCap;    // of the sampler, bytes per scan; 0 for none
 };
 
-// What a choice means, with a limit of the custom speed in bytes per scan; nothing for an index
-// outside the list.
+// Returns the scale of a choice, or nullopt for an index outside the list. `custom_limit` is the
+// limit of the custom speed in bytes per scan.
 [[nodiscard]] std::optional<AppliedScale> ScaleOf(std::int64_t index, std::int64_t custom_limit);
 
-// The stored choice; nothing for an index outside the list, which leaves the scale as it is.
+// Returns the scale of the stored choice, or nullopt for an index outside the list, which leaves
+// the scale as it is.
 [[nodiscard]] std::optional<AppliedScale> ReadScale(Store& store);
 
 }  // namespace settings

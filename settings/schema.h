@@ -40,11 +40,11 @@ enum class ResetGroup {
 // A default of the table.
 struct Default {
   enum class Kind {
-    kNone,         // no such default: not read, or not reset
+    kNone,         // no default: the value is not read, or not reset
     kNumber,       // `number`: an integer, 0 or 1 of a boolean, a colour
     kText,         // `text`
     kProgramFile,  // the folder of the program and `text`
-    kOfToday,      // the date of today and `number` days; for week and month today's own
+    kOfToday,  // the date of today plus `number` days; for a week or month marker the one of today
   };
 
   constexpr Default() = default;
@@ -75,7 +75,8 @@ constexpr Default OfToday(int days) {
   return date;
 }
 
-// The typed constants' types: the name, and the default that a reader passes.
+// The types of the typed constants. Each holds the value's name and the default that a reader
+// passes.
 struct IntegerSetting {
   std::string_view name;
   std::int64_t read;
@@ -112,7 +113,7 @@ namespace setting {
 #include "settings/schema_table.inc"
 }  // namespace setting
 
-// One line of the table, for whoever goes through all of it.
+// One line of the table, for code that goes through all of it.
 struct SchemaRow {
   std::string_view name;
   ValueType type;
@@ -121,7 +122,7 @@ struct SchemaRow {
   ResetGroup group;
 };
 
-// Every stored value with a fixed name, in the order of the reset.
+// Returns every stored value with a fixed name, in the order of the reset.
 [[nodiscard]] std::span<const SchemaRow> Schema();
 
 }  // namespace settings

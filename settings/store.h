@@ -31,37 +31,41 @@ class Store {
   Store(platform::Registry& registry, platform::Files& files)
       : registry_(registry), files_(files) {}
 
-  // Reads of a value under Settings. One that is missing, has another registry type or, for a
-  // colour, is no colour's text gives the default, which is stored in its place (an integer's low
-  // 32 bits). They never fail: where the default cannot be stored either, it is only returned, and
-  // a key that can only be read is read.
+  // Return a value under Settings. When the value is missing, has another registry type or, for a
+  // colour, is not the text of a colour, they return the default and store it in its place (the low
+  // 32 bits of an integer). They never fail: a default that cannot be stored is only returned, and
+  // a key that does not allow writing is still read.
   std::int64_t ReadInteger(std::string_view name, std::int64_t default_value);
   bool ReadBool(std::string_view name, bool default_value);
   platform::DateTime ReadDate(std::string_view name, platform::DateTime default_value);
   platform::Colour ReadColor(std::string_view name, platform::Colour default_value);
 
-  // Writes under Settings. True when the key could be opened and the value was written; a write
-  // that the system refuses throws std::runtime_error and leaves the old value.
+  // Write a value under Settings. They return true when the value was written and false when the
+  // key could not be opened. A write that the system refuses throws std::runtime_error and leaves
+  // the old value.
   bool WriteInteger(std::string_view name, std::int64_t value);  // stores the low 32 bits
   bool WriteBool(std::string_view name, bool value);
   bool WriteDate(std::string_view name, platform::DateTime value);
   bool WriteColor(std::string_view name, platform::Colour value);
 
-  // A text; the default, which is not stored, when it is missing or no text.
+  // Returns a text. When it is missing or has another registry type, returns the default, which is
+  // not stored.
   [[nodiscard]] std::string ReadString(KeyIndex key, std::string_view name,
                                        std::string_view default_value);
-  // As the other writes; also false for an index above 3.
+  // Writes a text and fails as the other writes do; also returns false for an index above 3.
   bool WriteString(KeyIndex key, std::string_view name, std::string_view value);
 
-  // A 64-bit number kept as text, 0 when missing; throws ConversionError when the text is no
-  // number. Written is the decimal of the absolute value.
+  // Read and write a 64-bit number that is kept as text. A missing number is 0. A read throws
+  // ConversionError when the text is no number. A write stores the decimal digits of the absolute
+  // value.
   [[nodiscard]] std::int64_t ReadCounter(KeyIndex key, std::string_view name);
   bool WriteCounter(KeyIndex key, std::string_view name, std::int64_t value);
 
-  // Deletes a value of the Run key. True when the key is there and the deletion was asked for.
+  // Deletes a value of the Run key. Returns true when the key exists and the system was asked to
+  // delete the value.
   bool DeleteRunValue(std::string_view name);
 
-  // The same by the schema's constants, with the schema's default.
+  // The same reads and writes by the schema's constants, with the schema's defaults.
   std::int64_t Read(const IntegerSetting& s) { return ReadInteger(s.name, s.read); }
   bool Read(const BooleanSetting& s) { return ReadBool(s.name, s.read); }
   platform::Colour Read(const ColourSetting& s) { return ReadColor(s.name, s.read); }
@@ -73,7 +77,7 @@ class Store {
     return ReadCounter(KeyIndex::kSettings, s.name);
   }
 
-  // For the few readers whose default differs from the schema's.
+  // For the few readers whose default differs from the one in the schema.
   std::int64_t ReadWith(const IntegerSetting& s, std::int64_t own_default) {
     return ReadInteger(s.name, own_default);
   }
@@ -93,9 +97,9 @@ class Store {
     return WriteCounter(KeyIndex::kSettings, s.name, value);
   }
 
-  // Full path of a file beside the program.
+  // Returns the full path of a file beside the program.
   [[nodiscard]] std::string ProgramFile(std::string_view name) const;
-  // The text of a text's default; empty when there is none.
+  // Returns the text of a default, or an empty text when there is none.
   [[nodiscard]] std::string Resolve(const Default& value) const;
 
  private:

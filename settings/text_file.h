@@ -1,4 +1,4 @@
-// Text files that users edit with whatever they have.
+// Reads text files that users edit with any editor.
 #pragma once
 
 #include <string>
@@ -8,10 +8,10 @@
 
 namespace settings {
 
-// The text in a file's bytes: UTF-8 or UTF-16 with a byte order mark; without one UTF-8 or else the
-// system's code page. A file that ends in the middle of a character ends with U+FFFD. Bytes that
-// are no text at all give something that is valid UTF-8, with NUL characters in it where they had
-// some.
+// Returns the text in a file's bytes as UTF-8. The bytes are UTF-8 or UTF-16 with a byte order
+// mark; without a mark they are UTF-8 or else in the system's code page. A file that ends in the
+// middle of a character gives U+FFFD at its end. Bytes that are no text at all still give valid
+// UTF-8, with NUL characters where the bytes had them.
 [[nodiscard]] std::string DecodeTextFile(std::string_view bytes, platform::Locale& locale);
 
 }  // namespace settings

@@ -15,10 +15,10 @@ namespace settings {
 
 inline constexpr std::string_view kSecurityForm = "T_frmSecurity";
 
-// Closes with kOk the moment the right password stands in its edit; a wrong one gets no answer.
+// Closes with kOk as soon as the right password stands in the edit; a wrong one gets no answer.
 class T_frmSecurity final : public toolkit::Form {
  public:
-  // Made hidden; shown by the modal stack. All outlive the prompt.
+  // Makes the window hidden; the modal stack shows it. All arguments outlive the window.
   T_frmSecurity(toolkit::Application& app, Store& store, const language::Language& language);
 
   void Localise() override;

@@ -1,4 +1,4 @@
-// The window that says what program this is.
+// The about box, which shows the program's name, version and description.
 #pragma once
 
 #include <functional>
@@ -24,9 +24,9 @@ class AboutBox final : public Form {
  public:
   static constexpr std::string_view kName = "T_frmAbout";
 
-  // Made hidden; shown by the modal stack.
-  //   images  the first is the program's picture; outlives the box
-  //   texts   asked when the box is made, and again when the language changes
+  // Makes the window hidden; the modal stack shows it.
+  //   images  the first image is the program's picture; the list outlives the box
+  //   texts   called when the box is made, and again when the language changes
   AboutBox(Application& app, const ImageList& images, std::function<AboutTexts()> texts);
 
   void Localise() override;

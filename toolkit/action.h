@@ -15,7 +15,7 @@ class Action {
   std::string Category = "Others";
   std::function<void()> OnExecute;
 
-  // Without a handler nothing happens.
+  // Runs the handler; without one nothing happens.
   void Execute() const {
     if (OnExecute) OnExecute();
   }

@@ -29,7 +29,8 @@ class Application {
   [[nodiscard]] ModalStack& Modals() { return modals_; }
   [[nodiscard]] HintWindow& Hints() { return hints_; }
 
-  // Gets the message of every exception that leaves a handler; what it throws itself is dropped.
+  // Sets the function that gets the message of every exception that leaves a handler. An exception
+  // of this function itself is dropped.
   void SetExceptionHandler(std::function<void(std::string_view message)> handler) {
     exception_handler_ = std::move(handler);
   }
@@ -49,16 +50,17 @@ class Application {
   // Ends every modal window with Cancel and then the message loop.
   void Terminate();
   [[nodiscard]] bool Terminated() const { return terminated_; }
-  // Lets the user interface process what is waiting. False once the program ends.
+  // Lets the user interface process the messages that are waiting. Returns false once the program
+  // ends.
   bool ProcessMessages();
 
-  // Whether the main form is meant to be seen.
+  // Whether the main form is meant to be visible.
   bool ShowMainForm = true;
 
   // Lets all forms take their texts anew, each inside the guard.
   void LanguageChanged();
 
-  // All forms that exist, in order of creation; kept by Form.
+  // Returns all forms that exist, in order of creation. Form keeps this list.
   [[nodiscard]] const std::vector<Form*>& Forms() const { return forms_; }
 
  private:

@@ -9,7 +9,7 @@
 
 namespace toolkit {
 
-// Its caption is the chosen colour as "#RRGGBB", so that screen readers say it.
+// The palette's caption is the chosen colour as "#RRGGBB", so that screen readers say it.
 class ColourPalette : public Control {
  public:
   static constexpr int kColumns = 8;
@@ -17,14 +17,14 @@ class ColourPalette : public Control {
 
   ColourPalette(Control& parent, std::string_view name);
 
-  // Nothing for a colour that is not in the field.
+  // Returns the chosen colour, or nullopt when no cell is chosen.
   [[nodiscard]] std::optional<platform::Colour> Chosen() const;
-  // Chooses the cell of a colour, or none.
+  // Chooses the cell of a colour, or no cell when the field does not have the colour.
   void Choose(platform::Colour colour);
 
-  // The user has chosen another cell.
+  // Runs when the user has chosen another cell.
   std::function<void()> OnChange;
-  // The user wants the chosen colour: a double click, or Enter or the space bar.
+  // Runs when the user confirms the chosen colour with a double click, Enter or the space bar.
   std::function<void()> OnConfirm;
 
  protected:
@@ -36,14 +36,14 @@ class ColourPalette : public Control {
   void Clicked() override;
 
  private:
-  // The cell at a point, in real pixels; -1 beside all.
+  // Returns the cell at a point in real pixels, or -1 when the point is outside all cells.
   [[nodiscard]] int CellAt(platform::Point at) const;
   [[nodiscard]] platform::Rect CellArea(int cell) const;
   void Move(int to);
   void Show(int cell);
 
   int cell_ = -1;
-  bool by_mouse_ = false;  // the click that comes is of the mouse, which has chosen already
+  bool by_mouse_ = false;  // the next click comes from the mouse, which has chosen the cell already
 };
 
 }  // namespace toolkit

@@ -12,14 +12,15 @@ class Control;
 
 struct ColourPopupTexts {
   std::string caption;
-  std::string more;  // of the button that opens the system's own dialog
+  std::string more;  // text of the button that opens the system's own dialog
   std::string ok;
   std::string cancel;
 };
 
 // Shows a palette below `anchor`, with `present` as the chosen colour, and the system's own dialog
-// behind a button. The colour that the user has confirmed, or nothing when the user cancels, the
-// program ends or a popup is open already. A system colour that is confirmed unchanged stays one.
+// behind a button. Returns the colour that the user has confirmed, or nullopt when the user
+// cancels, the program ends or a popup is open already. A system colour that is confirmed unchanged
+// stays a system colour.
 [[nodiscard]] std::optional<platform::Colour> ChooseColour(Control& anchor,
                                                            const ColourPopupTexts& texts,
                                                            platform::Colour present);

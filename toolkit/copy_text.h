@@ -1,4 +1,4 @@
-// What the user copies.
+// Copies a text to the clipboard.
 #pragma once
 
 #include <string_view>
@@ -8,8 +8,8 @@
 
 namespace toolkit {
 
-// Puts the first 255 characters on the clipboard. Another program that holds the clipboard keeps
-// it; then nothing happens.
+// Puts the first 255 characters on the clipboard. Does nothing when another program holds the
+// clipboard.
 inline void CopyText(platform::Clipboard& clipboard, std::string_view text) {
   clipboard.SetText(platform::CutCharacters(text, 255));
 }

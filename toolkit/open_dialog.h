@@ -14,13 +14,14 @@ class Form;
 class OpenDialog {
  public:
   std::string Title;
-  // The first kind is chosen at first; the masks are shown behind the names.
+  // The kinds of files that the user can choose from. The first one is preset; the masks are shown
+  // behind the names.
   std::vector<platform::FileKind> Kinds;
-  // Shown at first.
+  // The folder that is shown at first.
   std::string InitialFolder;
 
-  // The full path of the file; nothing when the user cancels, the program ends, or such a dialog is
-  // open already.
+  // Shows the dialog and returns the full path of the file, or nullopt when the user cancels, the
+  // program ends, or such a dialog is open already.
   [[nodiscard]] std::optional<std::string> Execute(const Form& owner) const;
 };
 

@@ -1,4 +1,4 @@
-// A timer that keeps its phase: so many ticks last so many periods, whatever each tick cost.
+// A timer that keeps its phase: n ticks last n periods, however long each tick takes.
 #pragma once
 
 #include <cstdint>

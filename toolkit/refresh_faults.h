@@ -1,4 +1,4 @@
-// What goes wrong while a window takes its figures anew.
+// Collects the failures of a window's refresh and reports the first one.
 #pragma once
 
 #include <exception>
@@ -8,11 +8,11 @@
 
 namespace toolkit {
 
-// Each part of a refresh may fail without the others. What failed first is told, and told once: a
-// window that asks twice a second would fill the error log with it.
+// Each part of a refresh may fail without the others. The first failure is reported, and only once:
+// a window that refreshes twice a second would fill the error log with it.
 class RefreshFaults {
  public:
-  // Runs a part of the refresh and keeps what it throws.
+  // Runs a part of the refresh and keeps the message of the first exception.
   template <class Part>
   void Try(const Part& part) {
     try {
@@ -22,8 +22,8 @@ class RefreshFaults {
     }
   }
 
-  // At the end of a refresh: throws std::runtime_error with what failed first in it, unless that
-  // was so the last time already.
+  // Ends a refresh: throws std::runtime_error with the message of its first failure, unless the
+  // previous refresh failed with the same message.
   void Tell() {
     const std::string before = std::exchange(told_, std::exchange(first_, {}));
     if (!told_.empty() && told_ != before) throw std::runtime_error(told_);

@@ -10,7 +10,8 @@ namespace toolkit {
 
 class Application;
 
-// Off when it is made. Ends with its owner, so it never calls into a form that is gone.
+// The timer is off when it is made. It ends with its owner, so it never calls into a form that is
+// gone.
 class Timer {
  public:
   Timer(Application& app, int interval_ms, std::function<void()> on_timer);

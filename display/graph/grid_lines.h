@@ -7,8 +7,8 @@
 namespace display {
 
 // Draws the horizontal and vertical lines that are switched on, over the whole canvas.
-//   frame  pixels that the frame takes on each side; vertical lines stay inside it
-//   dpi    of the screen; the stored spacings are pixels at 96
+//   frame  pixels that the frame takes on each side; vertical lines stay inside the frame
+//   dpi    resolution of the screen; the stored spacings are pixels at 96 dpi
 void DrawGridLines(platform::Canvas& canvas, settings::Store& store, int frame, int dpi);
 
 }  // namespace display

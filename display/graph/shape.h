@@ -7,8 +7,8 @@
 
 namespace display {
 
-// The pixels of `picture` whose colour is not `background` (0x00BBGGRR), as rectangles that do not
-// overlap, from the top to the bottom.
+// Returns the pixels of `picture` whose colour is not `background` (0x00BBGGRR), as rectangles that
+// do not overlap, from top to bottom.
 [[nodiscard]] std::vector<platform::Rect> VisibleParts(const platform::Bitmap& picture,
                                                        platform::Colour background);
 

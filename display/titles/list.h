@@ -12,23 +12,24 @@ namespace display {
 
 using TitleLines = std::vector<std::string>;
 
-// Lists and windows stay quick with so many lines; a file may have more.
+// The most lines that are shown and used, so that lists and windows stay quick; a file may have
+// more.
 inline constexpr std::size_t kMostTitles = 10000;
 
-// What is in the list's file, "WindowTitles.tit" beside the program, one title in each line; empty
-// lines too.
+// The content of the list's file, "WindowTitles.tit" beside the program: one title in each line,
+// with empty lines kept.
 struct TitleFile {
   bool readable = true;  // a missing file is an empty one
   TitleLines lines;      // at most kMostTitles
-  std::string beyond;    // the text behind them, neither shown nor used
+  std::string beyond;    // the rest of the file's text, neither shown nor used
 };
 
-// UTF-8 with or without a byte order mark, or else the system's code page; any line ends. A file of
-// more than 16 MiB cannot be read.
+// Reads the file. Its text is UTF-8 with or without a byte order mark, or else in the system's code
+// page, with any line ends. A file of more than 16 MiB counts as not readable.
 [[nodiscard]] TitleFile LoadTitleFile(platform::Files& files, platform::Locale& locale);
 
-// Replaces the file: UTF-8 without a mark, each line ended by CR LF. False when it cannot be
-// written; one that could not be read never is.
+// Replaces the file with UTF-8 text without a byte order mark, each line ended by CR LF. Returns
+// false when the file cannot be written. A file that was not readable is never written.
 bool SaveTitleFile(platform::Files& files, const TitleFile& file);
 
 // The list in use, made ready for finding.
@@ -38,8 +39,8 @@ class TitleList {
 
   void SetLines(const TitleLines& lines);
 
-  // Whether one of the lines occurs anywhere in a title, capital letters or not. An empty line
-  // occurs in every title.
+  // Returns whether one of the lines occurs anywhere in a title, whatever the case of the letters.
+  // An empty line occurs in every title.
   [[nodiscard]] bool OccursIn(std::string_view title) const;
 
  private:

@@ -17,28 +17,29 @@ class Application;
 
 namespace display {
 
-// A title without its marker, which is the last "|" and what follows it.
+// Returns a title without its marker, which is the last "|" and what follows it.
 [[nodiscard]] std::string_view StripMarker(std::string_view title);
 
-// A posted title is the window's own title, "|" and the text. An own "|" is lost with what follows
-// it, and does not come back.
+// A posted title is the window's own title, "|" and the text. A "|" in the window's own title is
+// lost together with what follows it, and is not restored.
 class TitlePosting {
  public:
-  // All outlive this.
+  // All arguments outlive the posting.
   TitlePosting(toolkit::Application& app, settings::Store& store);
 
-  // The list of the mode that posts into chosen windows only.
+  // Sets the list of titles for the mode that posts into chosen windows only.
   void SetLines(const TitleLines& lines);
 
-  // Posts by the mode in "WindowTitle": 1 into all top-level windows, this program's too, 2 into
-  // those whose title holds a line of the list, 3 into the one that the user works in, after the
-  // markers of all others were taken away; another mode posts nowhere. Takes at most 250 ms,
-  // however many programs do not answer. What did not get its turn does the next time.
+  // Posts by the mode in "WindowTitle". Mode 1 posts into all top-level windows, this program's
+  // too; mode 2 into those whose title contains a line of the list; mode 3 into the window that the
+  // user works in, after the markers of all others were taken away; any other mode posts nowhere.
+  // Takes at most 250 ms, however many programs do not answer. A window that did not get its turn
+  // gets it at the next call.
   void PostTitles(std::string_view text);
 
-  // At the program's end, which a change of the mode is not: takes the marker from every title, if
-  // anything was posted in this run. Otherwise only the markers go that a run left behind which was
-  // ended by force: those that have the form of the numeric line.
+  // Runs at the program's end, not when the mode changes. If anything was posted in this run, takes
+  // the marker from every title. Otherwise takes away only the markers that have the form of the
+  // numeric line: those that a run left behind which was ended by force.
   void RestoreTitles();
 
  private:
@@ -51,7 +52,8 @@ class TitlePosting {
   // Takes the marker from every window but one.
   void StripAll(Turn& turn, platform::WindowId except);
   void StripLeftBehind(Turn& turn);
-  // Gives the window another title, unless it does not answer these days. True when it has it now.
+  // Gives the window another title, unless it did not answer lately. Returns true when the window
+  // has the title now.
   bool Set(Turn& turn, platform::WindowId window, const std::string& title);
   // Forgets windows that are gone.
   void ForgetAllBut(const std::vector<platform::WindowId>& windows);
@@ -62,11 +64,13 @@ class TitlePosting {
   TitleList list_;
 
   bool has_posted_ = false;  // in this run
-  // What was set, by window: tells titles that are longer than what is read of them.
+  // The title that was set, by window. It is needed for titles that are longer than what is read of
+  // them.
   std::unordered_map<platform::WindowId, std::string> posted_;
   // Windows that did not answer, and when they are tried again, in ms of the steady clock.
   std::unordered_map<platform::WindowId, std::int64_t> silent_until_;
-  // Whether the list occurs in a title: titles stay the same for long, and the list may be long.
+  // Whether a line of the list occurs in a title. It is remembered, since titles stay the same for
+  // long, and the list may be long.
   std::unordered_map<std::string, bool> listed_;
   // The window whose turn comes first, when the time was up before it.
   platform::WindowId next_ = 0;

@@ -17,12 +17,13 @@ namespace display {
 
 inline constexpr std::string_view kAddTitlesForm = "T_frmAddTitles";
 
-// What is edited is kept whichever way it closes: stored in the list's file, or else a balloon
-// tells that it cannot be, and taken over by the posting. A file that cannot be read is left as it
-// is.
+// The edited list is kept whichever way the window closes: the posting takes it over, and it is
+// stored in the list's file. When it cannot be stored, a balloon says so. A file that cannot be
+// read is left as it is.
 class T_frmAddTitles final : public toolkit::Form {
  public:
-  // Made hidden, with the lines of the file; shown by the modal stack. All outlive it.
+  // Makes the window hidden, with the lines of the file; the modal stack shows it. All arguments
+  // outlive the window.
   T_frmAddTitles(toolkit::Application& app, TitlePosting& posting, alerts::Balloons& balloons,
                  const language::Language& language);
   ~T_frmAddTitles() override;
@@ -37,9 +38,9 @@ class T_frmAddTitles final : public toolkit::Form {
   void OkBtnClick();
   void FormDestroy();
   void FormEndSession() override;
-  // Offers what can be done, and tells why something cannot.
+  // Enables the controls that can be used now, and tells the user why something cannot be done.
   void ShowState();
-  // False when the list can't be written.
+  // Returns false when the list cannot be written.
   bool Save();
 
   TitlePosting& posting_;

@@ -21,9 +21,9 @@ struct Picture {
   }
 };
 
-// The picture in the bytes of a BMP file: not compressed, with 1, 4, 8, 16, 24 or 32 bits a pixel,
-// the colours where the file says they are, each side 1 to 1024 pixels. Nothing for any other
-// bytes.
+// Returns the picture in the bytes of a BMP file, or nullopt for any other bytes. The file must not
+// be compressed, must have 1, 4, 8, 16, 24 or 32 bits a pixel and sides of 1 to 1024 pixels; its
+// header says where the colours are.
 [[nodiscard]] std::optional<Picture> DecodeBitmap(std::string_view bytes);
 
 }  // namespace display

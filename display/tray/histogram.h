@@ -1,4 +1,4 @@
-// The live picture of the tray icon: the last fourteen scans, download above, upload below.
+// The live picture of the tray icon: the last fourteen scans, with download above and upload below.
 #pragma once
 
 #include <array>
@@ -16,12 +16,12 @@ class TrayHistory {
   // `tallest_level`: the y coordinate at which the tallest bar ends; the shortest ends four below.
   explicit constexpr TrayHistory(int tallest_level) : tallest_level_(tallest_level) {}
 
-  // The newest scan in bytes; the others move on by one and the fifteenth falls out.
+  // Adds the newest scan, in bytes; the others move on by one slot, and the fifteenth is dropped.
   void Push(std::int64_t amount);
   void Clear() { slots_ = {}; }
 
-  // Where the bar of a slot ends, 0 for no bar. Slots 1 (the newest) to 14; the fifteenth is kept
-  // but never drawn.
+  // Returns the y coordinate at which the bar of a slot ends, or 0 for no bar. Slots are 1 (the
+  // newest) to 14; the fifteenth is kept but never drawn.
   [[nodiscard]] int Level(int slot) const;
 
  private:
@@ -42,7 +42,7 @@ class TrayHistogram {
     friend bool operator==(const Half&, const Half&) = default;
   };
 
-  // Bytes of one scan.
+  // Adds the bytes of one scan.
   void Push(std::int64_t dl, std::int64_t ul);
   void Clear();
 

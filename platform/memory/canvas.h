@@ -1,4 +1,4 @@
-// A raster in memory, with the drawing rules of the system's own.
+// A raster in memory that follows the system's drawing rules.
 #pragma once
 
 #include <cstdint>
@@ -33,7 +33,7 @@ class Raster final : public Bitmap, public Canvas {
 
   void Fill(const Rect& area, Colour colour) override;
   void Line(Point from, Point to, Colour colour, PenStyle style) override;
-  // Letters are blocks, so that tests see where there is text; `texts` has the words.
+  // Draws letters as blocks, so that tests see where there is text; Texts() has the words.
   void Text(const Rect& box, std::string_view text, const FontSpec& font, Colour colour,
             TextAlign align) override;
   [[nodiscard]] platform::Size TextSize(std::string_view text, const FontSpec& font) override;
@@ -56,7 +56,7 @@ class Graphics final : public platform::Graphics {
 
   [[nodiscard]] std::unique_ptr<Bitmap> CreateBitmap(Size size) override;
 
-  // Bitmaps made so far.
+  // The number of bitmaps made so far.
   int created = 0;
 
  private:

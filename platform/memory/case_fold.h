@@ -1,4 +1,4 @@
-// Names as the system compares them.
+// Folds names so that they compare as the system compares them.
 #pragma once
 
 #include <string>
@@ -6,8 +6,9 @@
 
 namespace platform::memory {
 
-// The form in which two names are equal when the system takes them for the same: keys, values and
-// files, whose case is kept but not told apart. Covers Latin-1, Greek and Cyrillic.
+// Returns a form of the name that is equal for two names that the system takes for the same: it
+// keeps the case of keys, values and files but does not tell it apart. Covers Latin-1, Greek and
+// Cyrillic.
 [[nodiscard]] std::string FoldCase(std::string_view name);
 
 }  // namespace platform::memory

@@ -10,9 +10,9 @@ class Clock : public platform::Clock {
   [[nodiscard]] DateTime Now() override;
   [[nodiscard]] std::int64_t SteadyMilliseconds() override { return steady_; }
 
-  // The user sets the date; the steady clock does not notice.
+  // Acts as the user who sets the date; the steady clock stays.
   void SetNow(DateTime now);
-  // Time passes on both clocks.
+  // Lets time pass on both clocks.
   void Advance(std::int64_t milliseconds);
 
  private:

@@ -9,7 +9,8 @@
 
 namespace platform::memory {
 
-// Paths keep their spelling; their case is not told apart. The program's folder is there at first.
+// Paths keep their spelling, and their case is not told apart. At first only the program's folder
+// exists.
 class Files : public platform::Files {
  public:
   explicit Files(Notebook& notebook);
@@ -26,23 +27,23 @@ class Files : public platform::Files {
   [[nodiscard]] std::vector<std::string> List(std::string_view folder,
                                               std::string_view mask) override;
 
-  // What follows is for tests: it is not counted and never fails.
+  // The functions that follow are for tests: they are not counted and never fail.
 
   void SetProgramPath(std::string_view path);
   void AddFolder(std::string_view folder);
-  // Puts a file there, with its folder.
+  // Makes a file, and its folder when that is missing.
   void Put(std::string_view path, std::string_view bytes);
-  // Puts it beside the program.
+  // Makes a file beside the program.
   void PutBesideProgram(std::string_view name, std::string_view bytes);
   [[nodiscard]] std::optional<std::string> Bytes(std::string_view path) const;
   [[nodiscard]] std::optional<std::string> BytesBesideProgram(std::string_view name) const;
   void Remove(std::string_view path);
-  // A folder in which nothing can be written, or a file that cannot be replaced, or again can.
+  // Sets whether files can be written in this folder, or whether this file can be replaced.
   void SetWritable(std::string_view path, bool writable);
-  // A file that another program has open and shares with nobody, or no longer.
+  // Sets whether another program has this file open and shares it with nobody.
   void SetHeld(std::string_view path, bool held);
 
-  // Loads and saves that were asked for, whole files.
+  // The number of loads and saves of whole files that were asked for.
   int loads = 0;
   int saves = 0;
 
@@ -56,7 +57,7 @@ class Files : public platform::Files {
 
   Notebook& notebook_;
   std::string program_path_;
-  // Keyed by the folded path; folders without the backslash at their end.
+  // The key is the folded path; folders have no backslash at their end.
   std::map<std::string, File> files_;
   std::set<std::string> folders_;
   std::set<std::string> unwritable_;

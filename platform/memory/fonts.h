@@ -22,7 +22,7 @@ class Fonts final : public platform::Fonts {
     return families;
   }
 
-  // As the system has them: in no order, some for several character sets.
+  // The fonts as the system lists them: in no order, some once for each of several character sets.
   std::vector<std::string> installed = {"Tahoma",    "Arial", "@MS Gothic",
                                         "MS Gothic", "Arial", "Courier New"};
 };

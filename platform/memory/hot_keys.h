@@ -1,4 +1,4 @@
-// Hot keys that tests press, and that other programs can have taken.
+// Hot keys that tests press and that other programs may have taken.
 #pragma once
 
 #include <string>
@@ -13,11 +13,12 @@ class HotKeys final : public platform::HotKeys {
   [[nodiscard]] std::unique_ptr<HotKey> Register(std::string_view name, const KeyCombination& keys,
                                                  std::function<void()> pressed) override;
 
-  // The user presses the combination; false when nobody hears it.
+  // Acts as the user who presses the combination. Returns false when no hot key is registered for
+  // it.
   bool Press(const KeyCombination& keys);
   [[nodiscard]] std::size_t Registered() const { return entries_.size(); }
 
-  // Combinations of other programs.
+  // The combinations that other programs have taken.
   std::vector<KeyCombination> taken;
 
  private:

@@ -17,9 +17,9 @@ namespace platform::memory {
 // Whether `dwDescrLen` counts the terminating NUL: it does on Windows and not under Wine.
 enum class DescriptionLength { kCountsNul, kWithoutNul };
 
-// A row of an Ethernet card whose counters stand at zero.
-//   description  bytes in the code page, cut at 255
-//   mac          its first 8 bytes are taken; may be empty
+// Returns a row of an Ethernet card whose counters stand at zero.
+//   description  bytes in the system's code page, cut at 255
+//   mac          the hardware address, of which the first 8 bytes are taken; may be empty
 [[nodiscard]] InterfaceRow MakeRow(std::string_view description,
                                    std::initializer_list<std::uint8_t> mac = {0x00, 0x1A, 0x2B,
                                                                               0x3C, 0x4D, 0x5E},
@@ -34,32 +34,31 @@ class InterfaceTable : public platform::InterfaceTable {
   [[nodiscard]] std::optional<bool> IsFilter(std::uint32_t index) override;
   [[nodiscard]] std::optional<LongOctets> Octets(std::uint32_t index) override;
 
-  // The rows as they stand now. A test may change them in any way; without any row the table has a
-  // row count of zero.
+  // The present rows. A test may change them in any way. An empty table has a row count of zero.
   std::vector<InterfaceRow> rows;
 
-  // Adds a row at the end. One whose dwIndex is 0 gets the next that was never used.
+  // Adds a row at the end. A row whose dwIndex is 0 gets the next index that was never used.
   InterfaceRow& AddRow(InterfaceRow row);
   void RemoveRow(std::size_t position);
-  // Moves the counters of a row on, past 2^32 to the small numbers.
+  // Adds bytes to the counters of a row, which wrap at 2^32.
   void AddTraffic(std::size_t position, std::uint32_t received, std::uint32_t sent);
   // Marks an interface as a lightweight filter on another one.
   void MarkFilter(std::uint32_t index) { filters_.insert(index); }
 
-  // The n-th Read from now (1 is the next) answers with `code` and does nothing.
+  // Makes the n-th Read from now (1 is the next) return `code` and do nothing.
   void FailRead(int n, std::uint32_t code);
-  // Runs once, after the next Read that answers that its buffer is too small, and before the one
-  // that follows: the table may grow, shrink or become empty between asking and reading.
+  // Runs `change` once, between the next Read that reports a buffer that is too small and the Read
+  // after it: the table may grow, shrink or become empty between asking for the size and reading.
   void AfterNextSizeRead(std::function<void()> change) { after_size_read_ = std::move(change); }
 
-  // Reads so far, and questions about filters and about octets.
+  // The numbers of calls so far: of Read, IsFilter and Octets.
   int reads = 0;
   int filter_questions = 0;
   int octet_questions = 0;
 
  private:
   struct Failure {
-    int read;  // value of `reads` at which it strikes
+    int read;  // value of `reads` at which the failure happens
     std::uint32_t code;
   };
 

@@ -29,7 +29,7 @@
 
 namespace platform::memory {
 
-// Tests reach into the services directly; the program under test gets them by their interfaces.
+// Tests use the services directly; the program under test gets them through their interfaces.
 class Machine {
  public:
   Notebook notebook;  // first: the services write into it
@@ -60,7 +60,7 @@ class Machine {
 
   [[nodiscard]] platform::Platform& Platform() { return platform_; }
 
-  // The program's process is over; another one may start.
+  // Ends the program's process, so that another one may start.
   void EndProcess() {
     single_instance.EndProcess();
     message_loop.Restart();

@@ -15,13 +15,14 @@ class Menus final : public platform::Menus {
                           MenuPainter& painter) override;
   void Cancel() override { cancelled = true; }
 
-  // The entry with this text, at any depth; null when there is none.
+  // Returns the entry with this text, at any depth, or null when there is none.
   [[nodiscard]] static const MenuEntry* Find(const std::vector<MenuEntry>& entries,
                                              const std::string& text);
 
-  // What the user does in the next menus: gets the open menu, returns the id chosen (0: none).
+  // What the user does in the menus that open next: it gets the entries of the open menu and
+  // returns the chosen id, or 0 for none.
   std::function<int(const std::vector<MenuEntry>&, MenuPainter&)> user;
-  // The user will choose the entry with this text from the next menu.
+  // Makes the user choose the entry with this text from the next menu.
   void WillChoose(std::string text);
 
   std::vector<MenuEntry> last;  // the entries of the menu opened last

@@ -10,19 +10,19 @@ namespace platform::memory {
 
 class MessageLoop final : public platform::MessageLoop {
  public:
-  // Runs the steps that tests put in. A loop that is left without any ends as if nobody would ever
-  // do anything again: false, and `starved` counts up.
+  // Runs the steps that tests put in. When no step is left, it returns false, as if nobody would
+  // ever do anything again, and counts `starved` up.
   bool RunUntil(const std::function<bool()>& done) override;
   // Runs one step, if there is one and `steps_when_pending` is set.
   bool ProcessPending() override;
-  // As ProcessPending; no time passes.
+  // Does what ProcessPending does; no time passes.
   bool ProcessFor(int /*milliseconds*/) override { return ProcessPending(); }
   void Quit() override { quit_ = true; }
 
-  // The next thing that happens while a loop runs.
+  // Adds a step that happens next while a loop runs.
   void Then(std::function<void()> step) { steps_.push_back(std::move(step)); }
 
-  // A new process begins: the loop may run again.
+  // Begins a new process, so that the loop may run again.
   void Restart() { quit_ = false; }
 
   [[nodiscard]] bool HasQuit() const { return quit_; }

@@ -1,4 +1,4 @@
-// What the in-memory system writes down about the calls that it gets, and the call that a test
+// The record that the in-memory system keeps of the calls that it gets, and the call that a test
 // wants to fail.
 #pragma once
 
@@ -7,8 +7,8 @@
 
 namespace platform::memory {
 
-// Work on the registry since the last Restart, by what the calls asked for; a call that failed or
-// found nothing counts like any other.
+// The number of registry calls of each kind since the last Restart. A call that failed or found
+// nothing counts like any other.
 struct RegistryTraffic {
   int round_trips =
       0;  // keys asked for: each is one opening, what is done with the key, one closing
@@ -25,22 +25,22 @@ struct RegistryTraffic {
   friend bool operator==(const RegistryTraffic&, const RegistryTraffic&) = default;
 };
 
-// One for all services of a machine.
+// All services of a machine share one notebook.
 class Notebook {
  public:
   RegistryTraffic registry;
 
-  // Where a test sets them: each value of the registry that is read or written, by its name.
+  // Called, when a test has set them, with the name of each registry value that is read or written.
   std::function<void(std::string_view name)> on_registry_read;
   std::function<void(std::string_view name)> on_registry_write;
 
-  // Calls, since the last Restart, that can fail by their contract.
+  // Returns the number of calls since the last Restart that can fail by their contract.
   [[nodiscard]] int Calls() const { return calls_; }
 
-  // The n-th such call from now fails as its contract says: a read finds nothing, a write throws,
-  // what should be made is null. 1 is the next one; 0 takes a wish back.
+  // Makes the n-th such call from now (1 is the next) fail as its contract says: a read finds
+  // nothing, a write throws, a function that makes an object returns null. 0 cancels the request.
   void FailCall(int n) { failing_in_ = n; }
-  // Whether the call that is to fail has not come yet.
+  // Returns whether the call that is to fail has not come yet.
   [[nodiscard]] bool FailurePending() const { return failing_in_ > 0; }
 
   void Restart() {
@@ -48,7 +48,8 @@ class Notebook {
     registry = {};
   }
 
-  // For the services, once in each call that can fail: whether this one does.
+  // Services call this once in each call that can fail. Returns whether the present call is to
+  // fail.
   [[nodiscard]] bool Fails() {
     ++calls_;
     return failing_in_ > 0 && --failing_in_ == 0;

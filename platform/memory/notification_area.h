@@ -23,7 +23,8 @@ class NotificationArea final : public platform::NotificationArea {
 
   [[nodiscard]] std::unique_ptr<TrayIcon> CreateIcon(TrayIconEvents& events) override;
 
-  // What the area shows; null without an icon or before it has a picture.
+  // Returns the picture that the area shows, or null when there is no icon or it has no picture
+  // yet.
   [[nodiscard]] const Raster* Picture() const { return picture_.get(); }
   [[nodiscard]] bool Present() const { return events_ != nullptr; }
 
@@ -39,7 +40,7 @@ class NotificationArea final : public platform::NotificationArea {
   int picture_updates = 0;
   int hint_updates = 0;
   int picture_size = 16;
-  bool busy = false;  // takes no picture
+  bool busy = false;  // the shell takes no picture
 
  private:
   class Icon;

@@ -1,4 +1,4 @@
-// A desktop of windows with titles: those that tests put there, and the program's own.
+// A desktop of windows with titles: windows that tests put there, and the program's own.
 #pragma once
 
 #include <string>
@@ -16,28 +16,28 @@ class OtherWindows final : public platform::OtherWindows {
   struct Window {
     WindowId id = 0;
     std::string title;
-    bool hangs = false;    // never answers: whoever sets its title waits in vain
-    bool refuses = false;  // belongs to somebody more privileged
+    bool hangs = false;    // never answers: a call that sets its title waits in vain
+    bool refuses = false;  // belongs to a program with higher privileges
     int title_changes = 0;
   };
 
   OtherWindows(Windowing& windowing, Clock& clock) : windowing_(windowing), clock_(clock) {}
 
-  // The program's own windows come first.
+  // Lists the program's own windows first.
   [[nodiscard]] std::vector<WindowId> TopLevel() override;
   [[nodiscard]] WindowTitle Title(WindowId window, std::size_t characters) override;
-  // Waiting for a window that hangs takes its time on the clock.
+  // Waiting for a window that hangs moves the clock on.
   TitleOutcome SetTitle(WindowId window, std::string_view title, int patience_ms) override;
   [[nodiscard]] WindowId Foreground() override { return foreground; }
 
-  // For tests.
+  // The functions that follow are for tests.
   WindowId Add(std::string_view title);
   void Remove(WindowId window);
   // Throws std::out_of_range when there is no such window.
   [[nodiscard]] Window& Find(WindowId window);
 
   WindowId foreground = 0;
-  // Calls of SetTitle.
+  // The number of calls of SetTitle.
   int sets = 0;
 
  private:

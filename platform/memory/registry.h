@@ -25,8 +25,8 @@ enum class ValueType : std::uint32_t {
   kQword = 11,
 };
 
-// A value as the registry keeps it: bytes that somebody called something. Text is UTF-16, low byte
-// first, mostly with a terminating NUL.
+// A value as the registry keeps it: bytes and the type that the writer gave them. Text is UTF-16,
+// low byte first, mostly with a terminating NUL.
 struct RegistryValue {
   ValueType type = ValueType::kNone;
   std::vector<std::byte> data;
@@ -35,7 +35,7 @@ struct RegistryValue {
   static RegistryValue Text(std::string_view value);
   static RegistryValue Binary(std::span<const std::byte> value);
 
-  // What a typed read of it gives.
+  // Return what a typed read of the value gives.
   [[nodiscard]] std::optional<std::uint32_t> AsDword() const;
   [[nodiscard]] std::optional<std::string> AsText() const;
   [[nodiscard]] std::optional<std::vector<std::byte>> AsBinary() const;
@@ -49,10 +49,10 @@ class Registry : public platform::Registry {
 
   [[nodiscard]] std::unique_ptr<RegistryKey> Open(std::string_view path, KeyAccess access) override;
 
-  // What follows is for tests: it is not counted and never fails.
+  // The functions that follow are for tests: they are not counted and never fail.
 
   [[nodiscard]] bool Exists(std::string_view path) const;
-  // The names of the keys right under a key, and of the values in it, sorted.
+  // Return the names of the keys directly under a key, and of the values in it, sorted.
   [[nodiscard]] std::vector<std::string> Keys(std::string_view path) const;
   [[nodiscard]] std::vector<std::string> Values(std::string_view path) const;
 
@@ -69,11 +69,11 @@ class Registry : public platform::Registry {
   // Writes a value of any type, with the keys above it, as another program might.
   void Set(std::string_view path, std::string_view name, RegistryValue value);
   void Remove(std::string_view path, std::string_view name);
-  // Removes a key with all that is in it. Keys that are open there become useless.
+  // Removes a key with everything in it. Calls on keys that are open there fail from then on.
   void RemoveKey(std::string_view path);
-  // From now on the system refuses to open or make this very key.
+  // Makes the system refuse, from now on, to open or make this key itself.
   void Deny(std::string_view path);
-  // From now on this very key can only be read.
+  // Makes this key itself read-only from now on.
   void DenyWriting(std::string_view path);
 
  private:

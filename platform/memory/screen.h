@@ -11,7 +11,7 @@ class Screen final : public platform::Screen {
  public:
   [[nodiscard]] std::vector<Monitor> Monitors() override { return monitors; }
   [[nodiscard]] Monitor MonitorOf(const Rect& area) override;
-  // The classic grey scheme.
+  // Resolves system colours in the classic grey scheme.
   [[nodiscard]] Colour Resolve(Colour colour) override;
   [[nodiscard]] Point Pointer() override { return pointer; }
 

@@ -1,4 +1,4 @@
-// A session that writes down who wanted to end it.
+// A session that records the calls that would change privileges or end it.
 #pragma once
 
 #include <string>

@@ -1,4 +1,4 @@
-// A shell that writes down what was opened.
+// A shell that records which files were opened.
 #pragma once
 
 #include <string>

@@ -21,13 +21,13 @@ class SingleInstance : public platform::SingleInstance {
     return first;
   }
 
-  // The process ended, and with it the mutexes that it made.
+  // Ends the process, and with it the mutexes that it made.
   void EndProcess() {
     for (const std::string& name : own_) taken_.erase(name);
     own_.clear();
   }
 
-  // Another program has a mutex of this name.
+  // Makes another program own a mutex of this name.
   void TakeByOther(std::string_view name) { taken_.emplace(name); }
   [[nodiscard]] bool Taken(std::string_view name) const {
     return taken_.contains(std::string(name));
@@ -36,7 +36,7 @@ class SingleInstance : public platform::SingleInstance {
  private:
   Notebook& notebook_;
   std::set<std::string> own_;
-  std::set<std::string> taken_;  // unlike other names, these are told apart by case
+  std::set<std::string> taken_;  // the case of these names matters, unlike that of others
 };
 
 }  // namespace platform::memory

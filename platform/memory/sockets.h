@@ -18,13 +18,13 @@ class Sockets : public platform::Sockets {
       std::string_view host) override;
   void Cleanup() override;
 
-  // The answers. No addresses: the look-up fails.
+  // The answers that a test sets. When `addresses` is nullopt, the look-up fails.
   std::string host_name = "workstation";
   std::optional<std::vector<std::string>> addresses = std::vector<std::string>{"192.168.1.20"};
   // Runs inside each look-up; a test may let time pass in it.
   std::function<void()> during_look_up;
 
-  // What was asked for.
+  // The calls so far.
   int starts = 0;
   int cleanups = 0;
   int look_ups = 0;

@@ -1,4 +1,4 @@
-// A loudspeaker that writes down what it was told.
+// A loudspeaker that records what it was asked to play.
 #pragma once
 
 #include <string>

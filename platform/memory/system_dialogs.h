@@ -11,8 +11,8 @@
 
 namespace platform::memory {
 
-// An open dialog lives through the steps of the message loop, until one of them answers it. One
-// that is left without any is cancelled.
+// An open dialog runs the steps of the message loop until one of them answers it. When no step is
+// left, the dialog is cancelled.
 class SystemDialogs final : public platform::SystemDialogs {
  public:
   explicit SystemDialogs(MessageLoop& loop) : loop_(loop) {}
@@ -22,18 +22,18 @@ class SystemDialogs final : public platform::SystemDialogs {
   [[nodiscard]] std::optional<Colour> ChooseColour(Colour present, TopWindow& owner) override;
   void SetEnabled(bool enabled) override { enabled_ = enabled; }
 
-  // The user's doings in the dialog that was opened last; while it is disabled they are not heard.
-  // Without one, or for one of the other kind, they throw std::logic_error.
+  // Act as the user in the dialog that was opened last; while it is disabled they do nothing. They
+  // throw std::logic_error when no dialog is open, or one of the other kind.
   void Choose(std::string path);
   void Choose(Colour colour);
-  // The colour that is there is the right one.
+  // Confirms the colour that the dialog shows.
   void Confirm();
   void Cancel();
 
   [[nodiscard]] bool Open() const { return !open_.empty(); }
   [[nodiscard]] bool Enabled() const { return enabled_; }
 
-  // What was asked for so far.
+  // The requests so far.
   std::vector<OpenFileRequest> file_requests;
   std::vector<Colour> colour_requests;
 

@@ -18,14 +18,14 @@ class Timers final : public platform::Timers {
 
   [[nodiscard]] std::unique_ptr<Timer> Start(int milliseconds, std::function<void()> tick) override;
 
-  // Lets the time pass, on both clocks, and ticks what falls due, in order.
+  // Lets time pass on both clocks and runs the timers that fall due, in order.
   void Advance(std::int64_t milliseconds);
-  // Lets the time pass without ticking, as when the thread was busy; what fell due ticks once at
+  // Lets time pass without a tick, as when the thread was busy. A timer that fell due ticks once at
   // the next Advance.
   void Stall(std::int64_t milliseconds);
 
   [[nodiscard]] int Running() const;
-  // Calls of Start so far, and the interval of the last one.
+  // The number of calls of Start so far, and the interval of the last one in milliseconds.
   int started = 0;
   int last_interval = 0;
 

@@ -1,4 +1,4 @@
-// What a window or control in memory knows of itself.
+// The state of a window or control in memory.
 #pragma once
 
 #include <algorithm>
@@ -13,7 +13,7 @@
 
 namespace platform::memory {
 
-// The state of a native control. Tests hold it through a reference that is good as long as the
+// The state of a native control. Tests hold a reference to it, which is valid as long as the
 // control lives.
 struct WidgetState {
   enum class Kind {
@@ -33,8 +33,9 @@ struct WidgetState {
   std::string name;
   std::string text;
   Rect bounds;
-  Point client_origin;  // within the bounds: what the frame and caption take at left and top
-  Size frame;           // what they take in all
+  Point client_origin;  // within the bounds: the width and height of frame and caption at left and
+                        // top
+  Size frame;           // width and height that frame and caption take on all sides together
   bool visible = false;
   bool enabled = true;
   bool focused = false;  // has the keyboard
@@ -43,7 +44,8 @@ struct WidgetState {
   Colour background = colour::kButtonFace;
   WidgetEvents* events = nullptr;
   WidgetState* parent = nullptr;  // null for a top window
-  // How often each was asked for or changed since the test last looked.
+  // How often a repaint was asked for, and how often the text changed, since a test last reset the
+  // counts.
   int invalidated = 0;
   int text_changes = 0;
 
@@ -59,7 +61,7 @@ struct WidgetState {
   EditStyle edit;
   int max_length = 0;  // characters; 0 for none
   bool read_only = false;
-  bool all_selected = false;  // what is typed next replaces the text
+  bool all_selected = false;  // the next typed text replaces all of it
 
   // Lists, trees, tabs.
   ListKind list = ListKind::kBox;
@@ -87,30 +89,30 @@ struct WidgetState {
   int dpi = 96;
   int drags = 0;
   bool dragging = false;
-  std::optional<std::uint8_t> alpha;       // nothing: not a layered window
-  std::vector<std::uint8_t> alphas;        // every one that was set
-  std::optional<std::vector<Rect>> shape;  // nothing: the whole window
+  std::optional<std::uint8_t> alpha;       // nullopt: not a layered window
+  std::vector<std::uint8_t> alphas;        // every alpha that was set
+  std::optional<std::vector<Rect>> shape;  // nullopt: the whole window
   int shape_changes = 0;
   int raised = 0;
 
   [[nodiscard]] Size ClientSize() const {
     return {std::max(0, bounds.width - frame.width), std::max(0, bounds.height - frame.height)};
   }
-  // The place on the screen of a point of its client area.
+  // Returns the place on the screen of a point of the client area.
   [[nodiscard]] Point ToScreen(Point client) const;
-  // Whether it and all its parents are visible.
+  // Returns whether the widget and all its parents are visible.
   [[nodiscard]] bool OnScreen() const;
-  // Whether the user can do something with it: it and all its parents are visible and enabled.
+  // Returns whether the user can use the widget: it and all its parents are visible and enabled.
   [[nodiscard]] bool Reachable() const;
-  // Whether it is `other` or lies on it.
+  // Returns whether the widget is `other` or lies on it.
   [[nodiscard]] bool IsIn(const WidgetState& other) const;
   [[nodiscard]] bool IsButton(ButtonKind wanted) const {
     return kind == Kind::kButton && button == wanted;
   }
-  // The rows of a drop-down list are also its text.
+  // Selects a row. In a drop-down list the selected row is also the text.
   void Select(int row);
-  // Its client area as the user sees it, children not included; of the system's own controls only
-  // the background.
+  // Returns the client area as the user sees it, without the children. Of the system's own controls
+  // it shows only the background.
   [[nodiscard]] std::unique_ptr<Raster> Paint(Screen& screen) const;
 };
 

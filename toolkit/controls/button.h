@@ -11,13 +11,14 @@ class Button : public Control {
  public:
   Button(Control& parent, std::string_view name);
 
-  // Pressed by Enter anywhere in the form; at most one of a form.
+  // Makes this the default button, which Enter presses anywhere in the form. A form has at most
+  // one.
   void SetDefault(bool is_default) { button_->SetDefault(is_default); }
-  // What a click does.
+  // Does what a click does.
   void Click() { Clicked(); }
 
-  // A click ends the modal form that the button is on with this, before OnClick runs; kNone leaves
-  // the form open.
+  // A click ends the modal form that the button is on with this result, before OnClick runs. kNone
+  // leaves the form open.
   toolkit::ModalResult ModalResult = toolkit::ModalResult::kNone;
 
  protected:

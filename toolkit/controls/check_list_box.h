@@ -10,11 +10,11 @@ class CheckListBox : public ListControl {
   CheckListBox(Control& parent, std::string_view name)
       : ListControl(parent, name, platform::ListKind::kCheckBox) {}
 
-  // False for a row that does not exist.
+  // Returns false for a row that does not exist.
   [[nodiscard]] bool Checked(int row) const;
   void SetChecked(int row, bool checked);
 
-  // A row was ticked or unticked.
+  // Runs when a row was ticked or unticked.
   std::function<void(int row)> OnClickCheck;
 
  protected:

@@ -1,12 +1,12 @@
-// A sunken panel that shows a colour. It can be clicked, also with the keyboard; its caption is not
-// seen but says to screen readers what the colour is for.
+// A sunken panel that shows a colour. It can be clicked, also with the keyboard. Its caption is not
+// shown, but screen readers say it, so that the user knows what the colour is for.
 #pragma once
 
 #include "toolkit/controls/control.h"
 
 namespace toolkit {
 
-// The colour that it shows is its background colour.
+// The panel shows its background colour.
 class ColourPanel : public Control {
  public:
   ColourPanel(Control& parent, std::string_view name);

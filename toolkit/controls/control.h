@@ -18,16 +18,16 @@ class PopupMenu;
 
 enum class Align {
   kNone,
-  kBottom,  // the whole width of what is left, at the lower edge
-  kClient,  // all that is left
+  kBottom,  // at the lower edge of the area that is left, over its whole width
+  kClient,  // fills the area that is left
 };
 
-// Setting a property to the value that it has does nothing. A changed value fires the change
-// handler (OnClick of boxes, OnChange of the others), whether the user or the code changed it; a
-// form gives its controls the values of their design before it connects the handlers.
+// Setting a property to its present value does nothing. A changed value fires the change handler
+// (OnClick of boxes, OnChange of the others), whether the user or the code changed it; a form gives
+// its controls the values of their design before it connects the handlers.
 //
-// The keyboard goes through the controls of a form in the order in which they were made: members of
-// a form are declared in that order.
+// The keyboard goes through the controls of a form in the order in which they were made: the
+// members of a form are declared in that order.
 class Control : protected platform::WidgetEvents {
  public:
   ~Control() override;
@@ -36,13 +36,13 @@ class Control : protected platform::WidgetEvents {
 
   [[nodiscard]] const std::string& Name() const { return name_; }
   [[nodiscard]] Application& App() const { return app_; }
-  // The form it lies on; itself for a form.
+  // Returns the form that the control lies on; for a form, the form itself.
   [[nodiscard]] virtual Form& ParentForm();
-  // Null for a form.
+  // Returns null for a form.
   [[nodiscard]] Control* Parent() const { return parent_; }
-  // What lies on it, in order of creation.
+  // Returns the controls that lie on this one, in order of creation.
   [[nodiscard]] const std::vector<Control*>& Children() const { return children_; }
-  // Made of controls that it places by itself.
+  // Returns whether the control is made of other controls that it places itself.
   [[nodiscard]] virtual bool IsComposite() const { return false; }
 
   [[nodiscard]] const platform::Rect& Bounds() const { return bounds_; }
@@ -50,7 +50,7 @@ class Control : protected platform::WidgetEvents {
   void SetAlign(Align align);
   [[nodiscard]] Align Alignment() const { return align_; }
 
-  // The text it shows and is known by to screen readers.
+  // The text that the control shows and that screen readers say.
   [[nodiscard]] const std::string& Caption() const { return caption_; }
   void SetCaption(std::string_view caption);
 
@@ -59,32 +59,35 @@ class Control : protected platform::WidgetEvents {
   [[nodiscard]] bool Enabled() const { return enabled_; }
   void SetEnabled(bool enabled);
 
-  // Puts the keyboard into it; not while it, or what it lies on, is hidden or disabled.
+  // Gives the control the keyboard focus. Does nothing while the control, or one that it lies on,
+  // is hidden or disabled.
   virtual void SetFocus() { peer_->Focus(); }
-  // Whether the keyboard is in it or in something that lies on it.
+  // Returns whether the keyboard focus is in the control or in one that lies on it.
   [[nodiscard]] bool Focused() const { return peer_->HasFocus(); }
 
-  // Background; at first that of its parent, for what shows its parent's.
+  // The background colour. Controls without a background of their own start with that of their
+  // parent.
   [[nodiscard]] platform::Colour Colour() const { return colour_; }
   void SetColour(platform::Colour colour);
   [[nodiscard]] platform::Colour FontColour() const { return font_colour_; }
   void SetFontColour(platform::Colour colour);
-  // `height` is in design pixels. At first that of its parent.
+  // The font; its `height` is in design pixels. A control starts with the font of its parent.
   [[nodiscard]] const platform::FontSpec& Font() const { return font_; }
   void SetFont(const platform::FontSpec& font);
 
-  // Shown in the hint window while the pointer rests on it; empty for none.
+  // The text that the hint window shows while the pointer rests on the control; empty for none.
   [[nodiscard]] const std::string& Hint() const { return hint_; }
   void SetHint(std::string_view hint);
 
-  // Opened by a right click or the menu key on it or, where it has none, its parent's. Not owned.
+  // Sets the menu that a right click or the menu key opens. A control without a menu opens that of
+  // its parent. The menu is not owned.
   void SetPopupMenu(PopupMenu* menu) { popup_menu_ = menu; }
 
   // Asks for a repaint.
   void Invalidate();
-  // Its client area in real pixels.
+  // Returns the size of the client area in real pixels.
   [[nodiscard]] platform::Size ClientPixels() const;
-  // Real pixels for so many design pixels, at the resolution of its form.
+  // Convert design pixels into real pixels, and back, at the resolution of the control's form.
   [[nodiscard]] int Scale(int design_pixels);
   [[nodiscard]] int Unscale(int pixels);
   [[nodiscard]] platform::Rect Scale(const platform::Rect& design);
@@ -92,7 +95,7 @@ class Control : protected platform::WidgetEvents {
 
   int Tag = 0;
 
-  // Every one runs inside the application's guard.
+  // Every handler runs inside the application's guard.
   std::function<void()> OnClick;
   std::function<void()> OnDblClick;
   std::function<void(const platform::MouseEvent&)> OnMouseMoved;
@@ -102,12 +105,14 @@ class Control : protected platform::WidgetEvents {
   std::function<void()> OnMouseLeft;
 
  protected:
-  // `parent` is null for a form. The peer follows with Attach, before anything else is called.
+  // `parent` is null for a form. Attach must give the control its peer before anything else is
+  // called.
   Control(Application& app, Control* parent, std::string_view name);
 
-  // Takes the native peer and gives it the present properties.
+  // Takes the native peer over and gives it the present properties.
   void Attach(std::unique_ptr<platform::Widget> peer);
-  // Destroys the peer; a class whose members hear its reports does so before they go.
+  // Destroys the peer. A class whose members are used by the peer's reports calls this in its
+  // destructor, before those members are gone.
   void Detach() { peer_.reset(); }
   [[nodiscard]] platform::Widget& Peer() const { return *peer_; }
   [[nodiscard]] static platform::Widget& PeerOf(const Control& control) { return *control.peer_; }
@@ -115,24 +120,25 @@ class Control : protected platform::WidgetEvents {
   // Runs a handler, if there is one, inside the guard. The handler may destroy the control.
   void Fire(const std::function<void()>& handler);
 
-  // Places the children with an Align in `area` (real pixels), in order of creation, the client one
-  // last.
+  // Places the children that have an Align in `area` (real pixels), in order of creation, the
+  // kClient one last.
   void ArrangeChildren(const platform::Rect& area);
-  // What is left for children; the panel's bevels are outside of it.
+  // Returns the area that is left for children; a panel's bevels are outside of it.
   [[nodiscard]] virtual platform::Rect ChildArea() const;
-  // Real pixels by which what lies on it is pushed upwards.
+  // Returns the real pixels by which the children are scrolled upwards.
   [[nodiscard]] virtual int ScrolledBy() const { return 0; }
   // Gives the children their bounds anew.
   void PlaceChildren();
-  // The resolution changed: bounds and font are given to the peer anew.
+  // Gives the peer its bounds and font anew after the resolution changed.
   virtual void Rescale();
-  // The pixels of the client area changed.
+  // Is called when the size of the client area, in real pixels, changed.
   virtual void Resized() {}
-  // Paints what the program paints of it, inside the guard; the canvas has the client area.
+  // Paints the control, if the program paints it; it runs inside the guard. The canvas has the size
+  // of the client area.
   virtual void Paint(platform::Canvas& /*canvas*/) {}
-  // The user has clicked it.
+  // Is called when the user has clicked the control.
   virtual void Clicked() { Fire(OnClick); }
-  // A property was changed.
+  // Are called when the property was changed.
   virtual void CaptionChanged() {}
   virtual void EnabledChanged() {}
   virtual void HintChanged() {}

@@ -1,8 +1,8 @@
 // The layout of forms as data.
 //
-// A form's layout is a list of rows, one for each control, applied in one go. The order of Tab is
-// not in it: it is that in which the controls were made, so members of a form are declared in
-// reading order.
+// A form's layout is a list of rows, one for each control, applied in one call. It does not hold
+// the order of Tab, which is the order in which the controls were made; so the members of a form
+// are declared in reading order.
 #pragma once
 
 #include <initializer_list>
@@ -17,16 +17,16 @@ namespace toolkit {
 
 struct LayoutRow {
   Control& control;
-  platform::Rect bounds;  // design pixels, on its parent
+  platform::Rect bounds;  // design pixels, relative to the control's parent
   std::string_view caption = {};
   std::string_view hint = {};
 };
 
-// An empty caption or hint leaves the present one.
+// Gives each control its bounds, caption and hint. An empty caption or hint leaves the present one.
 void ApplyLayout(std::initializer_list<LayoutRow> rows);
 
-// What is wrong with the places of all controls on `root`, one line each, for tests: a control that
-// has no size, leaves its parent, or covers another visible one.
+// Returns the faults in the places of all controls on `root`, one text for each fault: a control
+// that has no size, leaves its parent, or covers another visible one. Tests use it.
 [[nodiscard]] std::vector<std::string> LayoutFaults(Control& root);
 
 }  // namespace toolkit

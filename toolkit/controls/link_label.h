@@ -1,4 +1,4 @@
-// A text that opens something.
+// A text that opens something when it is clicked.
 #pragma once
 
 #include <string_view>
@@ -7,7 +7,7 @@
 
 namespace toolkit {
 
-// Looks like a text and is pressed like a button, also with the keyboard: OnClick.
+// Looks like a text and is pressed like a button, also with the keyboard; then OnClick runs.
 class LinkLabel : public Control {
  public:
   LinkLabel(Control& parent, std::string_view name);

@@ -1,4 +1,4 @@
-// Lists that stand open, and lists that drop down.
+// List boxes, which are always open, and combo boxes, which drop down.
 #pragma once
 
 #include "toolkit/controls/list_control.h"
@@ -10,7 +10,7 @@ class ListBox : public ListControl {
   ListBox(Control& parent, std::string_view name)
       : ListControl(parent, name, platform::ListKind::kBox) {}
 
-  // The user presses Del.
+  // Runs when the user presses Del.
   std::function<void()> OnDelete;
 
  protected:
@@ -27,7 +27,7 @@ class ComboBox : public ListControl {
       : ListControl(parent, name, platform::ListKind::kCombo) {}
 };
 
-// Shows each row in the font that it names.
+// A combo box that shows each row in the font that the row names.
 class FontComboBox : public ListControl {
  public:
   FontComboBox(Control& parent, std::string_view name)

@@ -1,4 +1,4 @@
-// What lists of every kind have in common: rows and a selected one.
+// What lists of every kind have in common: rows, one of which may be selected.
 #pragma once
 
 #include <functional>
@@ -14,22 +14,22 @@ namespace toolkit {
 class ListControl : public Control {
  public:
   [[nodiscard]] const std::vector<std::string>& Items() const { return items_; }
-  // Replaces the rows. The selection stays at its row, if there still is one of that number; boxes
-  // keep their ticks in the same way.
+  // Replaces the rows. The selection keeps its row number, if there still is such a row; check
+  // boxes keep their ticks in the same way.
   void SetItems(std::span<const std::string> items);
   void Add(std::string_view item);
-  // Removes a row; with the selected one the selection goes.
+  // Removes a row. When it was the selected one, no row is selected afterwards.
   void Remove(int row);
   void Clear() { SetItems({}); }
   [[nodiscard]] int Count() const { return static_cast<int>(items_.size()); }
 
-  // -1 for none; so is every row that does not exist.
+  // The selected row, or -1 for none. Setting a row that does not exist selects none.
   [[nodiscard]] int ItemIndex() const { return index_; }
   void SetItemIndex(int index);
 
-  // Another row is selected.
+  // Runs when another row is selected.
   std::function<void()> OnChange;
-  // The user chose the row that is selected already.
+  // Runs when the user chose the row that is selected already.
   std::function<void()> OnChosenAgain;
 
  protected:
@@ -37,9 +37,9 @@ class ListControl : public Control {
 
   void OnChanged() override;
   [[nodiscard]] platform::ItemList& List() const { return *list_; }
-  // The peer has new rows, without ticks.
+  // Is called when the peer has got new rows, which have no ticks.
   virtual void ItemsShown() {}
-  // A row was removed, the others are to move up.
+  // Is called when a row was removed, so that the data of the rows after it moves up.
   virtual void RowRemoved(int /*row*/) {}
 
  private:

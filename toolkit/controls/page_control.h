@@ -17,11 +17,12 @@ class PageControl : public Control {
   PageControl(Control& parent, std::string_view name);
 
   [[nodiscard]] int PageCount() const { return static_cast<int>(pages_.size()); }
-  // The page that is seen; the first one as soon as there is one.
+  // The number of the page that is shown. The first page is shown as soon as there is one; -1
+  // without pages.
   [[nodiscard]] int ActivePageIndex() const { return active_; }
   void SetActivePageIndex(int index);
 
-  // Another page is seen.
+  // Runs when another page is shown.
   std::function<void()> OnChange;
 
  protected:

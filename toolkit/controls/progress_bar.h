@@ -1,4 +1,4 @@
-// How far something has come.
+// A progress bar, which shows how far something has come.
 #pragma once
 
 #include "platform/controls.h"
@@ -6,7 +6,7 @@
 
 namespace toolkit {
 
-// From 0 to 100 at first.
+// The range is 0 to 100 at first.
 class ProgressBar : public Control {
  public:
   ProgressBar(Control& parent, std::string_view name);

@@ -11,16 +11,16 @@
 
 namespace toolkit {
 
-// OnClick is fired when another item is chosen. Its hint is also that of its buttons, and
-// the button of item n bears the group's name and n.
+// OnClick runs when another item is chosen. The buttons have the group's hint, and the name of the
+// button of item n is the group's name followed by n.
 class RadioGroup : public GroupBox {
  public:
   RadioGroup(Control& parent, std::string_view name) : GroupBox(parent, name) {}
 
-  // Names the items; the chosen one stays, if there still is one of its number.
+  // Replaces the items. The chosen item keeps its number, if there still is such an item.
   void SetItems(std::span<const std::string> captions);
   [[nodiscard]] int Count() const { return static_cast<int>(buttons_.size()); }
-  // -1 for none.
+  // The number of the chosen item, or -1 for none.
   [[nodiscard]] int ItemIndex() const;
   void SetItemIndex(int index);
 

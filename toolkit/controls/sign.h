@@ -12,11 +12,11 @@ class Sign : public Panel {
  public:
   enum class Picture { kQuestion, kLock };
 
-  // Give it bounds of kSignSize.
+  // Makes a sign with one of the pictures; its bounds must have sides of kSignSize.
   Sign(Control& parent, std::string_view name, Picture picture)
       : Panel(parent, name), picture_(picture) {}
-  // The first image of a list that outlives the sign, in the middle of the bounds; `side` of it in
-  // design pixels.
+  // Makes a sign with the first image of a list, which outlives the sign. The image stands in the
+  // middle of the bounds with sides of `side` design pixels.
   Sign(Control& parent, std::string_view name, const ImageList& images, int side = kSignSize)
       : Panel(parent, name), images_(&images), side_(side) {}
 

@@ -10,27 +10,28 @@
 
 namespace toolkit {
 
-// The edit inside bears the name, so that tests and screen readers find the number under it; its
-// arrows are the name with "Up" and "Down" behind it.
+// The edit inside has the control's name, so that tests and screen readers find the number under
+// it; the arrows have the name with "Up" and "Down" behind it.
 class SpinEdit : public Control {
  public:
   SpinEdit(Control& parent, std::string_view name);
   ~SpinEdit() override;
 
-  // What the user can enter, and by how much the arrows move; the page keys move ten times as much.
-  // At first everything that can be stored, and 1.
+  // Sets the range that the user can enter, and the step of the arrows; the page keys move by ten
+  // steps. At first the range is all that can be stored (32 bits) and the step is 1.
   void SetRange(std::int64_t lowest, std::int64_t highest, std::int64_t step);
   [[nodiscard]] std::int64_t Lowest() const { return lowest_; }
   [[nodiscard]] std::int64_t Highest() const { return highest_; }
   [[nodiscard]] std::int64_t StepSize() const { return step_; }
 
-  // Any number may be set; one outside the range stays as it is until the user changes it.
+  // The present number. SetValue takes any number; one outside the range stays as it is until the
+  // user changes it.
   [[nodiscard]] std::int64_t Value() const { return value_; }
   void SetValue(std::int64_t value);
 
-  // It has another value. While a number is typed, this is fired for each that lies in the range;
-  // one outside is moved into it when Enter is pressed or the keyboard goes elsewhere, and no
-  // number at all becomes the value from before the typing again.
+  // Runs when the value has changed. While the user types, it runs for each number that lies in the
+  // range. When Enter is pressed or the focus goes elsewhere, a number outside the range is moved
+  // into it, and a text that is no number is replaced by the value from before the typing.
   std::function<void()> OnChange;
 
   void SetFocus() override;
@@ -46,9 +47,9 @@ class SpinEdit : public Control {
   class Field;
   class Arrow;
 
-  // The text was changed by the user.
+  // Is called when the user has changed the text.
   void Typed();
-  // What was typed becomes a value in the range.
+  // Turns the typed text into a value in the range.
   void Commit();
   void Move(int steps);
   void Take(std::int64_t value);

@@ -1,4 +1,4 @@
-// A slider.
+// A track bar (slider).
 #pragma once
 
 #include <functional>
@@ -12,13 +12,13 @@ class TrackBar : public Control {
  public:
   TrackBar(Control& parent, std::string_view name);
 
-  // `page` is the step of the page keys. Moves the position into the range.
+  // Sets the range and moves the position into it. `page` is the step of the page keys.
   void SetRange(int lowest, int highest, int page);
   [[nodiscard]] int Position() const { return position_; }
-  // Moved into the range.
+  // A position outside the range is moved into it.
   void SetPosition(int position);
 
-  // It has another position.
+  // Runs when the position has changed.
   std::function<void()> OnChange;
 
  protected:

@@ -1,4 +1,4 @@
-// A tree, all of it expanded.
+// A tree of items, all of them expanded.
 #pragma once
 
 #include <functional>
@@ -13,15 +13,15 @@ class TreeView : public Control {
  public:
   TreeView(Control& parent, std::string_view name);
 
-  // Replaces the items; the selection stays at its number, if there still is such an item.
+  // Replaces the items. The selection keeps its number, if there still is such an item.
   void SetItems(std::span<const platform::TreeItem> items);
   // The number of the selected item, as it stands in the expanded tree; -1 for none.
   [[nodiscard]] int ItemIndex() const { return index_; }
   void SetItemIndex(int index);
-  // Expands what the user has collapsed.
+  // Expands the items that the user has collapsed.
   void FullExpand() { tree_->ExpandAll(); }
 
-  // Another item is selected.
+  // Runs when another item is selected.
   std::function<void()> OnChange;
 
  protected:

@@ -7,7 +7,8 @@ namespace toolkit {
 
 class Form;
 
-// Belongs to a form, mostly as a member of it. Each is called inside the application's guard.
+// A component belongs to a form, mostly as a member of it. Each of its functions is called inside
+// the application's guard.
 class FormComponent {
  public:
   // `form` outlives the component.
@@ -16,17 +17,18 @@ class FormComponent {
   FormComponent(const FormComponent&) = delete;
   FormComponent& operator=(const FormComponent&) = delete;
 
-  // The user drags the form, which is to get these bounds (screen pixels); they may be changed.
+  // The user drags the form, which is about to get these bounds (screen pixels). The component may
+  // change them.
   virtual void FormMoving(platform::Rect& /*bounds*/) {}
-  // It was moved or sized, by whomever.
+  // The form was moved or sized, by the user or by code.
   virtual void FormPlaced() {}
-  // The user has let go after moving or sizing it.
+  // The user has let go after moving or sizing the form.
   virtual void FormDragEnded() {}
   // The monitors changed.
   virtual void FormDisplayChanged() {}
-  // It is asked to close; it need not.
+  // The form is asked to close; it may stay open.
   virtual void FormClosing() {}
-  // The process may be gone when this returns.
+  // The Windows session ends; the process may be gone when this returns.
   virtual void FormSessionEnds() {}
 
  protected:

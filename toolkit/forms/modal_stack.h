@@ -19,14 +19,14 @@ class ModalStack {
   ModalStack(const ModalStack&) = delete;
   ModalStack& operator=(const ModalStack&) = delete;
 
-  // Shows `form` above all others, which are disabled meanwhile, and returns when it has a result:
-  // given by Form::EndModal, kCancel when it is closed or destroyed, or when the program ends. Of
-  // each kind (form name) one may be open; for a second one the first is raised and the answer is
-  // kCancel. Timers, and so scans, go on meanwhile.
+  // Shows `form` above all others, which are disabled meanwhile, and returns when it has a result.
+  // Form::EndModal gives the result; it is kCancel when the form is closed or destroyed, or when
+  // the program ends. One form of each kind (form name) may be open; for a second one the first is
+  // raised and kCancel is returned. Timers, and so scans, go on meanwhile.
   ModalResult Show(Form& form);
 
-  // Raises the modal form of this name that is open, with the answer kCancel, or makes one of
-  // `arguments` and shows it.
+  // Raises the modal form of this name and returns kCancel when one is open; otherwise makes one
+  // from `arguments`, shows it and returns its result.
   template <class ModalForm, class... Arguments>
   ModalResult ShowOnce(std::string_view form_name, Arguments&&... arguments) {
     if (Raise(form_name)) return ModalResult::kCancel;
@@ -35,24 +35,26 @@ class ModalStack {
   }
 
   // Runs `dialog`, which opens one of the system's own dialogs above `owner`; the other forms are
-  // disabled meanwhile. A modal form that a timer opens then comes first: until it is answered the
-  // dialog is disabled. False, without a call, while such a dialog is open and when the program
-  // ends; the end of the program also ends the dialog, without an answer.
+  // disabled meanwhile. A modal form that a timer opens meanwhile comes first: until it is
+  // answered, the dialog is disabled. Returns false, without calling `dialog`, while such a dialog
+  // is open and when the program ends. The end of the program also ends the dialog, without an
+  // answer.
   bool RunSystemDialog(const Form& owner, const std::function<void()>& dialog);
 
-  // Raises the modal form of this name; false when none is open.
+  // Raises the modal form of this name. Returns false when none is open.
   bool Raise(std::string_view form_name);
-  // Raises the form or dialog of the system that wants an answer before any other window may open;
-  // false when none is open.
+  // Raises the form or system dialog that must be answered before any other window may open.
+  // Returns false when none is open.
   bool RaiseTop();
 
-  // Ends `form` with kCancel, and those above it first; false when it is not modal.
+  // Ends `form` with kCancel, after the forms above it. Returns false when the form is not modal.
   bool Cancel(const Form& form);
-  // Ends all with kCancel, the newest first; each Show returns when the loops above it have.
+  // Ends all modal forms with kCancel, the newest first. Each Show returns after the loops above it
+  // have returned.
   void CancelAll() { CancelFrom(open_.begin()); }
 
   [[nodiscard]] bool Empty() const { return open_.empty(); }
-  // The form on top; null when none is open.
+  // Returns the form on top, or null when none is open.
   [[nodiscard]] Form* Top() const;
 
  private:
@@ -72,7 +74,7 @@ class ModalStack {
 
   Application& app_;
   std::vector<Entry*> open_;
-  const Form* dialog_owner_ = nullptr;  // of the system's dialog that is open
+  const Form* dialog_owner_ = nullptr;  // of the open system dialog
   bool dialog_disabled_ = false;
 };
 

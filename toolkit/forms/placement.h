@@ -1,4 +1,4 @@
-// Where windows may stand.
+// The rules for where windows may stand.
 #pragma once
 
 #include <vector>
@@ -9,24 +9,25 @@
 
 namespace toolkit {
 
-// `bounds` moved, not sized, so that it lies inside the work area of its monitor; one that is
-// larger starts at the upper left corner.
+// Returns `bounds` moved, not sized, so that it lies inside the work area of its monitor. A
+// rectangle that is larger starts at the upper left corner.
 [[nodiscard]] platform::Rect BroughtIntoView(const platform::Rect& bounds,
                                              platform::Screen& screen);
 
-// A window of this size in the middle of the monitor's work area, as BroughtIntoView leaves it.
+// Returns the bounds of a window of this size in the middle of the monitor's work area, brought
+// into view as by BroughtIntoView.
 [[nodiscard]] platform::Rect Centred(platform::Size size, const platform::Monitor& monitor);
 
-// Where a window can be taken hold of.
+// The part of a window by which the user can drag it.
 enum class Hold { kCaption, kAnywhere };
 
-// Whether enough of `bounds` for the user to take hold of lies in one of the work areas: a piece of
-// 24 design pixels either way, which for a caption is its whole height.
+// Returns whether enough of `bounds` for the user to take hold of lies in one of the work areas: a
+// piece of 24 by 24 design pixels, which for a caption is its whole height.
 [[nodiscard]] bool InSight(const platform::Rect& bounds, Hold hold,
                            const std::vector<platform::Monitor>& monitors);
 
-// Where to scroll to, so that what lies from `low` to `high` of the inside is seen; a part of it
-// when it is higher than the page.
+// Returns the scroll position at which the rows from `low` to `high` of the content are seen, or a
+// part of them when they are higher than the page.
 [[nodiscard]] int ScrolledToShow(const platform::Scroll& scroll, int low, int high);
 
 }  // namespace toolkit

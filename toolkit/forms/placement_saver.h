@@ -13,10 +13,11 @@ namespace toolkit {
 // Stores position and size, in pixels of the screen with the resolution that they are meant for, as
 // the DWORD values "Left", "Top", "Width", "Height" and "Dpi" of a key of the user's registry:
 // after every move or resize (while the user drags, at its end), when the form closes, and when it
-// is destroyed. A registry that refuses is not reported.
+// is destroyed. When the registry refuses, nothing is reported.
 //
-// What is stored is the place where the form is wanted. While that is on no monitor the form stands
-// somewhere in view; that place is not stored, and when the monitor is back, so is the form.
+// The stored place is the one where the user wants the form. While that place is on no monitor, the
+// form stands somewhere in view; this other place is not stored, and when the monitor is back, the
+// form returns to its stored place.
 class PlacementSaver final : public FormComponent {
  public:
   enum class Restores { kPlaceAndSize, kPlace };
@@ -35,9 +36,9 @@ class PlacementSaver final : public FormComponent {
   void FormSessionEnds() override;
 
  private:
-  // The stored bounds; the form's own where nothing, or nothing sensible, is stored.
+  // Returns the stored bounds, or the form's own when nothing, or nothing usable, is stored.
   [[nodiscard]] platform::Rect Stored();
-  // Puts the form where it is wanted, or else into view.
+  // Puts the form at its wanted place, or into view when that is on no monitor.
   void Place();
   void TakePlace(bool dragged);
   void Save() noexcept;
@@ -46,8 +47,8 @@ class PlacementSaver final : public FormComponent {
   std::string key_;
   Restores restores_;
   bool active_ = false;
-  bool placing_ = false;    // what is heard of is its own doing
-  bool displaced_ = false;  // the form stands where it is not wanted
+  bool placing_ = false;    // the form moves because this object places it
+  bool displaced_ = false;  // the form does not stand at its wanted place
   platform::Rect wanted_;
   std::vector<platform::Monitor> monitors_;  // as they were when the form was last placed
 };

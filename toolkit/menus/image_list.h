@@ -27,8 +27,8 @@ class ImageList {
 
   [[nodiscard]] int Count() const { return static_cast<int>(images_.size()); }
 
-  // Draws an image with its top left corner at `at`, each of its pixels enlarged to `dpi`. An index
-  // outside draws nothing.
+  // Draws an image with its top left corner at `at`, enlarged from 96 dpi to `dpi`. An index
+  // outside the list draws nothing.
   void Draw(int index, platform::Canvas& canvas, platform::Point at, int dpi) const;
 
  private:

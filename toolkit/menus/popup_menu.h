@@ -37,7 +37,7 @@ class MenuItem {
   // Checking a radio item takes the check from the other radio items of its menu.
   void SetChecked(bool checked);
 
-  // The new item, owned by this one; it stays where it is in memory.
+  // Adds an item and returns it. This item owns it, and its address stays valid.
   MenuItem& Add(std::string_view caption);
   void AddSeparator() { Add("-"); }
   void Clear() { children_.clear(); }
@@ -57,16 +57,16 @@ class PopupMenu {
 
   MenuItem Items;
 
-  // Asked each time before the menu opens; sets checks and enabled states that depend on something.
+  // Runs each time before the menu opens, to set the checks and enabled states of items.
   std::function<void()> OnPopup;
 
-  // Opens the menu at a place of the screen, waits for the choice and runs its handler. A choice
-  // whose item went away meanwhile does nothing; nor does a second menu while one is open.
+  // Opens the menu at a point of the screen, waits for the user's choice and runs its handler. Does
+  // nothing when the chosen item was removed meanwhile, or when a menu is open already.
   void Popup(platform::Point screen, Form& owner);
 
-  // Runs `next`: at once when the menu is not open; else closes it, and when it is gone all that
-  // was asked for meanwhile runs in the place of a choice, first come first served. A modal window
-  // that opened under a menu would not get the mouse.
+  // Runs `next` at once when the menu is not open. Otherwise closes the menu and runs `next` when
+  // it is gone, in place of a choice; several functions run in the order of their calls. A modal
+  // window that opened under a menu would not get the mouse.
   void CloseThen(const std::function<void()>& next);
 
  private:

@@ -8,7 +8,7 @@
 
 namespace toolkit {
 
-// Virtual-key code in the low byte, plus kShift, kCtrl and kAlt; 0 for none.
+// A virtual-key code in the low byte, plus kShift, kCtrl and kAlt; 0 means no shortcut.
 using ShortCut = std::uint16_t;
 
 inline constexpr ShortCut kShift = 0x2000;
@@ -17,8 +17,8 @@ inline constexpr ShortCut kAlt = 0x8000;
 
 [[nodiscard]] platform::KeyCombination CombinationOf(ShortCut short_cut);
 
-// As menus write it, such as "Ctrl+Alt+F". Empty for 0 and for keys other than letters, digits and
-// F1 to F24.
+// Returns the text that menus show, such as "Ctrl+Alt+F". It is empty for 0 and for keys other than
+// letters, digits and F1 to F24.
 [[nodiscard]] std::string ShortCutText(ShortCut short_cut);
 
 }  // namespace toolkit

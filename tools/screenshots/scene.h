@@ -1,4 +1,4 @@
-// The program in use, for pictures of it.
+// Drives the program, so that pictures of it can be taken.
 #pragma once
 
 #include <functional>
@@ -18,11 +18,11 @@ namespace desktop {
 // Where the pictures go.
 struct Album {
   std::wstring folder;
-  std::string suffix;  // of the files' names, such as "-german"
+  std::string suffix;  // at the end of the files' names, such as "-german"
 };
 
-// A started program with default settings and traffic. What the user's own copy has stored comes
-// back at the end. What is waited for in vain is thrown as std::runtime_error.
+// A started program with default settings and traffic. The stored values of the user's own copy are
+// put back at the end. A wait that times out throws std::runtime_error.
 class Scene {
  public:
   // `language` is one that the program offers.
@@ -31,38 +31,38 @@ class Scene {
   [[nodiscard]] Meter& meter() { return *meter_; }
   [[nodiscard]] Waves& waves() { return waves_; }
 
-  // A text of the program in the language of the scene.
+  // Returns a text of the program in the language of the scene.
   [[nodiscard]] std::string Text(const language::TextEntry& entry) const { return texts_(entry); }
 
   [[nodiscard]] MenuPath Path(std::initializer_list<language::TextEntry> entries) const;
 
-  // Ends the program and starts it again; `meanwhile` stores what it reads only then, or what its
-  // scans change.
+  // Ends the program and starts it again. In between it calls `meanwhile`, which stores values that
+  // the program reads only at its start, or that its scans change.
   void Restart(const std::function<void()>& meanwhile);
   // Waits until the graph is full of bars.
   void FillGraph();
-  // Waits until what was changed is on the screen.
+  // Waits until the latest changes are on the screen.
   static void AwaitPainted();
 
-  // Opens the menu and chooses from it; the pointer is out of the way afterwards.
+  // Opens the menu and chooses an item; the pointer is out of the way afterwards.
   void Choose(std::initializer_list<language::TextEntry> path);
-  // The window of this class, once it is shown and painted.
+  // Waits until the window of this class is shown and painted, and returns it.
   [[nodiscard]] HWND AwaitWindow(const wchar_t* window_class);
-  // Chooses what opens that window.
+  // Chooses the menu item that opens a window, waits for that window and returns it.
   HWND Open(std::initializer_list<language::TextEntry> path, const wchar_t* window_class);
   // Clicks a control that has published this name; the pointer is out of the way afterwards.
   void Press(HWND window, const wchar_t* control);
   // Closes a window by its close box.
   void Close(HWND window);
-  // The balloon of the icon in the notification area, once it is shown and painted. Under Wine
-  // only.
+  // Waits until the balloon of the icon in the notification area is shown and painted, and returns
+  // it. It works under Wine only.
   [[nodiscard]] HWND AwaitBalloon();
   void CloseBalloon(HWND balloon);
 
-  // A picture of all windows that the program shows, with what is between them.
+  // Returns a picture of all windows that the program shows, with the space between them.
   [[nodiscard]] Picture OfAll();
   [[nodiscard]] static Picture Of(HWND window);
-  // `name` without folder and ending.
+  // Saves a picture in the album. `name` has no folder and no ending.
   void Save(std::string_view name, const Picture& picture) const;
 
  private:

@@ -1,5 +1,5 @@
-// What there are pictures of. A new window is a function that drives the scene there, saves what is
-// seen and leaves the program as it was, and a row of the table of its subsystem.
+// The list of pictures. For a new window, add a function that drives the scene to it, saves the
+// picture and leaves the program as it was, and a row in the table of its subsystem.
 #pragma once
 
 #include <span>

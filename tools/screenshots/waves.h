@@ -1,4 +1,4 @@
-// Traffic that looks like somebody's.
+// Makes traffic that looks like that of a real user.
 #pragma once
 
 #include <atomic>
@@ -12,8 +12,8 @@ namespace desktop {
 
 enum class Flow { kNothing, kDownload, kUpload, kBoth };
 
-// Downloads a lot in waves and uploads a little, all the time. On the line of the tests where there
-// is one; else on the loopback, where both directions are alike.
+// Downloads a lot in waves and uploads a little, all the time. It uses the network line of the
+// tests when there is one, and otherwise the loopback, where both directions count alike.
 class Waves {
  public:
   Waves();
@@ -21,11 +21,11 @@ class Waves {
   Waves(const Waves&) = delete;
   Waves& operator=(const Waves&) = delete;
 
-  // The adapter that all of it goes through, in lower case.
+  // Returns the name of the adapter that all traffic goes through, in lower case.
   [[nodiscard]] const std::string& adapter() const { return adapter_; }
-  // Whether the directions can be told apart.
+  // Returns whether the two directions can be told apart.
   [[nodiscard]] bool Apart() const { return line_.Available(); }
-  // From here on only this moves; both at first.
+  // Sets the traffic that moves from now on; at first it is kBoth.
   void Set(Flow flow) { flow_ = flow; }
 
  private:
