@@ -76,7 +76,7 @@ void T_frmBandWidthAlert::FormCreate() {
   Timer1.SetEnabled(true);
 }
 
-// The details come first in reading order; Enter is the answer.
+// The details button comes first in reading order, but Enter must press OK.
 void T_frmBandWidthAlert::FormShow() { OkBtn.SetFocus(); }
 
 void T_frmBandWidthAlert::Localise() {

@@ -1,4 +1,4 @@
-// The statistics of the machine and of an adapter, one tab beside the other.
+// Pictures of the statistics of the machine and of an adapter, one tab beside the other.
 #include <vector>
 
 #include "platform/text.h"
@@ -25,7 +25,7 @@ Picture OfAllTabs(HWND window) {
   return Beside(pictures);
 }
 
-// Some weeks of use, and most of a limit of 20 gigabytes a month gone.
+// Shows some weeks of use and a limit of 20 gigabytes a month that is mostly used.
 void DlUlStatistics(Scene& scene) {
   scene.Restart([] {
     Store("CurrentDayTotalDL", std::string("734003200"));

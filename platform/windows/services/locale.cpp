@@ -7,7 +7,7 @@
 namespace platform::windows {
 namespace {
 
-// What the system wrote: `length` counts the terminating NUL and is 0 on failure.
+// Returns the text that the system wrote. `length` counts the terminating NUL and is 0 on failure.
 template <std::size_t kSize>
 std::string Written(const std::array<wchar_t, kSize>& text, int length) {
   if (length <= 0) return {};

@@ -54,8 +54,8 @@ class MenuTree {
   MenuHandle root_;
 };
 
-// Returns the key of an entry in upper case: the letter behind "&", or else the first letter.
-// Returns 0 for an entry without letters.
+// Returns the key of an entry in upper case: the character behind "&", or else the first one.
+// Returns 0 for a separator and for an entry without a text.
 [[nodiscard]] wchar_t MenuKey(const MenuEntry& entry);
 
 }  // namespace platform::windows
