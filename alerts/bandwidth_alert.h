@@ -16,7 +16,7 @@ namespace alerts {
 
 class BandwidthAlert {
  public:
-  // All outlive the alert. `menu` is closed before the window shows.
+  // All arguments outlive the alert. `menu` is closed before the window shows.
   BandwidthAlert(toolkit::Application& app, settings::Store& store, quantity::Quantity& quantity,
                  const language::Language& language, Reactions& reactions,
                  toolkit::PopupMenu& menu);

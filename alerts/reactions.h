@@ -29,7 +29,7 @@ class Balloons {
 
 class Reactions {
  public:
-  // All outlive the reactions.
+  // All arguments outlive the reactions.
   Reactions(platform::Sound& sound, Balloons& balloons, Shutdown& shutdown)
       : sound_(sound), balloons_(balloons), shutdown_(shutdown) {}
 

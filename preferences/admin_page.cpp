@@ -31,8 +31,7 @@ class AdminPage final : public Page {
         {LockBtn, {kFields.FieldLeft(), kFields.Top(3), 110, kButtonHeight}},
     });
     Add(ReadStep::kLock, [this] { ReadLock(); });
-    LockBtn.SetDefault(
-        true);  // default of this page only; behind another page Enter does not reach it
+    LockBtn.SetDefault(true);  // Enter reaches it only while this page is shown
     LockBtn.OnClick = [this] { LockBtnClick(); };
   }
 

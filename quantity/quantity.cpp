@@ -151,8 +151,7 @@ std::string GetToken(std::string_view S, std::string_view Delimiter, int Index) 
   std::string_view token;
   for (int i = 0; i < Index; ++i) {
     const std::size_t at = Delimiter.empty() ? std::string_view::npos : S.find(Delimiter);
-    if (at == std::string_view::npos)
-      return {};  // the delimiter is missing, so there is no such piece
+    if (at == std::string_view::npos) return {};  // without its delimiter there is no such piece
     token = S.substr(0, at);
     S.remove_prefix(at + taken_off);
   }
