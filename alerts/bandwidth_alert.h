@@ -1,4 +1,4 @@
-// What happens when the bandwidth limit is reached.
+// Reacts when the bandwidth limit is reached.
 #pragma once
 
 #include "alerts/reactions.h"

@@ -16,7 +16,7 @@ namespace text = language::text::BandwidthStatisticsForm;
 // The digits are blue, green and red.
 constexpr platform::Colour kLightRed = 0x9999FF;
 
-// Design pixels.
+// Sizes in design pixels.
 constexpr int kMargin = 8;
 constexpr int kRowHeight = 21;
 constexpr int kRowStep = 23;

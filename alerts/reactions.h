@@ -1,4 +1,4 @@
-// What the program does when traffic crosses a line: a sound, a balloon, the end of the session.
+// The reactions when traffic crosses a limit: a sound, a balloon, the end of the session.
 #pragma once
 
 #include <cstdint>

@@ -11,7 +11,7 @@ namespace {
 
 namespace text = language::text::BandwidthAlert;
 
-// Design pixels of the client area.
+// The size of the client area in design pixels.
 constexpr int kWidth = 337;
 constexpr int kHeight = 110;
 constexpr int kHeightWithDetails = 255;

@@ -19,7 +19,7 @@ namespace {
 
 namespace setting = settings::setting;
 
-// Design pixels.
+// Places and sizes in design pixels.
 constexpr platform::Rect kDesignBounds{761, 128, 274, 135};
 constexpr platform::Size kSmallest{150, 25};
 constexpr platform::Size kLargest{350, 200};

@@ -13,12 +13,12 @@ namespace setting = settings::setting;
 namespace text = language::text::SettingsForm;
 
 constexpr Items kBevels{"Bevel"};
-// Design pixels.
+// These ranges are in design pixels.
 constexpr Range kFrame{0, 20};
 constexpr Range kGap{0, 50};
 constexpr Range kPulse{1, 50};
 
-// Bits per second.
+// This range is in bits per second.
 constexpr Range kSpeed{1024, 2100000000, 1024};
 
 constexpr int kLabelWidth = 230;

@@ -11,7 +11,7 @@ namespace {
 
 namespace text = language::text::SettingsForm;
 
-// Design pixels.
+// Sizes in design pixels.
 constexpr int kTreeWidth = 164;
 constexpr int kFormWidth = kMargin + kTreeWidth + kMargin + kPageWidth;
 constexpr int kFormHeight = kPageHeight + 5 * kMargin;

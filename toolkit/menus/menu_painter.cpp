@@ -9,7 +9,7 @@
 namespace toolkit {
 namespace {
 
-// Design pixels.
+// Sizes in design pixels.
 constexpr int kIconWidth = 24;
 constexpr int kItemHeight = 22;
 constexpr int kSeparatorHeight = 5;

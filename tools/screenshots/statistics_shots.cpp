@@ -5,7 +5,7 @@
 #include "tests/desktop/driver/registry.h"
 #include "tests/desktop/driver/windows_of.h"
 #include "tools/screenshots/shots.h"
-// Behind the system's own header, which it needs.
+// This header must follow the system's own header, which it needs.
 #include <commctrl.h>
 
 namespace desktop {

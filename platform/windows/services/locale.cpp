@@ -46,7 +46,7 @@ std::string Locale::ShortDate(DateTime moment) {
 
 std::string Locale::LongTime(DateTime moment) {
   SYSTEMTIME time = ToSystemTime(moment);
-  // Only the time is wanted, but a date outside the system's calendar would spoil it.
+  // Only the time is needed, but the call fails for a date outside the system's calendar.
   time.wYear = 2000;
   time.wMonth = 1;
   time.wDay = 1;

@@ -5,8 +5,8 @@
 namespace platform::windows {
 namespace {
 
-// At most this many in one go, so that messages that come as fast as they are delivered do not
-// keep the caller for ever.
+// ProcessPending delivers at most this many messages, so that messages that come as fast as they
+// are delivered do not keep the caller for ever.
 constexpr int kPendingAtOnce = 500;
 
 void RemoveQuitMessage() {

@@ -7,7 +7,7 @@
 #include "platform/windows/services/services.h"
 #include "platform/windows/wide.h"
 #include "platform/windows/win32.h"
-// After the system's header, which it needs.
+// This header must follow the system's header, which it needs.
 #include <mmsystem.h>
 
 namespace platform::windows {

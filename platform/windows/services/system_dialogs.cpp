@@ -7,7 +7,7 @@
 #include "platform/windows/wide.h"
 #include "platform/windows/windows/top_window.h"
 
-// After the system's header.
+// This header must follow the system's header.
 #include <commdlg.h>
 
 namespace platform::windows {

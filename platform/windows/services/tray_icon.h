@@ -7,7 +7,7 @@
 #include "platform/notification_area.h"
 #include "platform/windows/drawing/icon_maker.h"
 #include "platform/windows/windows/native_window.h"
-// After the system's header, which it needs.
+// This header must follow the system's header, which it needs.
 #include <shellapi.h>
 
 namespace platform::windows {

@@ -13,7 +13,7 @@ namespace {
 constexpr UINT kDrawThemedCaption = 0x00AE;
 constexpr UINT kDrawThemedFrame = 0x00AF;
 
-// At 96 dpi.
+// Pixels at 96 dpi.
 constexpr int kLine = 1;
 constexpr int kGrip = 5;     // from the outer edge; sizes in one direction
 constexpr int kCorner = 12;  // along an edge, from a corner; sizes in both directions
@@ -81,7 +81,7 @@ std::optional<LRESULT> BareFrame::Handle(HWND hwnd, const Message& message,
                                          const SizeLimits& limits) {
   switch (message.id) {
     case WM_NCCALCSIZE: {
-      // With either form of the parameter the area comes first.
+      // The parameter has two forms, and the area comes first in both.
       auto* area = reinterpret_cast<RECT*>(message.l);
       const int line = Scaled(kLine, hwnd);
       ::InflateRect(area, -line, -line);
