@@ -44,7 +44,7 @@ void BandwidthAlert::BandwidthAlertExecute() {
 }
 
 void BandwidthAlert::ShowMessage() {
-  // No blank between the two parts, unlike the titles of the notifications.
+  // There is no blank between the two parts, unlike in the titles of the notifications.
   const std::string title =
       std::string(program::kProductTitle) + language_.Text(language::text::MainForm::S4);
   reactions_.Warn(title, store_.Read(setting::BAMessage), kBalloonSeconds);
@@ -56,7 +56,7 @@ void BandwidthAlert::ShowWindow() {
     app_.Modals().ShowOnce<T_frmBandWidthAlert>(kBandWidthAlertForm, app_, store_, quantity_,
                                                 language_);
   } catch (const std::exception&) {
-    // The balloon has told already; the scan goes on.
+    // The balloon has told the user already, and the scan must go on.
     return;
   }
 }

@@ -1,4 +1,4 @@
-// What happens when the bandwidth limit is reached.
+// Reacts when the bandwidth limit is reached.
 #pragma once
 
 #include "alerts/reactions.h"
@@ -16,7 +16,7 @@ namespace alerts {
 
 class BandwidthAlert {
  public:
-  // All outlive the alert. `menu` is closed before the window shows.
+  // All arguments outlive the alert. `menu` is closed before the window shows.
   BandwidthAlert(toolkit::Application& app, settings::Store& store, quantity::Quantity& quantity,
                  const language::Language& language, Reactions& reactions,
                  toolkit::PopupMenu& menu);

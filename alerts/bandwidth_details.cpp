@@ -13,10 +13,10 @@ namespace {
 namespace setting = settings::setting;
 namespace text = language::text::BandwidthStatisticsForm;
 
-// Blue, green, red.
+// The digits are blue, green and red.
 constexpr platform::Colour kLightRed = 0x9999FF;
 
-// Design pixels.
+// Sizes in design pixels.
 constexpr int kMargin = 8;
 constexpr int kRowHeight = 21;
 constexpr int kRowStep = 23;
@@ -32,7 +32,7 @@ const language::TextEntry& TypeText(engine::Period period) {
   return *kTexts[static_cast<std::size_t>(period)];
 }
 
-// The parts of a hint stand on lines of their own.
+// Each part of a hint stands on a line of its own.
 std::string HintOf(const language::Language& language,
                    std::initializer_list<language::TextEntry> parts) {
   std::string hint;
@@ -90,8 +90,8 @@ void BandwidthDetails::Localise() {
   localise(type_, text::B13, {text::B13Hint0, text::B13Hint1});
   localise(current_dl_, text::B14,
            {text::B14Hint0, text::B14Hint1, text::B14Hint2, text::B14Hint3});
-  // The third part has a key out of line with the others; language files have
-  // it.
+  // The third part has a key that differs from the others; the language files use it, so it is
+  // kept.
   localise(current_ul_, text::B15,
            {text::B15Hint0, text::B15Hint1, text::B54Hint2, text::B15Hint3});
   localise(left_, text::B16,
@@ -119,7 +119,7 @@ void BandwidthDetails::Refresh(const quantity::Formatter& format) {
   ShowLeft(left, format);
 }
 
-// Once red, the row stays so while its window is open: the limit was exceeded.
+// A row that has turned red stays red while its window is open: the limit was exceeded.
 void BandwidthDetails::ShowLeft(std::int64_t left, const quantity::Formatter& format) {
   if (left < 0) left_.SetFontColour(kLightRed);
   left_.Show(format.SignedText(left));

@@ -16,7 +16,7 @@ namespace alerts {
 
 class BandwidthDetails {
  public:
-  // All outlive the details.
+  // All arguments outlive the details.
   BandwidthDetails(toolkit::Control& parent, settings::Store& store,
                    const language::Language& language);
 

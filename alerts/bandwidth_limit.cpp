@@ -7,10 +7,11 @@ namespace {
 
 namespace setting = settings::setting;
 
-constexpr std::int64_t kDefaultMoreThan = 0;  // the preferences show another one
+constexpr std::int64_t kDefaultMoreThan = 0;  // the preferences have another default
 constexpr std::int64_t kUnits = 3;            // kilobytes, megabytes, gigabytes
 
-// What counts towards the limit; nothing when no direction does or the period does not exist.
+// Returns the bytes that count towards the limit, or nullopt when no direction counts or the period
+// does not exist.
 std::optional<std::int64_t> CountedTotal(settings::Store& store) {
   const bool download = store.Read(setting::baDownload);
   const bool upload = store.Read(setting::baUpload);
@@ -52,7 +53,7 @@ void CheckBandwidthAlert(settings::Store& store, const std::function<void()>& al
   const std::optional<std::int64_t> limit = LimitBytes(store);
   const std::optional<std::int64_t> total = limit ? CountedTotal(store) : std::nullopt;
   if (!total || *total < *limit) return;
-  // Before the alert, whose window lets further scans run.
+  // This is written before the alert, whose window lets further scans run.
   store.Write(setting::BAShow, true);
   alert();
 }

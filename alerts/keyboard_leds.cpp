@@ -11,8 +11,8 @@ constexpr std::uint8_t kOn = 1;
 
 constexpr std::uint8_t kLeftAlone = 0xFF;
 
-// A lock key during one scan. Its state is asked once: the system reports a stroke that was just
-// sent only later, and the second pair of rules must see what the first one did.
+// A lock key during one scan. Its state is read once: the system reports a stroke that was just
+// sent only later, and the second pair of rules must see what the first pair did.
 class Light {
  public:
   Light(std::uint8_t state, std::function<void()> toggle)
@@ -36,7 +36,7 @@ class Light {
 
 // An amount equal to the limit counts both as idle and as busy, and the second pair may overrule
 // the first: an idle line with a limit of 0 ends with Scroll Lock on and Num Lock off. This is
-// meant.
+// intended.
 void UpdateKeyboardLeds(settings::Store& store, TQelSysKeys& keys,
                         const engine::ScanAmounts& scan) {
   const bool scroll_given = store.Read(settings::setting::DLSwitchScr);

@@ -13,10 +13,10 @@ namespace setting = settings::setting;
 
 constexpr int kTimerMs = 1000;
 constexpr int kBalloonSeconds = 30;
-// Of both rules, in this spelling, whatever the preferences show for the first one.
+// The default of both rules, in this spelling, whatever the preferences show for the first rule.
 constexpr std::string_view kDefaultWave = "warning.wav";
 
-// A flag that is read when it is first needed, and once.
+// A flag that is read once, when it is first needed.
 class FlagOnce {
  public:
   FlagOnce(settings::Store& store, const settings::BooleanSetting& flag)
@@ -32,7 +32,7 @@ class FlagOnce {
   std::optional<bool> value_;
 };
 
-// A rule during one scan.
+// The state of a rule during one scan.
 struct WatchedRule {
   [[nodiscard]] bool WatchesSomething() { return downloaded.Get() || uploaded.Get(); }
 
@@ -78,8 +78,8 @@ void Notifications::CheckNotifications(const engine::ScanAmounts& scan) {
   for (WatchedRule& rule : rules) rule.Count(scan);
 }
 
-// With both directions due the reaction runs twice in the same second: each
-// direction is told of by itself.
+// When both directions are due, the reaction runs twice in the same second: each direction is
+// reported by itself.
 void Notifications::TimeOutTimerTimer() {
   FireWhenDue(LessUploadedTicks, kLessRule, LessNotification);
   FireWhenDue(LessDownloadedTicks, kLessRule, LessNotification);

@@ -15,7 +15,7 @@ namespace alerts {
 
 class Notifications {
  public:
-  // All outlive the notifications.
+  // All arguments outlive the notifications.
   Notifications(toolkit::Application& app, settings::Store& store,
                 const language::Language& language, Reactions& reactions);
 

@@ -1,4 +1,4 @@
-// What the program does when traffic crosses a line: a sound, a balloon, the end of the session.
+// The reactions when traffic crosses a limit: a sound, a balloon, the end of the session.
 #pragma once
 
 #include <cstdint>
@@ -29,7 +29,7 @@ class Balloons {
 
 class Reactions {
  public:
-  // All outlive the reactions.
+  // All arguments outlive the reactions.
   Reactions(platform::Sound& sound, Balloons& balloons, Shutdown& shutdown)
       : sound_(sound), balloons_(balloons), shutdown_(shutdown) {}
 

@@ -11,7 +11,7 @@ namespace alerts {
 
 class Ticker {
  public:
-  // Both outlive the ticker.
+  // Both arguments outlive the ticker.
   Ticker(settings::Store& store, Reactions& reactions) : store_(store), reactions_(reactions) {}
 
   // Counts a scan, if bytes moved in both directions, and plays at most one sound. Bytes counted

@@ -11,7 +11,7 @@ namespace {
 
 namespace text = language::text::BandwidthAlert;
 
-// Design pixels of the client area.
+// The size of the client area in design pixels.
 constexpr int kWidth = 337;
 constexpr int kHeight = 110;
 constexpr int kHeightWithDetails = 255;
@@ -76,7 +76,7 @@ void T_frmBandWidthAlert::FormCreate() {
   Timer1.SetEnabled(true);
 }
 
-// The details come first in reading order; Enter is the answer.
+// The details button comes first in reading order, but Enter must press OK.
 void T_frmBandWidthAlert::FormShow() { OkBtn.SetFocus(); }
 
 void T_frmBandWidthAlert::Localise() {

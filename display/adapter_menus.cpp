@@ -45,7 +45,7 @@ void AdapterMenus::ReadTicks() {
   }
 }
 
-// Stored under the trimmed name, while the engine reads the flag under the untrimmed one.
+// The flag is stored under the trimmed name, while the engine reads it under the untrimmed one.
 void AdapterMenus::MyPopupHandler(toolkit::MenuItem& item) {
   item.SetChecked(!item.Checked());
   store_.WriteBool(settings::TrimmedAdapterName(item.Caption), item.Checked());

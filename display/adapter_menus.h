@@ -13,7 +13,7 @@ namespace display {
 
 class AdapterMenus {
  public:
-  // All outlive the menus.
+  // All arguments outlive the menus.
   AdapterMenus(settings::Store& store, toolkit::MenuItem& statistics, toolkit::MenuItem& sources)
       : store_(store), statistics_(statistics), sources_(sources) {}
 

@@ -12,7 +12,7 @@ void Exit::Request() {
 }
 
 bool Exit::MayLeave() {
-  // Before the password: to be asked twice for one exit is once too often.
+  // This comes before the password prompt, so that the user is not asked twice for one exit.
   if (app_.Modals().Raise(kAreYouSureForm)) return false;
   if (settings::LockEngaged(store_) && !settings::AskForPassword(app_, store_, language_)) {
     return false;

@@ -10,8 +10,8 @@ class Application;
 
 namespace display {
 
-// Before the end come the password prompt, if the administrator lock ("zdP1") is on, and then, if
-// "AskOnExit" is on, the question whether the user is sure.
+// The user must first give the password, if the administrator lock ("zdP1") is on, and then confirm
+// the exit, if "AskOnExit" is on.
 class Exit {
  public:
   // All arguments outlive the object.

@@ -64,7 +64,7 @@ MainMenu::MainMenu(toolkit::Application& app) : popup(app, kMenuImages) {
   mnuTextandGraph->SetChecked(true);
   mnuTransparent2k->ShortCut = toolkit::kCtrl | toolkit::kAlt | 'D';
   mnuTransparent->ShortCut = toolkit::kCtrl | toolkit::kAlt | 'F';
-  // No such key is registered; users know the hint as it is.
+  // The hint names a key that is not registered; its text is kept.
   Transparent1->Hint = text::MainForm::Transparent1Hint.english;
 }
 

@@ -13,7 +13,7 @@ namespace text = language::text;
 
 constexpr settings::BooleanSetting kModes[] = {setting::SOM1, setting::SOM2, setting::SOM3};
 
-// The longer of two that begin alike comes first.
+// Of two units that begin alike, the longer one comes first.
 constexpr std::string_view kUnits[] = {"kB",   "MB",    "GB",    "TB",   "kbits",
                                        "kbit", "Mbits", "Gbits", "Tbits"};
 
@@ -24,7 +24,7 @@ bool Take(std::string_view& text, std::string_view piece) {
   return true;
 }
 
-// "1,5 kB", or the one blank of an amount without a text.
+// Takes an amount: "1,5 kB", or the one blank of an amount without a text.
 bool TakeAmount(std::string_view& text) {
   if (Take(text, " ")) return true;
   const std::size_t blank = text.find(' ');
@@ -34,7 +34,7 @@ bool TakeAmount(std::string_view& text) {
                      [&text](std::string_view unit) { return Take(text, unit); });
 }
 
-// The text of one mode, "[ Average DL:1 kB UL:2 kB ]".
+// Takes the text of one mode, such as "[ Average DL:1 kB UL:2 kB ]".
 bool TakeMode(std::string_view& text) {
   if (!Take(text, "[ ")) return false;
   const std::size_t amounts = text.find("DL:");
@@ -100,8 +100,8 @@ std::string& NumericLine::TextOf(const settings::BooleanSetting& mode) {
 }
 
 std::string NumericLine::IdleText(const settings::BooleanSetting& mode, bool bits) {
-  // "kbit" in the first text and "kbits" in the others: the first is the text that the formatting
-  // gives for zero, the others are wordings of their own. Both stay.
+  // The unit is "kbit" in the first text and "kbits" in the others: the first is the text that the
+  // formatting gives for zero, the others are fixed wordings. Both are kept.
   if (mode.name == setting::SOM1.name) {
     return bits ? "[ DL:0,0 kbit UL:0,0 kbit ]" : "[ DL:0,0 kB UL:0,0 kB ]";
   }
@@ -140,13 +140,13 @@ void NumericLine::Update(const engine::ScanAmounts& scan) {
   }
   maximum_.clear();
   if (ReadMode(setting::SOM3)) {
-    // The literal word here, the language's in the initial text.
+    // The word is literal here, while the initial text has the word of the user's language.
     maximum_ = "[ Max DL:" + amount(scan.ScanMaxDL) + " Max UL:" + amount(scan.ScanMaxUL) + " ]";
   }
 }
 
-// The scan at which the average is due is counted nowhere, so with a period of 5 the text changes
-// every sixth scan.
+// The scan at which the average is due is not counted, so with a period of 5 the text changes every
+// sixth scan.
 void NumericLine::UpdateAverage(const engine::ScanAmounts& scan,
                                 const quantity::Formatter& format) {
   if (scans_summed_ < AvarageTime) {

@@ -18,7 +18,7 @@ namespace display {
 
 class NumericLine {
  public:
-  // All outlive the line.
+  // All arguments outlive the line.
   NumericLine(settings::Store& store, quantity::Quantity& quantity,
               const language::Language& language)
       : store_(store), quantity_(quantity), language_(language) {}

@@ -17,10 +17,10 @@ namespace setting = settings::setting;
 using Meter = const MeterParts&;
 using platform::Colour;
 
-// When another value than before has its effect.
+// The moment at which a changed value takes effect.
 enum class On {
-  kChoice,   // before it is stored
-  kStorage,  // when it is stored: of what is read from there when it is shown
+  kChoice,   // before the value is stored
+  kStorage,  // after the value is stored: for parts that read the store when they are shown
   kStart,    // only at the next start
 };
 
@@ -31,7 +31,7 @@ struct Row {
     using Value = decltype(std::declval<settings::Store>().Read(of));
     take = [effect](Meter m, const OptionValue& value) { effect(m, std::get<Value>(value)); };
   }
-  // A property of the graph.
+  // Makes the row of a property of the graph.
   template <class Setting, class Owner, class Value>
   Row(const Setting& of, Value Owner::*property)
       : Row(of,
@@ -61,7 +61,7 @@ ScaleUnits UnitsOf(std::int64_t index) {
 
 void TakeUnits(Meter m, std::int64_t index) { m.graph.Set(&GraphLook::ScaleUnits, UnitsOf(index)); }
 
-// Amounts in the old unit would stand in the line until the next scan.
+// Without this, the line would show amounts in the old unit until the next scan.
 void ChangeUnits(Meter m, std::int64_t index) {
   if (m.graph.Look().ScaleUnits == UnitsOf(index)) return;
   TakeUnits(m, index);
@@ -69,7 +69,7 @@ void ChangeUnits(Meter m, std::int64_t index) {
   m.window.LineChanged();
 }
 
-// Switched off, hints would come after a day and stay for no time: they never show.
+// When hints are off, their delay is a day and their duration is zero, so that they never show.
 void ShowHints(Meter m, bool shown) {
   m.hints.Pause = shown ? 0 : 100000000;
   m.hints.HidePause = shown ? 1000000000 : 0;
@@ -111,7 +111,7 @@ void LoadPictures(Meter m, bool on) {
   if (on) m.tray.LoadPictures();
 }
 
-// What the meter takes over from the store, in this order.
+// The options that the meter takes over from the store, in this order.
 const std::vector<Row>& StoredRows() {
   static const std::vector<Row> kRows = {
       {setting::StartIconMode, LoadPictures, On::kStart},
@@ -144,7 +144,7 @@ const std::vector<Row>& StoredRows() {
   return kRows;
 }
 
-// What has its effect only when the user, or another program, has chosen another value.
+// The options that take effect only when the user, or another program, has chosen another value.
 const std::vector<Row>& ChosenRows() {
   static const std::vector<Row> kRows = {
       {setting::ScaleUnit, ChangeUnits},
@@ -173,7 +173,7 @@ const std::vector<Row>& ChosenRows() {
       {setting::AutoTransparentONOFF, [](Meter m, bool on) { m.transparency.ChangeAutomatic(on); }},
       {setting::Win2kTransparentRatio,
        [](Meter m, std::int64_t ratio) { m.transparency.ChangeRatio(ratio); }},
-      // A tick of it waits for the next scan, which starts the timer.
+      // A tick of this option takes effect at the next scan, which starts the timer.
       {setting::NotificationsActive,
        [](Meter m, bool on) {
          if (!on) m.notifications.TimeOutTimer.SetEnabled(false);

@@ -1,4 +1,4 @@
-// What the stored options do to the running meter. The start, a new initialisation, a reset and
+// Applies the stored options to the running meter. The start, a new initialisation, a reset and
 // every control of the preferences all use the one table in option_table.cpp.
 #pragma once
 

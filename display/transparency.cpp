@@ -14,7 +14,7 @@ namespace {
 namespace setting = settings::setting;
 
 constexpr int kOpaque = 255;
-// Milliseconds. From the usual opacity to opaque a fade takes a quarter of a second.
+// Milliseconds of one step. A fade from the usual opacity to opaque takes a quarter of a second.
 constexpr std::int64_t kFadeStep = 4;
 
 int Alpha(std::int64_t stored) {
@@ -42,7 +42,7 @@ Transparency::Transparency(toolkit::Form& window, settings::Store& store, MainMe
 
 void Transparency::ApplyStored() {
   const bool was_on = menu_.mnuTransparent2k->Checked();
-  // A fresh meter is opaque, although whoever asks later takes "on" for the default.
+  // A new meter is opaque, although later readers take "on" for the default.
   const bool on = store_.ReadWith(setting::Transparent2k, false);
   if (on) {
     const std::int64_t ratio = store_.Read(setting::Win2kTransparentRatio);
@@ -104,13 +104,13 @@ void Transparency::PointerChanged() {
   const std::int64_t ratio = store_.Read(setting::Win2kTransparentRatio);
   if (!store_.Read(setting::TransparentFade)) {
     SetWindowAlpha(inside ? kOpaque : ratio);
-  } else if (ratio <= kOpaque) {  // or else there is no step between them
+  } else if (ratio <= kOpaque) {  // otherwise there is no step between the two
     Fade(inside ? Alpha(ratio) : kOpaque, inside ? kOpaque : Alpha(ratio));
   }
 }
 
-// One loop, however often the pointer comes and goes meanwhile: a loop inside a loop for each time
-// would use up the stack.
+// There is one loop, however often the pointer comes and goes meanwhile: a nested loop for each
+// time would use up the stack.
 void Transparency::Fade(int from, int to) {
   fade_target_ = to;
   if (fading_) return;

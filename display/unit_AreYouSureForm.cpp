@@ -56,10 +56,10 @@ void T_frmAreYouSure::Localise() {
   btnNo.SetCaption(say(text::btnNo));
 }
 
-// The box comes first in reading order; the answer is what the user is here for.
+// The check box comes first in reading order, but the focus starts on the answer.
 void T_frmAreYouSure::FormShow() { btnYes.SetFocus(); }
 
-// At once, whatever the answer: the box is a setting of its own.
+// The value is stored at once, whatever the answer: the box is a setting of its own.
 void T_frmAreYouSure::AskCheckClick() { store_.Write(setting::AskOnExit, AskCheck.Checked()); }
 
 }  // namespace display

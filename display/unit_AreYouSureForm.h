@@ -1,4 +1,4 @@
-// The question before the program ends.
+// The question window, which asks before the program ends.
 #pragma once
 
 #include <string_view>

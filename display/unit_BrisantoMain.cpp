@@ -19,7 +19,7 @@ namespace {
 
 namespace setting = settings::setting;
 
-// Design pixels.
+// Places and sizes in design pixels.
 constexpr platform::Rect kDesignBounds{761, 128, 274, 135};
 constexpr platform::Size kSmallest{150, 25};
 constexpr platform::Size kLargest{350, 200};
@@ -30,7 +30,7 @@ constexpr std::int64_t kGraphMode = 0;
 constexpr std::int64_t kTextMode = 1;
 constexpr std::int64_t kTextAndGraphMode = 2;
 
-// The sizeable tool window made bare: a thin frame and no caption bar.
+// The meter is a sizeable tool window with a thin frame and no caption bar.
 platform::TopWindowParams CreateParams() {
   platform::TopWindowParams params;
   params.name = "T_frmBrisanto";
@@ -86,8 +86,8 @@ T_frmBrisanto::T_frmBrisanto(toolkit::Application& app)
   DesignControls();
   ConnectHandlers();
   LocaliseControls();
-  // A step that fails is logged; the rest of the program starts all the same, and the first scan
-  // makes the whole initialisation again.
+  // A step that fails is logged. The rest of the program still starts, and the first scan runs the
+  // whole initialisation again.
   bool created = false;
   app.Guard([this, &created] {
     FormCreate();
@@ -210,7 +210,7 @@ void T_frmBrisanto::ApplyAlwaysOnTop() {
   SetTopmost(on_top);
 }
 
-// A program that had the full screen may have taken the place above all others away.
+// A full-screen program may have taken the place above all other windows away.
 void T_frmBrisanto::StayOnTop() {
   if (_MainMenu.mnuAlwaysTopOn->Checked() && !Window().Topmost()) SetTopmost(true);
 }
@@ -280,7 +280,8 @@ void T_frmBrisanto::mnuTransparentClick() { transparency_.mnuTransparentClick();
 
 void T_frmBrisanto::Settings1Click() {
   if (!open_preferences_ || App().Modals().RaiseTop()) return;
-  // Asked also while they are open: whoever has just locked them may have left them so.
+  // The password is also asked for while the preferences are open: the user who has just locked
+  // them may have left them open.
   const bool asks = settings::LockEngaged(RegME);
   if (asks && !settings::AskForPassword(App(), RegME, _ReadLangauge)) return;
   open_preferences_();
@@ -333,7 +334,7 @@ void T_frmBrisanto::FormClose() {
 
 void T_frmBrisanto::FormDestroy() { title_posting_.RestoreTitles(); }
 
-// The end of the session asks nothing. No scan may follow that posts titles again.
+// At the end of the session nothing is asked. No scan may follow, since it would post titles again.
 void T_frmBrisanto::FormEndSession() {
   FormDestroy();
   _tlkInterMeter.Activate(false);

@@ -159,8 +159,7 @@ class T_frmBrisanto final : public toolkit::Form, private engine::ScanSteps {
   HotKeyHolder GlobalAtomKey;
   Exit exit_;
 
-  std::function<void()>
-      open_preferences_;  // last, so that the preferences are destroyed before what they change
+  std::function<void()> open_preferences_;  // last: destroyed before the parts that it uses
 };
 
 }  // namespace display

@@ -1,4 +1,4 @@
-// What a row of the interface table says about its adapter.
+// Reads what a row of the interface table says about its adapter.
 #pragma once
 
 #include <cstdint>

@@ -22,7 +22,7 @@ void InterfaceReader::ReadInterfaceTable(std::vector<InterfaceRow>& table, NewRo
   if (!rows.empty()) table = std::move(rows);
 }
 
-// Empty on any failure.
+// Returns no rows on any failure.
 std::vector<InterfaceRow> InterfaceReader::ReadRows() {
   std::uint32_t size = 0;
   if (source_.Read({}, size) != platform::kInsufficientBuffer) return {};
@@ -59,8 +59,9 @@ std::vector<InterfaceRow> InterfaceReader::WithoutFilters(const std::vector<Inte
   return kept;
 }
 
-// What is known of a row from the latest read, so that a steady scan costs no call beside the
-// table's own. An index can be given to another interface later; the description tells.
+// Returns what the latest read has found out about a row, so that a usual scan needs no call other
+// than that for the table. The system may give an index to another interface later; the description
+// tells the two apart.
 InterfaceReader::KnownRow InterfaceReader::Recall(const InterfaceRow& row,
                                                   std::size_t position) const {
   std::string description = platform::DescriptionBytes(row);
@@ -73,8 +74,9 @@ InterfaceReader::KnownRow InterfaceReader::Recall(const InterfaceRow& row,
   return {row.dwIndex, std::move(description), std::nullopt};
 }
 
-// An interface that is about to come or go may have no answer yet. Taken for a card, a filter would
-// count the card's bytes a second time; never answered for, a card would never count.
+// For an interface that is about to come or go the system may have no answer yet. A filter that is
+// taken for a card would count the card's bytes a second time; a card that is never answered for
+// would never count.
 void InterfaceReader::AskAbout(KnownRow& row) {
   row.filter = source_.IsFilter(row.index);
   if (!row.filter && ++row.refusals == kMostRefusals) row.filter = false;

@@ -10,8 +10,8 @@
 
 namespace engine {
 
-// What happens to rows that are not known yet: the system is asked about them, or they are left out
-// for now.
+// What a read does with rows that are not known yet: it asks the system about them, or leaves them
+// out for now.
 enum class NewRows { kAskAbout, kLeaveOut };
 
 class InterfaceReader {
@@ -40,7 +40,7 @@ class InterfaceReader {
   void AskAbout(KnownRow& row);
 
   platform::InterfaceTable& source_;
-  // What the system said about each row of the latest read, in its order, filters included.
+  // The system's answers about each row of the latest read, in its order, filters included.
   std::vector<KnownRow> known_;
 };
 

@@ -14,7 +14,7 @@ std::int32_t HighestIndex(const std::vector<InterfaceRow>& table) {
   return static_cast<std::int32_t>(table.size()) - 1;
 }
 
-// What the row shows now counts as seen.
+// Takes the row's present counters as seen, so that they are not counted.
 void TakeBase(const InterfaceRow& row, AdapterCounters& counters) {
   counters.LastInOctets = row.dwInOctets;
   counters.LastOutOctets = row.dwOutOctets;
@@ -26,14 +26,14 @@ AdapterCounters SeededFrom(const InterfaceRow& row) {
   return counters;
 }
 
-// Whether a counter began anew: it shows less than before, and the same one in 64 bits never came
-// to 2^32.
+// Returns whether a counter began anew: it shows less than before, and the same counter in 64 bits
+// has not reached 2^32.
 bool BeganAnew(std::uint32_t last, std::uint32_t now, std::uint64_t now_in_full) {
   return now < last && now_in_full >> 32U == 0;
 }
 
-// One direction of one row. Unsigned differences, so a counter that wrapped still gives the true
-// small one.
+// Updates one direction of one row. The differences are unsigned, so a counter that wrapped still
+// gives the true small difference.
 void Advance(std::uint32_t octets, std::uint32_t& last, std::uint32_t& delta, std::uint32_t& total,
              std::uint32_t& active_scans) {
   delta = octets - last;
@@ -46,8 +46,8 @@ void Cap(std::int64_t cap, std::uint32_t& bytes) {
   if (bytes > cap) bytes = static_cast<std::uint32_t>(cap);
 }
 
-// The order is part of the figures: the maxima are taken from the full amounts and cut afterwards,
-// totals and activity keep what really moved.
+// The order matters for the figures: the maxima are taken from the full amounts and capped
+// afterwards; totals and activity keep the uncapped amounts.
 void UpdateCounters(const InterfaceRow& row, std::int64_t speed_cap, AdapterCounters& c) {
   Advance(row.dwInOctets, c.LastInOctets, c.DeltaIn, c.TotalIn, c.ActiveInScans);
   Advance(row.dwOutOctets, c.LastOutOctets, c.DeltaOut, c.TotalOut, c.ActiveOutScans);
@@ -79,7 +79,7 @@ std::vector<AdapterItem> InterfaceSampler::InitAdapters() {
     const bool included = store_.ReadBool(settings::TrimmedAdapterName(description), true);
     items.push_back({description, static_cast<std::int32_t>(row), included});
   }
-  // Last, so that an initialisation which failed half-way is made again by the next scan.
+  // This is set last, so that the next scan repeats an initialisation that failed half-way.
   state_.AdapterHigh = HighestIndex(table);
   return items;
 }
@@ -90,15 +90,15 @@ bool InterfaceSampler::RowCountChanged() {
 }
 
 ScanAmounts InterfaceSampler::SampleInterfaces(const Persist& persist) {
-  // Rows that RowCountChanged has not seen wait for the next scan.
+  // A row that RowCountChanged has not seen is left out until the next scan.
   reader_.ReadInterfaceTable(state_.interface_table, NewRows::kLeaveOut);
   ScanAmounts scan;
   // An adapter came or went since the row count was looked at. Rows and counters may belong to
-  // different adapters now; the next scan seeds them anew, this one measures nothing.
+  // different adapters now; the next scan seeds them anew, and this one measures nothing.
   if (!CountersFitTable()) return scan;
 
-  // Two loops with the result of one: storing may fail in the middle, and the rows behind must not
-  // keep the bytes of this scan for the next.
+  // The work of one loop is done in two: storing may fail in the middle, and the later rows must
+  // not keep the bytes of this scan for the next.
   const std::size_t rows = state_.interface_table.size();
   for (std::size_t position = 0; position < rows; ++position) {
     const InterfaceRow& row = state_.interface_table[position];
@@ -110,8 +110,9 @@ ScanAmounts InterfaceSampler::SampleInterfaces(const Persist& persist) {
   return scan;
 }
 
-// An adapter that was started anew, or another one in its row, is no traffic of almost 4 GiB. Only
-// a row whose octets fell is asked about; where the system cannot say, they wrapped.
+// An adapter that was started anew, or another one in its row, must not count as traffic of almost
+// 4 GiB. The system is asked only about a row whose octets fell; when it cannot say, the octets
+// count as wrapped.
 bool InterfaceSampler::WasSetBack(const InterfaceRow& row, const AdapterCounters& counters) {
   if (row.dwInOctets >= counters.LastInOctets && row.dwOutOctets >= counters.LastOutOctets) {
     return false;
@@ -131,8 +132,8 @@ void InterfaceSampler::CountRow(std::size_t row, const Persist& persist, ScanAmo
     scan.ScanMaxDL += counters.MaxIn;
     scan.ScanMaxUL += counters.MaxOut;
   }
-  // The sums so far decide, not the row's own bytes: behind an active row an idle or excluded one
-  // is persisted too, and a scan with bytes in one direction only persists nothing.
+  // The sums so far decide, not the row's own bytes: after an active row an idle or excluded one is
+  // persisted too, and a scan with bytes in only one direction persists nothing.
   if (scan.ScanSumDL == 0 || scan.ScanSumUL == 0) return;
   persist({description, state_.interface_table[row], counters});
 }

@@ -25,7 +25,7 @@ class InterfaceSampler {
  public:
   using Persist = std::function<void(const AdapterScan&)>;
 
-  // All outlive the sampler.
+  // All arguments outlive the sampler.
   InterfaceSampler(platform::InterfaceTable& interface_table, platform::Locale& locale,
                    settings::Store& store, TrafficState& state)
       : interface_table_(interface_table),

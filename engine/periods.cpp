@@ -58,7 +58,7 @@ bool Periods::HasStarted(Period period) const {
     case Period::kMonth:
       break;
   }
-  // The scan's own default: without a stored day the month starts on the 1st.
+  // The scan has its own default: without a stored day the month starts on the 1st.
   return date_.day >= store_.ReadWith(setting::mPerStartsOn, 0) + 1;
 }
 

@@ -6,16 +6,16 @@
 namespace engine {
 namespace {
 
-// The graph's inputs have 32 bits: what does not fit is cut off.
+// The graph's inputs have 32 bits; higher bits are cut off.
 std::int32_t GraphInput(std::int64_t bytes) {
   return static_cast<std::int32_t>(static_cast<std::uint32_t>(platform::WrappingAbs(bytes)));
 }
 
 }  // namespace
 
-// The order of a scan is this function, top to bottom. The amounts are its own: they end with it,
-// so nothing has to be zeroed at the end, and a scan that runs inside the bandwidth step counts
-// only its own bytes.
+// This function is the order of a scan, from top to bottom. The amounts are local to it, so nothing
+// has to be zeroed at the end, and a scan that runs inside the bandwidth step counts only its own
+// bytes.
 void ScanCycle::Run() {
   if (stage_ == Stage::kBusy) return;
   const platform::ScopedValue scope(stage_, Stage::kBusy);

@@ -35,7 +35,7 @@ class ScanSteps {
 
 class ScanCycle {
  public:
-  // All outlive the cycle.
+  // All arguments outlive the cycle.
   ScanCycle(platform::Clock& clock, InterfaceSampler& sampler, Statistics& statistics,
             TrafficState& state, ScanSteps& steps)
       : clock_(clock), sampler_(sampler), statistics_(statistics), state_(state), steps_(steps) {}

@@ -15,7 +15,8 @@ void Statistics::InitStatistics(std::span<const std::string> descriptions, platf
   store_.Write(setting::ExecuteTime, starts + 1);
   if (starts != 0) return;
   store_.Write(setting::CurrentDay, platform::DateOf(now));
-  // With the time of day: after noon on a Sunday this is the week that begins the next day.
+  // `now` includes the time of day: after noon on a Sunday this is the week that begins the next
+  // day.
   store_.Write(setting::CurrentWeek, WeekOfYear(now));
   store_.Write(setting::CurrentMonth, platform::DecodeDate(now).month);
   for (const std::string& description : descriptions) {
@@ -40,8 +41,8 @@ void Statistics::UpdateAdapterStatistics(std::string_view description,
     const CounterGroup& group = CountersOf(period);
     const MarkerAge age = periods.Age(period);
     if (age == MarkerAge::kFar) adapter.Reset(group);
-    // The marker is still the old one, so the start day is asked about after that reset too: from
-    // the start day on, this scan is not added.
+    // The marker is still the old one here, so the start day counts after that reset too: from the
+    // start day on, this scan is not added.
     if (age != MarkerAge::kSame && periods.HasStarted(period)) {
       adapter.Reset(group);
     } else {
@@ -51,7 +52,8 @@ void Statistics::UpdateAdapterStatistics(std::string_view description,
 }
 
 void Statistics::UpdateMachineMaxima(const ScanAmounts& scan) {
-  // Overwritten each scan, downwards too: they show the sum of what the adapters' counters hold.
+  // The maxima are overwritten in each scan, also by smaller values: they show the sum of the
+  // adapters' maxima.
   store_.Write(setting::InfoMaxDL, scan.ScanMaxDL);
   store_.Write(setting::InfoMaxUL, scan.ScanMaxUL);
 }
@@ -62,7 +64,7 @@ void Statistics::UpdateMachinePeriods(const ScanAmounts& scan, platform::DateTim
   const Periods periods(store_, today);
   for (const Period period : kPeriods) {
     const MarkerAge age = periods.Age(period);
-    // The marker is today's after that, so the scan is added to the new period.
+    // After that the marker is today's, so the scan is added to the new period.
     if (age == MarkerAge::kFar) periods.RollOver(period);
     if (age == MarkerAge::kNext && periods.HasStarted(period)) {
       periods.RollOver(period);

@@ -1,4 +1,4 @@
-// What outlives a scan, and what one scan hands on.
+// The traffic figures that outlive a scan, and those that one scan hands on.
 #pragma once
 
 #include <cstdint>

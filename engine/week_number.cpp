@@ -5,7 +5,7 @@
 namespace engine {
 namespace {
 
-// The weekday of 31 December: 1 = Monday ... 6 = Saturday, 0 = Sunday.
+// Returns the weekday of 31 December: 1 = Monday ... 6 = Saturday, 0 = Sunday.
 int WeekdayOfYearEnd(int year) {
   constexpr int kDayCountOfOrigin = 693594;  // of 1899-12-30, 1 January of year 1 being day 1
   return (static_cast<int>(platform::EncodeDate(year, 12, 31)) + kDayCountOfOrigin) % 7;

@@ -8,7 +8,7 @@ namespace {
 constexpr std::string_view kEnglish = "English";
 constexpr std::string_view kEnding = ".lng";
 constexpr std::string_view kFolder = "Languages\\";
-constexpr std::size_t kLargestFile = 1U << 20;  // bytes; a whole one has a thirtieth of it
+constexpr std::size_t kLargestFile = 1U << 20;  // bytes; a complete file has a thirtieth of that
 
 bool SameName(std::string_view a, std::string_view b) {
   return platform::AsciiLower(a) == platform::AsciiLower(b);
@@ -39,8 +39,8 @@ Translation Language::Kept() const {
 
 std::string Language::Folder() const { return store_.ProgramFile(kFolder); }
 
-// Only a file that is in the folder's list: so a name cannot lead out of the folder, nor to one of
-// the system's devices, which would keep the program waiting.
+// Loads only a file that is in the folder's list, so that a name cannot lead out of the folder, nor
+// to one of the system's devices, which would keep the program waiting.
 std::shared_ptr<const LanguageFile> Language::Load(const std::string& name) const {
   const std::string wanted = name + std::string(kEnding);
   for (const std::string& file : LoadDirectory(files_, Folder(), "*" + std::string(kEnding))) {

@@ -9,7 +9,7 @@ namespace {
 constexpr std::size_t kLongestText = 1000;  // bytes
 constexpr std::string_view kNoCharacter = "\xEF\xBF\xBD";
 
-// A line feed is in no name, so two names never make the same key.
+// No name contains a line feed, so two different pairs never make the same key.
 std::string KeyOf(std::string_view section, std::string_view key) {
   std::string joined(section);
   joined.append(1, '\n').append(key);
@@ -36,8 +36,8 @@ void LanguageFile::ReadLine(std::string_view line, std::string& section) {
   const std::string trimmed = platform::Trim(line);
   if (trimmed.starts_with(';')) return;
   if (trimmed.starts_with('[')) {
-    // Without its end it is no section's name, and the lines below must not count for the one
-    // before.
+    // Without the closing bracket the line names no section, and the lines below it must not count
+    // for the previous section.
     const std::size_t end = trimmed.find(']');
     section = end == std::string::npos ? "" : platform::Trim(trimmed.substr(1, end - 1));
     return;

@@ -28,7 +28,7 @@ static_assert(DaysSinceEpoch(1899, 12, 30) == 0);
 static_assert(DaysSinceEpoch(1, 1, 1) == kFirstDay);
 static_assert(DaysSinceEpoch(9999, 12, 31) == kLastDay);
 
-// The whole days of `moment`, brought into the calendar's range.
+// Returns the whole days of `moment`, moved into the calendar's range.
 int DayNumber(DateTime moment) {
   if (std::isnan(moment)) return 0;
   if (moment <= kFirstDay) return kFirstDay;
@@ -49,7 +49,7 @@ DateTime EncodeDateTime(int year, int month, int day, int hour, int minute, int 
 }
 
 CivilDate DecodeDate(DateTime moment) {
-  // Never negative: the first day of the range lies 306 days after the count's start.
+  // The number is never negative: the first day of the range lies 306 days after the count's start.
   const int days = DayNumber(moment) + kDaysToEpoch;
   const int era = days / kDaysPer400Years;
   const int day_of_era = days % kDaysPer400Years;

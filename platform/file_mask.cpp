@@ -8,13 +8,14 @@
 namespace platform {
 
 bool MatchesMask(std::string_view name, std::string_view mask) {
-  // In UTF-16, so that "?" is a character; one beyond the first plane counts as two, as it does for
-  // the system.
+  // The comparison is in UTF-16, so that "?" is a character; a character beyond the first plane
+  // counts as two, as it does for the system.
   const std::u16string text = ToUtf16(AsciiLower(name));
   const std::u16string pattern = ToUtf16(AsciiLower(mask));
   std::size_t at = 0;
   std::size_t step = 0;
-  // Where to go on when the text after the last star does not fit: one character later.
+  // Where the comparison goes on when the text after the last star does not fit: one character
+  // later.
   struct Retry {
     std::size_t at;
     std::size_t step;

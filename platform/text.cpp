@@ -7,21 +7,21 @@ constexpr char32_t kReplacement = 0xFFFD;
 
 struct Decoded {
   char32_t code = kReplacement;
-  std::size_t length = 1;  // code units that it took
+  std::size_t length = 1;  // code units that the character took
 };
 
 unsigned Unit(std::string_view text, std::size_t at) {
   return static_cast<unsigned char>(text[at]);
 }
 
-// The character at the start of `text`, which is not empty. A malformed sequence gives the
-// replacement and takes as many bytes as could have begun a character, at least one.
+// Returns the character at the start of `text`, which must not be empty. A malformed sequence gives
+// U+FFFD and takes as many bytes as could have begun a character, at least one.
 Decoded DecodeUtf8(std::string_view text) {
   const unsigned lead = Unit(text, 0);
   if (lead < 0x80) return {lead, 1};
   const std::size_t length = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : 2;
   if (lead < 0xC2 || lead > 0xF4) return {};
-  // The second byte's range shuts out overlong forms, surrogates and what is above U+10FFFF.
+  // The range of the second byte excludes overlong forms, surrogates and codes above U+10FFFF.
   unsigned lowest = lead == 0xE0 ? 0xA0 : lead == 0xF0 ? 0x90 : 0x80;
   unsigned highest = lead == 0xED ? 0x9F : lead == 0xF4 ? 0x8F : 0xBF;
   char32_t code = lead & (0x7FU >> length);

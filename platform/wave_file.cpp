@@ -9,12 +9,12 @@ namespace platform {
 namespace {
 
 constexpr std::size_t kChunkHead = 8;     // a name and a size
-constexpr std::size_t kPlainFormat = 16;  // bytes of what each format has
+constexpr std::size_t kPlainFormat = 16;  // bytes that every format has
 constexpr std::size_t kExtendedFormat = 18;
 constexpr std::uint32_t kPcm = 1;
 constexpr std::uint32_t kMostBytesASecond = 1U << 24;  // sixteen channels of 32 bits at 192 kHz
 
-// A number of `size` bytes, low byte first.
+// Returns a number of `size` bytes, low byte first.
 std::uint32_t Number(std::string_view bytes, std::size_t at, std::size_t size) {
   std::uint32_t value = 0;
   for (std::size_t i = size; i-- > 0;) {
@@ -28,8 +28,8 @@ struct Chunk {
   std::string_view data;
 };
 
-// Takes the first chunk off `rest`; nothing when it does not fit into it. The byte that fills an
-// odd one up may be missing at the end.
+// Removes the first chunk from `rest` and returns it, or nullopt when it does not fit into `rest`.
+// The padding byte of a chunk of odd size may be missing at the end.
 std::optional<Chunk> TakeChunk(std::string_view& rest) {
   if (rest.size() < kChunkHead) return std::nullopt;
   const std::size_t size = Number(rest, 4, 4);

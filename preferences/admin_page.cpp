@@ -13,11 +13,11 @@ namespace text = language::text::SettingsForm;
 constexpr int kLocked = 1;
 constexpr int kUnlocked = 0;
 
-// Opens a lock whose password is gone from the registry. It counts here only: the prompt takes a
-// missing password for an empty one.
+// This password opens a lock whose own password is gone from the registry. It counts on this page
+// only: the prompt takes a missing password for an empty one.
 constexpr std::string_view kPasswordIfNone = "Quillmoth";
 
-// Puts the administrator lock on and takes it off.
+// The page that puts the administrator lock on and takes it off.
 class AdminPage final : public Page {
  public:
   AdminPage(toolkit::Notebook& notebook, Context& context) : Page(notebook, "Admin", context) {
@@ -31,7 +31,7 @@ class AdminPage final : public Page {
         {LockBtn, {kFields.FieldLeft(), kFields.Top(3), 110, kButtonHeight}},
     });
     Add(ReadStep::kLock, [this] { ReadLock(); });
-    LockBtn.SetDefault(true);  // of this page: it is out of reach behind the others
+    LockBtn.SetDefault(true);  // Enter reaches it only while this page is shown
     LockBtn.OnClick = [this] { LockBtnClick(); };
   }
 
@@ -64,7 +64,7 @@ class AdminPage final : public Page {
     Show(given ? kLocked : kUnlocked);
     if (given) return;
     App().Platform().sound.Beep();
-    // Also where another program has put the lock on meanwhile.
+    // The lock is also cleared when another program has put it on meanwhile.
     context_.store.Write(setting::zdP1, false);
     AdminPassword.SetFocus();
   }
@@ -100,7 +100,7 @@ class AdminPage final : public Page {
   Labelled<toolkit::PasswordEdit> AdminVerifyPass{*this, "AdminVerifyPass"};
   toolkit::Label CaseSensitive{*this, "CaseSensitive", {platform::TextAlign::kLeft}};
   toolkit::Button LockBtn{*this, "LockBtn"};
-  bool again_ = false;  // two different passwords, or none, were given last
+  bool again_ = false;  // the last attempt gave two different passwords, or none
 };
 
 }  // namespace

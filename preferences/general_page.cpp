@@ -9,7 +9,7 @@ namespace {
 
 namespace setting = settings::setting;
 
-// What has no page of its own.
+// The page of the options that have no page of their own.
 class GeneralPage final : public Page {
  public:
   GeneralPage(toolkit::Notebook& notebook, Context& context) : Page(notebook, "General", context) {
@@ -33,7 +33,7 @@ class GeneralPage final : public Page {
         });
     Add(ReadStep::kGeneral, [this] { ReadOthers(); });
     cmbLanguage.OnChange = [this] { LanguageChange(); };
-    cmbLanguage.OnChosenAgain = cmbLanguage.OnChange;  // its file may have changed
+    cmbLanguage.OnChosenAgain = cmbLanguage.OnChange;  // the language's file may have changed
   }
 
  private:
@@ -42,7 +42,7 @@ class GeneralPage final : public Page {
   }
 
   void ReadOthers() {
-    // A number beyond the ends of the bar too.
+    // The label also shows a stored number beyond the ends of the bar.
     lblAvarageTime.SetCaption(std::to_string(context_.store.Read(setting::AvarageTime)));
     languages_ = context_.language.Names();
     std::vector<std::string> own_names;
@@ -53,7 +53,7 @@ class GeneralPage final : public Page {
     cmbLanguage.SetItemIndex(static_cast<int>(context_.language.IndexIn(languages_)));
   }
 
-  // Stored first, as the texts are looked up by what is stored.
+  // The choice is stored first, since texts are looked up by the stored language.
   void LanguageChange() {
     const int index = cmbLanguage.ItemIndex();
     if (context_.IsReading() || index < 0) return;

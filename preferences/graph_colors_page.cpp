@@ -15,7 +15,7 @@ namespace text = language::text::SettingsForm;
 constexpr int kPanelWidth = 48;
 constexpr int kMeterHeight = kGroupTop + 4 * kFieldRow + 2;
 
-// Colours of the graph, kind and colours of the tray icon.
+// The page of the graph's colours and of the tray icon's kind and colours.
 class GraphColorsPage final : public Page {
  public:
   GraphColorsPage(toolkit::Notebook& notebook, Context& context)

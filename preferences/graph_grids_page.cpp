@@ -10,7 +10,7 @@ namespace {
 namespace setting = settings::setting;
 namespace text = language::text::SettingsForm;
 
-// The lines over the graph.
+// The page of the lines over the graph.
 class GraphGridsPage final : public Page {
  public:
   GraphGridsPage(toolkit::Notebook& notebook, Context& context)
@@ -44,14 +44,14 @@ class GraphGridsPage final : public Page {
   }
 
  private:
-  // What a list shows until its lines are shown for the first time.
+  // Sets the row that a list shows until its lines are shown for the first time.
   static void ShowDesign(toolkit::ListControl& list) {
     list.SetItems(std::vector<std::string>(5));
     list.SetItemIndex(static_cast<int>(setting::cmbVLineStyle.read));
   }
 
-  // A style is read with its lines, and only while they are shown: what is drawn and what the list
-  // says are the same.
+  // A style is read together with its lines, and only while they are shown, so that the list says
+  // what is drawn.
   void ReadStyles() {
     const Context::Reading reading(context_);
     settings::Store& store = context_.store;

@@ -13,18 +13,18 @@ namespace setting = settings::setting;
 namespace text = language::text::SettingsForm;
 
 constexpr Items kBevels{"Bevel"};
-// Design pixels.
+// These ranges are in design pixels.
 constexpr Range kFrame{0, 20};
 constexpr Range kGap{0, 50};
 constexpr Range kPulse{1, 50};
 
-// Bits per second.
+// This range is in bits per second.
 constexpr Range kSpeed{1024, 2100000000, 1024};
 
 constexpr int kLabelWidth = 230;
 constexpr int kNumberWidth = 80;
 
-// Frame, bars and scale of the graph.
+// The page of the graph's frame, bars and scale.
 class GraphOthersPage final : public Page {
  public:
   GraphOthersPage(toolkit::Notebook& notebook, Context& context)
@@ -65,7 +65,8 @@ class GraphOthersPage final : public Page {
     CustomScale.OnChange = [this] { CustomScaleChange(); };
   }
 
-  // The first and the last have a text in the user's language; the speeds are the same in all.
+  // The first and the last scale have a text in the user's language; the speeds are the same in all
+  // languages.
   void SayScales(const language::Translation& say) {
     std::vector<std::string> scales;
     for (const settings::ScaleChoice& choice : settings::kScaleChoices)
@@ -75,7 +76,8 @@ class GraphOthersPage final : public Page {
     if (scales != ScaleCombo.Items()) ScaleCombo.SetItems(scales);
   }
 
-  // Both are read before either control changes, as the handler of each uses the other.
+  // Both values are read before either control changes, since the handler of each control uses the
+  // other one.
   void ReadScale() {
     SayScales(context_.language.Chosen());
     const std::int64_t index = context_.store.Read(setting::GraphScaleType);
@@ -88,7 +90,8 @@ class GraphOthersPage final : public Page {
     return ScaleCombo.ItemIndex() == static_cast<int>(settings::kCustomScale);
   }
 
-  // The custom speed is stored with every choice, as it is shown: it outlasts a fixed one.
+  // The shown custom speed is stored with every choice, so that it outlasts the choice of a fixed
+  // one.
   void ScaleComboChange() {
     CustomScale.SetEnabled(CustomChosen());
     PushScale();
@@ -102,7 +105,7 @@ class GraphOthersPage final : public Page {
   }
 
   // While the settings are read, the graph takes what is stored, as at the start. The cap stays:
-  // who only looks at the settings changes nothing of what is counted.
+  // opening the preferences must not change what is counted.
   void PushScale() {
     using Cap = display::OptionTable::Cap;
     display::OptionTable& options = context_.meter.options;

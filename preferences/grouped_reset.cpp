@@ -19,7 +19,7 @@ void WriteDefault(settings::Store& store, const settings::SchemaRow& row) {
       store.WriteString(settings::KeyIndex::kSettings, row.name, store.Resolve(row.reset));
       break;
     case settings::ValueType::kCounter:
-    case settings::ValueType::kDate:  // those of the periods alone
+    case settings::ValueType::kDate:  // only the periods have dates
       break;
   }
 }

@@ -9,7 +9,8 @@
 namespace preferences {
 namespace {
 
-// Which network adapters count. Its rows are those of the meter's menus and come and go with them.
+// The page that chooses which network adapters count. Its rows are those of the meter's menus and
+// change with them.
 class InterfacesPage final : public Page {
  public:
   InterfacesPage(toolkit::Notebook& notebook, Context& context)
@@ -45,13 +46,14 @@ class InterfacesPage final : public Page {
  private:
   static constexpr platform::TextStyle kValue{platform::TextAlign::kLeft};
 
-  // Shows the adapters that there are now, and what is stored of them.
+  // Shows the present adapters and their stored values.
   void ReadAdapters() {
     const Context::Reading reading(context_);
     const std::vector<std::string> now = context_.meter.adapters.Descriptions();
     const std::vector<std::string>& before = NIMListBox.Items();
     if (now != before) {
-      // The chosen adapter stays chosen, in whatever row it is; without one it is the first.
+      // The chosen adapter stays chosen, in whatever row it is; when none is chosen, the first one
+      // is.
       const auto at = static_cast<std::size_t>(NIMListBox.ItemIndex());
       const std::string chosen = at < before.size() ? before[at] : std::string();
       NIMListBox.SetItems(now);
@@ -59,8 +61,8 @@ class InterfacesPage final : public Page {
       NIMListBox.SetItemIndex(found == now.end() ? 0 : static_cast<int>(found - now.begin()));
     }
     for (int row = 0; row < NIMListBox.Count(); ++row) {
-      // Under the engine's name, which decides what counts; it differs from that of the menus for a
-      // description with blanks at its ends.
+      // The flag is stored under the engine's name, which decides what counts. That name differs
+      // from the one of the menus for a description with blanks at its ends.
       const std::string name = settings::AdapterName(now[static_cast<std::size_t>(row)]);
       NIMListBox.SetChecked(row, context_.store.ReadBool(name, true));
     }
@@ -90,14 +92,14 @@ class InterfacesPage final : public Page {
     context_.meter.adapters.ReadTicks();
   }
 
-  // Whether all are ticked; there may be none.
+  // Shows in the box for all whether all adapters are ticked; there may be no adapters.
   void ShowWhetherAll() {
     bool all = NIMListBox.Count() > 0;
     for (int row = 0; row < NIMListBox.Count(); ++row) all = all && NIMListBox.Checked(row);
     chkSelectALL.SetChecked(all);
   }
 
-  // The stored data of the chosen adapter.
+  // Shows the stored data of the chosen adapter.
   void ShowData() {
     const auto row = static_cast<std::size_t>(NIMListBox.ItemIndex());
     const bool chosen = row < NIMListBox.Items().size();

@@ -21,7 +21,7 @@ constexpr int kNumberWidth = 116;
 constexpr FieldColumn kFields{kMargin + kRow + 4, 156};
 constexpr FieldColumn kLower{kFields.top + 4, kFields.label_width};
 
-// Two rules, which share one set of controls, and the ticker.
+// The page of the two notification rules, which share one set of controls, and of the ticker.
 class NotificationPage final : public Page {
  public:
   NotificationPage(toolkit::Notebook& notebook, Context& context)
@@ -86,13 +86,13 @@ class NotificationPage final : public Page {
         });
   }
 
-  // Every number but 0 is the second rule.
+  // Returns the first rule for 0 and the second for every other number.
   static const alerts::TrafficRule& RuleOf(std::int64_t less_or_more) {
     return less_or_more == 0 ? alerts::kLessRule : alerts::kMoreRule;
   }
 
-  // Asked of the store anew by every handler: another program may have chosen the other one. What
-  // is read follows the list, which was read before it.
+  // Every handler reads the choice from the store anew: another program may have chosen the other
+  // rule. While the settings are read, the choice follows the list, which was read first.
   const alerts::TrafficRule& Chosen() {
     return RuleOf(context_.IsReading() ? LessOrMore.ItemIndex()
                                        : context_.store.Read(setting::LessOrMore));
@@ -101,7 +101,8 @@ class NotificationPage final : public Page {
   void ReadChoice() {
     const alerts::TrafficRule& rule = RuleOf(context_.store.Read(setting::LessOrMore));
     LessOrMore.SetItemIndex(&rule == &alerts::kLessRule ? 0 : 1);
-    // An action that does not exist shows none: the one in the list may be the other rule's.
+    // A stored action that does not exist selects no row: the row that is selected may be the other
+    // rule's.
     const std::int64_t action = context_.store.Read(rule.action);
     if (action < 0 || action >= action_.action.Count()) action_.action.SetItemIndex(-1);
   }

@@ -6,7 +6,7 @@
 namespace preferences {
 namespace {
 
-// Design pixels.
+// Sizes in design pixels.
 constexpr int kSide = 16;
 constexpr int kGap = 6;
 constexpr int kPictures = 4;

@@ -16,7 +16,7 @@ class PicturePanel final : public toolkit::Control {
   // Shows the pictures of the file at `path`, or else those of `fallback`, or else none.
   void Load(const std::string& path, const std::string& fallback);
 
-  // Design pixels of the whole panel.
+  // The size of the whole panel in design pixels.
   static constexpr int kWidth = 94;
   static constexpr int kHeight = 26;
 

@@ -22,7 +22,7 @@ constexpr int kSteps = 100;
 
 struct Group {
   settings::ResetGroup group;
-  std::string_view name;  // of its box
+  std::string_view name;  // of the group's box
 };
 
 constexpr std::array<Group, 12> kGroups = {{
@@ -40,10 +40,11 @@ constexpr std::array<Group, 12> kGroups = {{
     {settings::ResetGroup::kMonthly, "R12"},
 }};
 
-// What the line of numbers begins with after its reset; two blanks, unlike that of a start.
+// The average text of the numeric line after its reset. It has two blanks before "UL", unlike the
+// text at a start.
 constexpr const char* kAverageText = "[ Average DL:0,0 kB  UL:0,0 kB ]";
 
-// Puts options back to their defaults, group by group.
+// The page that puts options back to their defaults, group by group.
 class ResetSettingsPage final : public Page {
  public:
   ResetSettingsPage(toolkit::Notebook& notebook, Context& context)
@@ -94,7 +95,7 @@ class ResetSettingsPage final : public Page {
     for (const auto& box : groups_) box->SetChecked(SelectAll.Checked());
   }
 
-  // The box for all says whether all are ticked.
+  // Shows in the box for all whether all groups are ticked.
   void GroupClick() {
     if (context_.IsReading()) return;
     const Context::Reading reading(context_);
@@ -117,15 +118,16 @@ class ResetSettingsPage final : public Page {
     timer_.SetEnabled(true);
   }
 
-  // The meter takes over what the controls have not pushed, as they had it already.
+  // Gives the meter the values that the controls have not pushed because they showed them already.
   void ShowInMeter(bool line_was_reset) {
     const display::RunningMeter& meter = context_.meter;
-    meter.window.ApplyDisplaySettings(display::ScaleTaken::kAsItIs);  // no group has the scale
+    meter.window.ApplyDisplaySettings(display::ScaleTaken::kAsItIs);  // the scale is in no group
     if (line_was_reset) meter.line.SetAverageText(kAverageText);
     meter.window.LineChanged();
   }
 
-  // A step for each 5 ms that have passed: the system's timers may come more seldom.
+  // The bar moves one step for each 5 ms that have passed, since the system's timers may tick less
+  // often.
   void Progress() {
     const std::int64_t passed = context_.app.Platform().clock.SteadyMilliseconds() - started_;
     const std::int64_t step = std::max<std::int64_t>(1, passed / kStepMs);
@@ -150,7 +152,8 @@ class ResetSettingsPage final : public Page {
   toolkit::Button btnResetSettings{*this, "btnResetSettings"};
   toolkit::ProgressBar ResetSettingPrg{*this, "ResetSettingPrg"};
 
-  // The progress is for the eye; it goes on, hidden, when the window is closed, and ends with it.
+  // The progress is only shown to the user. It goes on while the window is hidden and ends when the
+  // window is destroyed.
   toolkit::Timer timer_{App(), kStepMs, [this] { Progress(); }};
   std::int64_t started_ = 0;  // ms of the steady clock
 };

@@ -19,7 +19,7 @@ std::vector<std::string> Texts(const Items& items, const language::Translation& 
   return texts;
 }
 
-// A text that every option of that kind has.
+// Returns the name of the text that every option of that kind has.
 std::string NameOf(const settings::ColourSetting& setting, const language::Translation& say) {
   const language::TextEntry* name = FindText(setting.name);
   return name != nullptr ? say(*name) : std::string();
@@ -51,7 +51,7 @@ void ShowIn(toolkit::TrackBar& bar, std::int64_t value) {
                                                             std::numeric_limits<int>::max())));
 }
 
-// A panel that the code gives another colour has no event of its own.
+// A panel fires no event when the code gives it another colour.
 void Row::BindColour(toolkit::ColourPanel& panel, toolkit::Label* label,
                      const settings::ColourSetting& setting) {
   connect = [&panel, setting](Context& context, const Event& /*follows*/) {

@@ -91,9 +91,9 @@ inline void ShowIn(SoundFile& file, const std::string& value) { file.SetPath(val
 
 // A row is made where its page is made; the control outlives it. After the place come, in any
 // order:
-//   a setting, or a call that gives the one that counts at the moment
+//   a setting, or a function that returns the setting that counts at the moment
 //   Range, Steps, Items, Choice or Says
-//   a call of what else on the page follows the control, made before the value is pushed
+//   a function that updates the rest of the page; it runs before the value is pushed
 class Row {
  public:
   template <class Control, class... More>

@@ -18,7 +18,7 @@ namespace text = language::text::SettingsForm;
 SoundFile::SoundFile(toolkit::Control& parent, std::string_view path, std::string_view open,
                      std::string_view play)
     : path_(parent, path), open_(parent, open), play_(parent, play) {
-  // Signs that need no translation; the hints say what they do.
+  // The captions are signs that need no translation; the hints say what the buttons do.
   open_.SetCaption("...");
   play_.SetCaption(">");
   path_.OnChange = [this] {
@@ -58,7 +58,7 @@ void SoundFile::Choose() {
   toolkit::OpenDialog dialog;
   dialog.Title = title_;
   dialog.Kinds = {{sounds_, "*.wav"}, {all_files_, "*.*"}};
-  // Where the present sound is, or else where those of the program are.
+  // The dialog starts in the folder of the present sound, or else in the program's folder.
   const std::size_t folder_end = Path().rfind('\\');
   dialog.InitialFolder = folder_end == std::string::npos
                              ? open_.App().Platform().files.ProgramFolder()

@@ -7,7 +7,7 @@ namespace {
 
 namespace setting = settings::setting;
 
-// What the numeric line shows, in which units, and where it is posted.
+// The page that sets what the numeric line shows, in which units, and where it is posted.
 class TextOtherPage final : public Page {
  public:
   TextOtherPage(toolkit::Notebook& notebook, Context& context)

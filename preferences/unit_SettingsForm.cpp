@@ -11,12 +11,12 @@ namespace {
 
 namespace text = language::text::SettingsForm;
 
-// Design pixels.
+// Sizes in design pixels.
 constexpr int kTreeWidth = 164;
 constexpr int kFormWidth = kMargin + kTreeWidth + kMargin + kPageWidth;
 constexpr int kFormHeight = kPageHeight + 5 * kMargin;
 
-// In the order of the notebook.
+// Makes the pages in the order of the notebook.
 std::vector<std::unique_ptr<Page>> MakePages(toolkit::Notebook& notebook, Context& context) {
   const auto empty = [](toolkit::Notebook& of, Context& with) {
     return std::make_unique<Page>(of, "SpeedUp", with);
@@ -32,13 +32,13 @@ std::vector<std::unique_ptr<Page>> MakePages(toolkit::Notebook& notebook, Contex
 }
 
 struct PageTreeItem {
-  int number;  // what the item is known by, wherever it stands
+  int number;  // identifies the item, wherever it stands
   int level;   // 0 at the root
   language::TextEntry text;
   std::string_view page;  // empty for a heading, which leads nowhere
 };
 
-// In the order in which they stand in the expanded tree.
+// The items stand in the order of the expanded tree.
 constexpr PageTreeItem kTree[] = {
     {0, 0, text::TreeItem0, "General"},
     {4, 0, text::TreeItem4, ""},
@@ -54,7 +54,8 @@ constexpr PageTreeItem kTree[] = {
     {6, 0, text::TreeItem6, "Interfaces"},
     {7, 0, text::TreeItem7, "Admin"},
     {8, 0, text::TreeItem8, "Other"},
-    // Places kept for what is not there: an empty page, twice, and a page that does not exist.
+    // These items are kept although they show nothing: two have an empty page, one a page that does
+    // not exist.
     {10, 0, text::TreeItem10, "SpeedUp"},
     {16, 0, text::TreeItem16, "BrisantoScript"},
     {17, 0, text::TreeItem17, "SpeedUp"},

@@ -37,7 +37,7 @@ class T_frmPreferences final : public toolkit::Form {
 
   Context context_;
 
-  // In the order of Tab.
+  // The members stand in the order of Tab.
   toolkit::TreeView TreeItems{*this, "TreeItems"};
   toolkit::Notebook PrefNotebook{*this, "PrefNotebook"};
   const std::vector<std::unique_ptr<Page>> pages_;

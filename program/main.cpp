@@ -23,7 +23,7 @@ int platform::windows::Main() {
     SingleInstance single_instance;
     return program::RunOnce(single_instance, &Run);
   } catch (const std::exception& error) {
-    // The system gave no window to start with; the log is all that can tell.
+    // The system refused the first window, so the error can only be written to the log.
     Files files;
     Locale locale;
     std::vector<std::string> lines;

@@ -8,7 +8,7 @@
 namespace program {
 namespace {
 
-// Before the first window is made.
+// Sets the application's title before the first window is made.
 platform::Platform& Titled(platform::Platform& platform) {
   platform.windowing.SetApplicationTitle(kProductTitle);
   return platform;
@@ -26,7 +26,7 @@ Program::Program(platform::Platform& platform) : app_(Titled(platform)), meter_(
   settings::Store store(platform.registry, platform.files);
   settings::CreateMissingValues(store, platform::DateOf(now));
   meter_.Traffic().RestartRun(now);
-  // The window has just set the cap from the stored scale. A fresh run is uncapped all the same,
+  // The window has just set the cap from the stored scale. A new run is uncapped nevertheless,
   // until the user picks a scale or the window is initialised again.
   meter_.Traffic().SpeedCap = 0;
 }

@@ -36,7 +36,7 @@ void FigureRow::Show(const QuantityText& text) {
   unit.SetCaption(text.unit);
 }
 
-// With a comma, as in the text of a zero amount.
+// The text has a comma, like that of a zero amount.
 void FigureRow::ShowZero() { value.SetCaption("0,0"); }
 
 }  // namespace quantity

@@ -15,8 +15,9 @@ struct Range {
   std::size_t keep;    // characters of the number
 };
 
-// The next unit begins at 1000 of the one before. Each upper bound is one short of the next lower
-// one, so 102399, 1023999 and so on have no text at all, on purpose; the tests hold these gaps.
+// Each unit begins at 1000 of the unit before it. Each upper bound is one less than the next lower
+// bound, so that 102399, 1023999 and so on have no text at all. These gaps are kept, and tests
+// check them.
 constexpr Range kPositiveRanges[] = {
     {1, 1024, 1, 3},
     {1024, 10240, 1, 3},
@@ -33,8 +34,9 @@ constexpr Range kPositiveRanges[] = {
     {102400000000000, 1023999999999999, 4, 8},
 };
 
-// No exact mirror of the positive ones: the gaps lie at -1023 and at the round numbers. One more
-// character is kept, for the sign. The first range takes zero in as well, but not of bits.
+// The negative ranges do not mirror the positive ones exactly: the gaps lie at -1023 and at the
+// round numbers. One more character is kept, for the sign. The first range includes zero bytes, but
+// not zero bits.
 constexpr Range kNegativeRanges[] = {
     {-1022, 1, 1, 4},
     {-10240, -1024, 1, 4},
@@ -56,16 +58,17 @@ struct UnitWords {
   std::array<std::string_view, 4> by_divisions;
 };
 
-// The unit of zero bits lacks the final "s" that all their other units have; it is meant to.
+// The unit of zero bits lacks the final "s" that all other units of bits have; this is kept.
 constexpr UnitWords kByteWords = {"kB", {"kB", "MB", "GB", "TB"}};
 constexpr UnitWords kBitWords = {"kbit", {"kbits", "Mbits", "Gbits", "Tbits"}};
-// With a comma, whatever the user's separator is.
+// The text has a comma, whatever the user's separator is.
 constexpr std::string_view kZero = "0,0";
 
 bool Matches(const Range& range, std::int64_t n) { return range.from <= n && n < range.up_to; }
 
-// n / 1024^divisions in ten-thousandths, rounded to the nearest, ties to even. Exact: a factor of
-// 16 is taken out of 10000, so that the product fits into 64 bits for every n of the ranges.
+// Returns n / 1024^divisions in ten-thousandths, rounded to the nearest, ties to even. The result
+// is exact: a factor of 16 is taken out of 10000, so that the product fits into 64 bits for every n
+// of the ranges.
 std::int64_t TenThousandths(std::int64_t n, int divisions) {
   const std::uint64_t product = static_cast<std::uint64_t>(n < 0 ? -n : n) * 625;
   const int shift = 10 * divisions - 4;
@@ -76,7 +79,7 @@ std::int64_t TenThousandths(std::int64_t n, int divisions) {
   return static_cast<std::int64_t>(rounded);
 }
 
-// Cut, not rounded, to the characters that the range keeps.
+// The number is cut, not rounded, to the characters that the range keeps.
 std::string NumberText(std::int64_t n, const Range& range, std::string_view separator) {
   const std::int64_t value = TenThousandths(n, range.divisions);
   std::string text = n < 0 ? "-" : "";
@@ -90,7 +93,7 @@ std::string NumberText(std::int64_t n, const Range& range, std::string_view sepa
   return platform::CutCharacters(text, range.keep);
 }
 
-// Eight bits a byte; an amount too large for that wraps.
+// Returns the amount in the unit family: a byte has eight bits. An amount that is too large wraps.
 std::int64_t Amount(std::int64_t bytes, Units units) {
   if (units == Units::kBytes) return bytes;
   return static_cast<std::int64_t>(static_cast<std::uint64_t>(bytes) * 8);
@@ -148,7 +151,7 @@ std::string GetToken(std::string_view S, std::string_view Delimiter, int Index) 
   std::string_view token;
   for (int i = 0; i < Index; ++i) {
     const std::size_t at = Delimiter.empty() ? std::string_view::npos : S.find(Delimiter);
-    if (at == std::string_view::npos) return {};  // the rest stays, so no later piece is found
+    if (at == std::string_view::npos) return {};  // without its delimiter there is no such piece
     token = S.substr(0, at);
     S.remove_prefix(at + taken_off);
   }

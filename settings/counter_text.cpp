@@ -10,7 +10,7 @@ namespace {
 
 constexpr std::size_t kLongestQuote = 100;  // characters
 
-// Whatever stands in the place of a number, a line of the log can hold it.
+// Shortens the text so that it fits into a line of the log.
 std::string Quoted(std::string_view text) {
   const std::string beginning = platform::CutCharacters(text, kLongestQuote);
   std::string quoted = "'" + beginning + "'";
@@ -27,7 +27,7 @@ ConversionError::ConversionError(std::string_view text)
 
 std::int64_t ParseCounter(std::string_view text) {
   std::string_view digits = text;
-  // from_chars knows the minus sign only; "+-5" must stay an error.
+  // from_chars takes only the minus sign; "+-5" must stay an error.
   if (digits.starts_with('+')) {
     digits.remove_prefix(1);
     if (digits.starts_with('-')) throw ConversionError(text);
@@ -40,8 +40,8 @@ std::int64_t ParseCounter(std::string_view text) {
 }
 
 std::string CounterText(std::int64_t value) {
-  // The smallest number has no absolute value in 64 bits. Its text keeps the sign, so that what is
-  // written can be read again: digits beyond the range would fail every later scan.
+  // The smallest number has no absolute value in 64 bits. Its text keeps the sign, so that it can
+  // be read again: digits beyond the range would make every later scan fail.
   return std::to_string(platform::WrappingAbs(value));
 }
 

@@ -13,8 +13,8 @@ std::optional<AppliedScale> ScaleOf(std::int64_t index, std::int64_t custom_limi
 std::optional<AppliedScale> ReadScale(Store& store) {
   const std::int64_t index = store.Read(setting::GraphScaleType);
   if (index != std::int64_t{kCustomScale}) return ScaleOf(index, 0);
-  // Two reads with two defaults. Where the value is missing the first read stores its own, so the
-  // second default shows only when that could not be stored.
+  // The value is read twice, with two defaults. When it is missing, the first read stores its own
+  // default, so the second default counts only when that could not be stored.
   auto scale = ScaleOf(index, LimitOfStoredSpeed(store.Read(setting::SpeedLimit)));
   scale->SpeedCap = LimitOfStoredSpeed(store.ReadWith(setting::SpeedLimit, 1024));
   return scale;

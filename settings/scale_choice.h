@@ -25,11 +25,9 @@ constexpr std::int64_t LimitOfStoredSpeed(std::int64_t stored) { return stored /
 constexpr std::int64_t LimitOfShownSpeed(std::int64_t shown) { return shown / 8; }
 
 struct ScaleChoice {
-  std::string_view
-      text;  // text in the list; the first and the last have a language text of their own
+  std::string_view text;  // in the list; the first and the last also have a language text
   bool AutoScale;
-  std::int64_t
-      SpeedLimit;  // bytes per scan at full scale; the last choice has the custom speed instead
+  std::int64_t SpeedLimit;  // bytes per scan at full scale; the last choice has the custom speed
 };
 
 inline constexpr std::size_t kAutomaticScale = 0;

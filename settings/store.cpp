@@ -45,8 +45,8 @@ std::optional<platform::DateTime> DateFrom(const std::optional<std::vector<std::
   return std::bit_cast<platform::DateTime>(raw);
 }
 
-// Reads with `read`; what gives nothing is replaced by the default through `write`. The default is
-// also the answer where it cannot be stored: a reader has no use for that failure.
+// Reads with `read`. When that gives nullopt, stores the default through `write` and returns it. A
+// default that cannot be stored is returned all the same: the failure is of no use to a reader.
 template <class Value, class Reading, class Writing>
 Value ReadOrStore(RegistryKey* key, const Value& default_value, const Reading& read,
                   const Writing& write) {
@@ -63,12 +63,12 @@ Value ReadOrStore(RegistryKey* key, const Value& default_value, const Reading& r
 }  // namespace
 
 std::unique_ptr<RegistryKey> Store::Open(KeyIndex key) {
-  // The key of the system is not ours to make.
+  // The Run key belongs to the system, so the program never creates it.
   return registry_.Open(PathOf(key),
                         key == KeyIndex::kRun ? KeyAccess::kExisting : KeyAccess::kCreate);
 }
 
-// Where an administrator took the right to write away, the settings are still there to be read.
+// When an administrator has taken the right to write away, the settings can still be read.
 std::unique_ptr<RegistryKey> Store::OpenToRead(KeyIndex key) {
   auto opened = Open(key);
   return opened ? std::move(opened) : registry_.Open(PathOf(key), KeyAccess::kReadOnly);

@@ -27,7 +27,7 @@ enum class KeyIndex : int {
 
 class Store {
  public:
-  // Both outlive the store.
+  // Both arguments outlive the store.
   Store(platform::Registry& registry, platform::Files& files)
       : registry_(registry), files_(files) {}
 

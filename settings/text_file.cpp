@@ -26,7 +26,8 @@ std::string FromUtf16(std::string_view bytes, Order order) {
   return platform::ToUtf8(wide);
 }
 
-// Where the last character of UTF-8 begins, if the end of the bytes cuts it; else their end.
+// Returns where the last UTF-8 character begins if the end of the bytes cuts it, and otherwise the
+// end of the bytes.
 std::size_t EndOfWholeCharacters(std::string_view bytes) {
   std::size_t lead = bytes.size();
   const std::size_t furthest = bytes.size() - std::min<std::size_t>(bytes.size(), 3);
@@ -40,8 +41,8 @@ std::size_t EndOfWholeCharacters(std::string_view bytes) {
   return bytes.size();
 }
 
-// A file that was cut in the middle of a character is still UTF-8 if another character of several
-// bytes speaks for it.
+// A file that was cut in the middle of a character still counts as UTF-8 if it has another, whole
+// character of several bytes.
 bool IsUtf8(std::string_view bytes) {
   const std::string_view whole = bytes.substr(0, EndOfWholeCharacters(bytes));
   if (platform::ValidUtf8(whole) != whole) return false;

@@ -39,7 +39,8 @@ T_frmSecurity::T_frmSecurity(toolkit::Application& app, Store& store,
 void T_frmSecurity::FormCreate() {
   Localise();
   CentreOnScreen();
-  // On a change alone: where no password is stored, the empty edit of a new prompt opens nothing.
+  // The edit is compared only when it changes: when no password is stored, the empty edit of a new
+  // prompt opens nothing.
   PassEdit.OnChange = [this] { PassEditChange(); };
 }
 

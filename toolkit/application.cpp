@@ -28,7 +28,7 @@ void Application::Report(std::string_view message) noexcept {
   try {
     if (exception_handler_) exception_handler_(message);
   } catch (...) {
-    // The error log is the last resort: there is nobody left to tell.
+    // The error log is the last resort, so its own failure is dropped.
     return;
   }
 }

@@ -106,7 +106,7 @@ void ColourPalette::OnMouseDown(const platform::MouseEvent& event) {
   });
 }
 
-// Behind the click that it makes.
+// The flag is cleared after the click that the release makes.
 void ColourPalette::OnMouseUp(const platform::MouseEvent& event) {
   by_mouse_ = false;
   Control::OnMouseUp(event);

@@ -53,7 +53,7 @@ class ColourPopup final : public Form {
     sample.SetColour(colour);
   }
 
-  // The colour of the system's dialog has been confirmed there.
+  // Shows the system's dialog. A colour that the user confirms there ends the popup too.
   void AskSystem() {
     std::optional<platform::Colour> mixed;
     App().Modals().RunSystemDialog(
@@ -63,7 +63,7 @@ class ColourPopup final : public Form {
     EndModal(ModalResult::kOk);
   }
 
-  // Below, or above where there is no room; within the work area.
+  // Places the popup below the anchor, or above it when there is no room, and within the work area.
   void StandBelow(const Control& anchor) {
     const platform::Widget& peer = PeerOf(anchor);
     const platform::Point above = peer.ToScreen({0, 0});

@@ -8,10 +8,11 @@
 namespace toolkit {
 namespace {
 
-constexpr std::int64_t kShortestTimer = 10;  // ms, what the system can do
+constexpr std::int64_t kShortestTimer = 10;  // ms, the shortest that the system offers
 
-// Part of a period that lies between two ticks at least. A tick that comes so late that the next
-// would follow at once takes that one's place as well: it would find next to nothing.
+// The part of a period that lies at least between two ticks. A tick that comes so late that the
+// next would follow at once also takes the place of the next one, which would have next to nothing
+// to do.
 constexpr std::int64_t kShortestGapPercent = 25;
 
 }  // namespace
@@ -28,20 +29,23 @@ void PhaseTimer::SetActive(bool active) {
   Arm();
 }
 
-// Armed before the tick runs, so that ticks go on while a window that the tick shows is open.
+// The timer is armed before the tick runs, so that ticks go on while a window that the tick shows
+// is open.
 void PhaseTimer::Arm() {
   const std::int64_t wait = deadline_ - app_.Platform().clock.SteadyMilliseconds();
   auto next = app_.Platform().timers.Start(static_cast<int>(std::max(wait, kShortestTimer)),
                                            [this] { Tick(); });
-  // Refused, the present one goes on: out of phase is better than not at all.
+  // When the system refuses a new timer, the present one goes on: ticks out of phase are better
+  // than none.
   if (next) timer_ = std::move(next);
 }
 
 void PhaseTimer::Tick() {
   const std::int64_t now = app_.Platform().clock.SteadyMilliseconds();
-  // The system's clock and its timers differ by a few ms; that early is in time.
+  // The system's clock and its timers differ by a few ms; a tick that much too early counts as on
+  // time.
   deadline_ += period_ms_;
-  // What was missed is not made up for.
+  // Missed ticks are not made up for.
   const std::int64_t earliest = now + period_ms_ * kShortestGapPercent / 100;
   while (deadline_ < earliest) deadline_ += period_ms_;
   Arm();

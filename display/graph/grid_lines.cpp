@@ -21,7 +21,7 @@ struct GridPen {
   platform::PenStyle style;
 };
 
-// A style that the list does not have leaves the pen as it is: solid.
+// A style that the list does not have leaves the pen solid.
 platform::PenStyle StyleOf(std::int64_t stored) {
   switch (stored) {
     case 1:
@@ -38,7 +38,7 @@ platform::PenStyle StyleOf(std::int64_t stored) {
 }
 
 // Calls `line` for every multiple of the stored spacing from 1 to `length`. A spacing of 0 or less
-// is never met by the row counter, so it draws nothing.
+// draws nothing.
 template <class DrawLine>
 void WalkLines(settings::Store& store, const GridSettings& grid, int length, int dpi,
                const DrawLine& line) {

@@ -35,7 +35,7 @@ std::vector<platform::Rect> VisibleParts(const platform::Bitmap& picture,
     picture.ReadRow(y, row);
     std::vector<Run> runs = RunsOf(row, background);
     if (y > 0 && runs == above) {
-      // Bars are much the same from row to row: their parts become higher.
+      // Bars hardly change from row to row, so the parts of the row above become higher.
       for (std::size_t i = parts.size() - runs.size(); i < parts.size(); ++i) ++parts[i].height;
       continue;
     }

@@ -14,7 +14,7 @@ using platform::WindowId;
 
 constexpr char kMarker = '|';
 constexpr std::size_t kCharactersRead = 255;
-constexpr std::size_t kLongestPosted = 1000;  // characters: a title and any numeric line
+constexpr std::size_t kLongestPosted = 1000;  // characters; enough for a title and any numeric line
 
 constexpr std::int64_t kPostToAll = 1;
 constexpr std::int64_t kPostToListed = 2;
@@ -43,7 +43,7 @@ class TitlePosting::Turn {
 
   [[nodiscard]] std::int64_t Now() const { return clock_.SteadyMilliseconds(); }
   [[nodiscard]] bool TimeIsUp() const { return Now() >= end_; }
-  // What is left for one window; above 0 while the time is not up.
+  // Returns the time left for one window; it is above 0 while the time is not up.
   [[nodiscard]] int Patience() const { return static_cast<int>(std::min(kPatience, end_ - Now())); }
 
  private:
@@ -90,8 +90,8 @@ bool TitlePosting::Listed(std::string_view own_title) {
   return known->second;
 }
 
-// The window in front keeps its marker until it gets the new one: to strip it first would let its
-// title flicker.
+// The window in front keeps its marker until it gets the new one: its title would flicker if the
+// marker were removed first.
 void TitlePosting::PostToForeground(Turn& turn, std::string_view text) {
   platform::OtherWindows& desktop = app_.Platform().other_windows;
   const WindowId window = desktop.Foreground();
@@ -105,7 +105,7 @@ void TitlePosting::PostInto(Turn& turn, WindowId window, const platform::WindowT
   std::string title(StripMarker(present.text));
   title += kMarker;
   title += text;
-  // To set what is there already would cost the other program a repaint for nothing.
+  // Setting the title that the window has already would make the other program repaint for nothing.
   const auto mine = posted_.find(window);
   const bool there = present.longer ? mine != posted_.end() && mine->second == title &&
                                           title.starts_with(present.text)
@@ -135,7 +135,7 @@ void TitlePosting::StripAll(Turn& turn, WindowId except) {
     if (window == except) continue;
     platform::WindowTitle title = desktop.Title(window, kCharactersRead);
     if (title.longer) {
-      // The rest of a long title would be lost, unless all of it is this program's own doing.
+      // The rest of a long title would be lost, unless this program has set all of it.
       const auto mine = posted_.find(window);
       if (mine == posted_.end() || !mine->second.starts_with(title.text)) continue;
       title.text = mine->second;

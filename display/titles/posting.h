@@ -64,8 +64,8 @@ class TitlePosting {
   TitleList list_;
 
   bool has_posted_ = false;  // in this run
-  // The title that was set, by window. It is needed for titles that are longer than what is read of
-  // them.
+  // The title that was set, by window. It is needed for titles that are longer than the part that
+  // is read.
   std::unordered_map<platform::WindowId, std::string> posted_;
   // Windows that did not answer, and when they are tried again, in ms of the steady clock.
   std::unordered_map<platform::WindowId, std::int64_t> silent_until_;

@@ -42,7 +42,7 @@ T_frmAddTitles::T_frmAddTitles(toolkit::Application& app, TitlePosting& posting,
       {Note, {8, 209, 206, 43}},
       {OkBtn, {222, 225, 78, 25}},
   });
-  // Enter behind a typed title means that title.
+  // Enter after a typed title adds that title.
   btnAdd.SetDefault(true);
   FormCreate();
 }
@@ -105,7 +105,7 @@ void T_frmAddTitles::btnRemoveClick() {
   ShowState();
 }
 
-// Goes on with the line that has come in its place.
+// Selects the line that has come in the place of the removed one.
 void T_frmAddTitles::WindowTitlesListboxDelete() {
   const int row = WindowTitlesListbox.ItemIndex();
   btnRemoveClick();

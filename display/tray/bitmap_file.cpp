@@ -10,7 +10,7 @@ constexpr std::size_t kFileHeader = 14;
 constexpr std::size_t kInfoHeader = 40;
 constexpr std::int32_t kLargestSide = 1024;
 
-// Little-endian numbers in a file; 0 behind its end.
+// Reads little-endian numbers in a file; behind its end every number is 0.
 class Bytes {
  public:
   explicit Bytes(std::string_view bytes) : bytes_(bytes) {}
@@ -19,7 +19,7 @@ class Bytes {
   }
   [[nodiscard]] std::uint32_t Word(std::size_t at) const { return Byte(at) | Byte(at + 1) << 8U; }
   [[nodiscard]] std::uint32_t Dword(std::size_t at) const { return Word(at) | Word(at + 2) << 16U; }
-  // Blue, green, red in the file; blue in the high byte as a colour.
+  // The file has the bytes blue, green, red; a Colour has blue in its high byte.
   [[nodiscard]] platform::Colour Colour(std::size_t at) const {
     return Byte(at) << 16U | Byte(at + 1) << 8U | Byte(at + 2);
   }
@@ -36,8 +36,8 @@ struct Masks {
   std::uint32_t blue;
 };
 
-// Nothing for what is compressed, or of a kind not known here. Masks of the file's own are at the
-// same place in every version of the header.
+// Returns nullopt for a compressed or unknown kind of file. The file's own masks are at the same
+// place in every version of the header.
 std::optional<Masks> ReadMasks(const Bytes& file, std::uint32_t bits) {
   constexpr std::uint32_t kUsual = 0;
   constexpr std::uint32_t kOwn = 3;
@@ -49,7 +49,7 @@ std::optional<Masks> ReadMasks(const Bytes& file, std::uint32_t bits) {
   return bits == 16 ? Masks{0x7C00, 0x3E0, 0x1F} : Masks{0xFF0000, 0xFF00, 0xFF};
 }
 
-// One colour of a pixel, brought to 0 to 255.
+// Returns one colour of a pixel, scaled to 0 to 255.
 std::uint32_t Channel(std::uint32_t pixel, std::uint32_t mask) {
   if (mask == 0) return 0;
   const int shift = std::countr_zero(mask);

@@ -37,7 +37,8 @@ void TrayHistory::Push(std::int64_t amount) {
   slots_[1] = amount;
 }
 
-// Of what is in sight, not of all that ever was: else one burst would flatten the icon for the day.
+// The maximum is that of the visible scans, not of all scans so far: otherwise one burst would
+// flatten the icon for the day.
 std::int64_t TrayHistory::Maximum() const {
   return *std::max_element(slots_.begin() + 1, slots_.begin() + 1 + kDrawnSlots);
 }

@@ -35,7 +35,7 @@ class TrayHistory {
 
 class TrayHistogram {
  public:
-  // How one direction is drawn.
+  // The form in which one direction is drawn.
   struct Half {
     std::array<int, 14> levels{};  // where the bars end, the newest first; 0 for none
     platform::Colour colour = 0;

@@ -12,7 +12,7 @@ namespace {
 
 constexpr int kLargestSide = 16384;
 
-// Pixels on and off, in turns, of a pen one pixel wide.
+// Returns the numbers of pixels that a pen one pixel wide paints and leaves out, in turns.
 std::span<const int> DashesOf(PenStyle style) {
   static constexpr std::array<int, 2> kDash = {18, 6};
   static constexpr std::array<int, 2> kDot = {3, 3};

@@ -11,8 +11,8 @@ constexpr std::int64_t kMillisecondsPerDay = 86400000;
 
 DateTime Clock::Now() {
   if (since_base_ == 0) return base_;
-  // In whole milliseconds, so that a moment that was passed to is the same double as one that was
-  // written down.
+  // The sum is in whole milliseconds, so that a moment reached by Advance is the same double as an
+  // encoded one.
   const auto in_day = std::llround(TimeOf(base_) * static_cast<double>(kMillisecondsPerDay));
   const std::int64_t total = in_day + since_base_;
   std::int64_t days = total / kMillisecondsPerDay;

@@ -68,7 +68,7 @@ bool Files::Rename(std::string_view from, std::string_view to) {
   const std::optional<std::string> bytes = Bytes(from);
   if (notebook_.Fails() || !bytes || !CanBeWritten(from) || !CanBeWritten(to)) return false;
   Remove(from);
-  Remove(to);  // its spelling goes with it
+  Remove(to);  // the old spelling of the name must go too
   Put(to, *bytes);
   return true;
 }

@@ -35,7 +35,7 @@ bool HotKeys::Press(const KeyCombination& keys) {
   const auto found = std::find_if(entries_.begin(), entries_.end(),
                                   [&](const auto& entry) { return entry->keys == keys; });
   if (found == entries_.end()) return false;
-  const std::shared_ptr<Entry> entry = *found;  // it may go while it is heard
+  const std::shared_ptr<Entry> entry = *found;  // the handler may destroy its hot key
   entry->pressed();
   return true;
 }

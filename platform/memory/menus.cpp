@@ -10,7 +10,7 @@ int Menus::Popup(TopWindow& /*owner*/, Point at, const std::vector<MenuEntry>& e
   cancelled = false;
   last = entries;
   last_at = at;
-  const auto act = user;  // a copy: it may take itself away
+  const auto act = user;  // a copy, since the call may replace `user`
   const int chosen = act ? act(entries, painter) : 0;
   return cancelled ? 0 : chosen;
 }

@@ -10,7 +10,7 @@
 namespace platform::memory {
 namespace {
 
-// The limits of the system, in UTF-16 units.
+// The system's limits, in UTF-16 units.
 constexpr std::size_t kLongestKeyName = 255;
 constexpr std::size_t kLongestValueName = 16383;
 
@@ -24,7 +24,7 @@ std::vector<std::string> Split(std::string_view path) {
   return names;
 }
 
-// One form for all spellings of a path.
+// Returns one form for all spellings of a path.
 std::string Normal(std::string_view path) {
   std::string normal;
   for (const std::string& name : Split(path)) normal += '\\' + FoldCase(name);

@@ -13,7 +13,7 @@ std::int64_t CommonArea(const Rect& a, const Rect& b) {
   return width > 0 && height > 0 ? std::int64_t{width} * height : 0;
 }
 
-// Square of the gap between two rectangles.
+// Returns the square of the distance between two rectangles.
 std::int64_t Distance(const Rect& a, const Rect& b) {
   const std::int64_t dx = std::max({0, a.left - b.Right(), b.left - a.Right()});
   const std::int64_t dy = std::max({0, a.top - b.Bottom(), b.top - a.Bottom()});

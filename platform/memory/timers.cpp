@@ -8,7 +8,7 @@ struct Timers::Entry {
   std::int64_t due = 0;
   int interval = 0;
   std::function<void()> tick;
-  bool stopped = false;  // its timer has gone, while its last tick may still be running
+  bool stopped = false;  // the timer is destroyed, while its last tick may still be running
 };
 
 class Timers::Handle final : public Timer {

@@ -33,8 +33,7 @@ struct WidgetState {
   std::string name;
   std::string text;
   Rect bounds;
-  Point client_origin;  // within the bounds: the width and height of frame and caption at left and
-                        // top
+  Point client_origin;  // within the bounds: what frame and caption take at left and top
   Size frame;           // width and height that frame and caption take on all sides together
   bool visible = false;
   bool enabled = true;

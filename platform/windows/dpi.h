@@ -1,15 +1,15 @@
-// Resolutions of windows and monitors, in pixels an inch; that of the whole desktop where the
-// system does not know.
+// The resolutions of windows and monitors, in pixels per inch. When the system does not know one,
+// the resolution of the whole desktop is returned.
 #pragma once
 
 #include "platform/windows/win32.h"
 
 namespace platform::windows {
 
-// At its present place (GetDpiForWindow).
+// Returns the resolution of the window at its present place (GetDpiForWindow).
 [[nodiscard]] int DpiOfWindow(HWND hwnd);
 
-// GetDpiForMonitor.
+// Returns the resolution of the monitor (GetDpiForMonitor).
 [[nodiscard]] int DpiOfMonitor(HMONITOR monitor);
 
 }  // namespace platform::windows

@@ -3,7 +3,7 @@
 
 namespace platform::windows {
 
-// Defined by the program; its result is the exit code of the process.
+// The program defines this function; it returns the exit code of the process.
 int Main();
 
 }  // namespace platform::windows

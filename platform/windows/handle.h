@@ -1,13 +1,13 @@
-// An owner for the system's handles. Knows nothing of the system itself, so that it is tested
-// everywhere; the kinds stand with the services that use them.
+// An owner for the system's handles. It does not depend on the system, so that it is tested
+// everywhere; the kinds stand beside the services that use them.
 #pragma once
 
 #include <utility>
 
 namespace platform::windows {
 
-// Owns one handle and closes it. `Kind` says what "none" is and how one is closed:
-// Raw (the type), None(), Close(Raw).
+// Owns one handle and closes it. `Kind` says what "none" is and how a handle is closed: Raw (the
+// type), None(), Close(Raw).
 template <class Kind>
 class Handle {
  public:

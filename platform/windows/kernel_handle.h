@@ -13,7 +13,7 @@ struct KernelKind {
 };
 using KernelHandle = Handle<KernelKind>;
 
-// CreateFile's "none" is another one.
+// The "none" of CreateFile is INVALID_HANDLE_VALUE, not null.
 struct FileKind {
   using Raw = HANDLE;
   static Raw None() { return INVALID_HANDLE_VALUE; }

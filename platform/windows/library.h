@@ -1,4 +1,4 @@
-// Calls that are looked up at run time, of libraries that most runs do without.
+// Looks functions up at run time, in libraries that most runs do not need.
 #pragma once
 
 #include "platform/windows/handle.h"
@@ -13,7 +13,7 @@ struct LibraryKind {
 };
 using Library = Handle<LibraryKind>;
 
-// The function of `module` with this name as a `Pointer`; null when either is missing.
+// Returns the function of `module` with this name as a `Pointer`, or null when either is missing.
 template <class Pointer>
 [[nodiscard]] Pointer Function(HMODULE module, const char* name) {
   if (module == nullptr) return nullptr;

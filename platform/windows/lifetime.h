@@ -1,11 +1,11 @@
-// Tells a handler whether a report that it made destroyed the object that it belongs to.
+// Tells a message handler whether a report that it made has destroyed the handler's object.
 #pragma once
 
 namespace platform::windows {
 
 class Lifetime {
  public:
-  // On the stack of the handler, around the report.
+  // A watch lives on the stack of the handler, around the report.
   class Watch {
    public:
     explicit Watch(Lifetime& lifetime) : lifetime_(&lifetime), outer_(lifetime.innermost_) {
@@ -17,7 +17,7 @@ class Lifetime {
     Watch(const Watch&) = delete;
     Watch& operator=(const Watch&) = delete;
 
-    // Whether the object has gone; then nothing of it may be touched any more.
+    // Returns whether the object is destroyed; then no member of it may be used any more.
     [[nodiscard]] bool Gone() const { return lifetime_ == nullptr; }
 
    private:

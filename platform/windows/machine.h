@@ -14,10 +14,11 @@
 
 namespace platform::windows {
 
-// Made and used on one thread, one at a time: its window classes belong to the process.
+// A machine is made and used on one thread, and only one exists at a time: its window classes
+// belong to the process.
 class Machine {
  public:
-  // Throws std::runtime_error when the system has no windows to give.
+  // Throws std::runtime_error when the system refuses to make a window.
   Machine() = default;
   Machine(const Machine&) = delete;
   Machine& operator=(const Machine&) = delete;
@@ -34,7 +35,7 @@ class Machine {
   Clipboard clipboard_;
   Screen screen_;
   MessageLoop message_loop_;
-  Drawing drawing_;  // before those that draw
+  Drawing drawing_;  // before the members that draw
   Graphics graphics_{drawing_.fonts};
   Timers timers_;
   Windowing windowing_{drawing_, timers_};

@@ -1,4 +1,4 @@
-// A call that the system refused.
+// Reports a call that the system refused.
 #pragma once
 
 #include <stdexcept>

@@ -1,4 +1,4 @@
-// UTF-8 to the system's wide text and back.
+// Converts UTF-8 to the system's wide text and back.
 #pragma once
 
 #include <string>

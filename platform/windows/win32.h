@@ -1,8 +1,8 @@
-// The one way to the system's header. Only files of this folder may include it: the header's macros
-// rename whatever bears the name of a call.
+// Includes the system's header, and is the only file that does. Only files of this folder may
+// include it: the header's macros rename everything that has the name of a Windows call.
 #pragma once
 
-// In this order: the sockets' header first, or windows.h declares an older one beside it.
+// The sockets' header must come first, or windows.h declares an older version beside it.
 // clang-format off
 #include <winsock2.h>
 #include <windows.h>

@@ -99,7 +99,7 @@ void Control::SetHint(std::string_view hint) {
 
 void Control::Fire(const std::function<void()>& handler) {
   if (!handler) return;
-  const std::function<void()> kept = handler;  // it may go with the control
+  const std::function<void()> kept = handler;  // a copy: it may go with the control
   app_.Guard(kept);
 }
 
@@ -178,7 +178,7 @@ void Control::OnMouseDown(const platform::MouseEvent& event) {
 
 void Control::OnMouseUp(const platform::MouseEvent& event) {
   if (!OnMouseReleased) return;
-  const auto kept = OnMouseReleased;  // it may go with the control
+  const auto kept = OnMouseReleased;  // a copy: it may go with the control
   app_.Guard([&] { kept(event); });
 }
 

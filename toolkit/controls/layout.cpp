@@ -9,7 +9,7 @@ bool Overlap(const platform::Rect& a, const platform::Rect& b) {
   return a.left < b.Right() && b.left < a.Right() && a.top < b.Bottom() && b.top < a.Bottom();
 }
 
-// Where a control is placed by its own bounds.
+// Returns whether a control is placed by its own bounds.
 bool IsPlaced(const Control& control) { return control.Alignment() == Align::kNone; }
 
 void CheckPlace(Control& control, std::vector<std::string>& faults) {

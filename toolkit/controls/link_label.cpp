@@ -7,9 +7,10 @@
 namespace toolkit {
 namespace {
 
-// Readable on light and on dark; schemes give the system's colour of links without a care for that.
+// A colour that is readable on light and dark backgrounds, which the system's colour of links is
+// not in every scheme.
 constexpr platform::Colour kLinkColour = 0xCC6600;
-// Design pixels that the mark of the keyboard takes on the left.
+// Design pixels that the focus mark takes on the left.
 constexpr int kIndent = 4;
 
 }  // namespace

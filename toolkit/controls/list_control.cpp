@@ -32,7 +32,8 @@ void ListControl::Remove(int row) {
   ShowItems(index_ == row ? -1 : behind);
 }
 
-// Moving up with its row is no change of the selection, losing it is.
+// When the selected row moves up, the selection has not changed; when it is removed, the selection
+// has.
 void ListControl::ShowItems(int index) {
   list_->SetItems(items_);
   list_->SetIndex(index);

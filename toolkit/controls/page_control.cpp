@@ -11,7 +11,7 @@ PageControl::PageControl(Control& parent, std::string_view name)
   auto tabs = App().Platform().windowing.CreateTabs(PeerOf(parent), name, *this);
   tabs_ = tabs.get();
   Attach(std::move(tabs));
-  SetColour(tabs_->PageColour());  // the pages take it over
+  SetColour(tabs_->PageColour());  // the pages take this colour over
 }
 
 void PageControl::Add(TabSheet& page) {
@@ -34,7 +34,7 @@ void PageControl::ShowCaptions() {
   tabs_->SetItems(captions);
 }
 
-// The hidden ones too, so that nothing moves when they are shown.
+// Places the hidden pages too, so that nothing moves when they are shown.
 void PageControl::PlacePages() {
   for (const TabSheet* page : pages_) PeerOf(*page).SetBounds(ChildArea());
 }
@@ -60,7 +60,8 @@ void PageControl::OnChanged() {
 
 void PageControl::ShowPage(int index) {
   TabSheet* before = active_ >= 0 ? pages_[static_cast<std::size_t>(active_)] : nullptr;
-  // Before its page goes: else the keyboard would leave the tabs.
+  // The tabs get the focus before the old page is hidden; otherwise the focus would leave the page
+  // control.
   if (before != nullptr && before->Focused()) SetFocus();
   active_ = index;
   pages_[static_cast<std::size_t>(index)]->SetVisible(true);

@@ -17,7 +17,7 @@ constexpr Colour kSteel = 0x808080;
 constexpr Colour kGold = 0x30B8F0;
 constexpr Colour kDark = 0x303030;
 
-// The pictures as colours of the points of a square of 32 by 32; nothing where they are
+// The pictures, as the colours of the points in a square of 32 by 32; nullopt where they are
 // see-through.
 
 bool InDisc(double x, double y, double middle_x, double middle_y, double radius) {

@@ -18,8 +18,8 @@ constexpr int kPage = 10;        // steps
 constexpr int kRepeatsAfter = 400;
 constexpr int kRepeatsEvery = 50;  // both in ms
 
-// The number that a text is, however large: one beyond 64 bits is the end of their range. Nothing
-// for what is no number.
+// Returns the number in a text; a number beyond 64 bits becomes the end of their range. Returns
+// nullopt when the text is no number.
 std::optional<std::int64_t> NumberOf(std::string_view text) {
   std::int64_t number = 0;
   const char* end = text.data() + text.size();
@@ -30,7 +30,7 @@ std::optional<std::int64_t> NumberOf(std::string_view text) {
                                : std::numeric_limits<std::int64_t>::max();
 }
 
-// What may become a number when more is typed.
+// Returns whether the text may become a number when more is typed.
 bool IsBeginning(std::string_view text) { return text.empty() || text == "-" || NumberOf(text); }
 
 }  // namespace
@@ -64,7 +64,7 @@ class SpinEdit::Field final : public Edit {
           spin_.Move(-kPage);
           break;
         case platform::Key::kEnter:
-          // It ends the typing; only without any is it for the window.
+          // Enter ends the typing. When nothing was typed, it is left to the window.
           taken = spin_.typed_;
           spin_.Commit();
           break;
@@ -88,7 +88,8 @@ class SpinEdit::Field final : public Edit {
   SpinEdit& spin_;
 };
 
-// A small button that goes on as long as it is held. Painted: it never has the keyboard.
+// A small button that repeats its step as long as it is held. It is painted and never has the
+// focus.
 class SpinEdit::Arrow final : public Control {
  public:
   Arrow(SpinEdit& spin, std::string_view name, int by)
@@ -107,7 +108,7 @@ class SpinEdit::Arrow final : public Control {
   void OnDoubleClick(const platform::MouseEvent& event) override { Press(event); }
   void OnMouseUp(const platform::MouseEvent& /*event*/) override { Release(); }
   void OnMouseMove(const platform::MouseEvent& event) override {
-    if (!event.left_down) Release();  // it came up elsewhere
+    if (!event.left_down) Release();  // the button was released elsewhere
   }
   void EnabledChanged() override {
     Release();
@@ -187,7 +188,7 @@ void SpinEdit::SetValue(std::int64_t value) {
   if (value != value_) {
     Take(value);
   } else if (typed_) {
-    Show();  // it overrules what is being typed
+    Show();  // the new value replaces what is being typed
   }
 }
 
@@ -230,7 +231,7 @@ void SpinEdit::Show() {
   typed_ = false;
   shown_ = value_;
   field_->SetText(std::to_string(value_));
-  if (field_->Focused()) field_->SelectAll();  // what is typed next is another number
+  if (field_->Focused()) field_->SelectAll();  // the next typed text replaces the number
 }
 
 void SpinEdit::Resized() {

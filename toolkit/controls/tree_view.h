@@ -15,7 +15,7 @@ class TreeView : public Control {
 
   // Replaces the items. The selection keeps its number, if there still is such an item.
   void SetItems(std::span<const platform::TreeItem> items);
-  // The number of the selected item, as it stands in the expanded tree; -1 for none.
+  // The number of the selected item, counted in the expanded tree; -1 means none.
   [[nodiscard]] int ItemIndex() const { return index_; }
   void SetItemIndex(int index);
   // Expands the items that the user has collapsed.

@@ -10,12 +10,12 @@
 
 namespace toolkit {
 
-// All forms but one, disabled until this goes.
+// Keeps all forms but one disabled as long as it lives.
 class ModalStack::Disabled {
  public:
   Disabled(ModalStack& stack, const Form& but) : stack_(stack) {
     for (Form* form : stack_.app_.Forms()) {
-      // That of a dialog of the system is disabled and enabled by the system.
+      // The owner of a system dialog is disabled and enabled by the system.
       if (form == &but || form == stack_.dialog_owner_ || !form->Enabled()) continue;
       form->SetEnabled(false);
       forms_.push_back(form);
@@ -34,7 +34,7 @@ class ModalStack::Disabled {
   std::vector<const Form*> forms_;
 };
 
-// The system's dialog that is open, disabled until this goes.
+// Keeps the open system dialog disabled as long as it lives.
 class ModalStack::SystemDialog {
  public:
   explicit SystemDialog(ModalStack& stack)
@@ -57,7 +57,8 @@ class ModalStack::SystemDialog {
   const bool own_;
 };
 
-// One open modal form: puts it on the stack and disables what lies below; undone in any case.
+// One open modal form: puts it on the stack and disables the forms below it, and undoes both at its
+// end.
 class ModalStack::Level {
  public:
   Level(ModalStack& stack, Form& form)
@@ -69,7 +70,8 @@ class ModalStack::Level {
   }
 
   ~Level() {
-    // Enabled before the form hides: else the system would activate another program's window.
+    // The other forms are enabled before this form hides; otherwise the system would activate
+    // another program's window.
     disabled_.reset();
     dialog_.reset();
     if (entry_.form != nullptr) entry_.form->Hide();
@@ -110,7 +112,7 @@ bool ModalStack::RunSystemDialog(const Form& owner, const std::function<void()>&
 bool ModalStack::Raise(std::string_view form_name) {
   for (const Entry* entry : open_) {
     if (entry->form == nullptr || entry->form->Name() != form_name) continue;
-    // Windows above it stay above it and keep the keyboard; they must be answered first.
+    // Windows above this form stay above it and keep the focus; they must be answered first.
     if (Form* top = Top()) top->Raise();
     return true;
   }

@@ -28,7 +28,7 @@ std::optional<int> ReadNumber(platform::RegistryKey& key, std::string_view name,
   return number;
 }
 
-// A place that is out of all bounds is as far away as a place can be.
+// Reads a coordinate; one beyond kFarthest is moved to it.
 std::optional<int> ReadPlace(platform::RegistryKey& key, std::string_view name) {
   const std::optional<std::uint32_t> stored = key.ReadDword(name);
   if (!stored) return std::nullopt;
@@ -77,11 +77,12 @@ void PlacementSaver::Place() {
       InSight(wanted_, form_.HeldBy(), monitors_) ? wanted_ : BroughtIntoView(wanted_, screen);
   displaced_ = target != wanted_;
   const platform::ScopedValue placing(placing_, true);
-  // Once more, because a monitor of another resolution gives the form another size.
+  // The bounds are set a second time, because a monitor of another resolution gives the form
+  // another size.
   for (int attempt = 0; attempt < 2 && form_.WindowBounds() != target; ++attempt) {
     form_.SetWindowBounds(target);
   }
-  // The form keeps to its limits.
+  // The form may have limited its size, so its actual bounds are taken.
   if (!displaced_) wanted_ = form_.WindowBounds();
 }
 
@@ -108,7 +109,7 @@ void PlacementSaver::FormSessionEnds() {
 void PlacementSaver::TakePlace(bool dragged) {
   const platform::Rect bounds = form_.WindowBounds();
   if (bounds == wanted_) return;
-  // When a monitor goes, the system itself may move what was on it, before anybody hears of it.
+  // When a monitor is removed, the system itself may move the form before the program is told.
   if (!dragged && MonitorsChanged() && !InSight(wanted_, form_.HeldBy(), monitors_)) {
     displaced_ = true;
     return;

@@ -26,7 +26,7 @@ class PlacementSaver final : public FormComponent {
   PlacementSaver(Form& form, std::string_view key, Restores what = Restores::kPlaceAndSize);
   ~PlacementSaver() override;
 
-  // Gives the form its stored place, or leaves it where it is. Nothing is saved before this.
+  // Gives the form its stored place, or leaves it where it is. Nothing is saved before this call.
   void Restore();
 
   void FormPlaced() override;

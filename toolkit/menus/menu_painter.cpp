@@ -9,19 +9,19 @@
 namespace toolkit {
 namespace {
 
-// Design pixels.
+// Sizes in design pixels.
 constexpr int kIconWidth = 24;
 constexpr int kItemHeight = 22;
 constexpr int kSeparatorHeight = 5;
 constexpr int kTextIndent = 6;
 constexpr int kShortCutGap = 24;
 constexpr int kArrowWidth = 18;
-constexpr int kLargestText = 480;  // a longer one is cut: a menu has to fit on the screen
+constexpr int kLargestText = 480;  // a longer text is cut: a menu has to fit on the screen
 const platform::FontSpec kFont{"Tahoma", 11, false};
 
 platform::FontSpec FontAt(int dpi) { return {kFont.face, ScaleTo(dpi, kFont.height), kFont.bold}; }
 
-// The text as it is read: "&&" is one ampersand, a single one only marks the key.
+// Returns the text that is shown: "&&" is one ampersand, and a single "&" only marks the key.
 std::string ShownText(std::string_view text) {
   std::string shown;
   for (std::size_t i = 0; i < text.size(); ++i) {
@@ -31,7 +31,7 @@ std::string ShownText(std::string_view text) {
   return shown;
 }
 
-// Where the key that "&" marks begins in the shown text; npos for none.
+// Returns where the key that "&" marks begins in the shown text, or npos for none.
 std::size_t MnemonicAt(std::string_view text) {
   std::size_t shown = 0;
   for (std::size_t i = 0; i + 1 < text.size(); ++i, ++shown) {
@@ -42,7 +42,7 @@ std::size_t MnemonicAt(std::string_view text) {
   return std::string_view::npos;
 }
 
-// The text, or as much of it as fits with an ellipsis behind it.
+// Returns the text, or as much of it as fits with an ellipsis behind it.
 std::string Fitted(const std::string& text, int width, platform::Canvas& canvas,
                    const platform::FontSpec& font) {
   if (canvas.TextSize(text, font).width <= width) return text;
@@ -58,7 +58,7 @@ std::string Fitted(const std::string& text, int width, platform::Canvas& canvas,
   return cut(fits);
 }
 
-// A check mark: two strokes, each two pixels thick at 96 dpi.
+// Paints a check mark: two strokes, each two pixels thick at 96 dpi.
 void PaintCheck(platform::Canvas& canvas, platform::Point centre, int dpi,
                 platform::Colour colour) {
   const int unit = std::max(1, ScaleTo(dpi, 1));

@@ -22,7 +22,7 @@ std::string DoubleAmpersands(std::string_view text) {
   return doubled;
 }
 
-// Numbers the items as they stand and remembers which is which.
+// Numbers the items in their order and remembers the item of each number.
 class EntryBuilder {
  public:
   using Item = std::shared_ptr<MenuItem>;
@@ -33,7 +33,7 @@ class EntryBuilder {
     return entries;
   }
 
-  // The item behind an id; null when there is none or it was removed.
+  // Returns the item with this id, or null when there is none or it was removed.
   [[nodiscard]] Item ItemOf(int id) const {
     const auto index = static_cast<std::size_t>(id) - 1;
     return id > 0 && index < items_.size() ? items_[index].lock() : nullptr;
@@ -91,8 +91,8 @@ void PopupMenu::Popup(platform::Point screen, Form& owner) {
     for (const auto& next : waiting) app_.Guard(next);
     return;
   }
-  // Scans go on while the menu is open and may have replaced the adapter items; the one that is
-  // held here outlives its handler.
+  // Scans go on while the menu is open and may replace the adapter items; the item that is held
+  // here outlives its handler.
   const std::shared_ptr<MenuItem> item = builder.ItemOf(id);
   if (item != nullptr && item->OnClick) app_.Guard(item->OnClick);
 }

@@ -1,4 +1,4 @@
-// What the program says when a rule of the user's holds.
+// Pictures of what the program says when one of the user's rules holds.
 #include "tests/desktop/driver/registry.h"
 #include "tools/screenshots/shots.h"
 
@@ -20,7 +20,7 @@ void NotificationBalloon(Scene& scene) {
   scene.CloseBalloon(balloon);
 }
 
-// Of 2 gigabytes a day a little more than all has gone.
+// A little more than all of a limit of 2 gigabytes a day is used.
 void BandwidthAlert(Scene& scene) {
   scene.Restart([] {
     Store("baDownload", 1U);

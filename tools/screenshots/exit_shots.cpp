@@ -1,4 +1,4 @@
-// What the program says about itself, and what it asks before it ends.
+// Pictures of what the program says about itself and of what it asks before it ends.
 #include "tests/desktop/driver/registry.h"
 #include "tools/screenshots/shots.h"
 

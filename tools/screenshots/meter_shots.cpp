@@ -1,4 +1,4 @@
-// The meter window, its menu and its icon.
+// Pictures of the meter window, its menu and its icon.
 #include <vector>
 
 #include "tests/desktop/driver/registry.h"
@@ -27,7 +27,7 @@ void MeterInItsModes(Scene& scene) {
   }
 }
 
-// Beside the meter that it came from.
+// Shows the menu beside the meter that opened it.
 void MenuOfTheMeter(Scene& scene) {
   OpenMenu menu = scene.meter().Menu();
   (void)menu.Items(scene.Path({text::GraphDisplayOptions1}));
@@ -41,7 +41,7 @@ void Histogram(Scene& scene) {
   scene.Save("tray-histogram", TakePicture(scene.meter().TrayArea()).Enlarged(8));
 }
 
-// Idle, upload, download, both.
+// Shows the four pictures: idle, upload, download and both.
 void ActivityPictures(Scene& scene) {
   scene.Restart([] { Store("IconType", 0U); });
   std::vector<Picture> pictures;

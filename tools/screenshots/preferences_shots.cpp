@@ -1,4 +1,4 @@
-// The pages of the preferences, and what they open.
+// Pictures of the pages of the preferences and of the windows that they open.
 #include "tests/desktop/driver/preferences.h"
 #include "tests/desktop/driver/registry.h"
 #include "tools/screenshots/shots.h"
@@ -35,7 +35,7 @@ void Turn(HWND window, PageRow row) {
 
 HWND OpenPreferences(Scene& scene) { return scene.Open({text::Settings1}, L"T_frmPreferences"); }
 
-// Sounds as after an installation, wherever the pictures are taken.
+// Stores the sound paths of an installation, wherever the pictures are taken.
 void StoreInstalledSounds() {
   const std::string folder = "C:\\Program Files\\Tremolux\\";
   Store("LessPlayWavFile", folder + "Warning.wav");
@@ -55,8 +55,8 @@ void Pages(Scene& scene) {
 // A window that a page opens.
 struct Opened {
   PageRow page;
-  const wchar_t* by;     // the control
-  const wchar_t* named;  // its class
+  const wchar_t* by;     // the control that opens it
+  const wchar_t* named;  // the class of the window
   const wchar_t* closed_by;
   const char* picture;
 };

@@ -15,7 +15,7 @@
 
 namespace desktop {
 
-// Where the pictures go.
+// The folder and the names of the pictures.
 struct Album {
   std::wstring folder;
   std::string suffix;  // at the end of the files' names, such as "-german"

@@ -1,11 +1,11 @@
-// The statistics of the machine and of an adapter, one tab beside the other.
+// Pictures of the statistics of the machine and of an adapter, one tab beside the other.
 #include <vector>
 
 #include "platform/text.h"
 #include "tests/desktop/driver/registry.h"
 #include "tests/desktop/driver/windows_of.h"
 #include "tools/screenshots/shots.h"
-// Behind the system's own header, which it needs.
+// This header must follow the system's own header, which it needs.
 #include <commctrl.h>
 
 namespace desktop {
@@ -25,7 +25,7 @@ Picture OfAllTabs(HWND window) {
   return Beside(pictures);
 }
 
-// Some weeks of use, and most of a limit of 20 gigabytes a month gone.
+// Shows some weeks of use and a limit of 20 gigabytes a month that is mostly used.
 void DlUlStatistics(Scene& scene) {
   scene.Restart([] {
     Store("CurrentDayTotalDL", std::string("734003200"));

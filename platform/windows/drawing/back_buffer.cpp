@@ -6,8 +6,8 @@
 namespace platform::windows {
 namespace {
 
-// Pixels that are kept between paintings: ample for the meter, while a large window, which is
-// open now and then, gives its memory back.
+// The number of pixels that are kept between paintings. It is ample for the meter, while a large
+// window, which is open only now and then, gives its memory back.
 constexpr int kKeptPixels = 128 * 1024;
 
 int Pixels(const Dib& dib) { return dib.size().width * dib.size().height; }

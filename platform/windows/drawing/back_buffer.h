@@ -1,4 +1,4 @@
-// The picture that a painting is composed on before it is shown in one piece.
+// The picture on which a window is painted before it is shown in one piece.
 #pragma once
 
 #include <functional>
@@ -10,19 +10,19 @@
 
 namespace platform::windows {
 
-// One for all windows: they paint one after the other, so they share the pixels.
+// All windows share one back buffer, since they paint one after the other.
 class BackBuffer {
  public:
   explicit BackBuffer(FontCache& fonts) : fonts_(fonts) {}
 
-  // Calls `paint` with a canvas of `size`, filled with `background`, and copies the part `shown` of
-  // it to `target`, where the canvas has its top left corner at `at`. Does nothing when memory is
-  // short.
+  // Calls `paint` with a canvas of `size`, filled with `background`. Then copies the part `shown`
+  // of it to `target`, where the top left corner of the canvas is at `at`. Does nothing when memory
+  // is short.
   void Compose(HDC target, Point at, Size size, const RECT& shown, Colour background,
                const std::function<void(GdiCanvas&)>& paint);
 
  private:
-  // The kept picture, or a new one when it is too small or in use.
+  // Returns the kept picture, or a new one when that is too small or in use.
   [[nodiscard]] std::unique_ptr<Dib> Take(Size size);
   void Keep(std::unique_ptr<Dib> dib);
 

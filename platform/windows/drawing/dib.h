@@ -13,21 +13,22 @@ namespace platform::windows {
 // A top-down picture of 32 bits a pixel in a device context of its own; black when it is new.
 class Dib {
  public:
-  // Null when the system is out of memory. Both sides must be above 0.
+  // Returns null when the system is out of memory. Both sides must be above 0.
   [[nodiscard]] static std::unique_ptr<Dib> Make(Size size);
 
   [[nodiscard]] HDC dc() const { return dc_.get(); }
   [[nodiscard]] Size size() const { return size_; }
-  // The colour at a point inside, as 0x00BBGGRR.
+  // Returns the colour of a pixel as 0x00BBGGRR. The point must lie inside.
   [[nodiscard]] Colour Pixel(Point at) const;
-  // The colours of a row inside, from its left end.
+  // Copies the colours of a row into `row` from the left. `y` must lie inside.
   void ReadRow(int y, std::span<Colour> row) const;
 
  private:
   Dib(MemoryDc dc, GdiBitmap bitmap, const std::uint32_t* bits, Size size);
   [[nodiscard]] const std::uint32_t* Row(int y) const;
 
-  // In this order, so that the selection is undone first and the context goes last.
+  // The members stand in this order, so that the selection is undone first and the context is
+  // destroyed last.
   MemoryDc dc_;
   GdiBitmap bitmap_;
   Selection selected_;

@@ -1,4 +1,4 @@
-// What everything that draws shares.
+// The objects that all drawing code shares.
 #pragma once
 
 #include "platform/windows/drawing/back_buffer.h"

@@ -10,8 +10,8 @@
 namespace platform::windows {
 namespace {
 
-// Enough for every font in sight at once; a list that shows each font in its own face runs through
-// more, and must not keep them all.
+// This is enough for all fonts that are visible at once. A list that shows each font in its own
+// face uses more, and must not keep them all.
 constexpr std::size_t kKept = 16;
 
 Font Make(const FontSpec& spec) {

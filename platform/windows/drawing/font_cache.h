@@ -13,9 +13,9 @@ using SharedFont = std::shared_ptr<const Font>;
 
 class FontCache {
  public:
-  // The font for `spec`, or the system's nearest one. Null when the system is out of memory. A
-  // control that goes on using a font keeps what this returns: the cache forgets the font that has
-  // not been asked for longest.
+  // Returns the font for `spec`, or the system's nearest one, or null when the system is out of
+  // memory. A control that goes on using a font keeps the returned pointer, since the cache drops
+  // the font that has not been asked for longest.
   [[nodiscard]] SharedFont Get(const FontSpec& spec);
 
  private:
@@ -24,7 +24,7 @@ class FontCache {
     SharedFont font;
   };
 
-  std::vector<Entry> entries_;  // the one asked for last at the end
+  std::vector<Entry> entries_;  // the font that was asked for last stands at the end
 };
 
 }  // namespace platform::windows

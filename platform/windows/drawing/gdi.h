@@ -1,4 +1,4 @@
-// Owners of what GDI hands out, and colours as GDI takes them.
+// Owners of GDI's objects, and colours in the form that GDI takes.
 #pragma once
 
 #include <string_view>
@@ -28,8 +28,8 @@ struct MemoryDcKind {
 };
 using MemoryDc = Handle<MemoryDcKind>;
 
-// The device context of the screen, or of a window with its frame, while this lives. None where the
-// system refuses.
+// Owns the device context of the screen, or of a window with its frame. It is null when the system
+// refuses.
 class WindowDc {
  public:
   WindowDc() : dc_(::GetDC(nullptr)) {}
@@ -46,7 +46,8 @@ class WindowDc {
   HDC dc_;
 };
 
-// An object selected into a device context for as long as this lives. Both must outlive it.
+// Keeps an object selected into a device context as long as it lives. Both arguments must outlive
+// it.
 class Selection {
  public:
   Selection(HDC dc, HGDIOBJ object) : dc_(dc), before_(::SelectObject(dc, object)) {}
@@ -61,7 +62,7 @@ class Selection {
   HGDIOBJ before_;
 };
 
-// What is changed in a device context while this lives is undone at its end.
+// Undoes at its end every change that was made to a device context while it lived.
 class SavedDc {
  public:
   explicit SavedDc(HDC dc) : dc_(dc), level_(::SaveDC(dc)) {}
@@ -76,7 +77,7 @@ class SavedDc {
   int level_;
 };
 
-// The colour as 0x00BBGGRR; a system colour as the user's scheme has it now.
+// Returns the colour as 0x00BBGGRR. A system colour is looked up in the user's present scheme.
 [[nodiscard]] COLORREF ToColorref(Colour colour);
 
 [[nodiscard]] constexpr RECT ToRect(const Rect& area) {
@@ -87,7 +88,7 @@ class SavedDc {
           static_cast<int>(area.right - area.left), static_cast<int>(area.bottom - area.top)};
 }
 
-// Fills `area` of `dc`; makes no brush.
+// Fills `area` of `dc` without making a brush.
 void FillArea(HDC dc, const RECT& area, Colour colour);
 
 }  // namespace platform::windows

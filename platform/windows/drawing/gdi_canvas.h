@@ -1,4 +1,4 @@
-// Drawing with GDI.
+// A canvas that draws with GDI.
 #pragma once
 
 #include "platform/canvas.h"
@@ -7,10 +7,10 @@
 
 namespace platform::windows {
 
-// The flag of DrawText for an alignment.
+// Returns the flag of DrawText for an alignment.
 [[nodiscard]] UINT GdiAlign(TextAlign align);
 
-// Draws on a device context, which is lent; so are the fonts.
+// Draws on a device context. It owns neither the device context nor the fonts.
 class GdiCanvas final : public Canvas {
  public:
   GdiCanvas(HDC dc, Size extent, FontCache& fonts) : dc_(dc), extent_(extent), fonts_(fonts) {}
@@ -21,7 +21,7 @@ class GdiCanvas final : public Canvas {
   void Text(const Rect& box, std::string_view text, const FontSpec& font, Colour colour,
             TextAlign align) override;
   [[nodiscard]] Size TextSize(std::string_view text, const FontSpec& font) override;
-  // As Text, but placed and marked as DrawText's `format` says.
+  // Draws a text like Text, but with the placement and "&" marks that DrawText's `format` asks for.
   void FormattedText(const Rect& box, std::string_view text, const FontSpec& font, Colour colour,
                      UINT format);
   [[nodiscard]] HDC dc() const { return dc_; }

@@ -33,7 +33,7 @@ Icon IconMaker::Make(const Bitmap& picture, std::optional<Colour> see_through) {
     const Selection target(dc_.get(), colours_.get());
     ::BitBlt(dc_.get(), 0, 0, size.width, size.height, source, 0, 0, SRCCOPY);
     if (see_through) {
-      // What is left out must be black: the shell combines it with what lies below.
+      // The pixels that are left out must be black: the shell combines them with what lies below.
       for (int y = 0; y < size.height; ++y) {
         for (int x = 0; x < size.width; ++x) {
           if (picture.Pixel({x, y}) == ToColorref(*see_through)) {

@@ -1,4 +1,4 @@
-// Makes icons of pictures.
+// Makes icons from pictures.
 #pragma once
 
 #include <optional>
@@ -20,15 +20,15 @@ using Icon = Handle<IconKind>;
 // Keeps the two bitmaps that an icon is made of, since a live icon is made anew every second.
 class IconMaker {
  public:
-  // An icon of the picture's size; pixels of the colour `see_through` are left out. None when the
-  // system is short of memory.
+  // Returns an icon of the picture's size, in which pixels of the colour `see_through` are left
+  // out. The icon is empty when the system is short of memory.
   [[nodiscard]] Icon Make(const Bitmap& picture, std::optional<Colour> see_through);
 
  private:
   [[nodiscard]] bool Resize(Size size);
 
   Size size_;
-  GdiBitmap colours_;  // of the screen's format
+  GdiBitmap colours_;  // in the screen's format
   GdiBitmap mask_;     // one bit a pixel: set where nothing is drawn
   MemoryDc dc_;
 };

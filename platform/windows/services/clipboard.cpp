@@ -21,7 +21,8 @@ struct MemoryKind {
 };
 using Memory = Handle<MemoryKind>;
 
-// The clipboard, open for as long as this lives; tests false when another program keeps it open.
+// Keeps the clipboard open as long as it lives. It is false when another program keeps the
+// clipboard open.
 class OpenedClipboard {
  public:
   explicit OpenedClipboard(HWND owner) : opened_(::OpenClipboard(owner) != FALSE) {}
@@ -36,7 +37,7 @@ class OpenedClipboard {
   bool opened_;
 };
 
-// The text with a terminating NUL, in the kind of memory that the clipboard takes.
+// Returns the text with a terminating NUL, in the kind of memory that the clipboard takes.
 Memory ToMemory(std::string_view text) {
   const std::wstring wide = ToWide(text);
   const std::size_t size = (wide.size() + 1) * sizeof(wchar_t);
@@ -52,8 +53,9 @@ Memory ToMemory(std::string_view text) {
 }  // namespace
 
 bool Clipboard::SetText(std::string_view text) {
-  // Emptying makes the opener the owner, and without one the system takes no data. A window without
-  // a place on the screen serves; the text stays when it is gone.
+  // EmptyClipboard makes the window that opened the clipboard its owner, and without an owner the
+  // system takes no data. A message-only window is enough; the text stays when the window is
+  // destroyed.
   const Handle<WindowKind> owner(::CreateWindowExW(0, L"STATIC", L"", 0, 0, 0, 0, 0, HWND_MESSAGE,
                                                    nullptr, ::GetModuleHandleW(nullptr), nullptr));
   if (!owner) return false;

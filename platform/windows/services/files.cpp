@@ -16,9 +16,9 @@ struct FindKind {
 using FindHandle = Handle<FindKind>;
 
 constexpr std::size_t kLongestPath = 32767;  // of the system, in UTF-16 units
-constexpr DWORD kLargestPiece = 1U << 20;    // what one read or write call is asked for
+constexpr DWORD kLargestPiece = 1U << 20;    // bytes of one read or write call
 
-// All bytes of an open file, which has `size` of them.
+// Returns all bytes of an open file, which has `size` bytes.
 std::optional<std::string> ReadAll(HANDLE file, std::size_t size) {
   std::string bytes(size, '\0');
   std::size_t done = 0;
@@ -26,7 +26,7 @@ std::optional<std::string> ReadAll(HANDLE file, std::size_t size) {
     const auto piece = static_cast<DWORD>(std::min<std::size_t>(size - done, kLargestPiece));
     DWORD read = 0;
     if (::ReadFile(file, bytes.data() + done, piece, &read, nullptr) == FALSE) return std::nullopt;
-    if (read == 0) break;  // it became shorter meanwhile
+    if (read == 0) break;  // the file became shorter meanwhile
     done += read;
   }
   bytes.resize(done);
@@ -45,7 +45,7 @@ bool WriteAll(HANDLE file, std::string_view bytes) {
   return true;
 }
 
-// A file with these bytes; none is left behind when that fails.
+// Makes a new file with these bytes. When that fails, no file is left behind.
 bool WriteNew(const std::wstring& path, std::string_view bytes) {
   FileHandle file(::CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS,
                                 FILE_ATTRIBUTE_NORMAL, nullptr));
@@ -56,7 +56,7 @@ bool WriteNew(const std::wstring& path, std::string_view bytes) {
   return false;
 }
 
-// The path with its last name spelled as the file has it that is there, if one is.
+// Returns the path with its last name spelled like that of the existing file, if there is one.
 std::wstring AsSpelled(const std::wstring& path) {
   WIN32_FIND_DATAW entry{};
   const FindHandle find(::FindFirstFileW(path.c_str(), &entry));
@@ -122,7 +122,7 @@ std::optional<std::string> Files::Load(std::string_view path, std::size_t limit)
   return ReadAll(file.get(), static_cast<std::size_t>(size.QuadPart));
 }
 
-// Written beside the file first: on a full disk what was there stays.
+// The bytes are first written beside the file, so that the old file stays on a full disk.
 bool Files::Save(std::string_view path, std::string_view bytes) {
   const std::wstring target = ToWide(path);
   const std::wstring draft = target + L".new";

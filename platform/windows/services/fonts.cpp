@@ -12,18 +12,18 @@ int Compare(const std::wstring& a, const std::wstring& b, DWORD flags) {
                            b.c_str(), static_cast<int>(b.size()), nullptr, nullptr, 0);
 }
 
-// Names that differ in their capitals alone stay in a fixed order.
+// Names that differ only in case have a fixed order.
 bool ComesBefore(const std::wstring& a, const std::wstring& b) {
   const int order = Compare(a, b, LINGUISTIC_IGNORECASE);
   return order == CSTR_EQUAL ? a < b : order == CSTR_LESS_THAN;
 }
 
-// A family is told once for each of its character sets.
+// The system reports a family once for each of its character sets.
 int CALLBACK Take(const LOGFONTW* font, const TEXTMETRICW*, DWORD, LPARAM names) noexcept {
   if (font->lfFaceName[0] != L'@') {
     reinterpret_cast<std::vector<std::wstring>*>(names)->emplace_back(font->lfFaceName);
   }
-  return 1;  // the next one
+  return 1;  // go on with the next font
 }
 
 }  // namespace
@@ -35,7 +35,7 @@ std::vector<std::string> Fonts::Families() {
   const MemoryDc dc(::CreateCompatibleDC(nullptr));
   if (!dc) return {};
   ::EnumFontFamiliesExW(dc.get(), &all, &Take, reinterpret_cast<LPARAM>(&names), 0);
-  // By the plain order first: there are several times as many names as families.
+  // The plain order comes first: there are several times as many names as families.
   std::sort(names.begin(), names.end());
   names.erase(std::unique(names.begin(), names.end()), names.end());
   std::sort(names.begin(), names.end(), &ComesBefore);

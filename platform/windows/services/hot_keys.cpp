@@ -57,7 +57,7 @@ std::optional<LRESULT> HotKeyWindow::Handle(const Message& message) {
   if (message.id != WM_HOTKEY) return std::nullopt;
   const auto found = pressed_.find(static_cast<int>(message.w));
   if (found == pressed_.end()) return 0;
-  const std::shared_ptr<const Pressed> pressed = found->second;  // it may go while it is heard
+  const std::shared_ptr<const Pressed> pressed = found->second;  // it may destroy its hot key
   (*pressed)();
   return 0;
 }

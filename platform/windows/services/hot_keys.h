@@ -9,14 +9,14 @@
 
 namespace platform::windows {
 
-// The hidden window that hears all hot keys.
+// The hidden window that gets the messages of all hot keys.
 class HotKeyWindow final : public NativeWindow {
  public:
   using Pressed = std::function<void()>;
 
   explicit HotKeyWindow(const WindowClass& window_class);
 
-  // False when the system refuses; `id` is not in use.
+  // Registers a hot key. Returns false when the system refuses. `id` must not be in use.
   [[nodiscard]] bool Start(int id, UINT modifiers, UINT virtual_key, Pressed pressed);
   void Stop(int id);
   [[nodiscard]] bool Uses(int id) const { return pressed_.contains(id); }
@@ -30,7 +30,7 @@ class HotKeyWindow final : public NativeWindow {
 
 class HotKeys final : public platform::HotKeys {
  public:
-  // This outlives every hot key.
+  // The object outlives every hot key.
   HotKeys() = default;
 
   [[nodiscard]] std::unique_ptr<HotKey> Register(std::string_view name, const KeyCombination& keys,

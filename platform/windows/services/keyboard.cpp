@@ -7,8 +7,7 @@ namespace platform::windows {
 
 std::uint8_t Keyboard::State(std::uint8_t virtual_key) {
   std::array<BYTE, 256> states{};
-  // Asking for one key first brings the table of a thread that does not have the keyboard up to
-  // date.
+  // This call brings the keyboard state of a thread without the focus up to date.
   (void)::GetKeyState(virtual_key);
   if (!::GetKeyboardState(states.data())) return 0;
   return states[virtual_key];

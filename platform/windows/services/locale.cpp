@@ -7,7 +7,7 @@
 namespace platform::windows {
 namespace {
 
-// What the system wrote: `length` counts the terminating NUL and is 0 on failure.
+// Returns the text that the system wrote. `length` counts the terminating NUL and is 0 on failure.
 template <std::size_t kSize>
 std::string Written(const std::array<wchar_t, kSize>& text, int length) {
   if (length <= 0) return {};
@@ -46,7 +46,7 @@ std::string Locale::ShortDate(DateTime moment) {
 
 std::string Locale::LongTime(DateTime moment) {
   SYSTEMTIME time = ToSystemTime(moment);
-  // Only the time is wanted, but a date outside the system's calendar would spoil it.
+  // Only the time is needed, but the call fails for a date outside the system's calendar.
   time.wYear = 2000;
   time.wMonth = 1;
   time.wDay = 1;

@@ -5,8 +5,8 @@
 namespace platform::windows {
 namespace {
 
-// At most this many in one go, so that messages that come as fast as they are delivered do not
-// keep the caller for ever.
+// ProcessPending delivers at most this many messages, so that messages that come as fast as they
+// are delivered do not keep the caller for ever.
 constexpr int kPendingAtOnce = 500;
 
 void RemoveQuitMessage() {
@@ -28,8 +28,8 @@ bool MessageLoop::RunUntil(const std::function<bool()>& done) {
   } const run(*this);
   while (!quit_) {
     if (done()) return true;
-    // A message that was sent is delivered without being taken from the queue, so that nothing may
-    // be left to take; it may have changed what `done` asks about.
+    // A message that another thread sent is delivered without being taken from the queue, so that
+    // nothing may be left to take; it may have changed the result of `done`.
     if (DeliverOne() || quit_) continue;
     if (done()) return true;
     ::MsgWaitForMultipleObjectsEx(0, nullptr, INFINITE, QS_ALLINPUT, MWMO_INPUTAVAILABLE);
@@ -57,7 +57,7 @@ bool MessageLoop::ProcessFor(int milliseconds) {
 
 void MessageLoop::Quit() {
   quit_ = true;
-  // Ends the system's own loops too, of a menu or a drag.
+  // This also ends the system's own loops, those of a menu or a drag.
   ::PostQuitMessage(0);
 }
 
@@ -66,7 +66,7 @@ bool MessageLoop::DeliverOne() {
   if (!::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) return false;
   if (message.message == WM_QUIT) {
     quit_ = true;
-    // One of the system's loops may run around this one and waits for it as well.
+    // One of the system's loops may run around this one, and it waits for this message as well.
     if (depth_ > 0) ::PostQuitMessage(static_cast<int>(message.wParam));
     return true;
   }
@@ -78,7 +78,7 @@ bool MessageLoop::DeliverOne() {
 
 void MessageLoop::Leave() {
   --depth_;
-  // Nobody is left to hear it; a later loop of the thread must not take it for its own.
+  // No loop is left to take the message; a later loop of the thread must not take it for its own.
   if (depth_ == 0 && quit_) RemoveQuitMessage();
 }
 

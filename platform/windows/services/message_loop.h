@@ -19,7 +19,8 @@ class MessageLoop final : public platform::MessageLoop {
   void Quit() override;
 
  private:
-  // Delivers one message, and what other threads have sent. False when none was waiting.
+  // Delivers one message, and the messages that other threads have sent. Returns false when none
+  // was waiting.
   bool DeliverOne();
   // Leaves one RunUntil.
   void Leave();

@@ -13,7 +13,7 @@ BOOL CALLBACK Collect(HWND hwnd, LPARAM list) noexcept {
   try {
     reinterpret_cast<std::vector<WindowId>*>(list)->push_back(IdOf(hwnd));
   } catch (...) {
-    return FALSE;  // out of memory: those so far must do
+    return FALSE;  // out of memory: only the windows found so far are listed
   }
   return TRUE;
 }
@@ -30,7 +30,8 @@ WindowTitle OtherWindows::Title(WindowId window, std::size_t characters) {
   // A character has at most two units; one more shows whether the title goes on, and the call puts
   // a NUL behind.
   std::wstring units(2 * characters + 2, L'\0');
-  // Not GetWindowText: it sends a message, and waits, when the window is of this process.
+  // GetWindowText would not do: it sends a message, and waits, when the window belongs to this
+  // process.
   const int length =
       ::InternalGetWindowText(HandleOf(window), units.data(), static_cast<int>(units.size()));
   if (length <= 0) return {};
@@ -43,7 +44,7 @@ WindowTitle OtherWindows::Title(WindowId window, std::size_t characters) {
 }
 
 TitleOutcome OtherWindows::SetTitle(WindowId window, std::string_view title, int patience_ms) {
-  // Not SetWindowText, which waits for ever.
+  // SetWindowText would not do: it waits for ever.
   constexpr UINT kFlags = SMTO_ABORTIFHUNG | SMTO_BLOCK | SMTO_ERRORONEXIT;
   const std::wstring wide = ToWide(title);
   DWORD_PTR result = 0;
@@ -53,7 +54,7 @@ TitleOutcome OtherWindows::SetTitle(WindowId window, std::string_view title, int
                             kFlags, static_cast<UINT>(patience_ms), &result);
   const DWORD code = ::GetLastError();
   if (answered != 0) return TitleOutcome::kSet;
-  // For a window that is known to hang the call gives up at once, and not every system says why.
+  // For a window that is known to hang the call fails at once, and not every system gives a reason.
   return code == ERROR_INVALID_WINDOW_HANDLE || code == ERROR_ACCESS_DENIED
              ? TitleOutcome::kRefused
              : TitleOutcome::kNoAnswer;

@@ -17,7 +17,7 @@ struct RegistryKeyKind {
 };
 using KeyHandle = Handle<RegistryKeyKind>;
 
-// What nearly every value fits into, so that a read is one call.
+// Nearly every value fits into this size, so that a read is one call.
 constexpr std::size_t kUsualSize = 512;
 
 std::span<const std::byte> AsBytes(const void* data, std::size_t size) {
@@ -41,7 +41,7 @@ class OpenKey : public RegistryKey {
   std::optional<std::string> ReadText(std::string_view name) override {
     const std::optional<std::vector<std::byte>> bytes = Read(name, REG_SZ);
     if (!bytes) return std::nullopt;
-    // Nobody promises a terminating NUL, nor a whole number of characters.
+    // A stored text may lack the terminating NUL and may have an odd number of bytes.
     std::wstring text(bytes->size() / sizeof(wchar_t), L'\0');
     std::copy_n(bytes->begin(), text.size() * sizeof(wchar_t),
                 reinterpret_cast<std::byte*>(text.data()));

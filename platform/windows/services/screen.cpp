@@ -9,7 +9,7 @@ BOOL CALLBACK Collect(HMONITOR monitor, HDC, LPRECT, LPARAM list) noexcept {
   try {
     reinterpret_cast<std::vector<HMONITOR>*>(list)->push_back(monitor);
   } catch (...) {
-    return FALSE;  // out of memory: those so far must do
+    return FALSE;  // out of memory: only the monitors found so far are listed
   }
   return TRUE;
 }

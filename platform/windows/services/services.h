@@ -1,5 +1,5 @@
-// The services of Windows that keep next to nothing themselves. What each call does is said at the
-// interface that it implements.
+// The services of Windows that keep little or no state. The interfaces that they implement say what
+// each call does.
 #pragma once
 
 #include <vector>
@@ -125,7 +125,7 @@ class SingleInstance : public platform::SingleInstance {
   [[nodiscard]] bool ClaimFirst(std::string_view name) override;
 
  private:
-  // Kept to the end: a mutex exists as long as somebody has it open.
+  // The handles are kept to the end, since a mutex exists as long as a handle to it is open.
   std::vector<KernelHandle> claimed_;
 };
 

@@ -4,7 +4,7 @@
 #include "platform/windows/wide.h"
 #include "platform/windows/win32.h"
 
-// After the system's header.
+// This header must follow the system's header.
 #include <shellapi.h>
 
 namespace platform::windows {

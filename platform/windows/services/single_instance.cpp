@@ -10,8 +10,8 @@ bool SingleInstance::ClaimFirst(std::string_view name) {
   KernelHandle mutex(::CreateMutexW(nullptr, TRUE, wide_name.c_str()));
   const DWORD code = ::GetLastError();
   if (!mutex) return true;
-  // Kept only when it is ours: one that is held open here would make this copy look like the first
-  // to a third one after the first has ended.
+  // The mutex is kept only when this process made it: a handle held open here would make a third
+  // copy take this one for the first after the first has ended.
   if (code == ERROR_ALREADY_EXISTS) return false;
   claimed_.push_back(std::move(mutex));
   return true;

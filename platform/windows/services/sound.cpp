@@ -7,7 +7,7 @@
 #include "platform/windows/services/services.h"
 #include "platform/windows/wide.h"
 #include "platform/windows/win32.h"
-// After the system's header, which it needs.
+// This header must follow the system's header, which it needs.
 #include <mmsystem.h>
 
 namespace platform::windows {
@@ -15,8 +15,8 @@ namespace {
 
 constexpr std::size_t kLargestSound = 64U << 20;  // bytes; the system's player loads it whole
 
-// Whether opening the file may take as long as a machine that does not answer. The system takes
-// slashes as well.
+// Returns whether the file may be on another machine, so that opening it may wait for a machine
+// that does not answer. The system takes slashes as well as backslashes.
 bool IsRemote(std::wstring path) {
   std::replace(path.begin(), path.end(), L'/', L'\\');
   if (path.starts_with(L"\\\\")) return true;
@@ -24,8 +24,8 @@ bool IsRemote(std::wstring path) {
   return !root.empty() && ::GetDriveTypeW(root.c_str()) == DRIVE_REMOTE;
 }
 
-// Looked up at the first sound: the library brings a dozen others, and most runs play none. It
-// stays, since a sound goes on after the call.
+// The function is looked up at the first sound: its library loads a dozen others, and most runs
+// play no sound. The library stays loaded, since a sound goes on after the call.
 void Start(const std::wstring& path) {
   const auto bytes = Files().Load(FromWide(path), kLargestSound);
   if (!bytes || !IsWaveFile(*bytes)) return;

@@ -7,7 +7,7 @@
 #include "platform/windows/wide.h"
 #include "platform/windows/windows/top_window.h"
 
-// After the system's header.
+// This header must follow the system's header.
 #include <commdlg.h>
 
 namespace platform::windows {
@@ -15,7 +15,8 @@ namespace {
 
 constexpr DWORD kLongestPath = 32767;  // with the terminating NUL
 
-// Pairs of texts, each with a NUL behind it; the list that is made of it ends with one more.
+// Returns pairs of texts, each with a NUL behind it, in the form of the dialog's filter; the list
+// ends with one more NUL.
 std::wstring FilterOf(const std::vector<FileKind>& kinds) {
   std::wstring filter;
   for (const FileKind& kind : kinds) {
@@ -27,8 +28,8 @@ std::wstring FilterOf(const std::vector<FileKind>& kinds) {
   return filter;
 }
 
-// The current folder of the process, put back at the end: the dialog takes the process to where the
-// user looks, whatever it is asked.
+// Puts the current folder of the process back at its end: the dialog changes it to the folder that
+// the user opens, whatever its flags say.
 class CurrentFolder {
  public:
   CurrentFolder() : folder_(kLongestPath, L'\0') {
@@ -44,7 +45,7 @@ class CurrentFolder {
   std::wstring folder_;
 };
 
-// A dialog that MessageLoop::Quit has ended may say that the user has confirmed it.
+// A dialog that MessageLoop::Quit has ended may report that the user has confirmed it.
 bool EndedByQuit() {
   MSG message{};
   return ::PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_NOREMOVE) != FALSE;

@@ -20,13 +20,13 @@ class SystemDialogs final : public platform::SystemDialogs {
   void SetEnabled(bool enabled) override;
 
  private:
-  // The library with the dialogs, loaded at the first use: it costs more than the rest of the start
-  // of the program. Null when there is none.
+  // Returns the library with the dialogs, or null when there is none. It is loaded at the first
+  // use, since loading it takes longer than the rest of the program's start.
   [[nodiscard]] HMODULE Dialogs();
 
   Library library_;
   std::array<COLORREF, 16> mixed_;  // the user's own colours
-  std::vector<HWND> disabled_;      // by SetEnabled
+  std::vector<HWND> disabled_;      // the dialogs that SetEnabled has disabled
 };
 
 }  // namespace platform::windows

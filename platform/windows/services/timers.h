@@ -16,8 +16,8 @@ class TimerWindow final : public NativeWindow {
 
   explicit TimerWindow(const WindowClass& window_class);
 
-  // The number of the new timer, 0 when the system refuses. A number is never used again, so that
-  // a tick that was under way when its timer ended finds nothing.
+  // Starts a timer and returns its number, or 0 when the system refuses. A number is never used
+  // again, so that a tick that arrives after its timer has ended finds no timer.
   [[nodiscard]] UINT_PTR Start(int milliseconds, Tick tick);
   void Stop(UINT_PTR number);
 
@@ -31,7 +31,7 @@ class TimerWindow final : public NativeWindow {
 
 class Timers final : public platform::Timers {
  public:
-  // This outlives every timer.
+  // The object outlives every timer.
   Timers() = default;
 
   [[nodiscard]] std::unique_ptr<Timer> Start(int milliseconds, std::function<void()> tick) override;

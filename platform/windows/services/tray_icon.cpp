@@ -45,7 +45,8 @@ DWORD FlagsOf(BalloonIcon icon) {
 ShellTrayIcon::ShellTrayIcon(const WindowClass& window_class, TrayIconEvents& events)
     : events_(events), taskbar_created_(::RegisterWindowMessageW(L"TaskbarCreated")) {
   Create(window_class, {WS_POPUP, WS_EX_TOOLWINDOW}, nullptr, {});
-  // A shell without the rights of an administrator could not tell a program that has them.
+  // Without this, a shell without administrator rights could not send the message to a program that
+  // has them.
   ::ChangeWindowMessageFilterEx(hwnd(), taskbar_created_, MSGFLT_ALLOW, nullptr);
 }
 
@@ -64,7 +65,7 @@ bool ShellTrayIcon::SetPicture(const Bitmap& picture, Colour see_through) {
 
 bool ShellTrayIcon::Show(Icon icon) {
   if (!icon) return false;
-  // The shell copies the picture, so the one before may go after it was replaced.
+  // The shell copies the picture, so the previous icon may be destroyed after it was replaced.
   std::swap(icon_, icon);
   if (added_) return Modify(NIF_ICON);
   if (!waiting_) AddLater(USER_TIMER_MINIMUM);
@@ -95,7 +96,7 @@ int ShellTrayIcon::PictureSize() const { return ::GetSystemMetrics(SM_CXSMICON);
 
 std::optional<LRESULT> ShellTrayIcon::Handle(const Message& message) {
   if (message.id == taskbar_created_) {
-    added_ = false;  // the shell that had it is gone
+    added_ = false;  // the shell that had the icon is gone
     Add();
     return 0;
   }
@@ -118,7 +119,7 @@ void ShellTrayIcon::Add() {
   NOTIFYICONDATAW data = Data(NIF_MESSAGE | NIF_ICON | NIF_TIP);
   added_ = ::Shell_NotifyIconW(NIM_ADD, &data) != FALSE;
   if (!added_) {
-    // A shell that timed out may have taken it all the same.
+    // A shell that timed out may still have taken the icon.
     added_ = ::Shell_NotifyIconW(NIM_MODIFY, &data) != FALSE;
   }
   if (added_) {
@@ -143,7 +144,7 @@ NOTIFYICONDATAW ShellTrayIcon::Data(UINT parts) const {
   data.cbSize = sizeof(data);
   data.hWnd = hwnd();
   data.uID = kIconNumber;
-  // The shell hides the hint at each change that does not ask for it anew.
+  // The shell hides the hint at each change that does not ask for the hint again.
   data.uFlags = parts | NIF_SHOWTIP;
   data.uCallbackMessage = kTrayMessage;
   data.hIcon = icon_.get();

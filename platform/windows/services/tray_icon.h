@@ -1,4 +1,4 @@
-// One icon of the notification area and the hidden window that hears of it.
+// One icon of the notification area and the hidden window that gets its messages.
 #pragma once
 
 #include <optional>
@@ -7,15 +7,16 @@
 #include "platform/notification_area.h"
 #include "platform/windows/drawing/icon_maker.h"
 #include "platform/windows/windows/native_window.h"
-// After the system's header, which it needs.
+// This header must follow the system's header, which it needs.
 #include <shellapi.h>
 
 namespace platform::windows {
 
-// A top window, though never shown: the shell tells only those that it started anew.
+// The window is a top window, though never shown: the shell tells only top windows that it has
+// started anew.
 class ShellTrayIcon final : public TrayIcon, public NativeWindow {
  public:
-  // `events` outlives it.
+  // `events` outlives the icon.
   ShellTrayIcon(const WindowClass& window_class, TrayIconEvents& events);
   ~ShellTrayIcon() override;
 
@@ -31,10 +32,10 @@ class ShellTrayIcon final : public TrayIcon, public NativeWindow {
 
  private:
   bool Show(Icon icon);
-  // Adds the icon; a shell that is too busy is asked again a little later.
+  // Adds the icon. When the shell is too busy, tries again a little later.
   void Add();
-  // The first picture is handed over only when the program's windows are painted: the shell may
-  // take its time, and the user waits for the windows.
+  // Adds the icon after so many milliseconds. The first picture is handed over only when the
+  // program's windows are painted: the shell may take long, and the user waits for the windows.
   void AddLater(UINT milliseconds);
   bool Modify(UINT parts);
   [[nodiscard]] NOTIFYICONDATAW Data(UINT parts) const;
@@ -47,7 +48,7 @@ class ShellTrayIcon final : public TrayIcon, public NativeWindow {
   Icon icon_;
   std::wstring hint_;
   bool added_ = false;
-  bool waiting_ = false;      // the timer is going to add it
+  bool waiting_ = false;      // the timer is going to add the icon
   LONG last_key_select_ = 0;  // message time, ms
 };
 

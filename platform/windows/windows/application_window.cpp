@@ -7,8 +7,8 @@ ApplicationWindow::ApplicationWindow(const WindowClass& window_class) {
 }
 
 std::optional<LRESULT> ApplicationWindow::Handle(const Message& message) {
-  // To close it would destroy every window with it, unasked. Whoever wants the program to end asks
-  // its main window as well.
+  // Closing this window would destroy every window of the program without a question. A program
+  // that wants this one to end also asks its main window.
   if (message.id == WM_CLOSE) return 0;
   return std::nullopt;
 }

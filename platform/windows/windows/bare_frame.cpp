@@ -8,15 +8,15 @@
 namespace platform::windows {
 namespace {
 
-// Sent by the system to draw a themed caption and frame when it thinks that they changed; its
-// header does not name them.
+// The system sends these messages to draw a themed caption and frame when it thinks that they
+// changed; its header does not name them.
 constexpr UINT kDrawThemedCaption = 0x00AE;
 constexpr UINT kDrawThemedFrame = 0x00AF;
 
-// At 96 dpi.
+// Pixels at 96 dpi.
 constexpr int kLine = 1;
-constexpr int kGrip = 5;     // from the outside, sizing in one direction
-constexpr int kCorner = 12;  // along an edge, from a corner: sizing in both
+constexpr int kGrip = 5;     // from the outer edge; sizes in one direction
+constexpr int kCorner = 12;  // along an edge, from a corner; sizes in both directions
 
 int Scaled(int pixels, HWND hwnd) { return ::MulDiv(pixels, DpiOfWindow(hwnd), 96); }
 
@@ -35,7 +35,7 @@ void PaintLine(HWND hwnd) {
   for (const RECT& side : sides) FillArea(dc.get(), side, colour::kButtonShadow);
 }
 
-// -1 at the low end of an axis, 1 at the high end, 0 between them.
+// Returns -1 at the low end of an axis, 1 at the high end, and 0 between them.
 int End(LONG at, LONG low, LONG high, int reach) {
   if (at < low + reach) return -1;
   return at >= high - reach ? 1 : 0;
@@ -81,7 +81,7 @@ std::optional<LRESULT> BareFrame::Handle(HWND hwnd, const Message& message,
                                          const SizeLimits& limits) {
   switch (message.id) {
     case WM_NCCALCSIZE: {
-      // With either form of the parameter the area comes first.
+      // The parameter has two forms, and the area comes first in both.
       auto* area = reinterpret_cast<RECT*>(message.l);
       const int line = Scaled(kLine, hwnd);
       ::InflateRect(area, -line, -line);

@@ -16,12 +16,12 @@ struct SizeLimits {
   Size largest;
 };
 
-// Sent to a top window to learn what a screen point (packed as in WM_NCHITTEST) is: the code of a
-// sizing edge (HTLEFT ...), or 0.
+// A message that asks a top window about a screen point (packed as in WM_NCHITTEST). The answer is
+// the code of the sizing edge at the point (HTLEFT ...), or 0.
 inline constexpr UINT kAskSizingEdge = WM_APP + 1;
 
-// For the hit test of a child: whether the point sizes the window that the child is in. The child
-// then lets the mouse through.
+// Returns, for the hit test of a child, whether the point lies on a sizing edge of the child's top
+// window. The child then lets the mouse through.
 [[nodiscard]] bool OnSizingEdge(HWND child, LPARAM screen_point);
 
 class BareFrame {
@@ -29,7 +29,7 @@ class BareFrame {
   // Keeps the system from drawing a frame of its own around `hwnd`.
   static void TakeOver(HWND hwnd);
 
-  // The answer to a message that concerns the frame.
+  // Returns the answer to a message that concerns the frame, or nullopt for any other message.
   [[nodiscard]] static std::optional<LRESULT> Handle(HWND hwnd, const Message& message,
                                                      const SizeLimits& limits);
 };

@@ -1,13 +1,13 @@
-// Who has the keyboard.
+// Passes the foreground back to an earlier window.
 #pragma once
 
 #include "platform/windows/win32.h"
 
 namespace platform::windows {
 
-// From a window that goes to the one that had it before, unless that one is gone or closed to the
-// user, or the user has gone on elsewhere. Left to itself, the system would choose the program's
-// window that lies on top.
+// Gives the foreground from a window that closes back to the one that had it before, unless that
+// window is gone, hidden or disabled, or the user works in another window. Otherwise the system
+// would choose the program's topmost window.
 inline void GiveForegroundBack(HWND from, HWND before) {
   if (::IsWindowVisible(before) && ::IsWindowEnabled(before) && ::GetForegroundWindow() == from) {
     ::SetForegroundWindow(before);

@@ -5,15 +5,16 @@
 namespace platform::windows {
 namespace {
 
-// What is added to the extended style, 8947848. Only WS_EX_LAYERED of it is needed; a tool window
-// has WS_EX_TOOLWINDOW anyway, the system does not take WS_EX_TOPMOST this way, and the other bits
-// mean nothing. The mask is kept because other programs recognise the window by its style.
+// The bits that are added to the extended style, 8947848. Only WS_EX_LAYERED of it is needed; a
+// tool window has WS_EX_TOOLWINDOW anyway, the system does not take WS_EX_TOPMOST this way, and the
+// other bits mean nothing. The mask is kept because other programs recognise the window by its
+// style.
 constexpr LONG_PTR kExtendedBits = 0x888888;
 static_assert((kExtendedBits & WS_EX_LAYERED) != 0);
 
 constexpr COLORREF kColourKey = 1;  // unused: the flag asks for the opacity only
 
-// GetVersionEx tells a program without a manifest for the present system of an older one.
+// GetVersionEx reports an older system to a program whose manifest does not name the present one.
 bool SystemHasLayeredWindows() {
   using GetVersion = LONG(WINAPI*)(OSVERSIONINFOW*);
   static const auto get = Function<GetVersion>(::GetModuleHandleW(L"ntdll.dll"), "RtlGetVersion");

@@ -7,12 +7,12 @@
 
 namespace platform::windows {
 
-// Whether a version of the system has layered windows: the NT family from version 5 on.
+// Returns whether a version of the system has layered windows: the NT family from version 5 on.
 [[nodiscard]] constexpr bool HasLayeredWindows(DWORD platform_id, DWORD major_version) {
   return platform_id == VER_PLATFORM_WIN32_NT && major_version >= 5;
 }
 
-// Gives a window this opacity, 255 covering everything. Nothing happens on a system without layered
+// Sets the opacity of a window; 255 covers everything. Does nothing on a system without layered
 // windows.
 void SetWindowOpacity(HWND hwnd, std::uint8_t alpha);
 

@@ -7,7 +7,7 @@ namespace {
 
 constexpr DWORD kAccessibleSignature = 0xAA0DF00D;  // MSAA_MENU_SIG
 
-// What a native menu holds as its text.
+// Returns the text of an item in a native menu.
 std::wstring LabelOf(const MenuEntry& entry) {
   std::wstring label = ToWide(entry.text);
   if (!entry.shortcut.empty()) label += L'\t' + ToWide(entry.shortcut);
@@ -85,7 +85,7 @@ wchar_t MenuKey(const MenuEntry& entry) {
   for (std::size_t at = 0; at + 1 < text.size(); ++at) {
     if (text[at] != L'&') continue;
     if (text[at + 1] != L'&') return UpperCase(text[at + 1]);
-    ++at;  // a doubled one is an ampersand
+    ++at;  // a doubled "&" is an ampersand
   }
   return text.empty() ? L'\0' : UpperCase(text.front());
 }

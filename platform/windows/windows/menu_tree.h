@@ -1,4 +1,4 @@
-// A menu of the system made from entries.
+// Makes a system menu from entries.
 #pragma once
 
 #include <deque>
@@ -20,23 +20,24 @@ using MenuHandle = Handle<MenuKind>;
 
 class MenuTree {
  public:
-  // `entries` outlives this. What the system refuses is left out.
+  // `entries` outlives the tree. Items that the system refuses are left out.
   explicit MenuTree(const std::vector<MenuEntry>& entries);
 
-  // Null when the system refused.
+  // Returns null when the system refused.
   [[nodiscard]] HMENU root() const { return root_.get(); }
 
-  // The entry behind the data of an item, as owner-drawing messages carry it.
+  // Returns the entry of an item from the item data that owner-drawing messages carry.
   [[nodiscard]] static const MenuEntry& EntryOf(ULONG_PTR item_data);
-  // The entry at a place of a menu that a MenuTree made; null outside.
+  // Returns the entry at a position of a menu that a MenuTree made, or null for a position that
+  // does not exist.
   [[nodiscard]] static const MenuEntry* At(HMENU menu, int position);
-  // The position of the item with this id, of which the system's messages carry the lower 16 bits;
-  // -1 when the menu itself (not its submenus) has none.
+  // Returns the position of the item with this id, of which the system's messages carry the lower
+  // 16 bits, or -1 when the menu itself (not its submenus) has none.
   [[nodiscard]] static int PositionOf(HMENU menu, UINT id);
 
  private:
-  // What an item's data points to. Screen readers look for the first three fields there, since an
-  // item that is drawn by its owner has no text that they could see (MSAAMENUINFO).
+  // The structure that an item's data points to. Screen readers look for the first three fields
+  // there, since an item that is drawn by its owner has no text that they could see (MSAAMENUINFO).
   struct ItemData {
     DWORD signature;
     DWORD length;
@@ -48,13 +49,13 @@ class MenuTree {
   [[nodiscard]] MenuHandle Make(const std::vector<MenuEntry>& entries);
   void Add(HMENU menu, const MenuEntry& entry);
 
-  // The root last: it goes first, while the data is still there.
+  // root_ stands last so that it is destroyed first, while the data still exists.
   std::deque<ItemData> items_;
   MenuHandle root_;
 };
 
-// What the key of an entry is: the letter behind "&", or else the first one; in upper case. 0 for
-// an entry without any.
+// Returns the key of an entry in upper case: the character behind "&", or else the first one.
+// Returns 0 for a separator and for an entry without a text.
 [[nodiscard]] wchar_t MenuKey(const MenuEntry& entry);
 
 }  // namespace platform::windows

@@ -17,8 +17,8 @@ bool OwnThreadIsForeground() {
 
 constexpr UINT kMenuIsOver = WM_APP + 1;  // w: the window to give the foreground back to, or null
 
-// While this lives, the thread has the foreground: a menu of a thread without it does not close
-// when the user clicks elsewhere.
+// Keeps the thread in the foreground while it lives: the menu of a thread that is not in the
+// foreground does not close when the user clicks elsewhere.
 class Foreground {
  public:
   explicit Foreground(HWND hwnd) : hwnd_(hwnd) {
@@ -26,8 +26,9 @@ class Foreground {
     before_ = ::GetForegroundWindow();
     ::SetForegroundWindow(hwnd);
   }
-  // A message comes when what was chosen is done, or waits in a window of its own. It is needed in
-  // any case: without a further one the next menu from the notification area closes at once.
+  // The message arrives when the chosen action is done, or waits in a window of its own. It is
+  // needed in any case: without a further message the next menu from the notification area closes
+  // at once.
   ~Foreground() { ::PostMessageW(hwnd_, kMenuIsOver, reinterpret_cast<WPARAM>(before_), 0); }
   Foreground(const Foreground&) = delete;
   Foreground& operator=(const Foreground&) = delete;
@@ -42,8 +43,8 @@ UINT PopupFlags() {
   return side | TPM_TOPALIGN | TPM_RIGHTBUTTON | TPM_RETURNCMD;
 }
 
-// The answer to a key that the system found no item for: the only entry with this key is chosen,
-// of several the next one highlighted.
+// Returns the answer to a key for which the system found no item: a single entry with this key is
+// chosen; of several, the next one is highlighted.
 LRESULT FindByKey(HMENU menu, wchar_t key, const MenuEntry* highlighted) {
   ::CharUpperBuffW(&key, 1);
   const int count = ::GetMenuItemCount(menu);
@@ -74,8 +75,8 @@ const MenuEntry* FindKeys(const std::vector<MenuEntry>& entries, const KeyCombin
   return nullptr;
 }
 
-// Hears the keys of the thread's menu while it lives: the system tells the owner of a menu only of
-// letters.
+// Gets the keys that go to the thread's menu while it lives: the system reports only letters to the
+// owner of a menu.
 class KeyHook {
  public:
   explicit KeyHook(MenuWindow& menu)
@@ -101,8 +102,8 @@ class KeyHook {
         {static_cast<std::uint8_t>(key), held(VK_SHIFT), held(VK_CONTROL), held(VK_MENU)});
   }
 
-  // The one that is open; the system hands nothing of ours to a hook, and does not tell the owner
-  // of a menu alike everywhere.
+  // The menu that is open. The system passes no data of the program to a hook, and not every system
+  // names the owner of the menu to it.
   static inline MenuWindow* menu_ = nullptr;
   HHOOK hook_;
 };

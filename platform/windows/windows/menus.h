@@ -7,17 +7,17 @@
 
 namespace platform::windows {
 
-// Gets the messages of the open menu. A window of its own, so that a menu that is opened from the
-// notification area brings none of the program's windows to the front.
+// Gets the messages of the open menu. It is a window of its own, so that a menu that is opened from
+// the notification area brings none of the program's windows to the front.
 class MenuWindow final : public NativeWindow {
  public:
   MenuWindow(const WindowClass& window_class, Drawing& drawing);
 
-  // As Menus. `dpi` is that of the place.
+  // Does what Menus::Popup does. `dpi` is the resolution at the place.
   [[nodiscard]] int Popup(Point at, const std::vector<MenuEntry>& entries, MenuPainter& painter,
                           int dpi);
   void Cancel();
-  // Chooses the entry that has these keys; false when none has.
+  // Chooses the entry that has these keys. Returns false when none has.
   bool ChooseByKeys(const KeyCombination& keys);
 
  protected:
@@ -44,10 +44,10 @@ class MenuWindow final : public NativeWindow {
 
 class Menus final : public platform::Menus {
  public:
-  // `drawing` outlives this.
+  // `drawing` outlives the object.
   explicit Menus(Drawing& drawing) : window_(window_class_, drawing) {}
 
-  // A second menu while one is open does not open: 0.
+  // Returns 0 at once, without a menu, while another menu is open.
   [[nodiscard]] int Popup(TopWindow& owner, Point at, const std::vector<MenuEntry>& entries,
                           MenuPainter& painter) override;
   void Cancel() override { window_.Cancel(); }

@@ -91,7 +91,7 @@ void Mouse::ReportLeftUp(HWND hwnd, const Message& message, WidgetEvents& events
 void Mouse::ReportMove(HWND hwnd, const Message& message, WidgetEvents& events,
                        Lifetime& lifetime) {
   const MouseEvent event = EventOf(message, MouseButton::kNone);
-  if (!event.left_down) pressed_ = false;  // its release went elsewhere
+  if (!event.left_down) pressed_ = false;  // another window got the release
   // While the button is held, moves come from outside as well.
   if (InsideClient(hwnd, event.at) && Enter(hwnd, false)) {
     const Lifetime::Watch watch(lifetime);

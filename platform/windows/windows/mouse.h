@@ -1,4 +1,4 @@
-// Mouse messages as reports.
+// Turns mouse messages into reports.
 #pragma once
 
 #include "platform/widget.h"
@@ -7,9 +7,10 @@
 
 namespace platform::windows {
 
-// Who holds the mouse while the left button is down, so that its release is heard wherever it is.
+// Who captures the mouse while the left button is down, so that the release of the button is
+// reported wherever the pointer is.
 enum class Capture {
-  kHere,       // this; and the button pressed and released on the window is a click
+  kHere,       // this object; the button pressed and released on the window is then a click
   kByControl,  // the system's control, which makes its own clicks
 };
 
@@ -17,17 +18,18 @@ class Mouse {
  public:
   explicit Mouse(Capture capture) : capture_(capture) {}
 
-  // Reports a mouse message of the window; others are ignored. The events may destroy the object
-  // that `lifetime` and this belong to.
+  // Reports a mouse message of the window and ignores other messages. The events may destroy the
+  // object that `lifetime` and this Mouse belong to.
   void Report(HWND hwnd, const Message& message, WidgetEvents& events, Lifetime& lifetime);
 
  private:
   void ReportLeftUp(HWND hwnd, const Message& message, WidgetEvents& events, Lifetime& lifetime);
   void ReportMove(HWND hwnd, const Message& message, WidgetEvents& events, Lifetime& lifetime);
-  // The pointer is on the window, or on its frame: asks the system to tell when it leaves.
-  // True when it was not there before.
+  // Notes that the pointer is on the window, or on its frame, and asks the system to tell when it
+  // leaves. Returns true when the pointer was not there before.
   bool Enter(HWND hwnd, bool on_frame);
-  // False when the pointer only went from the frame to the inside or back.
+  // Notes that the pointer left. Returns false when it only went from the frame to the inside or
+  // back.
   bool Leave(HWND hwnd);
 
   const Capture capture_;
@@ -35,8 +37,8 @@ class Mouse {
   bool pressed_ = false;  // by the left button, which is still down
 };
 
-// Where a context menu is wanted, on the screen: at the pointer, or in the middle of the window
-// when the keyboard asked for it.
+// Returns the place on the screen for a context menu: at the pointer, or in the middle of the
+// window when the menu was asked for with the keyboard.
 [[nodiscard]] Point ContextMenuPlace(HWND hwnd, const Message& message);
 
 }  // namespace platform::windows

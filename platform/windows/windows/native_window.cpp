@@ -19,7 +19,7 @@ void RequireWindow(HWND hwnd) {
 NativeWindow::~NativeWindow() {
   const HWND hwnd = hwnd_;
   if (hwnd == nullptr) return;
-  Detach();  // first: messages of the destruction must not reach half an object
+  Detach();  // first, since messages of the destruction must not reach a half-destroyed object
   ::DestroyWindow(hwnd);
 }
 
@@ -40,8 +40,8 @@ void NativeWindow::CreateControl(const wchar_t* control, const WindowStyle& styl
 }
 
 NativeWindow* NativeWindow::Of(HWND hwnd) {
-  // Only of such a window is known what the system keeps for its owner. (The parts of a combo box,
-  // for example, are the system's own.)
+  // Only such a window is known to keep its owner in the user data. (The parts of a combo box, for
+  // example, are the system's own.)
   const auto procedure = reinterpret_cast<LONG_PTR>(&Procedure);
   if (hwnd == nullptr || ::GetWindowLongPtrW(hwnd, GWLP_WNDPROC) != procedure) return nullptr;
   return ObjectOf(hwnd);
@@ -79,7 +79,7 @@ LRESULT CALLBACK NativeWindow::Procedure(HWND hwnd, UINT id, WPARAM w, LPARAM l)
   try {
     if (const std::optional<LRESULT> answer = object->Handle({id, w, l})) return *answer;
   } catch (...) {
-    // Handlers are guarded where they are written. What gets here anyway must not unwind through
+    // Handlers have their own guards. An exception that gets here anyway must not unwind through
     // the system's frames.
     return 0;
   }

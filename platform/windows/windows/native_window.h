@@ -16,14 +16,14 @@ struct Message {
   LPARAM l = 0;
 };
 
-// How a window is created; as for CreateWindowEx. Its size is zero.
+// The styles for CreateWindowEx. A new window has the size zero.
 struct WindowStyle {
   DWORD style = 0;
   DWORD extended = 0;
 };
 
-// Owns one window. When the system takes the window away first (its parent was destroyed), the
-// object stays, without one.
+// Owns one window. When the system destroys the window first (because its parent was destroyed),
+// the object stays without a window.
 class NativeWindow {
  public:
   NativeWindow() = default;
@@ -31,10 +31,10 @@ class NativeWindow {
   NativeWindow(const NativeWindow&) = delete;
   NativeWindow& operator=(const NativeWindow&) = delete;
 
-  // Null before it is created and after the system took it away.
+  // Returns null before the window is created and after the system has destroyed it.
   [[nodiscard]] HWND hwnd() const { return hwnd_; }
 
-  // The object that owns `hwnd`; null when none of this program does.
+  // Returns the object that owns `hwnd`, or null when no object of this program does.
   [[nodiscard]] static NativeWindow* Of(HWND hwnd);
 
   static LRESULT CALLBACK Procedure(HWND hwnd, UINT id, WPARAM w, LPARAM l) noexcept;
@@ -43,14 +43,14 @@ class NativeWindow {
   // Both throw std::runtime_error when the system refuses. `parent` is the owner of a pop-up.
   void Create(const WindowClass& window_class, const WindowStyle& style, HWND parent,
               const std::wstring& text);
-  // A control of the system's class `control`; Handle sees its messages first.
+  // Makes a control of the system's class `control`. Handle gets its messages first.
   void CreateControl(const wchar_t* control, const WindowStyle& style, HWND parent);
 
-  // The answer to a message, or nothing to leave it to the system. The object may be destroyed
-  // inside; what escapes as an exception ends here.
+  // Returns the answer to a message, or nullopt to leave it to the system. The object may be
+  // destroyed inside. An exception that leaves Handle is dropped.
   virtual std::optional<LRESULT> Handle(const Message& message) = 0;
 
-  // What the system does with a message, now rather than after Handle.
+  // Lets the system handle a message now rather than after Handle.
   LRESULT CallSystem(const Message& message);
 
   [[nodiscard]] Lifetime& lifetime() { return lifetime_; }
@@ -60,7 +60,7 @@ class NativeWindow {
   void Detach();
 
   HWND hwnd_ = nullptr;
-  WNDPROC system_ = &::DefWindowProcW;  // what handles the rest: a control's own procedure
+  WNDPROC system_ = &::DefWindowProcW;  // handles the other messages; a control's own procedure
   Lifetime lifetime_;
 };
 

@@ -8,11 +8,12 @@
 
 namespace platform::windows {
 
-// The module that the program's classes and resources belong to.
+// Returns the module that the program's classes and resources belong to.
 [[nodiscard]] HINSTANCE ThisModule();
 
-// A class of windows whose messages go to NativeWindow; registered while this lives. No window of
-// it may be left at the end. Throws std::runtime_error when the system refuses.
+// A class of windows whose messages go to NativeWindow. It is registered while the object lives,
+// and its windows must be destroyed before it. The constructor throws std::runtime_error when the
+// system refuses.
 class WindowClass {
  public:
   explicit WindowClass(std::string_view name);

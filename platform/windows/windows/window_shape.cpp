@@ -10,7 +10,8 @@
 namespace platform::windows {
 namespace {
 
-// In one call: uniting hundreds of regions one by one would cost a scan dearly.
+// The region is made in one call: uniting hundreds of regions one by one would take too much of a
+// scan.
 HRGN MakeRegion(std::span<const Rect> parts) {
   if (parts.empty()) return ::CreateRectRgn(0, 0, 0, 0);
   const std::size_t size = sizeof(RGNDATAHEADER) + parts.size() * sizeof(RECT);
@@ -35,7 +36,7 @@ void WindowShape::Set(HWND hwnd, std::span<const Rect> parts) {
   if (parts_ && std::ranges::equal(*parts_, parts)) return;
   const HRGN region = MakeRegion(parts);
   if (region == nullptr) return;
-  if (!::SetWindowRgn(hwnd, region, TRUE)) {  // or else the region is the system's now
+  if (!::SetWindowRgn(hwnd, region, TRUE)) {  // on success the system owns the region
     ::DeleteObject(region);
     return;
   }

@@ -1,4 +1,4 @@
-// The part of a window that exists.
+// Gives a window a shape other than its rectangle.
 #pragma once
 
 #include <optional>
@@ -12,12 +12,12 @@ namespace platform::windows {
 
 class WindowShape {
  public:
-  // Nothing when the window has that shape.
+  // Does nothing when the window has this shape already.
   void Set(HWND hwnd, std::span<const Rect> parts);
   void Reset(HWND hwnd);
 
  private:
-  std::optional<std::vector<Rect>> parts_;  // nothing: the whole window
+  std::optional<std::vector<Rect>> parts_;  // nullopt: the whole window
 };
 
 }  // namespace platform::windows

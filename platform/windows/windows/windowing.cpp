@@ -15,7 +15,8 @@
 namespace platform::windows {
 namespace {
 
-// The page for which what is made on `parent` has to wait; null when it has not.
+// Returns the hidden page for which a widget on `parent` has to wait, or null when it need not
+// wait.
 Surface* HiddenPage(Widget& parent) {
   Widget* made = &parent;
   if (const auto* late = dynamic_cast<LateWidget*>(&parent)) {

@@ -15,7 +15,7 @@ namespace platform::windows {
 
 class Windowing final : public platform::Windowing {
  public:
-  // `drawing` and `timers` outlive this; this outlives every widget.
+  // `drawing` and `timers` outlive the object, and the object outlives every widget.
   Windowing(Drawing& drawing, platform::Timers& timers);
 
   void SetApplicationTitle(std::string_view title) override;
@@ -47,7 +47,8 @@ class Windowing final : public platform::Windowing {
                                                                WidgetEvents& events) override;
 
  private:
-  // What `make` makes on the window of `parent`: at once, or as a `Late` one when that is not seen.
+  // Returns what `make` makes on the window of `parent`: at once, or as a `Late` widget when that
+  // window is not seen.
   template <class Late, class Interface>
   [[nodiscard]] std::unique_ptr<Interface> Make(
       Widget& parent, std::function<std::unique_ptr<Interface>(HWND)> make);
