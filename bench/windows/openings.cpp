@@ -76,6 +76,7 @@ void OpenEveryWindow(PlayedMeter& meter, Report& report) {
   const display::RunningMeter parts = meter.Parts();
   quantity::Quantity quantity(parts.store, app.Platform().locale);
   engine::TrafficState traffic;
+  display::TitlePosting posting(app, parts.store);
   const stats::StatisticsContext statistics{app, parts.store, quantity, parts.language, traffic};
   const Row rows[] = {
       {L"T_frmConnInfo", "The statistics of the machine",
@@ -88,7 +89,9 @@ void OpenEveryWindow(PlayedMeter& meter, Report& report) {
                                                          parts.language);
        }},
       {L"T_frmAddTitles", "The editor of the window titles",
-       [&] { return make_unique<display::T_frmAddTitles>(app, parts.titles, parts.language); }},
+       [&] {
+         return make_unique<display::T_frmAddTitles>(app, posting, parts.tray, parts.language);
+       }},
       {L"T_frmAreYouSure", "The exit question",
        [&] { return make_unique<display::T_frmAreYouSure>(app, parts.store, parts.language); }},
       {L"T_frmSecurity", "The password prompt",
