@@ -10,14 +10,6 @@
 
 namespace platform {
 
-// What a surface is among its siblings.
-enum class SurfaceKind {
-  kArea,
-  // One of many of which the user sees one: what lies on a hidden one may get its windows, and
-  // report its first size, only when the page is shown or the program idles.
-  kPage,
-};
-
 // Every `events` must outlive its widget. Widgets are made hidden with bounds of zero; a failure of
 // the system throws std::runtime_error. `name` lets tests and screen readers of other programs find
 // the widget; it may be empty.
@@ -44,7 +36,6 @@ class Windowing {
   // An area that the program paints (OnPaint) and that may hold other widgets; never has the
   // keyboard itself.
   [[nodiscard]] virtual std::unique_ptr<Widget> CreateSurface(Widget& parent, std::string_view name,
-                                                              SurfaceKind kind,
                                                               WidgetEvents& events) = 0;
 
   // A text; reports the mouse. Never has the keyboard.

@@ -12,7 +12,7 @@ class Button : public Control {
   Button(Control& parent, std::string_view name);
 
   // Pressed by Enter anywhere in the form; at most one of a form.
-  void SetDefault(bool is_default) { button_->SetDefault(is_default); }
+  void SetDefault(bool is_default);
   // What a click does.
   void Click() { Clicked(); }
 
@@ -22,9 +22,11 @@ class Button : public Control {
 
  protected:
   void Clicked() override;
+  void Realised() override { button_->SetDefault(default_); }
 
  private:
-  platform::Button* button_;  // the peer, owned by Control
+  platform::Button* button_ = nullptr;  // the peer, owned by Control
+  bool default_ = false;
 };
 
 }  // namespace toolkit

@@ -8,9 +8,10 @@ namespace toolkit {
 
 PageControl::PageControl(Control& parent, std::string_view name)
     : Control(parent.App(), &parent, name) {
-  auto tabs = App().Platform().windowing.CreateTabs(PeerOf(parent), name, *this);
-  tabs_ = tabs.get();
-  Attach(std::move(tabs));
+  RealiseChildren(parent);  // the system is asked for the colour now
+  Attach([this](platform::Windowing& windowing, platform::Widget& on) {
+    return Remember(windowing.CreateTabs(on, Name(), *this), tabs_);
+  });
   SetColour(tabs_->PageColour());  // the pages take it over
 }
 
@@ -36,7 +37,7 @@ void PageControl::ShowCaptions() {
 
 // The hidden ones too, so that nothing moves when they are shown.
 void PageControl::PlacePages() {
-  for (const TabSheet* page : pages_) PeerOf(*page).SetBounds(ChildArea());
+  for (const TabSheet* page : pages_) Place(*page, ChildArea());
 }
 
 void PageControl::Rescale() {
