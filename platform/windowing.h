@@ -10,17 +10,9 @@
 
 namespace platform {
 
-// What a surface is among its siblings.
-enum class SurfaceKind {
-  kArea,
-  // One of many pages of which the user sees one. The controls on a hidden page may get their
-  // windows, and report their first size, only when the page is shown or the program idles.
-  kPage,
-};
-
-// Every `events` must outlive its widget. Widgets are made hidden, with bounds of zero. Making one
-// throws std::runtime_error when the system refuses. `name` lets tests and screen readers find the
-// widget; it may be empty.
+// Every `events` must outlive its widget. Widgets are made hidden with bounds of zero; a failure of
+// the system throws std::runtime_error. `name` lets tests and screen readers of other programs find
+// the widget; it may be empty.
 //
 // The keyboard works like this in a window with a caption. Tab goes through the controls in the
 // order in which they were made, with the controls on a surface in the place of the surface. Of
@@ -45,7 +37,6 @@ class Windowing {
   // Makes an area that the program paints (OnPaint) and that may hold other widgets. It never has
   // the focus itself.
   [[nodiscard]] virtual std::unique_ptr<Widget> CreateSurface(Widget& parent, std::string_view name,
-                                                              SurfaceKind kind,
                                                               WidgetEvents& events) = 0;
 
   // Makes a text, which reports the mouse and never has the focus.

@@ -15,8 +15,9 @@ constexpr int kPictures = 4;
 
 PicturePanel::PicturePanel(toolkit::Control& parent, std::string_view name)
     : Control(parent.App(), &parent, name) {
-  Attach(App().Platform().windowing.CreateButton(PeerOf(parent), name,
-                                                 platform::ButtonKind::kPainted, *this));
+  Attach([this](platform::Windowing& windowing, platform::Widget& on) {
+    return windowing.CreateButton(on, Name(), platform::ButtonKind::kPainted, *this);
+  });
 }
 
 void PicturePanel::Load(const std::string& path, const std::string& fallback) {

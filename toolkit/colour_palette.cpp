@@ -42,8 +42,9 @@ std::string NameOf(Colour colour) {
 
 ColourPalette::ColourPalette(Control& parent, std::string_view name)
     : Control(parent.App(), &parent, name) {
-  Attach(App().Platform().windowing.CreateButton(PeerOf(parent), name,
-                                                 platform::ButtonKind::kPainted, *this));
+  Attach([this](platform::Windowing& windowing, platform::Widget& on) {
+    return windowing.CreateButton(on, Name(), platform::ButtonKind::kPainted, *this);
+  });
 }
 
 std::optional<platform::Colour> ColourPalette::Chosen() const {

@@ -27,8 +27,9 @@ TKxInterMeter::TKxInterMeter(toolkit::Control& parent, std::string_view name)
     : Control(parent.App(), &parent, name), timer_(parent.App(), kScanPeriodMs, [this] {
         if (OnScan) OnScan();
       }) {
-  Attach(App().Platform().windowing.CreateSurface(PeerOf(parent), name,
-                                                  platform::SurfaceKind::kArea, *this));
+  Attach([this](platform::Windowing& windowing, platform::Widget& on) {
+    return windowing.CreateSurface(on, Name(), *this);
+  });
   SetFont(kScaleFont);
 }
 

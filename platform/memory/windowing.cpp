@@ -14,7 +14,7 @@ std::unique_ptr<TopWindow> Windowing::CreateTopWindow(const TopWindowParams& par
 }
 
 std::unique_ptr<Widget> Windowing::CreateSurface(Widget& parent, std::string_view name,
-                                                 SurfaceKind /*kind*/, WidgetEvents& events) {
+                                                 WidgetEvents& events) {
   return std::make_unique<WidgetPeer>(desktop_, WidgetState::Kind::kSurface, name,
                                       &Peer::StateOf(parent), events);
 }

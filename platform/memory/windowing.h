@@ -25,7 +25,6 @@ class Windowing final : public platform::Windowing {
                                                            TopWindow* owner,
                                                            TopWindowEvents& events) override;
   [[nodiscard]] std::unique_ptr<Widget> CreateSurface(Widget& parent, std::string_view name,
-                                                      SurfaceKind kind,
                                                       WidgetEvents& events) override;
   [[nodiscard]] std::unique_ptr<Widget> CreateText(Widget& parent, std::string_view name,
                                                    const TextStyle& style,

@@ -38,7 +38,7 @@ class Machine {
   Drawing drawing_;  // before the members that draw
   Graphics graphics_{drawing_.fonts};
   Timers timers_;
-  Windowing windowing_{drawing_, timers_};
+  Windowing windowing_{drawing_};
   Menus menus_{drawing_};
   NotificationArea notification_area_;
   Sound sound_;

@@ -52,8 +52,7 @@ TEST_F(ControlsTest, ButtonsTextsAndSurfacesAreClicked) {
   const auto push_button = Button("push", ButtonKind::kPush, push);
   const auto painted_button = Button("painted", ButtonKind::kPainted, painted);
   const auto label = Placed(Windowing().CreateText(*dialog_, "text", {}, text));
-  const auto area =
-      Placed(Windowing().CreateSurface(*dialog_, "surface", platform::SurfaceKind::kArea, surface));
+  const auto area = Placed(Windowing().CreateSurface(*dialog_, "surface", surface));
   dialog_->Show(platform::Activation::kActivate);
   for (const char* name : {"push", "painted", "text", "surface"}) desk_->Press(name);
   EXPECT_EQ(push.clicks, 1);
@@ -314,8 +313,7 @@ TEST_F(ControlsTest, WhatIsHiddenOrDisabledDoesNotHearTheUser) {
   const auto group =
       Placed(Windowing().CreateButton(*dialog_, "group", ButtonKind::kGroup, silent), 60);
   const auto in_group = Windowing().CreateButton(*group, "in group", ButtonKind::kPush, on_group);
-  const auto surface = Placed(
-      Windowing().CreateSurface(*dialog_, "surface", platform::SurfaceKind::kArea, silent), 60);
+  const auto surface = Placed(Windowing().CreateSurface(*dialog_, "surface", silent), 60);
   const auto in_surface = Windowing().CreateEdit(*surface, "in surface", {}, on_surface);
   in_group->SetBounds({5, 20, 100, 22});
   in_surface->SetBounds({5, 5, 100, 22});
@@ -336,64 +334,6 @@ TEST_F(ControlsTest, WhatIsHiddenOrDisabledDoesNotHearTheUser) {
   use_both();
   EXPECT_EQ(on_group.clicks, 1);
   EXPECT_EQ(on_surface.changes, 1);
-}
-
-// Asked before the page is shown, or not.
-class HiddenPageTest : public ControlsTest, public testing::WithParamInterface<bool> {};
-INSTANTIATE_TEST_SUITE_P(Asked, HiddenPageTest, testing::Bool());
-
-TEST_P(HiddenPageTest, WhatIsSetThereIsThereWhenThePageIsShown) {
-  Reports reports;
-  const auto page =
-      Windowing().CreateSurface(*dialog_, "page", platform::SurfaceKind::kPage, reports);
-  page->SetBounds({0, 0, 390, 360});
-  const auto placed = [this](auto control) { return Placed(std::move(control)); };
-  auto gone = placed(Windowing().CreateText(*page, "gone", {}, reports));
-  const auto group =
-      Placed(Windowing().CreateButton(*page, "group", ButtonKind::kGroup, reports), 60);
-  const auto box = placed(Windowing().CreateButton(*group, "box", ButtonKind::kCheck, reports));
-  const auto edit = placed(Windowing().CreateEdit(*page, "edit", {}, reports));
-  const auto list = Placed(Windowing().CreateList(*page, "list", ListKind::kCheckBox, reports), 70);
-  const auto bar = placed(Windowing().CreateTrackBar(*page, "bar", reports));
-  const std::vector<std::string> rows = {"a", "b", "c"};
-  box->SetText("text");
-  box->SetChecked(true);
-  edit->SetText("12345");
-  edit->SetMaxLength(6);
-  edit->SetEnabled(false);
-  list->SetItems(rows);
-  list->SetIndex(1);
-  list->SetChecked(2, true);
-  bar->SetRange(1, 9, 2);
-  bar->SetPosition(5);
-  box->Focus();
-  gone.reset();
-  const auto check = [&] {
-    EXPECT_EQ(group->ClientSize(), (platform::Size{200, 60}));
-    EXPECT_EQ(box->Text(), "text");
-    EXPECT_TRUE(box->Checked() && box->Visible());
-    EXPECT_EQ(edit->Text(), "12345");
-    EXPECT_FALSE(edit->Enabled());
-    EXPECT_EQ(edit->Bounds().width, 200);
-    EXPECT_EQ(list->Count(), 3);
-    EXPECT_EQ(list->Index(), 1);
-    EXPECT_TRUE(!list->Checked(0) && list->Checked(2));
-    EXPECT_EQ(bar->Position(), 5);
-  };
-  if (GetParam()) check();
-  dialog_->Show(platform::Activation::kActivate);
-  EXPECT_FALSE(page->HasFocus()) << "what is hidden does not get the keyboard";
-  page->SetVisible(true);
-  check();
-  EXPECT_EQ(reports.clicks + reports.changes, 0) << "the code did it all";
-  edit->SetEnabled(true);
-  box->Focus();
-  desk_->PressTab("T_frmControls", false);
-  EXPECT_TRUE(edit->HasFocus()) << "in the order in which they were made";
-  desk_->Type("edit", "12345678");
-  desk_->Press("box");
-  EXPECT_EQ(edit->Text(), "123456");
-  EXPECT_FALSE(box->Checked());
 }
 
 }  // namespace

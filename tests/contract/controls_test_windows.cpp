@@ -1,6 +1,4 @@
 // What only the system's own controls have: their classes, colours and looks.
-#include <stdexcept>
-
 #include "platform/windows/win32.h"
 #include "tests/contract/controls_fixture.h"
 #include "tests/contract/hands_windows.h"
@@ -100,26 +98,6 @@ TEST_F(NativeControlsTest, WhatOtherProgramsDoToAControlIsReported) {
   EXPECT_EQ(on_box.clicks, 1);
   EXPECT_EQ(on_edit.changes, 1);
   EXPECT_EQ(on_list.changes, 1);
-}
-
-TEST_F(NativeControlsTest, AHiddenPageIsFilledWhileTheProgramIdles) {
-  Reports reports;
-  const auto page = [&] {
-    return Windowing().CreateSurface(*dialog_, "page", platform::SurfaceKind::kPage, reports);
-  };
-  auto short_lived = page();
-  const auto orphan = Windowing().CreateButton(*short_lived, "orphan", ButtonKind::kPush, reports);
-  short_lived.reset();
-  const auto lasting = page();
-  const auto group = Windowing().CreateButton(*lasting, "group", ButtonKind::kGroup, reports);
-  const auto box = Windowing().CreateButton(*group, "box", ButtonKind::kCheck, reports);
-  Show();
-  const auto child_of = [](HWND parent) { return ::GetWindow(parent, GW_CHILD); };
-  EXPECT_TRUE(desk_->LetHappen([&] { return child_of(child_of(Find("page"))) != nullptr; }));
-  EXPECT_EQ(::GetParent(Find("box")), Find("group"));
-  EXPECT_FALSE(lasting->Visible());
-  orphan->SetText("heard by nobody");
-  EXPECT_THROW((void)orphan->Text(), std::runtime_error) << "its page is gone";
 }
 
 }  // namespace

@@ -21,8 +21,7 @@ TEST_F(DialogKeysTest, TabGoesThroughTheControlsInOrderOfCreation) {
   Reports silent;
   const auto label = Placed(Windowing().CreateText(*dialog_, "label", {}, silent));
   const auto first = Edit("first", EditKind::kLine, silent);
-  const auto surface = Placed(
-      Windowing().CreateSurface(*dialog_, "surface", platform::SurfaceKind::kArea, silent), 80);
+  const auto surface = Placed(Windowing().CreateSurface(*dialog_, "surface", silent), 80);
   const auto off = Button("off", ButtonKind::kPush, silent);
   const auto unchosen = Button("unchosen", ButtonKind::kRadio, silent);
   const auto chosen = Button("chosen", ButtonKind::kRadio, silent);
@@ -66,8 +65,7 @@ TEST_F(DialogKeysTest, EnterPressesTheDefaultButtonUnlessSomethingElseWantsIt) {
   Reports on_edit, on_default, on_other, on_memo;
   const auto edit = Edit("edit", EditKind::kLine, on_edit);
   const auto memo = Edit("memo", EditKind::kMemo, on_memo);
-  const auto surface = Placed(
-      Windowing().CreateSurface(*dialog_, "surface", platform::SurfaceKind::kArea, on_memo), 40);
+  const auto surface = Placed(Windowing().CreateSurface(*dialog_, "surface", on_memo), 40);
   const auto ok = Windowing().CreateButton(*surface, "ok", ButtonKind::kPush, on_default);
   const auto other = Button("other", ButtonKind::kPush, on_other);
   ok->SetVisible(true);
@@ -166,8 +164,7 @@ TEST_F(DialogKeysTest, AltReachesTheControlThatIsMarked) {
 TEST_F(DialogKeysTest, WhatIsHiddenOrDisabledPassesTheKeyboardOn) {
   Reports reports;
   const auto first = Edit("first", EditKind::kLine, reports);
-  const auto surface = Placed(
-      Windowing().CreateSurface(*dialog_, "surface", platform::SurfaceKind::kArea, reports), 60);
+  const auto surface = Placed(Windowing().CreateSurface(*dialog_, "surface", reports), 60);
   const auto inner = Windowing().CreateEdit(*surface, "inner", {}, reports);
   const auto last = Edit("last", EditKind::kLine, reports);
   inner->SetVisible(true);

@@ -44,8 +44,7 @@ class RealTopWindow : public testing::Test {
                                           nullptr, heard_);
     window_->SetSizeLimits({150, 25}, {350, 200});
     window_->SetBounds({100, 100, 274, 135});
-    surface_ = Windowing().CreateSurface(*window_, "surface", platform::SurfaceKind::kArea,
-                                         surface_events_);
+    surface_ = Windowing().CreateSurface(*window_, "surface", surface_events_);
     surface_->SetBounds({0, 0, 272, 133});
     surface_->SetVisible(true);
   }
@@ -275,8 +274,7 @@ struct Green : platform::WidgetEvents {
 
 TEST_F(RealTopWindow, APartThatIsUncoveredIsPaintedFromAWholePicture) {
   Green events;
-  const auto painted =
-      Windowing().CreateSurface(*surface_, "painted", platform::SurfaceKind::kArea, events);
+  const auto painted = Windowing().CreateSurface(*surface_, "painted", events);
   painted->SetBounds({20, 20, 50, 40});
   painted->SetVisible(true);
   window_->Show(platform::Activation::kLeaveFocus);

@@ -33,8 +33,7 @@ class WindowEffects : public testing::Test {
     window_ = desk_->Platform().windowing.CreateTopWindow(
         {"T_frmEffects", "Effects", platform::Frame::kSizeableTool, true}, nullptr, heard_);
     heard_.window = window_.get();
-    surface_ = desk_->Platform().windowing.CreateSurface(
-        *window_, "surface", platform::SurfaceKind::kArea, surface_events_);
+    surface_ = desk_->Platform().windowing.CreateSurface(*window_, "surface", surface_events_);
     window_->SetBounds({200, 150, 202, 102});
     surface_->SetBounds({0, 0, 200, 100});
     surface_->SetVisible(true);

@@ -44,8 +44,7 @@ class WindowingTest : public testing::Test {
     window_ = Windowing().CreateTopWindow({"T_frmContract", "Contract", Frame::kSizeableTool, true},
                                           nullptr, heard_);
     window_->SetSizeLimits({100, 40}, {400, 300});
-    surface_ = Windowing().CreateSurface(*window_, "surface", platform::SurfaceKind::kArea,
-                                         surface_heard_);
+    surface_ = Windowing().CreateSurface(*window_, "surface", surface_heard_);
     text_ = Windowing().CreateText(*surface_, "text", {}, text_heard_);
   }
 

@@ -78,6 +78,7 @@ TEST_F(AlertPages, OfTheBandwidthAlertEachControlWritesItsOneValue) {
            Widget("BaSpeedbtn2").enabled;
   };
   RunOpen([&] {
+    ChoosePage("Bandwidth Alerts");
     EXPECT_EQ(Widget("mPerStartsOn").items.size(), 31U);
     EXPECT_EQ(Widget("mPerStartsOn").text, "2") << "the stored 1 is the second row";
     Check("Bandwidth Alerts",
@@ -192,6 +193,7 @@ TEST_F(AlertPages, OddStoredValuesAreShownAndLeftAlone) {
     Set("MoreAction", 1);
     const Values before = AllValues();
     Open();
+    SeeEveryPage();
     EXPECT_EQ(Changes(before, AllValues()), Values());
     EXPECT_EQ(Widget("LessOrMore").index, 1) << "every number but 0 is the second rule";
     EXPECT_EQ(Widget("MoreThan").text, "0");

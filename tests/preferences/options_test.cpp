@@ -150,6 +150,7 @@ TEST_F(PreferenceOptions, OfTheGraphWorkedOnceWriteTheirValueAndShowInTheMeter) 
 
 TEST_F(PreferenceOptions, TheCustomSpeedIsAnEighthOfWhatIsShownAndOutlastsAFixedOne) {
   RunOpen([&] {
+    SeeEveryPage();
     EXPECT_FALSE(Widget("CustomScale").enabled);
     Check({
         {"Graph Other",
@@ -350,6 +351,7 @@ TEST_F(PreferenceOptions, OpeningShowsWhatIsStoredAndChangesNoStoredValue) {
         machine.registry.Set(test::kSettingsKey, row.name, row.value);
         const Values before = AllValues();
         Open();
+        SeeEveryPage();
         EXPECT_TRUE(row.shows());
         EXPECT_EQ(Changes(before, AllValues()), Values());
       });
@@ -358,6 +360,7 @@ TEST_F(PreferenceOptions, OpeningShowsWhatIsStoredAndChangesNoStoredValue) {
       Run([&] {
         const Values before = AllValues();
         Open();
+        SeeEveryPage();
         EXPECT_TRUE(row.shows());
         EXPECT_EQ(Changes(before, AllValues()), Values());
       });

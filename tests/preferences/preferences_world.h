@@ -34,6 +34,14 @@ class PreferencesTest : public MeterTest {
     User().Choose("TreeItems", static_cast<int>(found - items.begin()));
   }
 
+  // One after the other, the first one again at the end: a page that was not seen has no controls
+  // that the user could look at.
+  void SeeEveryPage() {
+    for (int left = static_cast<int>(Widget("TreeItems").items.size()); left > 0; --left) {
+      User().Choose("TreeItems", left - 1);
+    }
+  }
+
   platform::memory::Windowing& User() { return machine.windowing; }
 
   // All values of the registry, by their path, as "type:bytes".

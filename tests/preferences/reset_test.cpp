@@ -120,6 +120,7 @@ TEST_F(Reset, WritesDefaultsOfItsOwnAndTheMeterTakesThem) {
     EXPECT_EQ(StoredText("GraphColor_Background"), "clBtnFace");
     EXPECT_EQ(Stored("GraphScaleType"), 77U);
     // The controls and the meter.
+    SeeEveryPage();
     EXPECT_EQ(Widget("AvarageTrackBar").position, 5);
     EXPECT_EQ(Widget("FontChoose").text, "Tahoma");
     EXPECT_EQ(Widget("UploadColor").background, 0xFF0000U);

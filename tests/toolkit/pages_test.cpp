@@ -1,13 +1,19 @@
 // Pages with and without tabs, the order of Tab, the layout.
 #include "tests/toolkit/form_fixture.h"
 #include "toolkit/controls/button.h"
+#include "toolkit/controls/check_box.h"
+#include "toolkit/controls/check_list_box.h"
 #include "toolkit/controls/edit.h"
 #include "toolkit/controls/group_box.h"
 #include "toolkit/controls/label.h"
 #include "toolkit/controls/layout.h"
 #include "toolkit/controls/notebook.h"
 #include "toolkit/controls/page_control.h"
+#include "toolkit/controls/progress_bar.h"
+#include "toolkit/controls/radio_button.h"
 #include "toolkit/controls/spin_edit.h"
+#include "toolkit/controls/track_bar.h"
+#include "toolkit/controls/tree_view.h"
 
 namespace toolkit {
 namespace {
@@ -80,6 +86,99 @@ TEST_F(Pages, ANotebookShowsThePageThatIsNamed) {
   EXPECT_FALSE(notebook.SetActivePage("BrisantoScript"));
   EXPECT_EQ(notebook.ActivePage(), "GraphGrids");
   EXPECT_TRUE(Peer("GraphGrids").visible);
+}
+
+// Every kind of control, each with something set, on a page that is not seen.
+struct Hidden {
+  explicit Hidden(Form& form) : notebook(form, "notebook") {
+    notebook.SetBounds({0, 0, 300, 300});
+    group.SetBounds({10, 10, 200, 60});
+    box.SetBounds({5, 20, 100, 17});
+    box.SetCaption("text");
+    box.SetChecked(true);
+    edit.SetMaxLength(6);
+    edit.SetText("12345");
+    edit.SetEnabled(false);
+    memo.SetReadOnly(true);
+    const std::vector<std::string> rows = {"a", "b", "c"};
+    list.SetItems(rows);
+    list.SetItemIndex(1);
+    list.SetChecked(2, true);
+    bar.SetRange(1, 9, 2);
+    bar.SetPosition(5);
+    progress.SetRange(0, 50);
+    progress.SetPosition(20);
+    const std::vector<platform::TreeItem> items = {{"root", 0}, {"leaf", 1}};
+    tree.SetItems(items);
+    tree.SetItemIndex(1);
+    chosen.SetChecked(true);
+    spin.SetBounds({10, 80, 80, 22});
+    spin.SetValue(42);
+    push.SetDefault(true);
+    push.SetVisible(false);
+    label.SetFontColour(platform::colour::kBlue);
+    for (std::function<void()>* handler :
+         {&box.OnClick, &edit.OnChange, &list.OnChange, &bar.OnChange, &tree.OnChange,
+          &chosen.OnClick, &spin.OnChange}) {
+      *handler = [this] { ++fired; };
+    }
+    list.OnClickCheck = [this](int) { ++fired; };
+  }
+
+  int fired = 0;
+  Notebook notebook;
+  NotebookPage seen{notebook, "seen"};
+  NotebookPage page{notebook, "page"};
+  GroupBox group{page, "group"};
+  CheckBox box{group, "box"};
+  Edit edit{page, "edit"};
+  Memo memo{page, "memo"};
+  CheckListBox list{page, "list"};
+  TrackBar bar{page, "bar"};
+  ProgressBar progress{page, "progress"};
+  TreeView tree{page, "tree"};
+  RadioButton other{page, "other"};
+  RadioButton chosen{page, "chosen"};
+  SpinEdit spin{page, "spin"};
+  Button push{page, "push"};
+  Label label{page, "label"};
+};
+
+TEST_F(Pages, WhatIsSetOnAHiddenOneIsThereWhenItIsShown) {
+  Hidden hidden(form);
+  form.Show();
+  EXPECT_FALSE(machine.windowing.Exists("box")) << "it would take time to open";
+  hidden.box.SetFocus();
+  EXPECT_FALSE(hidden.box.Focused());
+  EXPECT_EQ(hidden.group.ClientPixels(), (platform::Size{200, 60}));
+  hidden.notebook.SetActivePage("page");
+  EXPECT_EQ(hidden.fired, 0) << "the code did it all";
+  EXPECT_EQ(Peer("group").bounds, (platform::Rect{10, 10, 200, 60}));
+  EXPECT_EQ(Peer("box").bounds, (platform::Rect{5, 20, 100, 17}));
+  EXPECT_EQ(Peer("box").text, "text");
+  EXPECT_TRUE(Peer("box").checked && Peer("box").OnScreen());
+  EXPECT_EQ(Peer("edit").text, "12345");
+  EXPECT_EQ(Peer("edit").max_length, 6);
+  EXPECT_FALSE(Peer("edit").enabled);
+  EXPECT_EQ(Peer("edit").background, platform::colour::kWindow);
+  EXPECT_TRUE(Peer("memo").read_only);
+  EXPECT_EQ(Peer("list").index, 1);
+  EXPECT_EQ(Peer("list").row_checks, (std::vector<bool>{false, false, true}));
+  EXPECT_EQ(Peer("bar").position, 5);
+  EXPECT_EQ(Peer("bar").page, 2);
+  EXPECT_EQ(Peer("progress").highest, 50);
+  EXPECT_EQ(Peer("progress").position, 20);
+  EXPECT_EQ(Peer("tree").items.size(), 2U);
+  EXPECT_EQ(Peer("tree").index, 1);
+  EXPECT_TRUE(Peer("chosen").checked && !Peer("other").checked);
+  EXPECT_EQ(Peer("spin").text, "42");
+  EXPECT_EQ(Peer("spin").bounds, (platform::Rect{0, 0, 63, 22}));
+  EXPECT_TRUE(Peer("push").is_default && !Peer("push").visible);
+  EXPECT_EQ(Peer("label").text_colour, platform::colour::kBlue);
+  EXPECT_EQ(User().TabOrder("form"),
+            (std::vector<std::string>{"box", "memo", "list", "bar", "tree", "chosen", "spin"}));
+  User().Press("box");
+  EXPECT_EQ(hidden.fired, 1);
 }
 
 TEST_F(Pages, TheLayoutNamesWhatLeavesItsParentOrCoversAnother) {

@@ -1,17 +1,20 @@
 #include "toolkit/controls/button.h"
 
-#include <utility>
-
 #include "toolkit/application.h"
 #include "toolkit/forms/form.h"
 
 namespace toolkit {
 
 Button::Button(Control& parent, std::string_view name) : Control(parent.App(), &parent, name) {
-  auto button = App().Platform().windowing.CreateButton(PeerOf(parent), name,
-                                                        platform::ButtonKind::kPush, *this);
-  button_ = button.get();
-  Attach(std::move(button));
+  Attach([this](platform::Windowing& windowing, platform::Widget& on) {
+    return Remember(windowing.CreateButton(on, Name(), platform::ButtonKind::kPush, *this),
+                    button_);
+  });
+}
+
+void Button::SetDefault(bool is_default) {
+  default_ = is_default;
+  if (button_ != nullptr) button_->SetDefault(is_default);
 }
 
 void Button::Clicked() {

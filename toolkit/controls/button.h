@@ -11,10 +11,9 @@ class Button : public Control {
  public:
   Button(Control& parent, std::string_view name);
 
-  // Makes this the default button, which Enter presses anywhere in the form. A form has at most
-  // one.
-  void SetDefault(bool is_default) { button_->SetDefault(is_default); }
-  // Does what a click does.
+  // Pressed by Enter anywhere in the form; at most one of a form.
+  void SetDefault(bool is_default);
+  // What a click does.
   void Click() { Clicked(); }
 
   // A click ends the modal form that the button is on with this result, before OnClick runs. kNone
@@ -23,9 +22,11 @@ class Button : public Control {
 
  protected:
   void Clicked() override;
+  void Realised() override { button_->SetDefault(default_); }
 
  private:
-  platform::Button* button_;  // the peer, owned by Control
+  platform::Button* button_ = nullptr;  // the peer, owned by Control
+  bool default_ = false;
 };
 
 }  // namespace toolkit

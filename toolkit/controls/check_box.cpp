@@ -7,16 +7,16 @@
 namespace toolkit {
 
 CheckBox::CheckBox(Control& parent, std::string_view name) : Control(parent.App(), &parent, name) {
-  auto button = App().Platform().windowing.CreateButton(PeerOf(parent), name,
-                                                        platform::ButtonKind::kCheck, *this);
-  button_ = button.get();
-  Attach(std::move(button));
+  Attach([this](platform::Windowing& windowing, platform::Widget& on) {
+    return Remember(windowing.CreateButton(on, Name(), platform::ButtonKind::kCheck, *this),
+                    button_);
+  });
 }
 
 void CheckBox::SetChecked(bool checked) {
   if (checked == checked_) return;
   checked_ = checked;
-  button_->SetChecked(checked);
+  if (button_ != nullptr) button_->SetChecked(checked);
   Fire(OnClick);
 }
 

@@ -15,9 +15,10 @@ class CheckBox : public Control {
 
  protected:
   void Clicked() override;
+  void Realised() override { button_->SetChecked(checked_); }
 
  private:
-  platform::Button* button_;  // the peer, owned by Control
+  platform::Button* button_ = nullptr;  // the peer, owned by Control
   bool checked_ = false;
 };
 

@@ -19,7 +19,8 @@ class CheckListBox : public ListControl {
 
  protected:
   void OnRowChecked(int row) override;
-  void ItemsShown() override;
+  void Realised() override;
+  void ItemsReplaced() override;
   void RowRemoved(int row) override;
 
  private:

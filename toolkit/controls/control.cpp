@@ -28,8 +28,35 @@ Control::~Control() {
 void Control::Attach(std::unique_ptr<platform::Widget> peer) {
   peer_ = std::move(peer);
   ApplyFont();
-  peer_->SetColours(font_colour_, colour_);
-  if (parent_ != nullptr) peer_->SetVisible(visible_);
+  ApplyColours();
+}
+
+void Control::Attach(PeerMaker make) {
+  make_ = std::move(make);
+  if (parent_->peer_ && !parent_->children_wait_) Realise();
+}
+
+// What lies on it comes before its bounds, whose report places it.
+void Control::Realise() {
+  if (peer_ || !make_) return;
+  Attach(make_(app_.Platform().windowing, *parent_->peer_));
+  make_ = nullptr;
+  if (!caption_.empty()) peer_->SetText(caption_);
+  if (!enabled_) peer_->SetEnabled(false);
+  if (!children_wait_) RealiseChildren(*this);
+  if (align_ != Align::kNone) {
+    ParentRearranges();
+  } else if (bounds_ != platform::Rect{}) {
+    ApplyBounds();
+  }
+  peer_->SetVisible(visible_);
+  Realised();
+}
+
+void Control::RealiseChildren(Control& parent) {
+  if (!parent.peer_) RealiseChildren(*parent.parent_);
+  parent.children_wait_ = false;
+  for (Control* child : parent.children_) child->Realise();
 }
 
 Form& Control::ParentForm() { return parent_->ParentForm(); }
@@ -54,34 +81,38 @@ void Control::SetAlign(Align align) {
 void Control::SetCaption(std::string_view caption) {
   if (caption == caption_) return;
   caption_ = caption;
-  peer_->SetText(caption_);
+  if (peer_) peer_->SetText(caption_);
   CaptionChanged();
 }
 
 void Control::SetVisible(bool visible) {
   if (visible == visible_) return;
   visible_ = visible;
-  peer_->SetVisible(visible_);
+  if (peer_) peer_->SetVisible(visible_);
   ParentRearranges();
 }
 
 void Control::SetEnabled(bool enabled) {
   if (enabled == enabled_) return;
   enabled_ = enabled;
-  peer_->SetEnabled(enabled_);
+  if (peer_) peer_->SetEnabled(enabled_);
   EnabledChanged();
+}
+
+void Control::SetFocus() {
+  if (peer_) peer_->Focus();
 }
 
 void Control::SetColour(platform::Colour colour) {
   if (colour == colour_) return;
   colour_ = colour;
-  peer_->SetColours(font_colour_, colour_);
+  ApplyColours();
 }
 
 void Control::SetFontColour(platform::Colour colour) {
   if (colour == font_colour_) return;
   font_colour_ = colour;
-  peer_->SetColours(font_colour_, colour_);
+  ApplyColours();
 }
 
 void Control::SetFont(const platform::FontSpec& font) {
@@ -103,9 +134,16 @@ void Control::Fire(const std::function<void()>& handler) {
   app_.Guard(kept);
 }
 
-void Control::Invalidate() { peer_->Invalidate(); }
+void Control::Invalidate() {
+  if (peer_) peer_->Invalidate();
+}
 
-platform::Size Control::ClientPixels() const { return peer_->ClientSize(); }
+// What has no peer yet lies on a page, where nothing that holds others has a frame.
+platform::Size Control::ClientPixels() const {
+  if (peer_) return peer_->ClientSize();
+  const int dpi = parent_->ParentForm().Dpi();
+  return {ScaleTo(dpi, bounds_.width), ScaleTo(dpi, bounds_.height)};
+}
 
 int Control::Scale(int design_pixels) { return ScaleTo(ParentForm().Dpi(), design_pixels); }
 int Control::Unscale(int pixels) { return UnscaleFrom(ParentForm().Dpi(), pixels); }
@@ -117,10 +155,14 @@ platform::FontSpec Control::Scale(const platform::FontSpec& design) {
 }
 
 void Control::ApplyBounds() {
-  if (!peer_ || parent_ == nullptr) return;
+  if (parent_ == nullptr) return;
   platform::Rect bounds = Scale(bounds_);
   bounds.top -= parent_->ScrolledBy();
-  peer_->SetBounds(bounds);
+  Place(*this, bounds);
+}
+
+void Control::Place(const Control& control, const platform::Rect& pixels) {
+  if (control.peer_) control.peer_->SetBounds(pixels);
 }
 
 void Control::PlaceChildren() {
@@ -129,7 +171,13 @@ void Control::PlaceChildren() {
   }
 }
 
-void Control::ApplyFont() { peer_->SetFont(Scale(font_)); }
+void Control::ApplyFont() {
+  if (peer_) peer_->SetFont(Scale(font_));
+}
+
+void Control::ApplyColours() {
+  if (peer_) peer_->SetColours(font_colour_, colour_);
+}
 
 void Control::ParentRearranges() {
   if (parent_ != nullptr) parent_->ArrangeChildren(parent_->ChildArea());
@@ -140,16 +188,16 @@ void Control::ArrangeChildren(const platform::Rect& area) {
   for (Control* child : children_) {
     if (child->align_ != Align::kBottom || !child->visible_) continue;
     const int height = std::min(Scale(child->bounds_.height), left.height);
-    child->peer_->SetBounds({left.left, left.Bottom() - height, left.width, height});
+    Place(*child, {left.left, left.Bottom() - height, left.width, height});
     left.height -= height;
   }
   for (Control* child : children_) {
-    if (child->align_ == Align::kClient && child->visible_) child->peer_->SetBounds(left);
+    if (child->align_ == Align::kClient && child->visible_) Place(*child, left);
   }
 }
 
 platform::Rect Control::ChildArea() const {
-  const platform::Size size = peer_->ClientSize();
+  const platform::Size size = peer_ ? peer_->ClientSize() : platform::Size{};
   return {0, 0, size.width, size.height};
 }
 

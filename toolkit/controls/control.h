@@ -10,6 +10,10 @@
 
 #include "platform/widget.h"
 
+namespace platform {
+class Windowing;
+}
+
 namespace toolkit {
 
 class Application;
@@ -22,9 +26,13 @@ enum class Align {
   kClient,  // fills the area that is left
 };
 
-// Setting a property to its present value does nothing. A changed value fires the change handler
-// (OnClick of boxes, OnChange of the others), whether the user or the code changed it; a form gives
-// its controls the values of their design before it connects the handlers.
+// On a page that has not been seen a control has no peer yet: what is set is kept, and the peer
+// gets it all when the page is shown. So a form of many pages opens in the time that its first one
+// takes.
+//
+// Setting a property to the value that it has does nothing. A changed value fires the change
+// handler (OnClick of boxes, OnChange of the others), whether the user or the code changed it; a
+// form gives its controls the values of their design before it connects the handlers.
 //
 // The keyboard goes through the controls of a form in the order in which they were made: the
 // members of a form are declared in that order.
@@ -59,11 +67,10 @@ class Control : protected platform::WidgetEvents {
   [[nodiscard]] bool Enabled() const { return enabled_; }
   void SetEnabled(bool enabled);
 
-  // Gives the control the keyboard focus. Does nothing while the control, or one that it lies on,
-  // is hidden or disabled.
-  virtual void SetFocus() { peer_->Focus(); }
-  // Returns whether the keyboard focus is in the control or in one that lies on it.
-  [[nodiscard]] bool Focused() const { return peer_->HasFocus(); }
+  // Puts the keyboard into it; not while it, or what it lies on, is hidden or disabled.
+  virtual void SetFocus();
+  // Whether the keyboard is in it or in something that lies on it.
+  [[nodiscard]] bool Focused() const { return peer_ && peer_->HasFocus(); }
 
   // The background colour. Controls without a background of their own start with that of their
   // parent.
@@ -105,17 +112,37 @@ class Control : protected platform::WidgetEvents {
   std::function<void()> OnMouseLeft;
 
  protected:
-  // `parent` is null for a form. Attach must give the control its peer before anything else is
-  // called.
+  // Makes the peer on that of the parent.
+  using PeerMaker = std::function<std::unique_ptr<platform::Widget>(platform::Windowing& windowing,
+                                                                    platform::Widget& parent)>;
+
+  // `parent` is null for a form. Attach follows, before anything else is called.
   Control(Application& app, Control* parent, std::string_view name);
 
-  // Takes the native peer over and gives it the present properties.
+  // Of a form: takes the peer.
   void Attach(std::unique_ptr<platform::Widget> peer);
-  // Destroys the peer. A class whose members are used by the peer's reports calls this in its
-  // destructor, before those members are gone.
+  // Of all others: makes the peer, or does so when the page that they lie on is shown.
+  void Attach(PeerMaker make);
+  // Passes a new peer on and remembers it under its own type.
+  template <class Kind>
+  [[nodiscard]] static std::unique_ptr<Kind> Remember(std::unique_ptr<Kind> peer, Kind*& as) {
+    as = peer.get();
+    return peer;
+  }
+  // Destroys the peer; a class whose members hear its reports does so before they go.
   void Detach() { peer_.reset(); }
-  [[nodiscard]] platform::Widget& Peer() const { return *peer_; }
+  // Of a control that has one.
   [[nodiscard]] static platform::Widget& PeerOf(const Control& control) { return *control.peer_; }
+  // Gives the peer, if there is one, its bounds on that of the parent, in real pixels.
+  static void Place(const Control& control, const platform::Rect& pixels);
+
+  // What lies on it gets no peers until RealiseChildren; called before anything lies on it.
+  void LetChildrenWait() { children_wait_ = true; }
+  // Gives what lies on `parent` its peers, if it has none yet. Throws std::runtime_error when the
+  // system refuses one.
+  static void RealiseChildren(Control& parent);
+  // It has a peer now, which has the properties of all controls: gives it those of its kind.
+  virtual void Realised() {}
 
   // Runs a handler, if there is one, inside the guard. The handler may destroy the control.
   void Fire(const std::function<void()>& handler);
@@ -156,8 +183,10 @@ class Control : protected platform::WidgetEvents {
   void OnClicked() override;
 
  private:
+  void Realise();
   void ApplyBounds();
   void ApplyFont();
+  void ApplyColours();
   void ParentRearranges();
 
   Application& app_;
@@ -174,7 +203,9 @@ class Control : protected platform::WidgetEvents {
   platform::FontSpec font_;
   std::string hint_;
   PopupMenu* popup_menu_ = nullptr;
-  std::unique_ptr<platform::Widget> peer_;
+  bool children_wait_ = false;
+  PeerMaker make_;                          // until there is a peer
+  std::unique_ptr<platform::Widget> peer_;  // null until its page is shown
 };
 
 }  // namespace toolkit

@@ -17,9 +17,10 @@ class Edit : public Control {
   void SetText(std::string_view text);
 
   // Characters that the user can enter; 0 for no limit.
-  void SetMaxLength(int characters) { edit_->SetMaxLength(characters); }
-  void SetReadOnly(bool read_only) { edit_->SetReadOnly(read_only); }
-  void SelectAll() { edit_->SelectAll(); }
+  void SetMaxLength(int characters);
+  void SetReadOnly(bool read_only);
+  // What is typed next replaces the text.
+  void SelectAll();
 
   std::function<void()> OnChange;
 
@@ -27,10 +28,13 @@ class Edit : public Control {
   // The user has changed the text.
   virtual void TextEntered() { Fire(OnChange); }
   void OnChanged() override;
+  void Realised() override;
 
  private:
-  platform::Edit* edit_;  // the peer, owned by Control
+  platform::Edit* edit_ = nullptr;  // the peer, owned by Control
   std::string text_;
+  int max_length_ = 0;
+  bool read_only_ = false;
 };
 
 // Shows "x" for every character.

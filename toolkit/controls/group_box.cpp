@@ -5,8 +5,9 @@
 namespace toolkit {
 
 GroupBox::GroupBox(Control& parent, std::string_view name) : Control(parent.App(), &parent, name) {
-  Attach(App().Platform().windowing.CreateButton(PeerOf(parent), name, platform::ButtonKind::kGroup,
-                                                 *this));
+  Attach([this](platform::Windowing& windowing, platform::Widget& on) {
+    return windowing.CreateButton(on, Name(), platform::ButtonKind::kGroup, *this);
+  });
 }
 
 }  // namespace toolkit

@@ -6,7 +6,9 @@ namespace toolkit {
 
 Label::Label(Control& parent, std::string_view name, const platform::TextStyle& style)
     : Control(parent.App(), &parent, name) {
-  Attach(App().Platform().windowing.CreateText(PeerOf(parent), name, style, *this));
+  Attach([this, style](platform::Windowing& windowing, platform::Widget& on) {
+    return windowing.CreateText(on, Name(), style, *this);
+  });
 }
 
 }  // namespace toolkit

@@ -17,8 +17,9 @@ constexpr int kIndent = 4;
 
 LinkLabel::LinkLabel(Control& parent, std::string_view name)
     : Control(parent.App(), &parent, name) {
-  Attach(App().Platform().windowing.CreateButton(PeerOf(parent), name,
-                                                 platform::ButtonKind::kPainted, *this));
+  Attach([this](platform::Windowing& windowing, platform::Widget& on) {
+    return windowing.CreateButton(on, Name(), platform::ButtonKind::kPainted, *this);
+  });
   SetFontColour(kLinkColour);
 }
 

@@ -8,9 +8,9 @@ namespace toolkit {
 
 ListControl::ListControl(Control& parent, std::string_view name, platform::ListKind kind)
     : Control(parent.App(), &parent, name) {
-  auto list = App().Platform().windowing.CreateList(PeerOf(parent), name, kind, *this);
-  list_ = list.get();
-  Attach(std::move(list));
+  Attach([this, kind](platform::Windowing& windowing, platform::Widget& on) {
+    return Remember(windowing.CreateList(on, Name(), kind, *this), list_);
+  });
   SetColour(platform::colour::kWindow);
 }
 
@@ -35,19 +35,23 @@ void ListControl::Remove(int row) {
 // When the selected row moves up, the selection has not changed; when it is removed, the selection
 // has.
 void ListControl::ShowItems(int index) {
-  list_->SetItems(items_);
-  list_->SetIndex(index);
-  ItemsShown();
   const bool lost = index_ >= 0 && index < 0;
   index_ = index;
+  ItemsReplaced();
+  if (list_ != nullptr) Realised();
   if (lost) Fire(OnChange);
+}
+
+void ListControl::Realised() {
+  list_->SetItems(items_);
+  list_->SetIndex(index_);
 }
 
 void ListControl::SetItemIndex(int index) {
   const int wanted = index >= 0 && index < Count() ? index : -1;
   if (wanted == index_) return;
   index_ = wanted;
-  list_->SetIndex(index_);
+  if (list_ != nullptr) list_->SetIndex(index_);
   Fire(OnChange);
 }
 

@@ -36,16 +36,18 @@ class ListControl : public Control {
   ListControl(Control& parent, std::string_view name, platform::ListKind kind);
 
   void OnChanged() override;
-  [[nodiscard]] platform::ItemList& List() const { return *list_; }
-  // Is called when the peer has got new rows, which have no ticks.
-  virtual void ItemsShown() {}
-  // Is called when a row was removed, so that the data of the rows after it moves up.
+  void Realised() override;
+  // The peer; null while there is none.
+  [[nodiscard]] platform::ItemList* List() const { return list_; }
+  // There are other rows.
+  virtual void ItemsReplaced() {}
+  // A row was removed, the others are to move up.
   virtual void RowRemoved(int /*row*/) {}
 
  private:
   void ShowItems(int index);
 
-  platform::ItemList* list_;  // the peer, owned by Control
+  platform::ItemList* list_ = nullptr;  // the peer, owned by Control
   std::vector<std::string> items_;
   int index_ = -1;
 };

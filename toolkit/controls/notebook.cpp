@@ -14,6 +14,7 @@ bool Notebook::SetActivePage(std::string_view name) {
   });
   if (found == pages_.end()) return false;
   if (*found == active_) return true;
+  RealiseChildren(**found);
   NotebookPage* before = active_;
   active_ = *found;
   active_->SetVisible(true);
@@ -36,7 +37,7 @@ void Notebook::Remove(NotebookPage& page) {
 
 // The hidden ones too, so that nothing moves when they are shown.
 void Notebook::PlacePages() {
-  for (const NotebookPage* page : pages_) PeerOf(*page).SetBounds(ChildArea());
+  for (const NotebookPage* page : pages_) Place(*page, ChildArea());
 }
 
 void Notebook::Rescale() {
@@ -45,8 +46,9 @@ void Notebook::Rescale() {
 }
 
 NotebookPage::NotebookPage(Notebook& pages, std::string_view name)
-    : Panel(pages, name, platform::SurfaceKind::kPage), pages_(pages) {
+    : Panel(pages, name), pages_(pages) {
   pages_.Add(*this);
+  if (!Visible()) LetChildrenWait();
 }
 
 }  // namespace toolkit

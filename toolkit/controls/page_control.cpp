@@ -8,10 +8,11 @@ namespace toolkit {
 
 PageControl::PageControl(Control& parent, std::string_view name)
     : Control(parent.App(), &parent, name) {
-  auto tabs = App().Platform().windowing.CreateTabs(PeerOf(parent), name, *this);
-  tabs_ = tabs.get();
-  Attach(std::move(tabs));
-  SetColour(tabs_->PageColour());  // the pages take this colour over
+  RealiseChildren(parent);  // the system is asked for the colour now
+  Attach([this](platform::Windowing& windowing, platform::Widget& on) {
+    return Remember(windowing.CreateTabs(on, Name(), *this), tabs_);
+  });
+  SetColour(tabs_->PageColour());  // the pages take it over
 }
 
 void PageControl::Add(TabSheet& page) {
@@ -36,7 +37,7 @@ void PageControl::ShowCaptions() {
 
 // Places the hidden pages too, so that nothing moves when they are shown.
 void PageControl::PlacePages() {
-  for (const TabSheet* page : pages_) PeerOf(*page).SetBounds(ChildArea());
+  for (const TabSheet* page : pages_) Place(*page, ChildArea());
 }
 
 void PageControl::Rescale() {

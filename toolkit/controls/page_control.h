@@ -40,7 +40,7 @@ class PageControl : public Control {
   void PlacePages();
   void ShowPage(int index);
 
-  platform::Tabs* tabs_;  // the peer, owned by Control
+  platform::Tabs* tabs_ = nullptr;  // the peer, owned by Control
   std::vector<TabSheet*> pages_;
   int active_ = -1;
 };

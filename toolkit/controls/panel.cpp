@@ -9,9 +9,10 @@ constexpr int kBevelWidth = 1;  // real pixels: a hair line on every screen
 
 }  // namespace
 
-Panel::Panel(Control& parent, std::string_view name, platform::SurfaceKind kind)
-    : Control(parent.App(), &parent, name) {
-  Attach(App().Platform().windowing.CreateSurface(PeerOf(parent), name, kind, *this));
+Panel::Panel(Control& parent, std::string_view name) : Control(parent.App(), &parent, name) {
+  Attach([this](platform::Windowing& windowing, platform::Widget& on) {
+    return windowing.CreateSurface(on, Name(), *this);
+  });
 }
 
 void Panel::SetBevels(BevelCut outer, BevelCut inner) {

@@ -1,7 +1,6 @@
 // An area with bevels that holds other controls.
 #pragma once
 
-#include "platform/windowing.h"
 #include "toolkit/controls/bevel.h"
 #include "toolkit/controls/control.h"
 
@@ -9,8 +8,7 @@ namespace toolkit {
 
 class Panel : public Control {
  public:
-  Panel(Control& parent, std::string_view name,
-        platform::SurfaceKind kind = platform::SurfaceKind::kArea);
+  Panel(Control& parent, std::string_view name);
 
   void SetBevels(BevelCut outer, BevelCut inner);
 

@@ -8,13 +8,25 @@ namespace toolkit {
 
 ProgressBar::ProgressBar(Control& parent, std::string_view name)
     : Control(parent.App(), &parent, name) {
-  auto bar = App().Platform().windowing.CreateProgressBar(PeerOf(parent), name, *this);
-  bar_ = bar.get();
-  Attach(std::move(bar));
+  Attach([this](platform::Windowing& windowing, platform::Widget& on) {
+    return Remember(windowing.CreateProgressBar(on, Name(), *this), bar_);
+  });
+}
+
+void ProgressBar::Realised() {
+  bar_->SetRange(lowest_, highest_);
+  bar_->SetPosition(position_);
+}
+
+void ProgressBar::SetRange(int lowest, int highest) {
+  lowest_ = lowest;
+  highest_ = highest;
+  if (bar_ != nullptr) bar_->SetRange(lowest, highest);
 }
 
 void ProgressBar::SetPosition(int position) {
-  if (std::exchange(position_, position) != position) bar_->SetPosition(position);
+  const bool changes = std::exchange(position_, position) != position;
+  if (changes && bar_ != nullptr) bar_->SetPosition(position);
 }
 
 }  // namespace toolkit

@@ -11,12 +11,17 @@ class ProgressBar : public Control {
  public:
   ProgressBar(Control& parent, std::string_view name);
 
-  void SetRange(int lowest, int highest) { bar_->SetRange(lowest, highest); }
+  void SetRange(int lowest, int highest);
   [[nodiscard]] int Position() const { return position_; }
   void SetPosition(int position);
 
+ protected:
+  void Realised() override;
+
  private:
-  platform::ProgressBar* bar_;  // the peer, owned by Control
+  platform::ProgressBar* bar_ = nullptr;  // the peer, owned by Control
+  int lowest_ = 0;
+  int highest_ = 100;
   int position_ = 0;
 };
 

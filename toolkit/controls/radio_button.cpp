@@ -9,10 +9,10 @@ namespace toolkit {
 
 RadioButton::RadioButton(Control& parent, std::string_view name)
     : Control(parent.App(), &parent, name) {
-  auto button = App().Platform().windowing.CreateButton(PeerOf(parent), name,
-                                                        platform::ButtonKind::kRadio, *this);
-  button_ = button.get();
-  Attach(std::move(button));
+  Attach([this](platform::Windowing& windowing, platform::Widget& on) {
+    return Remember(windowing.CreateButton(on, Name(), platform::ButtonKind::kRadio, *this),
+                    button_);
+  });
 }
 
 std::vector<RadioButton*> RadioButton::Group() {
@@ -31,7 +31,7 @@ std::vector<RadioButton*> RadioButton::Group() {
 
 void RadioButton::Mark(bool checked) {
   checked_ = checked;
-  button_->SetChecked(checked);
+  if (button_ != nullptr) button_->SetChecked(checked);
 }
 
 void RadioButton::Choose() {

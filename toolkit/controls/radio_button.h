@@ -19,13 +19,14 @@ class RadioButton : public Control {
 
  protected:
   void Clicked() override;
+  void Realised() override { button_->SetChecked(checked_); }
 
  private:
   [[nodiscard]] std::vector<RadioButton*> Group();
   void Mark(bool checked);
   void Choose();
 
-  platform::Button* button_;  // the peer, owned by Control
+  platform::Button* button_ = nullptr;  // the peer, owned by Control
   bool checked_ = false;
 };
 

@@ -98,8 +98,9 @@ class SpinEdit::Arrow final : public Control {
         by_(by),
         wait_(App(), kRepeatsAfter, [this] { BeginRepeating(); }),
         repeat_(App(), kRepeatsEvery, [this] { spin_.Move(by_); }) {
-    Attach(App().Platform().windowing.CreateSurface(PeerOf(spin), name,
-                                                    platform::SurfaceKind::kArea, *this));
+    Attach([this](platform::Windowing& windowing, platform::Widget& on) {
+      return windowing.CreateSurface(on, Name(), *this);
+    });
   }
   ~Arrow() override { Detach(); }
 
@@ -167,8 +168,9 @@ class SpinEdit::Arrow final : public Control {
 
 SpinEdit::SpinEdit(Control& parent, std::string_view name)
     : Control(parent.App(), &parent, std::string(name)) {
-  Attach(App().Platform().windowing.CreateSurface(PeerOf(parent), "", platform::SurfaceKind::kArea,
-                                                  *this));
+  Attach([this](platform::Windowing& windowing, platform::Widget& on) {
+    return windowing.CreateSurface(on, "", *this);
+  });
   const std::string own(name);
   field_ = std::make_unique<Field>(*this, own);
   up_ = std::make_unique<Arrow>(*this, own + "Up", 1);
@@ -239,9 +241,9 @@ void SpinEdit::Resized() {
   const int width = std::min(Scale(kArrowWidth), size.width);
   const int half = size.height / 2;
   const int left = size.width - width;
-  PeerOf(*field_).SetBounds({0, 0, left, size.height});
-  PeerOf(*up_).SetBounds({left, 0, width, half});
-  PeerOf(*down_).SetBounds({left, half, width, size.height - half});
+  Place(*field_, {0, 0, left, size.height});
+  Place(*up_, {left, 0, width, half});
+  Place(*down_, {left, half, width, size.height - half});
 }
 
 void SpinEdit::EnabledChanged() {

@@ -8,15 +8,21 @@
 namespace toolkit {
 
 TrackBar::TrackBar(Control& parent, std::string_view name) : Control(parent.App(), &parent, name) {
-  auto bar = App().Platform().windowing.CreateTrackBar(PeerOf(parent), name, *this);
-  bar_ = bar.get();
-  Attach(std::move(bar));
+  Attach([this](platform::Windowing& windowing, platform::Widget& on) {
+    return Remember(windowing.CreateTrackBar(on, Name(), *this), bar_);
+  });
+}
+
+void TrackBar::Realised() {
+  if (page_ > 0) bar_->SetRange(lowest_, highest_, page_);
+  bar_->SetPosition(position_);
 }
 
 void TrackBar::SetRange(int lowest, int highest, int page) {
   lowest_ = lowest;
   highest_ = std::max(lowest, highest);
-  bar_->SetRange(lowest_, highest_, page);
+  page_ = page;
+  if (bar_ != nullptr) bar_->SetRange(lowest_, highest_, page_);
   SetPosition(position_);
 }
 
@@ -24,7 +30,7 @@ void TrackBar::SetPosition(int position) {
   const int wanted = std::clamp(position, lowest_, highest_);
   if (wanted == position_) return;
   position_ = wanted;
-  bar_->SetPosition(position_);
+  if (bar_ != nullptr) bar_->SetPosition(position_);
   Fire(OnChange);
 }
 

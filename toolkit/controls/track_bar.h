@@ -23,11 +23,13 @@ class TrackBar : public Control {
 
  protected:
   void OnChanged() override;
+  void Realised() override;
 
  private:
-  platform::TrackBar* bar_;  // the peer, owned by Control
+  platform::TrackBar* bar_ = nullptr;  // the peer, owned by Control
   int lowest_ = 0;
   int highest_ = 100;
+  int page_ = 0;  // until it is set, the system's
   int position_ = 0;
 };
 

@@ -7,25 +7,33 @@
 namespace toolkit {
 
 TreeView::TreeView(Control& parent, std::string_view name) : Control(parent.App(), &parent, name) {
-  auto tree = App().Platform().windowing.CreateTree(PeerOf(parent), name, *this);
-  tree_ = tree.get();
-  Attach(std::move(tree));
+  Attach([this](platform::Windowing& windowing, platform::Widget& on) {
+    return Remember(windowing.CreateTree(on, Name(), *this), tree_);
+  });
   SetColour(platform::colour::kWindow);
 }
 
 void TreeView::SetItems(std::span<const platform::TreeItem> items) {
-  count_ = static_cast<int>(items.size());
-  tree_->SetItems(items);
-  const int kept = index_ < count_ ? index_ : -1;
-  tree_->SetIndex(kept);
-  if (std::exchange(index_, kept) != kept) Fire(OnChange);
+  items_.assign(items.begin(), items.end());
+  const int before = std::exchange(index_, index_ < Count() ? index_ : -1);
+  if (tree_ != nullptr) Realised();
+  if (index_ != before) Fire(OnChange);
+}
+
+void TreeView::Realised() {
+  tree_->SetItems(items_);
+  tree_->SetIndex(index_);
+}
+
+void TreeView::FullExpand() {
+  if (tree_ != nullptr) tree_->ExpandAll();
 }
 
 void TreeView::SetItemIndex(int index) {
-  const int wanted = index >= 0 && index < count_ ? index : -1;
+  const int wanted = index >= 0 && index < Count() ? index : -1;
   if (wanted == index_) return;
   index_ = wanted;
-  tree_->SetIndex(index_);
+  if (tree_ != nullptr) tree_->SetIndex(index_);
   Fire(OnChange);
 }
 

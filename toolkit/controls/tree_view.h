@@ -3,6 +3,7 @@
 
 #include <functional>
 #include <span>
+#include <vector>
 
 #include "platform/controls.h"
 #include "toolkit/controls/control.h"
@@ -18,18 +19,21 @@ class TreeView : public Control {
   // The number of the selected item, counted in the expanded tree; -1 means none.
   [[nodiscard]] int ItemIndex() const { return index_; }
   void SetItemIndex(int index);
-  // Expands the items that the user has collapsed.
-  void FullExpand() { tree_->ExpandAll(); }
+  // Expands what the user has collapsed.
+  void FullExpand();
 
   // Runs when another item is selected.
   std::function<void()> OnChange;
 
  protected:
   void OnChanged() override;
+  void Realised() override;
 
  private:
-  platform::Tree* tree_;  // the peer, owned by Control
-  int count_ = 0;
+  [[nodiscard]] int Count() const { return static_cast<int>(items_.size()); }
+
+  platform::Tree* tree_ = nullptr;  // the peer, owned by Control
+  std::vector<platform::TreeItem> items_;
   int index_ = -1;
 };
 

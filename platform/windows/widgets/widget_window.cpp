@@ -1,7 +1,6 @@
 #include "platform/windows/widgets/widget_window.h"
 
 #include "platform/windows/wide.h"
-#include "platform/windows/widgets/late_widgets.h"
 #include "platform/windows/widgets/native_control.h"
 #include "platform/windows/windows/dialog_keys.h"
 
@@ -48,13 +47,7 @@ HWND ControlOf(const Message& message) {
 
 }  // namespace
 
-HWND WidgetWindow::Of(Widget& widget) {
-  if (const auto* late = dynamic_cast<LateWidget*>(&widget)) {
-    late->Need();
-    return Of(*late->Made());
-  }
-  return dynamic_cast<WidgetWindow&>(widget).hwnd();
-}
+HWND WidgetWindow::Of(Widget& widget) { return dynamic_cast<WidgetWindow&>(widget).hwnd(); }
 
 void WidgetWindow::SetText(std::string_view text) {
   // The same text again would repaint and be read out again.

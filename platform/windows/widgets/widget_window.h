@@ -24,8 +24,7 @@ enum class KeyTaker { kDialog, kWindow, kNobody };
 
 class WidgetWindow : public NativeWindow {
  public:
-  // Of a widget that this folder made; the system's own window behind it. A late one gets it now;
-  // throws std::runtime_error when the system refuses that.
+  // Of a widget that this folder made; the system's own window behind it.
   [[nodiscard]] static HWND Of(Widget& widget);
   // The object behind a window; null when it is none of this program's widgets.
   [[nodiscard]] static WidgetWindow* Of(HWND hwnd) {

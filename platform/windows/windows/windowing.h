@@ -1,29 +1,26 @@
 // Makes the program's windows.
 #pragma once
 
-#include <functional>
 #include <map>
 #include <memory>
 #include <string>
 
 #include "platform/windowing.h"
 #include "platform/windows/drawing/drawing.h"
-#include "platform/windows/widgets/late_widgets.h"
 #include "platform/windows/windows/application_window.h"
 
 namespace platform::windows {
 
 class Windowing final : public platform::Windowing {
  public:
-  // `drawing` and `timers` outlive the object, and the object outlives every widget.
-  Windowing(Drawing& drawing, platform::Timers& timers);
+  // `drawing` outlives this; this outlives every widget.
+  explicit Windowing(Drawing& drawing);
 
   void SetApplicationTitle(std::string_view title) override;
   void HideTaskbarButton() override;
   [[nodiscard]] std::unique_ptr<platform::TopWindow> CreateTopWindow(
       const TopWindowParams& params, platform::TopWindow* owner, TopWindowEvents& events) override;
   [[nodiscard]] std::unique_ptr<Widget> CreateSurface(Widget& parent, std::string_view name,
-                                                      SurfaceKind kind,
                                                       WidgetEvents& events) override;
   [[nodiscard]] std::unique_ptr<Widget> CreateText(Widget& parent, std::string_view name,
                                                    const TextStyle& style,
@@ -47,14 +44,7 @@ class Windowing final : public platform::Windowing {
                                                                WidgetEvents& events) override;
 
  private:
-  // Returns what `make` makes on the window of `parent`: at once, or as a `Late` widget when that
-  // window is not seen.
-  template <class Late, class Interface>
-  [[nodiscard]] std::unique_ptr<Interface> Make(
-      Widget& parent, std::function<std::unique_ptr<Interface>(HWND)> make);
-
   Drawing& drawing_;
-  LateWidgets late_;
   WindowClass surface_class_{"TremoluxSurface"};
   std::map<std::string, WindowClass, std::less<>> form_classes_;  // by the form's name
   WindowClass application_class_{"TremoluxApplication"};
