@@ -158,10 +158,10 @@ void Control::ApplyBounds() {
   if (parent_ == nullptr) return;
   platform::Rect bounds = Scale(bounds_);
   bounds.top -= parent_->ScrolledBy();
-  Place(*this, bounds);
+  PlacePixels(*this, bounds);
 }
 
-void Control::Place(const Control& control, const platform::Rect& pixels) {
+void Control::PlacePixels(const Control& control, const platform::Rect& pixels) {
   if (control.peer_) control.peer_->SetBounds(pixels);
 }
 
@@ -188,11 +188,11 @@ void Control::ArrangeChildren(const platform::Rect& area) {
   for (Control* child : children_) {
     if (child->align_ != Align::kBottom || !child->visible_) continue;
     const int height = std::min(Scale(child->bounds_.height), left.height);
-    Place(*child, {left.left, left.Bottom() - height, left.width, height});
+    PlacePixels(*child, {left.left, left.Bottom() - height, left.width, height});
     left.height -= height;
   }
   for (Control* child : children_) {
-    if (child->align_ == Align::kClient && child->visible_) Place(*child, left);
+    if (child->align_ == Align::kClient && child->visible_) PlacePixels(*child, left);
   }
 }
 

@@ -134,7 +134,7 @@ class Control : protected platform::WidgetEvents {
   // Of a control that has one.
   [[nodiscard]] static platform::Widget& PeerOf(const Control& control) { return *control.peer_; }
   // Gives the peer, if there is one, its bounds on that of the parent, in real pixels.
-  static void Place(const Control& control, const platform::Rect& pixels);
+  static void PlacePixels(const Control& control, const platform::Rect& pixels);
 
   // What lies on it gets no peers until RealiseChildren; called before anything lies on it.
   void LetChildrenWait() { children_wait_ = true; }

@@ -37,7 +37,7 @@ void Notebook::Remove(NotebookPage& page) {
 
 // The hidden ones too, so that nothing moves when they are shown.
 void Notebook::PlacePages() {
-  for (const NotebookPage* page : pages_) Place(*page, ChildArea());
+  for (const NotebookPage* page : pages_) PlacePixels(*page, ChildArea());
 }
 
 void Notebook::Rescale() {

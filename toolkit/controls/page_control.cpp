@@ -37,7 +37,7 @@ void PageControl::ShowCaptions() {
 
 // Places the hidden pages too, so that nothing moves when they are shown.
 void PageControl::PlacePages() {
-  for (const TabSheet* page : pages_) Place(*page, ChildArea());
+  for (const TabSheet* page : pages_) PlacePixels(*page, ChildArea());
 }
 
 void PageControl::Rescale() {
