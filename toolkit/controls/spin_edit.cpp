@@ -241,9 +241,9 @@ void SpinEdit::Resized() {
   const int width = std::min(Scale(kArrowWidth), size.width);
   const int half = size.height / 2;
   const int left = size.width - width;
-  Place(*field_, {0, 0, left, size.height});
-  Place(*up_, {left, 0, width, half});
-  Place(*down_, {left, half, width, size.height - half});
+  PlacePixels(*field_, {0, 0, left, size.height});
+  PlacePixels(*up_, {left, 0, width, half});
+  PlacePixels(*down_, {left, half, width, size.height - half});
 }
 
 void SpinEdit::EnabledChanged() {
