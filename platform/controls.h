@@ -38,9 +38,10 @@ class Button : public Widget {
  public:
   virtual void SetChecked(bool checked) = 0;
   [[nodiscard]] virtual bool Checked() const = 0;
-  // Pressed by Enter anywhere in the window, unless another push button has the keyboard; at most
-  // one of a window.
+  // The look of a push button that Enter presses.
   virtual void SetDefault(bool is_default) = 0;
+  // As by a click of the user (BM_CLICK).
+  virtual void Press() = 0;
 };
 
 enum class EditKind { kLine, kPassword, kMemo };
@@ -100,7 +101,7 @@ class Tree : public Widget {
 };
 
 // A row of tabs over an area for the pages (SysTabControl32), which are made as its children.
-// Choosing a tab, also by Ctrl+Tab anywhere in the window: OnChanged.
+// Choosing a tab: OnChanged.
 class Tabs : public Widget {
  public:
   // The chosen tab stays the one with the same number, or is the first.

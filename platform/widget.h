@@ -62,6 +62,8 @@ class WidgetEvents {
 
   // The keyboard left an edit, whoever moved it.
   virtual void OnFocusLost() {}
+  // It came to a push button or left it.
+  virtual void OnFocusChanged() {}
 };
 
 // A native control. Destroying it removes it from the screen. Calls after the window system took it
@@ -82,8 +84,6 @@ class Widget {
   virtual void SetVisible(bool visible) = 0;
   // Its own flag, whatever its parents are.
   [[nodiscard]] virtual bool Visible() const = 0;
-  // Hiding or disabling what has the keyboard passes it on to the control that follows in the order
-  // of Tab (platform/windowing.h).
   virtual void SetEnabled(bool enabled) = 0;
   [[nodiscard]] virtual bool Enabled() const = 0;
 

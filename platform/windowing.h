@@ -13,12 +13,6 @@ namespace platform {
 // Every `events` must outlive its widget. Widgets are made hidden with bounds of zero; a failure of
 // the system throws std::runtime_error. `name` lets tests and screen readers of other programs find
 // the widget; it may be empty.
-//
-// The keyboard in a window with a caption: Tab goes through its controls in the order in which they
-// were made, those on a surface in the place of the surface; of radio buttons that exclude each
-// other it takes the chosen one, and the arrow keys move among them. Alt with the marked letter
-// reaches a control; Enter presses the default button; Esc is OnCancelKey; Ctrl+Tab goes to the
-// next of the tabs that the keyboard is in, or of the first ones.
 class Windowing {
  public:
   virtual ~Windowing() = default;

@@ -13,6 +13,8 @@ class PicturePanel final : public toolkit::Control {
  public:
   PicturePanel(toolkit::Control& parent, std::string_view name);
 
+  [[nodiscard]] toolkit::KeyRole Role() const override { return toolkit::KeyRole::kPush; }
+
   // Shows the pictures of a file, or else of `fallback`, or else none.
   void Load(const std::string& path, const std::string& fallback);
 

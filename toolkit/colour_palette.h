@@ -27,6 +27,8 @@ class ColourPalette : public Control {
   // The user wants the chosen colour: a double click, or Enter or the space bar.
   std::function<void()> OnConfirm;
 
+  [[nodiscard]] KeyRole Role() const override { return KeyRole::kPush; }
+
  protected:
   void Paint(platform::Canvas& canvas) override;
   void OnMouseDown(const platform::MouseEvent& event) override;

@@ -107,6 +107,10 @@ struct WidgetState {
   [[nodiscard]] bool IsButton(ButtonKind wanted) const {
     return kind == Kind::kButton && button == wanted;
   }
+  [[nodiscard]] bool IsPush() const {
+    return IsButton(ButtonKind::kPush) || IsButton(ButtonKind::kPainted);
+  }
+  [[nodiscard]] bool TakesKeyboard() const;
   // The rows of a drop-down list are also its text.
   void Select(int row);
   // Its client area as the user sees it, children not included; of the system's own controls only

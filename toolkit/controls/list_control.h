@@ -13,6 +13,7 @@ namespace toolkit {
 
 class ListControl : public Control {
  public:
+  [[nodiscard]] KeyRole Role() const override { return KeyRole::kStop; }
   [[nodiscard]] const std::vector<std::string>& Items() const { return items_; }
   // Replaces the rows. The selection stays at its row, if there still is one of that number; boxes
   // keep their ticks in the same way.

@@ -16,10 +16,13 @@ class PageControl : public Control {
  public:
   PageControl(Control& parent, std::string_view name);
 
+  [[nodiscard]] KeyRole Role() const override { return KeyRole::kStop; }
   [[nodiscard]] int PageCount() const { return static_cast<int>(pages_.size()); }
   // The page that is seen; the first one as soon as there is one.
   [[nodiscard]] int ActivePageIndex() const { return active_; }
   void SetActivePageIndex(int index);
+  // To the page that is so many behind, around the ends.
+  void Step(int by);
 
   // Another page is seen.
   std::function<void()> OnChange;

@@ -12,6 +12,7 @@ class TrackBar : public Control {
  public:
   TrackBar(Control& parent, std::string_view name);
 
+  [[nodiscard]] KeyRole Role() const override { return KeyRole::kStop; }
   // `page` is the step of the page keys. Moves the position into the range.
   void SetRange(int lowest, int highest, int page);
   [[nodiscard]] int Position() const { return position_; }

@@ -14,6 +14,7 @@ class TreeView : public Control {
  public:
   TreeView(Control& parent, std::string_view name);
 
+  [[nodiscard]] KeyRole Role() const override { return KeyRole::kStop; }
   // Replaces the items; the selection stays at its number, if there still is such an item.
   void SetItems(std::span<const platform::TreeItem> items);
   // The number of the selected item, as it stands in the expanded tree; -1 for none.
