@@ -39,9 +39,10 @@ class Button : public Widget {
  public:
   virtual void SetChecked(bool checked) = 0;
   [[nodiscard]] virtual bool Checked() const = 0;
-  // Makes this the default button: Enter presses it anywhere in the window, unless another push
-  // button has the focus. A window has at most one.
+  // The look of a push button that Enter presses.
   virtual void SetDefault(bool is_default) = 0;
+  // As by a click of the user (BM_CLICK).
+  virtual void Press() = 0;
 };
 
 enum class EditKind { kLine, kPassword, kMemo };
@@ -102,7 +103,7 @@ class Tree : public Widget {
 };
 
 // A row of tabs over an area for the pages (SysTabControl32), which are made as its children.
-// Choosing a tab, also by Ctrl+Tab anywhere in the window, reports OnChanged.
+// Choosing a tab: OnChanged.
 class Tabs : public Widget {
  public:
   // Replaces the tabs. The chosen tab keeps its number, or is the first when that number is gone.

@@ -33,6 +33,22 @@ struct Scroll {
   bool operator==(const Scroll&) const = default;
 };
 
+// A key that moves about in a window or ends it.
+struct DialogKey {
+  enum class Kind {
+    kTab,
+    kControlTab,
+    kEnter,
+    kEscape,
+    kArrow,
+    kLetter,  // with Alt, or where the control with the keyboard takes no letters
+  };
+  Kind kind = Kind::kTab;
+  bool backwards = false;  // Tab with Shift; an arrow to the left or upwards
+  std::string letter = {};
+  bool operator==(const DialogKey&) const = default;
+};
+
 class TopWindowEvents : public WidgetEvents {
  public:
   // The user or the system asks to close the window; nothing has happened yet.
@@ -61,8 +77,12 @@ class TopWindowEvents : public WidgetEvents {
   virtual void OnResume() {}
   // The Windows session ends now; the process may be gone when this returns.
   virtual void OnEndSession() {}
-  // Esc was pressed and no control of the window wanted it.
-  virtual void OnCancelKey() {}
+  // A key was pressed in a window with a caption, and the control with the keyboard did not keep
+  // it: a list that is dropped down keeps Enter and Esc, a memo Enter, an edit whatever OnKey says.
+  // True when it is done with; the window may be gone then. Otherwise the control gets it.
+  virtual bool OnDialogKey(const DialogKey&) { return false; }
+  // A window with a caption became active, and no control had the keyboard when it last was.
+  virtual void OnFocusWanted() {}
   // A system colour or setting changed.
   virtual void OnSettingChange() {}
 };
@@ -71,9 +91,9 @@ enum class Activation { kActivate, kLeaveFocus };
 
 class TopWindow : public Widget {
  public:
-  // Shows the window. kLeaveFocus never takes the focus from the program that the user works in. A
-  // hidden dialog that is activated has the focus in its first control; when it is hidden again, it
-  // gives the focus back to the window that had it.
+  // Shows it; kLeaveFocus never takes the keyboard from the program that the user works in. A
+  // dialog that was hidden and is activated wants the keyboard in a control; hidden again, it
+  // gives the keyboard back to the window that had it.
   virtual void Show(Activation activation) = 0;
 
   // Puts the window above all windows that are not topmost, or ends that, without moving, sizing or
@@ -114,8 +134,10 @@ class TopWindow : public Widget {
   // between.
   [[nodiscard]] virtual bool UnderPointer() const = 0;
 
-  // Brings the window to the front and activates it, or the system dialog above it when there is
-  // one.
+  // Shows from now on which letters are marked and what has the keyboard (WM_CHANGEUISTATE).
+  virtual void ShowKeyMarks() = 0;
+
+  // To the front and active; with a dialog of the system above it, that is active.
   virtual void Raise() = 0;
 
   [[nodiscard]] virtual int Dpi() const = 0;

@@ -62,6 +62,8 @@ class WidgetEvents {
 
   // An edit lost the focus, whether the user or the code moved it.
   virtual void OnFocusLost() {}
+  // It came to a push button or left it.
+  virtual void OnFocusChanged() {}
 };
 
 // A native control. Destroying it removes it from the screen. After the window system has destroyed
@@ -83,8 +85,6 @@ class Widget {
   virtual void SetVisible(bool visible) = 0;
   // Returns the control's own flag, whether or not its parents are visible.
   [[nodiscard]] virtual bool Visible() const = 0;
-  // When the control with the focus is hidden or disabled, the focus passes to the control that
-  // follows in the order of Tab (platform/windowing.h).
   virtual void SetEnabled(bool enabled) = 0;
   [[nodiscard]] virtual bool Enabled() const = 0;
 

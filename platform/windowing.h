@@ -13,13 +13,6 @@ namespace platform {
 // Every `events` must outlive its widget. Widgets are made hidden with bounds of zero; a failure of
 // the system throws std::runtime_error. `name` lets tests and screen readers of other programs find
 // the widget; it may be empty.
-//
-// The keyboard works like this in a window with a caption. Tab goes through the controls in the
-// order in which they were made, with the controls on a surface in the place of the surface. Of
-// radio buttons that exclude each other, Tab goes to the chosen one, and the arrow keys move among
-// them. Alt with the marked letter reaches a control, Enter presses the default button, and Esc
-// reports OnCancelKey. Ctrl+Tab goes to the next tab of the Tabs control that has the focus, or of
-// the first one in the window.
 class Windowing {
  public:
   virtual ~Windowing() = default;

@@ -13,7 +13,9 @@ class PicturePanel final : public toolkit::Control {
  public:
   PicturePanel(toolkit::Control& parent, std::string_view name);
 
-  // Shows the pictures of the file at `path`, or else those of `fallback`, or else none.
+  [[nodiscard]] toolkit::KeyRole Role() const override { return toolkit::KeyRole::kPush; }
+
+  // Shows the pictures of a file, or else of `fallback`, or else none.
   void Load(const std::string& path, const std::string& fallback);
 
   // The size of the whole panel in design pixels.

@@ -27,6 +27,8 @@ class ColourPalette : public Control {
   // Runs when the user confirms the chosen colour with a double click, Enter or the space bar.
   std::function<void()> OnConfirm;
 
+  [[nodiscard]] KeyRole Role() const override { return KeyRole::kPush; }
+
  protected:
   void Paint(platform::Canvas& canvas) override;
   void OnMouseDown(const platform::MouseEvent& event) override;

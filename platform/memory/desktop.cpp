@@ -29,53 +29,24 @@ void Desktop::MoveFocus(WidgetState* to) {
     top.top_events->OnFocusMoved(
         {at.x - origin.x, at.y - origin.y, to->bounds.width, to->bounds.height});
   }
-  if (from == nullptr) return;
-  from->focused = false;
-  from->all_selected = false;
-  if (from->kind == WidgetState::Kind::kEdit) from->events->OnFocusLost();
-}
-
-void Desktop::FocusFirst(const WidgetState& top) {
-  const std::vector<WidgetState*> stops = StopsIn(top);
-  MoveFocus(stops.empty() ? nullptr : stops.front());
-}
-
-void Desktop::PassFocusOn(const WidgetState& leaving) {
-  if (focused_ == nullptr || !focused_->IsIn(leaving)) return;
-  if (leaving.kind == WidgetState::Kind::kTopWindow) {
-    MoveFocus(nullptr);
-    return;
+  if (from != nullptr) {
+    from->focused = false;
+    from->all_selected = false;
+    if (from->kind == WidgetState::Kind::kEdit) from->events->OnFocusLost();
   }
-  const WidgetState& top = TopOf(leaving);
-  if (!TakesDialogKeys(top)) return;
-  std::vector<WidgetState*> following = ReachableIn(top);
-  const auto begin = std::find(following.begin(), following.end(), &leaving);
-  std::rotate(following.begin(), begin, following.end());
-  for (WidgetState* next : following) {
-    if (next->IsIn(leaving) || !IsStop(*next)) continue;
-    MoveFocus(next);
-    return;
+  for (WidgetState* each : {from, to}) {
+    if (Alive(each) && each->IsPush()) each->events->OnFocusChanged();
   }
 }
 
-std::vector<WidgetState*> Desktop::ReachableIn(const WidgetState& top) const {
-  std::vector<WidgetState*> found;
-  if (top.Reachable()) Collect(top, found);
-  return found;
-}
-
-void Desktop::Collect(const WidgetState& parent, std::vector<WidgetState*>& found) const {
-  for (WidgetState* state : widgets_) {
-    if (state->parent != &parent || !state->visible || !state->enabled) continue;
-    found.push_back(state);
-    Collect(*state, found);
+void Desktop::Click(WidgetState& state) const {
+  if (state.IsButton(ButtonKind::kGroup)) return;
+  if (state.IsButton(ButtonKind::kCheck)) state.checked = !state.checked;
+  if (state.IsButton(ButtonKind::kRadio)) {
+    if (state.checked) return;
+    for (WidgetState* other : GroupOf(state)) other->checked = other == &state;
   }
-}
-
-std::vector<WidgetState*> Desktop::StopsIn(const WidgetState& top) const {
-  std::vector<WidgetState*> stops = ReachableIn(top);
-  std::erase_if(stops, [this](const WidgetState* state) { return !IsStop(*state); });
-  return stops;
+  state.events->OnClicked();
 }
 
 std::vector<WidgetState*> Desktop::GroupOf(const WidgetState& radio) const {
@@ -93,34 +64,6 @@ std::vector<WidgetState*> Desktop::GroupOf(const WidgetState& radio) const {
     }
   }
   return group;
-}
-
-bool Desktop::IsStop(const WidgetState& state) const {
-  switch (state.kind) {
-    case WidgetState::Kind::kTopWindow:
-    case WidgetState::Kind::kSurface:
-    case WidgetState::Kind::kText:
-    case WidgetState::Kind::kProgressBar:
-      return false;
-    case WidgetState::Kind::kButton:
-      if (state.button == ButtonKind::kGroup) return false;
-      return state.button != ButtonKind::kRadio || StopOfGroup(state) == &state;
-    default:
-      return true;
-  }
-}
-
-// The one with the keyboard, else the checked one, else the first, of those that can be reached.
-const WidgetState* Desktop::StopOfGroup(const WidgetState& radio) const {
-  const WidgetState* first = nullptr;
-  const WidgetState* checked = nullptr;
-  for (const WidgetState* each : GroupOf(radio)) {
-    if (!each->Reachable()) continue;
-    if (each->focused) return each;
-    if (first == nullptr) first = each;
-    if (checked == nullptr && each->checked) checked = each;
-  }
-  return checked != nullptr ? checked : first;
 }
 
 bool Desktop::TakesDialogKeys(const WidgetState& top) {

@@ -34,26 +34,16 @@ class Desktop {
   [[nodiscard]] WidgetState* Focused() const { return focused_; }
   // Puts the keyboard there, null for nowhere, and tells the edit that it leaves.
   void MoveFocus(WidgetState* to);
-  void FocusFirst(const WidgetState& top);
-  // Before `leaving` is hidden or disabled: if the keyboard is in it, the control that follows gets
-  // it.
-  void PassFocusOn(const WidgetState& leaving);
-
-  // The widgets of a top window that the user can reach, children behind their parent.
-  [[nodiscard]] std::vector<WidgetState*> ReachableIn(const WidgetState& top) const;
-  // Those that Tab stops at.
-  [[nodiscard]] std::vector<WidgetState*> StopsIn(const WidgetState& top) const;
-  // Radio buttons that exclude each other: those of the same parent, one made after the other.
-  [[nodiscard]] std::vector<WidgetState*> GroupOf(const WidgetState& radio) const;
+  // What a click on it does.
+  void Click(WidgetState& state) const;
 
   // Whether a top window has the keys of a dialog.
   [[nodiscard]] static bool TakesDialogKeys(const WidgetState& top);
   [[nodiscard]] static const WidgetState& TopOf(const WidgetState& state);
 
  private:
-  void Collect(const WidgetState& parent, std::vector<WidgetState*>& found) const;
-  [[nodiscard]] bool IsStop(const WidgetState& state) const;
-  [[nodiscard]] const WidgetState* StopOfGroup(const WidgetState& radio) const;
+  // Radio buttons that exclude each other: those of the same parent, one made after the other.
+  [[nodiscard]] std::vector<WidgetState*> GroupOf(const WidgetState& radio) const;
 
   Screen& screen_;
   std::vector<WidgetState*> widgets_;

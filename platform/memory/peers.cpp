@@ -48,14 +48,13 @@ void Peer::SetBounds(const Rect& bounds) {
 }
 
 void Peer::SetVisible(bool visible) {
-  if (!visible) desktop_.PassFocusOn(state_);
+  if (!visible && state_.kind == WidgetState::Kind::kTopWindow && HasFocus()) {
+    desktop_.MoveFocus(nullptr);
+  }
   state_.visible = visible;
 }
 
-void Peer::SetEnabled(bool enabled) {
-  if (!enabled) desktop_.PassFocusOn(state_);
-  state_.enabled = enabled;
-}
+void Peer::SetEnabled(bool enabled) { state_.enabled = enabled; }
 
 void Peer::SetColours(Colour text, Colour background) {
   state_.text_colour = text;
@@ -185,7 +184,7 @@ void TopWindowPeer::SetBounds(const Rect& bounds) {
 
 void TopWindowPeer::Focus() {
   if (Desktop::TakesDialogKeys(state_)) {
-    if (!HasFocus()) desktop_.FocusFirst(state_);
+    if (!HasFocus()) state_.top_events->OnFocusWanted();
   } else {
     PeerOf::Focus();
   }

@@ -83,6 +83,7 @@ class ButtonPeer final : public PeerOf<Button> {
   void SetChecked(bool checked) override { state_.checked = checked; }
   [[nodiscard]] bool Checked() const override { return state_.checked; }
   void SetDefault(bool is_default) override { state_.is_default = is_default; }
+  void Press() override { desktop_.Click(state_); }
 };
 
 class EditPeer final : public PeerOf<Edit> {
@@ -164,6 +165,7 @@ class TopWindowPeer final : public PeerOf<TopWindow> {
   void SetShape(std::span<const Rect> parts) override;
   void ResetShape() override;
   [[nodiscard]] bool UnderPointer() const override { return desktop_.UnderPointer(state_); }
+  void ShowKeyMarks() override {}
   void Raise() override { ++state_.raised; }
   [[nodiscard]] int Dpi() const override { return state_.dpi; }
 };

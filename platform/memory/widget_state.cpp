@@ -21,6 +21,18 @@ bool WidgetState::IsIn(const WidgetState& other) const {
   return this == &other || (parent != nullptr && parent->IsIn(other));
 }
 
+bool WidgetState::TakesKeyboard() const {
+  switch (kind) {
+    case Kind::kTopWindow:
+    case Kind::kSurface:
+    case Kind::kText:
+    case Kind::kProgressBar:
+      return false;
+    default:
+      return !IsButton(ButtonKind::kGroup);
+  }
+}
+
 void WidgetState::Select(int row) {
   index = row >= 0 && row < static_cast<int>(items.size()) ? row : -1;
   const bool drops_down = list == ListKind::kCombo || list == ListKind::kFontCombo;

@@ -108,7 +108,11 @@ struct WidgetState {
   [[nodiscard]] bool IsButton(ButtonKind wanted) const {
     return kind == Kind::kButton && button == wanted;
   }
-  // Selects a row. In a drop-down list the selected row is also the text.
+  [[nodiscard]] bool IsPush() const {
+    return IsButton(ButtonKind::kPush) || IsButton(ButtonKind::kPainted);
+  }
+  [[nodiscard]] bool TakesKeyboard() const;
+  // The rows of a drop-down list are also its text.
   void Select(int row);
   // Returns the client area as the user sees it, without the children. Of the system's own controls
   // it shows only the background.

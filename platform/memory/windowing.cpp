@@ -92,8 +92,14 @@ std::string Windowing::Focused() const {
 }
 
 std::vector<std::string> Windowing::TabOrder(std::string_view window) {
+  WidgetState* before = desktop_.Focused();
+  desktop_.MoveFocus(nullptr);
   std::vector<std::string> names;
-  for (const WidgetState* stop : desktop_.StopsIn(Find(window))) names.push_back(stop->name);
+  for (PressTab(window); !Focused().empty(); PressTab(window)) {
+    if (!names.empty() && names.front() == Focused()) break;
+    names.push_back(Focused());
+  }
+  desktop_.MoveFocus(before);
   return names;
 }
 

@@ -52,7 +52,8 @@ class Windowing final : public platform::Windowing {
   [[nodiscard]] bool Exists(std::string_view name) const;
   // The name of the control with the keyboard; empty for none.
   [[nodiscard]] std::string Focused() const;
-  // The controls of a window that Tab stops at now, in its order.
+  // The controls of a window that Tab stops at now, in its order: goes through them with Tab once,
+  // and back to where the keyboard was.
   [[nodiscard]] std::vector<std::string> TabOrder(std::string_view window);
 
   // The user's doings. Controls that are hidden or disabled, also through a parent, do not hear
@@ -89,7 +90,7 @@ class Windowing final : public platform::Windowing {
   void PressCtrlTab(std::string_view window, bool backwards = false);
   // Alt and the letter that a control is marked with.
   void PressAlt(std::string_view window, char letter);
-  // An arrow key, among radio buttons.
+  // An arrow key, upwards or down.
   void PressArrow(std::string_view window, bool backwards = false);
 
   // Moves a top window by dragging, in one go from where it is.
@@ -122,9 +123,9 @@ class Windowing final : public platform::Windowing {
   [[nodiscard]] WidgetState* Reach(std::string_view name);
   [[nodiscard]] WidgetState* Reach(std::string_view name, WidgetState::Kind kind);
   [[nodiscard]] WidgetState* ReachDialog(std::string_view window);
-  void Click(WidgetState& state);
   void EnterLetter(WidgetState& edit, std::string_view letter);
-  void ChooseTab(WidgetState& tabs, int by);
+  // Tells the window of a key; true when it is done with.
+  bool Report(std::string_view window, const DialogKey& key);
   void ForAllWindows(const std::function<void(TopWindowEvents&)>& report);
 };
 

@@ -1,6 +1,5 @@
 // What the keyboard does in windows and controls.
 #include <algorithm>
-#include <stdexcept>
 
 #include "platform/memory/windowing.h"
 #include "platform/text.h"
@@ -9,32 +8,6 @@ namespace platform::memory {
 namespace {
 
 using Kind = WidgetState::Kind;
-
-// The neighbour of `from` in a ring that is not empty; the first or last when it is not in it.
-WidgetState* Neighbour(const std::vector<WidgetState*>& ring, const WidgetState* from,
-                       bool backwards) {
-  const auto at = std::find(ring.begin(), ring.end(), from);
-  if (backwards) return at == ring.begin() || at == ring.end() ? ring.back() : *(at - 1);
-  return at == ring.end() || at + 1 == ring.end() ? ring.front() : *(at + 1);
-}
-
-bool IsPush(const WidgetState& state) {
-  return state.IsButton(ButtonKind::kPush) || state.IsButton(ButtonKind::kPainted);
-}
-
-bool MarksKey(const WidgetState& state) {
-  if (state.kind == Kind::kText) return state.text_style.mnemonic;
-  return state.kind == Kind::kButton && state.button != ButtonKind::kPainted;
-}
-
-char MarkedKey(const std::string& text) {
-  for (std::size_t at = 0; at + 1 < text.size(); ++at) {
-    if (text[at] != '&') continue;
-    ++at;
-    if (text[at] != '&') return AsciiLower(text.substr(at, 1))[0];
-  }
-  return '\0';
-}
 
 std::size_t Characters(const std::string& text) {
   return static_cast<std::size_t>(
@@ -102,93 +75,32 @@ void Windowing::PressEnter(std::string_view window) {
       return;
     }
   }
-  WidgetState* pressed = nullptr;
-  for (WidgetState* state : desktop_.ReachableIn(*top)) {
-    if (!IsPush(*state)) continue;
-    if (state->is_default && pressed == nullptr) pressed = state;
-    if (state->focused) pressed = state;
-  }
-  if (pressed != nullptr) pressed->events->OnClicked();
+  Report(window, {DialogKey::Kind::kEnter});
 }
 
-void Windowing::PressEsc(std::string_view window) {
-  if (WidgetState* top = ReachDialog(window)) top->top_events->OnCancelKey();
+bool Windowing::Report(std::string_view window, const DialogKey& key) {
+  const WidgetState* top = ReachDialog(window);
+  return top != nullptr && top->top_events->OnDialogKey(key);
 }
+
+void Windowing::PressEsc(std::string_view window) { Report(window, {DialogKey::Kind::kEscape}); }
 
 void Windowing::PressTab(std::string_view window, bool backwards) {
-  const WidgetState* top = ReachDialog(window);
-  if (top == nullptr) return;
-  const std::vector<WidgetState*> stops = desktop_.StopsIn(*top);
-  if (stops.empty()) return;
-  WidgetState* next = Neighbour(stops, desktop_.Focused(), backwards);
-  desktop_.MoveFocus(next);
-  if (desktop_.Alive(next) && next->kind == Kind::kEdit) {
-    next->all_selected = next->edit.kind != EditKind::kMemo;
-  }
+  Report(window, {DialogKey::Kind::kTab, backwards});
 }
 
 void Windowing::PressCtrlTab(std::string_view window, bool backwards) {
-  const WidgetState* top = ReachDialog(window);
-  if (top == nullptr) return;
-  WidgetState* chosen = nullptr;
-  for (WidgetState* state : desktop_.ReachableIn(*top)) {
-    if (state->kind != Kind::kTabs) continue;
-    if (chosen == nullptr) chosen = state;
-    if (desktop_.Focused() != nullptr && desktop_.Focused()->IsIn(*state)) {
-      chosen = state;
-      break;
-    }
-  }
-  if (chosen != nullptr) ChooseTab(*chosen, backwards ? -1 : 1);
-}
-
-void Windowing::ChooseTab(WidgetState& tabs, int by) {
-  const int count = static_cast<int>(tabs.items.size());
-  if (count < 2) return;
-  tabs.Select((tabs.index + by + count) % count);
-  tabs.events->OnChanged();
+  Report(window, {DialogKey::Kind::kControlTab, backwards});
 }
 
 void Windowing::PressAlt(std::string_view window, char letter) {
-  const WidgetState* top = ReachDialog(window);
-  if (top == nullptr) return;
-  const std::vector<WidgetState*> widgets = desktop_.ReachableIn(*top);
-  std::vector<WidgetState*> from_focus = widgets;
-  const auto focused = std::find(from_focus.begin(), from_focus.end(), desktop_.Focused());
-  if (focused != from_focus.end()) std::rotate(from_focus.begin(), focused + 1, from_focus.end());
-  const char wanted = AsciiLower(std::string(1, letter))[0];
-  const auto marked =
-      std::find_if(from_focus.begin(), from_focus.end(), [wanted](const WidgetState* state) {
-        return MarksKey(*state) && MarkedKey(state->text) == wanted;
-      });
-  if (marked == from_focus.end()) return;
-  WidgetState* state = *marked;
-  if (state->kind == Kind::kButton && state->button != ButtonKind::kGroup) {
-    desktop_.MoveFocus(state);
-    if (desktop_.Alive(state)) Click(*state);
-    return;
-  }
-  const std::vector<WidgetState*> stops = desktop_.StopsIn(*top);
-  for (auto next = std::find(widgets.begin(), widgets.end(), state); next != widgets.end();
-       ++next) {
-    if (std::find(stops.begin(), stops.end(), *next) == stops.end()) continue;
-    desktop_.MoveFocus(*next);
-    return;
-  }
+  Report(window, {DialogKey::Kind::kLetter, false, std::string(1, letter)});
 }
 
 void Windowing::PressArrow(std::string_view window, bool backwards) {
   WidgetState* focused = desktop_.Focused();
-  const WidgetState* top = ReachDialog(window);
-  if (top == nullptr || focused == nullptr || !focused->IsIn(*top)) return;
-  if (!focused->IsButton(ButtonKind::kRadio)) {
-    throw std::logic_error("the keyboard is in no radio button");
-  }
-  std::vector<WidgetState*> group = desktop_.GroupOf(*focused);
-  std::erase_if(group, [](const WidgetState* radio) { return !radio->Reachable(); });
-  WidgetState* next = Neighbour(group, focused, backwards);
-  desktop_.MoveFocus(next);
-  if (desktop_.Alive(next)) Click(*next);
+  if (Report(window, {DialogKey::Kind::kArrow, backwards}) || !desktop_.Alive(focused)) return;
+  if (focused->kind == Kind::kEdit) focused->events->OnKey(backwards ? Key::kUp : Key::kDown);
 }
 
 }  // namespace platform::memory

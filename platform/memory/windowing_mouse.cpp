@@ -39,10 +39,7 @@ void Windowing::PressMouse(std::string_view name, Point at, MouseButton button) 
   WidgetState* state = Reach(name);
   if (state == nullptr) return;
   // A click brings the keyboard to what can have it.
-  const std::vector<WidgetState*> stops = desktop_.StopsIn(Desktop::TopOf(*state));
-  const bool takes_it = std::find(stops.begin(), stops.end(), state) != stops.end() ||
-                        state->IsButton(ButtonKind::kRadio);
-  if (button == MouseButton::kLeft && takes_it) desktop_.MoveFocus(state);
+  if (button == MouseButton::kLeft && state->TakesKeyboard()) desktop_.MoveFocus(state);
   if (!desktop_.Alive(state)) return;
   state->events->OnMouseDown({at, button, button == MouseButton::kLeft});
 }
@@ -75,19 +72,8 @@ void Windowing::Press(std::string_view name) {
   WidgetState* state = Reach(name);
   if (state == nullptr) return;
   PressMouse(name);
-  if (desktop_.Alive(state) && state->Reachable()) Click(*state);
+  if (desktop_.Alive(state) && state->Reachable()) desktop_.Click(*state);
   if (desktop_.Alive(state)) ReleaseMouse(name);
-}
-
-// What a click does to a control, and its report.
-void Windowing::Click(WidgetState& state) {
-  if (state.IsButton(ButtonKind::kGroup)) return;
-  if (state.IsButton(ButtonKind::kCheck)) state.checked = !state.checked;
-  if (state.IsButton(ButtonKind::kRadio)) {
-    if (state.checked) return;
-    for (WidgetState* other : desktop_.GroupOf(state)) other->checked = other == &state;
-  }
-  state.events->OnClicked();
 }
 
 void Windowing::Choose(std::string_view name, int index) {

@@ -31,11 +31,13 @@ struct Reports : platform::WidgetEvents {
   bool OnCharacter(char16_t unit) override { return keep_digits && unit >= u'0' && unit <= u'9'; }
   void OnWheel(int notches) override { turned += notches; }
   void OnFocusLost() override { ++focus_lost; }
+  void OnFocusChanged() override { ++focus_changes; }
 
   int clicks = 0;
   int changes = 0;
   int turned = 0;
   int focus_lost = 0;
+  int focus_changes = 0;
   std::vector<int> rows;
   std::vector<platform::Key> keys;
   bool keep_keys = false;
@@ -44,8 +46,15 @@ struct Reports : platform::WidgetEvents {
 };
 
 struct DialogReports : platform::TopWindowEvents {
-  void OnCancelKey() override { ++cancels; }
-  int cancels = 0;
+  // As a window in which the arrows move nothing: the control gets them.
+  bool OnDialogKey(const platform::DialogKey& key) override {
+    keys.push_back(key);
+    return key.kind != platform::DialogKey::Kind::kArrow;
+  }
+  void OnFocusWanted() override { ++focus_wanted; }
+
+  std::vector<platform::DialogKey> keys;
+  int focus_wanted = 0;
 };
 
 class ControlsTest : public testing::Test {

@@ -60,19 +60,37 @@ TEST_F(NativeControlsTest, ControlsTakeTheColoursThatTheyAreGiven) {
 
 TEST_F(NativeControlsTest, TheButtonThatEnterPressesHasTheThickFrame) {
   Reports silent;
-  const auto edit = Edit("edit", EditKind::kLine, silent);
   const auto ok = Button("ok", ButtonKind::kPush, silent);
-  const auto other = Button("other", ButtonKind::kPush, silent);
-  ok->SetDefault(true);
+  for (const bool is_default : {true, false}) {
+    ok->SetDefault(is_default);
+    const LONG_PTR style = ::GetWindowLongPtrW(Find("ok"), GWL_STYLE) & BS_TYPEMASK;
+    EXPECT_EQ(style == BS_DEFPUSHBUTTON, is_default);
+  }
+}
+
+TEST_F(NativeControlsTest, AnOpenListAndATreeKeepTheirKeysFromTheWindow) {
+  Reports silent;
+  const auto list =
+      Placed(Windowing().CreateList(*dialog_, "list", platform::ListKind::kCombo, silent));
+  const auto tree = Placed(Windowing().CreateTree(*dialog_, "tree", silent), 60);
+  const auto box = Button("box", ButtonKind::kCheck, silent);
+  const std::vector<std::string> items = {"a", "b"};
+  list->SetItems(items);
   Show();
-  const auto thick = [](const char* name) {
-    return (::GetWindowLongPtrW(Find(name), GWL_STYLE) & BS_TYPEMASK) == BS_DEFPUSHBUTTON;
+  list->Focus();
+  for (const WPARAM key : {VK_RETURN, VK_ESCAPE}) {
+    ::SendMessageW(Find("list"), CB_SHOWDROPDOWN, TRUE, 0);
+    key == VK_RETURN ? desk_->PressEnter("T_frmControls") : desk_->PressEsc("T_frmControls");
+    EXPECT_EQ(::SendMessageW(Find("list"), CB_GETDROPPEDSTATE, 0, 0), FALSE);
+  }
+  const auto letter = [this](const char* control) {
+    ::PostMessageW(Find(control), WM_CHAR, L'd', 1);
+    (void)desk_->Platform().message_loop.ProcessPending();
   };
-  EXPECT_TRUE(thick("ok") && !thick("other"));
-  other->Focus();
-  EXPECT_TRUE(!thick("ok") && thick("other")) << "it has the keyboard";
-  edit->Focus();
-  EXPECT_TRUE(thick("ok") && !thick("other"));
+  letter("tree");
+  EXPECT_EQ(dialog_reports_.keys, std::vector<platform::DialogKey>());
+  letter("box");
+  EXPECT_EQ(dialog_reports_.keys.size(), 1U);
 }
 
 TEST_F(NativeControlsTest, APasswordIsShownAsLettersX) {

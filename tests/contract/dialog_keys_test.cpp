@@ -1,181 +1,92 @@
-// The keyboard in windows with a caption.
+// The keys that a window with a caption hears of, and those that its controls keep.
 #include "platform/windowing.h"
 #include "tests/contract/controls_fixture.h"
 
 namespace contract {
 namespace {
 
-using platform::Activation;
 using platform::ButtonKind;
+using platform::DialogKey;
 using platform::EditKind;
-using platform::Widget;
 
 constexpr const char* kDialog = "T_frmControls";
 
 class DialogKeysTest : public ControlsTest {
  protected:
-  void Show() { dialog_->Show(Activation::kActivate); }
+  void Show() { dialog_->Show(platform::Activation::kActivate); }
 };
 
-TEST_F(DialogKeysTest, TabGoesThroughTheControlsInOrderOfCreation) {
+TEST_F(DialogKeysTest, TheWindowHearsOfEachKey) {
+  using Kind = DialogKey::Kind;
   Reports silent;
-  const auto label = Placed(Windowing().CreateText(*dialog_, "label", {}, silent));
-  const auto first = Edit("first", EditKind::kLine, silent);
-  const auto surface = Placed(Windowing().CreateSurface(*dialog_, "surface", silent), 80);
-  const auto off = Button("off", ButtonKind::kPush, silent);
-  const auto unchosen = Button("unchosen", ButtonKind::kRadio, silent);
-  const auto chosen = Button("chosen", ButtonKind::kRadio, silent);
-  const auto last = Button("last", ButtonKind::kPush, silent);
-  // Made last, but they lie on the surface.
-  const auto inner = Windowing().CreateButton(*surface, "inner", ButtonKind::kCheck, silent);
-  const auto hidden = Windowing().CreateButton(*surface, "hidden", ButtonKind::kPush, silent);
-  inner->SetVisible(true);
-  off->SetEnabled(false);
-  chosen->SetChecked(true);
+  const auto box = Button("box", ButtonKind::kCheck, silent);
   Show();
-  EXPECT_TRUE(first->HasFocus()) << "a dialog begins in its first control";
-
-  const std::vector<const Widget*> round = {inner.get(), chosen.get(), last.get(), first.get()};
-  for (const Widget* next : round) {
-    desk_->PressTab(kDialog, false);
-    EXPECT_TRUE(next->HasFocus());
+  EXPECT_EQ(dialog_reports_.focus_wanted, 1) << "no control has had the keyboard";
+  box->Focus();
+  for (const bool backwards : {false, true}) {
+    desk_->PressTab(kDialog, backwards);
+    desk_->PressCtrlTab(kDialog, backwards);
+    desk_->PressArrow(kDialog, backwards);
   }
-  for (const Widget* next : {last.get(), chosen.get(), inner.get()}) {
-    desk_->PressTab(kDialog, true);
-    EXPECT_TRUE(next->HasFocus());
-  }
-  EXPECT_TRUE(surface->HasFocus()) << "it lies on it";
+  desk_->PressEnter(kDialog);
+  desk_->PressEsc(kDialog);
+  desk_->PressAlt(kDialog, 'd');
+  const std::vector<DialogKey> keys = {{Kind::kTab, false},
+                                       {Kind::kControlTab, false},
+                                       {Kind::kArrow, false},
+                                       {Kind::kTab, true},
+                                       {Kind::kControlTab, true},
+                                       {Kind::kArrow, true},
+                                       {Kind::kEnter},
+                                       {Kind::kEscape},
+                                       {Kind::kLetter, false, "d"}};
+  EXPECT_EQ(dialog_reports_.keys, keys);
+  dialog_->SetEnabled(false);
+  desk_->PressEsc(kDialog);
+  EXPECT_EQ(dialog_reports_.keys, keys) << "it is disabled by another one";
 }
 
-TEST_F(DialogKeysTest, TabSelectsTheTextThatItComesTo) {
-  Reports reports;
-  const auto first = Button("first", ButtonKind::kPush, reports);
-  const auto edit = Edit("edit", EditKind::kLine, reports);
-  edit->SetText("old");
-  Show();
-  desk_->PressTab(kDialog, false);
-  desk_->Type("edit", "n");
-  EXPECT_EQ(edit->Text(), "n");
-  EXPECT_EQ(reports.focus_lost, 0);
-  desk_->PressTab(kDialog, false);
-  EXPECT_EQ(reports.focus_lost, 1);
-}
-
-TEST_F(DialogKeysTest, EnterPressesTheDefaultButtonUnlessSomethingElseWantsIt) {
-  Reports on_edit, on_default, on_other, on_memo;
+TEST_F(DialogKeysTest, WhatAControlWantsForItselfStaysWithIt) {
+  Reports on_edit, on_memo;
   const auto edit = Edit("edit", EditKind::kLine, on_edit);
   const auto memo = Edit("memo", EditKind::kMemo, on_memo);
-  const auto surface = Placed(Windowing().CreateSurface(*dialog_, "surface", on_memo), 40);
-  const auto ok = Windowing().CreateButton(*surface, "ok", ButtonKind::kPush, on_default);
-  const auto other = Button("other", ButtonKind::kPush, on_other);
-  ok->SetVisible(true);
-  ok->SetDefault(true);
   Show();
-  desk_->PressEnter(kDialog);
-  EXPECT_EQ(on_default.clicks, 1) << "though it lies on a surface";
-  EXPECT_TRUE(edit->HasFocus()) << "the keyboard stays where it is";
+  edit->Focus();
+  desk_->Type("edit", "d");
   on_edit.keep_keys = true;
   desk_->PressEnter(kDialog);
-  EXPECT_EQ(on_default.clicks, 1) << "the edit kept it";
-  other->Focus();
-  desk_->PressEnter(kDialog);
-  EXPECT_EQ(on_default.clicks, 1);
-  EXPECT_EQ(on_other.clicks, 1) << "it has the keyboard";
   memo->Focus();
   desk_->PressEnter(kDialog);
   EXPECT_EQ(memo->Text(), "\n");
-  ok->SetEnabled(false);
-  on_edit.keep_keys = false;
+  EXPECT_EQ(dialog_reports_.keys, std::vector<DialogKey>());
+  EXPECT_EQ(on_edit.focus_lost, 1);
   edit->Focus();
-  desk_->PressEnter(kDialog);
-  EXPECT_EQ(on_default.clicks, 1) << "it is disabled";
-}
-
-TEST_F(DialogKeysTest, EscIsReportedByTheDialog) {
-  Reports silent;
-  const auto memo = Edit("memo", EditKind::kMemo, silent);
-  Show();
-  desk_->PressEsc(kDialog);
-  EXPECT_EQ(dialog_reports_.cancels, 1);
-  dialog_->SetEnabled(false);
-  desk_->PressEsc(kDialog);
-  EXPECT_EQ(dialog_reports_.cancels, 1) << "it is disabled by another one";
-}
-
-TEST_F(DialogKeysTest, CtrlTabGoesThroughTheTabsFromAnywhere) {
-  Reports on_tabs, silent;
-  const auto edit = Edit("edit", EditKind::kLine, silent);
-  const auto tabs = Placed(Windowing().CreateTabs(*dialog_, "tabs", on_tabs), 60);
-  const std::vector<std::string> captions = {"a", "b", "c"};
-  tabs->SetItems(captions);
-  Show();
-  std::vector<int> chosen;
-  on_tabs.on_changed = [&] { chosen.push_back(tabs->Index()); };
-  for (const bool backwards : {false, false, false, true, true}) {
-    desk_->PressCtrlTab(kDialog, backwards);
-  }
-  EXPECT_EQ(chosen, (std::vector<int>{1, 2, 0, 2, 1}));
-  EXPECT_TRUE(edit->HasFocus());
-}
-
-TEST_F(DialogKeysTest, ArrowsChooseAmongRadioButtons) {
-  Reports reports[3];
-  const auto a = Button("a", ButtonKind::kRadio, reports[0]);
-  const auto off = Button("off", ButtonKind::kRadio, reports[1]);
-  const auto c = Button("c", ButtonKind::kRadio, reports[2]);
-  const auto after = Button("after", ButtonKind::kPush, reports[1]);
-  off->SetEnabled(false);
-  a->SetChecked(true);
-  Show();
+  on_edit.keys.clear();
   desk_->PressArrow(kDialog, false);
-  EXPECT_TRUE(!a->Checked() && c->Checked() && c->HasFocus());
-  EXPECT_EQ(reports[2].clicks, 1);
-  desk_->PressArrow(kDialog, false);
-  EXPECT_TRUE(a->Checked() && a->HasFocus()) << "around the end";
-  desk_->PressArrow(kDialog, true);
-  EXPECT_TRUE(c->Checked());
-  EXPECT_EQ(reports[2].clicks, 2);
+  EXPECT_EQ(on_edit.keys, std::vector<platform::Key>{platform::Key::kDown})
+      << "the window had no use for it";
 }
 
-TEST_F(DialogKeysTest, AltReachesTheControlThatIsMarked) {
-  Reports on_box, on_push, silent;
-  platform::TextStyle marked;
-  marked.mnemonic = true;
-  const auto plain = Placed(Windowing().CreateText(*dialog_, "plain", {}, silent));
-  const auto label = Placed(Windowing().CreateText(*dialog_, "label", marked, silent));
-  const auto edit = Edit("edit", EditKind::kLine, silent);
+TEST_F(DialogKeysTest, AButtonIsPressedAsByTheUserAndTellsOfTheKeyboard) {
+  Reports on_box, on_first, on_second, on_push;
   const auto box = Button("box", ButtonKind::kCheck, on_box);
+  const auto first = Button("first", ButtonKind::kRadio, on_first);
+  const auto second = Button("second", ButtonKind::kRadio, on_second);
   const auto push = Button("push", ButtonKind::kPush, on_push);
-  plain->SetText("R&D network");
-  label->SetText("Fish && &Dish");
-  box->SetText("Show &hints");
-  push->SetText("&Copy");
+  first->SetChecked(true);
   Show();
-  box->Focus();
-  desk_->PressAlt(kDialog, 'd');
-  EXPECT_TRUE(edit->HasFocus()) << "the control behind the label";
-  desk_->PressAlt(kDialog, 'h');
-  EXPECT_TRUE(box->Checked() && box->HasFocus());
+  for (platform::Button* button : {box.get(), second.get(), push.get()}) {
+    button->Focus();
+    button->Press();
+  }
+  EXPECT_TRUE(box->Checked() && second->Checked() && !first->Checked());
   EXPECT_EQ(on_box.clicks, 1);
-  desk_->PressAlt(kDialog, 'c');
+  EXPECT_EQ(on_first.clicks, 0);
+  EXPECT_EQ(on_second.clicks, 1);
   EXPECT_EQ(on_push.clicks, 1);
-}
-
-TEST_F(DialogKeysTest, WhatIsHiddenOrDisabledPassesTheKeyboardOn) {
-  Reports reports;
-  const auto first = Edit("first", EditKind::kLine, reports);
-  const auto surface = Placed(Windowing().CreateSurface(*dialog_, "surface", reports), 60);
-  const auto inner = Windowing().CreateEdit(*surface, "inner", {}, reports);
-  const auto last = Edit("last", EditKind::kLine, reports);
-  inner->SetVisible(true);
-  Show();
-  inner->Focus();
-  surface->SetVisible(false);
-  EXPECT_TRUE(last->HasFocus());
-  last->SetEnabled(false);
-  EXPECT_TRUE(first->HasFocus()) << "around the end";
-  inner->Focus();
-  EXPECT_TRUE(first->HasFocus()) << "what is hidden cannot have it";
+  EXPECT_EQ(on_push.focus_changes, 1);
+  box->Focus();
+  EXPECT_EQ(on_push.focus_changes, 2);
 }
 
 TEST_F(DialogKeysTest, AWindowWithoutACaptionHasNoneOfIt) {
@@ -186,12 +97,11 @@ TEST_F(DialogKeysTest, AWindowWithoutACaptionHasNoneOfIt) {
   bare->SetBounds({10, 10, 200, 100});
   const auto button = Windowing().CreateButton(*bare, "button", ButtonKind::kPush, on_button);
   button->SetVisible(true);
-  button->SetDefault(true);
-  bare->Show(Activation::kActivate);
+  bare->Show(platform::Activation::kActivate);
   desk_->PressEnter("T_frmBare");
   desk_->PressEsc("T_frmBare");
-  EXPECT_EQ(on_button.clicks, 0);
-  EXPECT_EQ(reports.cancels, 0);
+  EXPECT_EQ(reports.keys, std::vector<DialogKey>());
+  EXPECT_EQ(reports.focus_wanted, 0);
 }
 
 }  // namespace

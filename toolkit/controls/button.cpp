@@ -14,7 +14,16 @@ Button::Button(Control& parent, std::string_view name) : Control(parent.App(), &
 
 void Button::SetDefault(bool is_default) {
   default_ = is_default;
-  if (button_ != nullptr) button_->SetDefault(is_default);
+  ShowAsDefault(is_default);
+  ParentForm().Keys().ShowWhatEnterPresses();
+}
+
+void Button::ShowAsDefault(bool shown) {
+  if (button_ != nullptr) button_->SetDefault(shown);
+}
+
+void Button::Realised() {
+  if (default_) SetDefault(true);
 }
 
 void Button::Clicked() {

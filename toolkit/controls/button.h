@@ -11,8 +11,14 @@ class Button : public Control {
  public:
   Button(Control& parent, std::string_view name);
 
-  // Pressed by Enter anywhere in the form; at most one of a form.
+  [[nodiscard]] KeyRole Role() const override { return KeyRole::kPush; }
+  [[nodiscard]] bool MarksKey() const override { return true; }
+  // Pressed by Enter anywhere in the form, unless another push button has the keyboard; at most one
+  // of a form.
   void SetDefault(bool is_default);
+  [[nodiscard]] bool IsDefault() const { return default_; }
+  // Gives it the look of the button that Enter presses.
+  void ShowAsDefault(bool shown);
   // What a click does.
   void Click() { Clicked(); }
 
@@ -22,7 +28,8 @@ class Button : public Control {
 
  protected:
   void Clicked() override;
-  void Realised() override { button_->SetDefault(default_); }
+  void PressByKey() override { button_->Press(); }
+  void Realised() override;
 
  private:
   platform::Button* button_ = nullptr;  // the peer, owned by Control

@@ -11,6 +11,8 @@ class ColourPanel : public Control {
  public:
   ColourPanel(Control& parent, std::string_view name);
 
+  [[nodiscard]] KeyRole Role() const override { return KeyRole::kPush; }
+
  protected:
   void Paint(platform::Canvas& canvas) override;
 };

@@ -87,6 +87,7 @@ void Control::SetCaption(std::string_view caption) {
 
 void Control::SetVisible(bool visible) {
   if (visible == visible_) return;
+  if (!visible) ParentForm().Keys().PassOn(*this);
   visible_ = visible;
   if (peer_) peer_->SetVisible(visible_);
   ParentRearranges();
@@ -94,6 +95,7 @@ void Control::SetVisible(bool visible) {
 
 void Control::SetEnabled(bool enabled) {
   if (enabled == enabled_) return;
+  if (!enabled) ParentForm().Keys().PassOn(*this);
   enabled_ = enabled;
   if (peer_) peer_->SetEnabled(enabled_);
   EnabledChanged();
@@ -262,6 +264,10 @@ void Control::OnContextMenu(platform::Point screen) {
 
 void Control::OnClicked() {
   app_.Guard([&] { Clicked(); });
+}
+
+void Control::OnFocusChanged() {
+  app_.Guard([&] { ParentForm().Keys().ShowWhatEnterPresses(); });
 }
 
 void Control::OnResize(platform::Size /*size*/) {

@@ -17,8 +17,17 @@ class Windowing;
 namespace toolkit {
 
 class Application;
+class DialogKeys;
 class Form;
 class PopupMenu;
+
+// What a control is to the keys of its form (toolkit/forms/dialog_keys.h).
+enum class KeyRole {
+  kNone,
+  kStop,   // Tab stops at it
+  kPush,   // and Enter presses it
+  kRadio,  // one of several between which the arrow keys move
+};
 
 enum class Align {
   kNone,
@@ -50,7 +59,10 @@ class Control : protected platform::WidgetEvents {
   [[nodiscard]] Control* Parent() const { return parent_; }
   // Returns the controls that lie on this one, in order of creation.
   [[nodiscard]] const std::vector<Control*>& Children() const { return children_; }
-  // Returns whether the control is made of other controls that it places itself.
+  [[nodiscard]] virtual KeyRole Role() const { return KeyRole::kNone; }
+  // Whether "&" in its caption marks a key.
+  [[nodiscard]] virtual bool MarksKey() const { return false; }
+  // Made of controls that it places by itself.
   [[nodiscard]] virtual bool IsComposite() const { return false; }
 
   [[nodiscard]] const platform::Rect& Bounds() const { return bounds_; }
@@ -63,6 +75,8 @@ class Control : protected platform::WidgetEvents {
   void SetCaption(std::string_view caption);
 
   [[nodiscard]] bool Visible() const { return visible_; }
+  // Hiding or disabling what has the keyboard passes it on to the control that follows in the order
+  // of Tab.
   void SetVisible(bool visible);
   [[nodiscard]] bool Enabled() const { return enabled_; }
   void SetEnabled(bool enabled);
@@ -163,7 +177,11 @@ class Control : protected platform::WidgetEvents {
   // Paints the control, if the program paints it; it runs inside the guard. The canvas has the size
   // of the client area.
   virtual void Paint(platform::Canvas& /*canvas*/) {}
-  // Is called when the user has clicked the control.
+  // The keyboard came to it by Tab.
+  virtual void ReachedByTab() {}
+  // A key presses it, as a click does.
+  virtual void PressByKey() {}
+  // The user has clicked it.
   virtual void Clicked() { Fire(OnClick); }
   // Are called when the property was changed.
   virtual void CaptionChanged() {}
@@ -181,8 +199,11 @@ class Control : protected platform::WidgetEvents {
   void OnContextMenu(platform::Point screen) override;
   void OnResize(platform::Size size) override;
   void OnClicked() override;
+  void OnFocusChanged() override;
 
  private:
+  friend class DialogKeys;
+
   void Realise();
   void ApplyBounds();
   void ApplyFont();

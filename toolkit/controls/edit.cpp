@@ -7,7 +7,7 @@
 namespace toolkit {
 
 Edit::Edit(Control& parent, std::string_view name, const platform::EditStyle& style)
-    : Control(parent.App(), &parent, name) {
+    : Control(parent.App(), &parent, name), kind_(style.kind) {
   Attach([this, style](platform::Windowing& windowing, platform::Widget& on) {
     return Remember(windowing.CreateEdit(on, Name(), style, *this), edit_);
   });
@@ -28,6 +28,10 @@ void Edit::SetMaxLength(int characters) {
 void Edit::SetReadOnly(bool read_only) {
   read_only_ = read_only;
   if (edit_ != nullptr) edit_->SetReadOnly(read_only);
+}
+
+void Edit::ReachedByTab() {
+  if (kind_ != platform::EditKind::kMemo) SelectAll();
 }
 
 void Edit::SelectAll() {

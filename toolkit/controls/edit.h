@@ -13,6 +13,7 @@ class Edit : public Control {
  public:
   Edit(Control& parent, std::string_view name, const platform::EditStyle& style = {});
 
+  [[nodiscard]] KeyRole Role() const override { return KeyRole::kStop; }
   [[nodiscard]] const std::string& Text() const { return text_; }
   void SetText(std::string_view text);
 
@@ -28,9 +29,11 @@ class Edit : public Control {
   // The user has changed the text.
   virtual void TextEntered() { Fire(OnChange); }
   void OnChanged() override;
+  void ReachedByTab() override;
   void Realised() override;
 
  private:
+  const platform::EditKind kind_;
   platform::Edit* edit_ = nullptr;  // the peer, owned by Control
   std::string text_;
   int max_length_ = 0;

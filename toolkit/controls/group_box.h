@@ -9,6 +9,8 @@ class GroupBox : public Control {
  public:
   GroupBox(Control& parent, std::string_view name);
 
+  [[nodiscard]] bool MarksKey() const override { return true; }
+
   // Design pixels that the title takes at the top.
   static constexpr int kTitleHeight = 15;
 };

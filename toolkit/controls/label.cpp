@@ -5,7 +5,7 @@
 namespace toolkit {
 
 Label::Label(Control& parent, std::string_view name, const platform::TextStyle& style)
-    : Control(parent.App(), &parent, name) {
+    : Control(parent.App(), &parent, name), marks_key_(style.mnemonic) {
   Attach([this, style](platform::Windowing& windowing, platform::Widget& on) {
     return windowing.CreateText(on, Name(), style, *this);
   });

@@ -18,6 +18,11 @@ inline constexpr platform::TextStyle kSunkenText{platform::TextAlign::kRight,
 class Label : public Control {
  public:
   Label(Control& parent, std::string_view name, const platform::TextStyle& style = kCentredText);
+
+  [[nodiscard]] bool MarksKey() const override { return marks_key_; }
+
+ private:
+  const bool marks_key_;
 };
 
 }  // namespace toolkit

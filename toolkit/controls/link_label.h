@@ -12,6 +12,8 @@ class LinkLabel : public Control {
  public:
   LinkLabel(Control& parent, std::string_view name);
 
+  [[nodiscard]] KeyRole Role() const override { return KeyRole::kPush; }
+
  protected:
   void Paint(platform::Canvas& canvas) override;
   void CaptionChanged() override { Invalidate(); }

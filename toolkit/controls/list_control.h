@@ -13,6 +13,7 @@ namespace toolkit {
 
 class ListControl : public Control {
  public:
+  [[nodiscard]] KeyRole Role() const override { return KeyRole::kStop; }
   [[nodiscard]] const std::vector<std::string>& Items() const { return items_; }
   // Replaces the rows. The selection keeps its row number, if there still is such a row; check
   // boxes keep their ticks in the same way.

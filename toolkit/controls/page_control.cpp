@@ -52,6 +52,10 @@ void PageControl::SetActivePageIndex(int index) {
   Fire(OnChange);
 }
 
+void PageControl::Step(int by) {
+  if (PageCount() > 1) SetActivePageIndex((active_ + by + PageCount()) % PageCount());
+}
+
 void PageControl::OnChanged() {
   const int index = tabs_->Index();
   if (index == active_ || index < 0 || index >= PageCount()) return;

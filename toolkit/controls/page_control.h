@@ -16,11 +16,14 @@ class PageControl : public Control {
  public:
   PageControl(Control& parent, std::string_view name);
 
+  [[nodiscard]] KeyRole Role() const override { return KeyRole::kStop; }
   [[nodiscard]] int PageCount() const { return static_cast<int>(pages_.size()); }
   // The number of the page that is shown. The first page is shown as soon as there is one; -1
   // without pages.
   [[nodiscard]] int ActivePageIndex() const { return active_; }
   void SetActivePageIndex(int index);
+  // To the page that is so many behind, around the ends.
+  void Step(int by);
 
   // Runs when another page is shown.
   std::function<void()> OnChange;

@@ -15,7 +15,7 @@ RadioButton::RadioButton(Control& parent, std::string_view name)
   });
 }
 
-std::vector<RadioButton*> RadioButton::Group() {
+std::vector<RadioButton*> RadioButton::Group() const {
   std::vector<RadioButton*> group;
   for (Control* sibling : Parent()->Children()) {
     if (auto* radio = dynamic_cast<RadioButton*>(sibling)) {

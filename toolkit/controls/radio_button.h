@@ -13,16 +13,20 @@ class RadioButton : public Control {
  public:
   RadioButton(Control& parent, std::string_view name);
 
+  [[nodiscard]] KeyRole Role() const override { return KeyRole::kRadio; }
+  [[nodiscard]] bool MarksKey() const override { return true; }
+  // Those that exclude each other, this one too.
+  [[nodiscard]] std::vector<RadioButton*> Group() const;
   [[nodiscard]] bool Checked() const { return checked_; }
   // Checking one takes the mark from the others, which are not told.
   void SetChecked(bool checked);
 
  protected:
   void Clicked() override;
+  void PressByKey() override { button_->Press(); }
   void Realised() override { button_->SetChecked(checked_); }
 
  private:
-  [[nodiscard]] std::vector<RadioButton*> Group();
   void Mark(bool checked);
   void Choose();
 

@@ -12,7 +12,8 @@ class TrackBar : public Control {
  public:
   TrackBar(Control& parent, std::string_view name);
 
-  // Sets the range and moves the position into it. `page` is the step of the page keys.
+  [[nodiscard]] KeyRole Role() const override { return KeyRole::kStop; }
+  // `page` is the step of the page keys. Moves the position into the range.
   void SetRange(int lowest, int highest, int page);
   [[nodiscard]] int Position() const { return position_; }
   // A position outside the range is moved into it.

@@ -14,7 +14,8 @@ class TreeView : public Control {
  public:
   TreeView(Control& parent, std::string_view name);
 
-  // Replaces the items. The selection keeps its number, if there still is such an item.
+  [[nodiscard]] KeyRole Role() const override { return KeyRole::kStop; }
+  // Replaces the items; the selection stays at its number, if there still is such an item.
   void SetItems(std::span<const platform::TreeItem> items);
   // The number of the selected item, counted in the expanded tree; -1 means none.
   [[nodiscard]] int ItemIndex() const { return index_; }

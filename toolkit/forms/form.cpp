@@ -30,7 +30,14 @@ class Form::Events final : public platform::TopWindowEvents {
     Tell([](FormComponent& part) { part.FormClosing(); });
     Guarded([&] { form_.FormClose(); });
   }
-  void OnCancelKey() override { OnClose(); }
+  bool OnDialogKey(const platform::DialogKey& key) override {
+    bool done = true;
+    Guarded([&] { done = form_.keys_.Press(key); });
+    return done;
+  }
+  void OnFocusWanted() override {
+    Guarded([&] { form_.keys_.FocusFirst(); });
+  }
   void OnMoving(platform::Rect& bounds) override {
     Tell([&bounds](FormComponent& part) { part.FormMoving(bounds); });
   }

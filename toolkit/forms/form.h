@@ -9,6 +9,7 @@
 
 #include "platform/top_window.h"
 #include "toolkit/controls/control.h"
+#include "toolkit/forms/dialog_keys.h"
 #include "toolkit/forms/form_component.h"
 #include "toolkit/forms/modal_stack.h"
 #include "toolkit/forms/placement.h"
@@ -57,6 +58,7 @@ class Form : public Control {
 
   [[nodiscard]] int Dpi() const { return Window().Dpi(); }
   [[nodiscard]] platform::TopWindow& Window() const { return *window_; }
+  [[nodiscard]] DialogKeys& Keys() { return keys_; }
 
   // Lets the user go on dragging the form by one of its controls.
   void BeginDrag() { Window().BeginDrag(); }
@@ -97,6 +99,7 @@ class Form : public Control {
   void Settle();
 
   const Hold held_by_;
+  DialogKeys keys_{*this};
   Form* owner_;                                // not owned; null for the application
   std::optional<platform::Size> client_size_;  // design pixels; none for one that the user sizes
   platform::Scroll scroll_;

@@ -14,8 +14,6 @@ class TrackBarWidget final : public WidgetOf<TrackBar, NativeControl> {
   void SetPosition(int position) override;
   [[nodiscard]] int Position() const override;
 
-  [[nodiscard]] KeyRole Role() const override { return KeyRole::kStop; }
-
   std::optional<LRESULT> HandleNotification(const Message& message) override;
 
  private:

@@ -2,14 +2,12 @@
 
 #include <utility>
 
-#include "platform/windows/windows/dialog_keys.h"
-
 namespace platform::windows {
 namespace {
 
 bool IsRadio(HWND hwnd) {
-  const WidgetWindow* widget = WidgetWindow::Of(hwnd);
-  return widget != nullptr && widget->Role() == KeyRole::kRadio;
+  const auto* button = dynamic_cast<const ButtonWidget*>(WidgetWindow::Of(hwnd));
+  return button != nullptr && button->Kind() == ButtonKind::kRadio;
 }
 
 HWND LastChild(HWND parent) {
@@ -73,29 +71,10 @@ void ButtonWidget::SetChecked(bool checked) {
 bool ButtonWidget::Checked() const { return Send(BM_GETCHECK) == BST_CHECKED; }
 
 void ButtonWidget::SetDefault(bool is_default) {
-  default_ = is_default;
-  ShowThickFrame(is_default);
-  ShowWhatEnterPresses(hwnd());
-}
-
-void ButtonWidget::ShowThickFrame(bool thick) {
   if (kind_ != ButtonKind::kPush) return;
-  const LONG_PTR style = thick ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON;
+  const LONG_PTR style = is_default ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON;
   if ((::GetWindowLongPtrW(hwnd(), GWL_STYLE) & BS_TYPEMASK) == style) return;
   Send(BM_SETSTYLE, static_cast<WPARAM>(style), TRUE);
-}
-
-KeyRole ButtonWidget::Role() const {
-  switch (kind_) {
-    case ButtonKind::kGroup:
-      return KeyRole::kNone;
-    case ButtonKind::kRadio:
-      return KeyRole::kRadio;
-    case ButtonKind::kCheck:
-      return KeyRole::kStop;
-    default:
-      return KeyRole::kPush;
-  }
 }
 
 std::optional<LRESULT> ButtonWidget::HandleNotification(const Message& message) {
@@ -132,9 +111,10 @@ std::optional<LRESULT> ButtonWidget::Handle(const Message& message) {
     }
     case WM_SETFOCUS:
     case WM_KILLFOCUS: {
-      if (Role() != KeyRole::kPush) break;
+      const bool push = kind_ == ButtonKind::kPush || kind_ == ButtonKind::kPainted;
+      if (!push || !Reporting()) break;
       const LRESULT answer = CallSystem(message);
-      ShowWhatEnterPresses(hwnd());
+      events().OnFocusChanged();
       return answer;
     }
     default:

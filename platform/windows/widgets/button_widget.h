@@ -14,14 +14,9 @@ class ButtonWidget final : public WidgetOf<Button, NativeControl> {
   void SetChecked(bool checked) override;
   [[nodiscard]] bool Checked() const override;
   void SetDefault(bool is_default) override;
+  void Press() override { Send(BM_CLICK); }
 
-  // For the keys of a dialog.
-  [[nodiscard]] KeyRole Role() const override;
-  [[nodiscard]] bool MarksKey() const override { return kind_ != ButtonKind::kPainted; }
-  [[nodiscard]] bool IsDefault() const { return default_; }
-  void Press() { events().OnClicked(); }
-  // The look of the button that Enter presses; of push buttons that the system paints.
-  void ShowThickFrame(bool thick);
+  [[nodiscard]] ButtonKind Kind() const { return kind_; }
 
   std::optional<LRESULT> HandleNotification(const Message& message) override;
 
@@ -35,7 +30,6 @@ class ButtonWidget final : public WidgetOf<Button, NativeControl> {
   void DrawFace(const DRAWITEMSTRUCT& item);
 
   const ButtonKind kind_;
-  bool default_ = false;
   bool chosen_ = false;  // a radio button was checked, but not by the code, and not reported yet
 };
 

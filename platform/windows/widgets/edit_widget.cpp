@@ -110,10 +110,6 @@ KeyTaker EditWidget::TakerOf(WPARAM key) {
   return kind_ == EditKind::kMemo ? KeyTaker::kWindow : KeyTaker::kDialog;
 }
 
-void EditWidget::Reached() {
-  if (kind_ != EditKind::kMemo) SelectAll();
-}
-
 Colour EditWidget::Background() const {
   const bool fixed = read_only_ || !Enabled();
   return fixed && background() == colour::kWindow ? colour::kButtonFace : background();

@@ -17,9 +17,7 @@ class EditWidget final : public WidgetOf<Edit, NativeControl> {
   void SetReadOnly(bool read_only) override;
   void SelectAll() override;
 
-  [[nodiscard]] KeyRole Role() const override { return KeyRole::kStop; }
   [[nodiscard]] KeyTaker TakerOf(WPARAM key) override;
-  void Reached() override;
 
   std::optional<LRESULT> HandleNotification(const Message& message) override;
 

@@ -17,8 +17,6 @@ class ListBoxWidget final : public WidgetOf<ItemList, NativeControl> {
   void SetChecked(int /*row*/, bool /*checked*/) override {}
   [[nodiscard]] bool Checked(int /*row*/) const override { return false; }
 
-  [[nodiscard]] KeyRole Role() const override { return KeyRole::kStop; }
-
   std::optional<LRESULT> HandleNotification(const Message& message) override;
 
  protected:
@@ -39,7 +37,6 @@ class ComboWidget final : public WidgetOf<ItemList, NativeControl> {
   void SetChecked(int /*row*/, bool /*checked*/) override {}
   [[nodiscard]] bool Checked(int /*row*/) const override { return false; }
 
-  [[nodiscard]] KeyRole Role() const override { return KeyRole::kStop; }
   // An open list is closed by them.
   [[nodiscard]] KeyTaker TakerOf(WPARAM key) override;
 
@@ -65,8 +62,6 @@ class CheckListWidget final : public WidgetOf<ItemList, NativeControl> {
   [[nodiscard]] int Index() const override;
   void SetChecked(int row, bool checked) override;
   [[nodiscard]] bool Checked(int row) const override;
-
-  [[nodiscard]] KeyRole Role() const override { return KeyRole::kStop; }
 
   std::optional<LRESULT> HandleNotification(const Message& message) override;
 

@@ -63,13 +63,6 @@ Colour TabsWidget::PageColour() const {
   return filling;
 }
 
-void TabsWidget::Step(int by) {
-  const int count = Count();
-  if (count < 2) return;
-  SetIndex((Index() + by + count) % count);
-  events().OnChanged();
-}
-
 std::optional<LRESULT> TabsWidget::HandleNotification(const Message& message) {
   if (message.id != WM_NOTIFY) return WidgetOf::HandleNotification(message);
   if (reinterpret_cast<const NMHDR*>(message.l)->code == TCN_SELCHANGE) events().OnChanged();

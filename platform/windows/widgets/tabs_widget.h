@@ -16,10 +16,6 @@ class TabsWidget final : public WidgetOf<Tabs, NativeControl> {
   [[nodiscard]] Rect PageArea() const override;
   [[nodiscard]] Colour PageColour() const override;
 
-  [[nodiscard]] KeyRole Role() const override { return KeyRole::kStop; }
-  // Chooses, for the user, the next tab (1) or the one before (-1), around the ends.
-  void Step(int by);
-
   std::optional<LRESULT> HandleNotification(const Message& message) override;
 
  private:

@@ -13,8 +13,6 @@ class TextWidget final : public WidgetOf<Widget> {
   TextWidget(HWND parent, std::string_view name, const TextStyle& style, Drawing& drawing,
              WidgetEvents& events);
 
-  [[nodiscard]] bool MarksKey() const override { return style_.mnemonic; }
-
  protected:
   std::optional<LRESULT> Handle(const Message& message) override;
   void PaintContent(GdiCanvas& canvas) override;

@@ -18,8 +18,6 @@ class TreeWidget final : public WidgetOf<Tree, NativeControl> {
   [[nodiscard]] int Index() const override;
   void ExpandAll() override;
 
-  [[nodiscard]] KeyRole Role() const override { return KeyRole::kStop; }
-
   std::optional<LRESULT> HandleNotification(const Message& message) override;
 
  private:

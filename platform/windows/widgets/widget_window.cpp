@@ -82,19 +82,13 @@ Size WidgetWindow::ClientSize() const {
   return {static_cast<int>(area.right), static_cast<int>(area.bottom)};
 }
 
-void WidgetWindow::SetVisible(bool visible) {
-  if (!visible) PassFocusOn(hwnd());
-  ::ShowWindow(hwnd(), visible ? SW_SHOWNA : SW_HIDE);
-}
+void WidgetWindow::SetVisible(bool visible) { ::ShowWindow(hwnd(), visible ? SW_SHOWNA : SW_HIDE); }
 
 bool WidgetWindow::Visible() const {
   return (::GetWindowLongPtrW(hwnd(), GWL_STYLE) & WS_VISIBLE) != 0;
 }
 
-void WidgetWindow::SetEnabled(bool enabled) {
-  if (!enabled) PassFocusOn(hwnd());
-  ::EnableWindow(hwnd(), enabled);
-}
+void WidgetWindow::SetEnabled(bool enabled) { ::EnableWindow(hwnd(), enabled); }
 
 bool WidgetWindow::Enabled() const { return ::IsWindowEnabled(hwnd()) != 0; }
 

@@ -11,14 +11,6 @@
 
 namespace platform::windows {
 
-// What a window is to the keys of a dialog (dialog_keys.h).
-enum class KeyRole {
-  kNone,
-  kStop,   // Tab stops at it
-  kPush,   // and Enter presses it
-  kRadio,  // one of several between which the arrow keys move
-};
-
 // Who gets a key that was pressed in a window.
 enum class KeyTaker { kDialog, kWindow, kNobody };
 
@@ -48,14 +40,8 @@ class WidgetWindow : public NativeWindow {
   void Invalidate();
   [[nodiscard]] Point ToScreen(Point client) const;
 
-  // For the keys of a dialog.
-  [[nodiscard]] virtual KeyRole Role() const { return KeyRole::kNone; }
-  // Whether "&" in its text marks a key.
-  [[nodiscard]] virtual bool MarksKey() const { return false; }
-  // Asked for Enter and Esc before anything else happens with them.
+  // Asked for Enter and Esc before anything else happens with them (dialog_keys.h).
   [[nodiscard]] virtual KeyTaker TakerOf(WPARAM /*key*/) { return KeyTaker::kDialog; }
-  // The keyboard came to it by Tab.
-  virtual void Reached() {}
   // A mouse message came to a window inside it, or to itself.
   virtual void HearMouse(HWND /*hwnd*/, const Message& /*message*/) {}
 

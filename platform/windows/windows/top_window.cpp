@@ -154,6 +154,11 @@ void TopWindow::SetScroll(const Scroll& scroll) {
   ::ShowScrollBar(hwnd(), SB_VERT, scroll.content > scroll.page);
 }
 
+void TopWindow::ShowKeyMarks() {
+  ::SendMessageW(hwnd(), WM_CHANGEUISTATE, MAKEWPARAM(UIS_CLEAR, UISF_HIDEACCEL | UISF_HIDEFOCUS),
+                 0);
+}
+
 void TopWindow::FocusMoved(HWND control) {
   RECT area{};
   ::GetWindowRect(control, &area);
@@ -359,7 +364,7 @@ void TopWindow::RestoreFocus() {
   if (::IsChild(hwnd(), last_focus_) && IsUsable(last_focus_)) {
     ::SetFocus(last_focus_);
   } else {
-    FocusFirst(hwnd());
+    events_.OnFocusWanted();
   }
 }
 

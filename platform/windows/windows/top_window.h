@@ -29,11 +29,13 @@ class TopWindow final : public WidgetOf<platform::TopWindow> {
   void ResetShape() override { shape_.Reset(hwnd()); }
   [[nodiscard]] bool UnderPointer() const override;
   void Raise() override;
+  void ShowKeyMarks() override;
   [[nodiscard]] int Dpi() const override;
 
   // Whether it has the keys of a dialog: with a caption, and when the program wants the keyboard.
   [[nodiscard]] bool TakesDialogKeys() const { return takes_dialog_keys_; }
-  void CancelKey() { events_.OnCancelKey(); }
+  // True when it is done with; the window may be gone then.
+  [[nodiscard]] bool Press(const DialogKey& key) { return events_.OnDialogKey(key); }
   // The focus came to this control of it.
   void FocusMoved(HWND control);
   void HearMouse(HWND hwnd, const Message& message) override;
