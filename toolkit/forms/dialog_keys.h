@@ -1,9 +1,9 @@
-// What the keys do in a form with a caption: Tab, Enter, Esc, marked letters, Ctrl+Tab, arrows among
-// radio buttons.
+// What the keys do in a form with a caption: Tab, Enter, Esc, marked letters, Ctrl+Tab, arrows
+// among radio buttons.
 //
 // Tab goes through the controls in the order in which they were made, those on a panel in the place
-// of the panel; of radio buttons that exclude each other it takes the chosen one, and the arrow keys
-// move among them. A marked letter reaches a control; Enter presses the default button, unless
+// of the panel; of radio buttons that exclude each other it takes the chosen one, and the arrow
+// keys move among them. A marked letter reaches a control; Enter presses the default button, unless
 // another push button has the keyboard; Esc closes the form; Ctrl+Tab goes to the next of the tabs
 // that the keyboard is in, or of the first ones.
 #pragma once
