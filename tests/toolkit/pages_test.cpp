@@ -68,12 +68,15 @@ TEST_F(Pages, TheKeyboardStaysAtTheTabsWhenItsPageGoes) {
 
 TEST_F(Pages, AllFillTheirPlaceAlsoWhileTheyAreHidden) {
   Tabbed tabbed(form);
+  SpinEdit spin(tabbed.info, "spin");
+  spin.SetBounds({10, 80, 80, 22});
   const platform::Rect area = Peer("info").bounds;
   EXPECT_GT(area.height, 200);
   EXPECT_EQ(Peer("daily").bounds, area);
   User().ChangeDpi("form", 192, {0, 0, 600, 600});
   EXPECT_GT(Peer("info").bounds.height, 2 * 200);
   EXPECT_EQ(Peer("daily").bounds, Peer("info").bounds);
+  EXPECT_EQ(Peer("spin").bounds, (platform::Rect{0, 0, 126, 44})) << "and so do parts of a control";
 }
 
 TEST_F(Pages, ANotebookShowsThePageThatIsNamed) {

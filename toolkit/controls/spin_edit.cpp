@@ -246,6 +246,12 @@ void SpinEdit::Resized() {
   PlacePixels(*down_, {left, half, width, size.height - half});
 }
 
+// The parts have no bounds of their own.
+void SpinEdit::Rescale() {
+  Control::Rescale();
+  Resized();
+}
+
 void SpinEdit::EnabledChanged() {
   field_->SetEnabled(Enabled());
   up_->SetEnabled(Enabled());

@@ -39,6 +39,7 @@ class SpinEdit : public Control {
 
  protected:
   void Resized() override;
+  void Rescale() override;
   void EnabledChanged() override;
   void HintChanged() override;
   void Paint(platform::Canvas& canvas) override;
