@@ -286,8 +286,9 @@ void World::UseAdapterWindow() {
   machine_.message_loop.Then([this] {
     if (!machine_.windowing.Exists("T_frmSpecificConnInfo")) return;
     for (int scan = Below(4); scan > 0; --scan) ScanAfter(1);
-    if (Chance(2)) {
-      machine_.windowing.Press("Button2");
+    // The machine's window has a button of this name as well.
+    if (!machine_.windowing.Exists("T_frmConnInfo")) {
+      machine_.windowing.Press("Button3");
       model_.ResetAdapter("Wireless");
     }
     machine_.windowing.ClickCloseBox("T_frmSpecificConnInfo");
