@@ -13,10 +13,10 @@ namespace {
 void Print(const Tally& tally, const Model& model, double seconds) {
   std::printf(
       "%d days, %lld scans, %lld wraps, %lld counters set back, %d roll-overs, %d alerts, "
-      "%d restarts, %d failed calls, %.1f seconds\n",
+      "%d restarts, %d starts given up, %d failed calls, %.1f seconds\n",
       tally.days, static_cast<long long>(tally.scans), static_cast<long long>(tally.wraps),
       static_cast<long long>(tally.set_back), model.roll_overs, model.alerts, tally.restarts,
-      tally.failed_calls, seconds);
+      tally.given_up, tally.failed_calls, seconds);
 }
 
 int Main(int days, std::uint32_t seed) {

@@ -111,7 +111,7 @@ void Model::Start(const std::vector<Row>& rows, Moment now) {
 }
 
 void Model::Initialise(Moment now) {
-  speed_cap = CapOf(choices.GraphScaleType);
+  TakeScale();
   counters.clear();
   for (const Row& row : table) counters.push_back({row.in, row.out, 0, 0});
   rows_at_seeding = table.size();
@@ -121,6 +121,8 @@ void Model::Initialise(Moment now) {
   markers_[2] = unsigned(year_month_day(now.day).month());
   for (const Row& row : table) choices.included[Lower(row.description)] = 1;
 }
+
+void Model::TakeScale() { speed_cap = CapOf(choices.GraphScaleType); }
 
 void Model::Resume(const std::vector<Row>& rows) {
   Read(rows);

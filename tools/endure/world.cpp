@@ -1,11 +1,11 @@
 #include "tools/endure/world.h"
 
 #include <algorithm>
-#include <bit>
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <iterator>
 #include <string_view>
 #include <utility>
 
@@ -15,7 +15,6 @@ namespace endure {
 namespace {
 
 using platform::memory::RegistryValue;
-using platform::memory::ValueType;
 
 constexpr const char* kHome = "SOFTWARE\\Korvane\\Dravenlow\\";
 constexpr std::int64_t kMillisecondsPerSecond = 1000;
@@ -35,6 +34,10 @@ constexpr const char* kAdapters[] = {"Ethernet",
 
 constexpr std::chrono::sys_days kOrigin = std::chrono::sys_days(std::chrono::year(1899) / 12 / 30);
 
+bool SameBase(const Model::Counter& a, const Model::Counter& b) {
+  return a.last_in == b.last_in && a.last_out == b.last_out;
+}
+
 std::string KeyPath(const char* key) { return std::string(kHome) + key; }
 
 }  // namespace
@@ -43,8 +46,8 @@ World::World(std::uint32_t seed) : die_(seed) {
   machine_.locale.decimal_separator = ",";
   machine_.clock.SetNow(platform::EncodeDateTime(2019 + Below(12), 1 + Below(12), 1 + Below(28),
                                                  Below(24), Below(60), Below(60)));
-  machine_.notebook.on_registry_write = [this](std::string_view name) {
-    registry_writes_of_scans_ += name == "InfoMaxDL" ? 1 : 0;
+  machine_.notebook.on_registry_read = [this](std::string_view name) {
+    scans_seen_ += name == "NotificationsActive" ? 1 : 0;
   };
   AddAdapter();
   AddAdapter();
@@ -57,11 +60,9 @@ void World::PlayDay() {
     const std::int64_t rest = SecondsToMidnight();
     if (rest <= 10) {
       Stretch(20);
-    } else if (Chance(4)) {
-      ScanAfter(rest - 10);
     } else {
-      ScanAfter(1 + Below(static_cast<int>(rest - 10)));
-      Stretch(1 + Below(30));
+      ScanAfter(1 + Below(static_cast<int>(std::min<std::int64_t>(rest - 10, 4 * 3600))));
+      Stretch(Below(30));
     }
   }
   ++tally_.days;
@@ -119,20 +120,39 @@ void World::RunScan() {
       for (int scan = Below(4); scan > 0; --scan) ScanAfter(1);
       machine_.windowing.Press("OkBtn");
     });
+    PlayScan();
+    return Compare();
   }
-  const bool wanted = model_.alerts == alerts && Chance(50);
-  if (wanted) machine_.notebook.FailCall(1 + Below(400));
-  registry_writes_of_scans_ = 0;
+  bool disturbed = false;
+  if (Chance(50)) {
+    const bool changes = Chance(4);
+    if (changes) {
+      machine_.interface_table.AfterNextSizeRead([this] { ChangeAdapters(); });
+    } else {
+      machine_.notebook.FailCall(1 + Below(Chance(3) ? 40 : 400));
+    }
+    PlayScan();
+    disturbed = changes || TakeFailure();
+    if (disturbed) Adopt(changes ? nullptr : &before);
+  } else {
+    PlayScan();
+  }
+  if (!disturbed) Compare();
+}
+
+void World::PlayScan() {
+  const std::int64_t missing = tally_.scans - scans_seen_;
   machine_.timers.Advance(0);
   ++tally_.scans;
-  const bool failed = wanted && !machine_.notebook.FailurePending();
+  scans_missing_ = tally_.scans - scans_seen_ - missing;
+}
+
+// Whether the call that was to fail has come; if not, it is let off.
+bool World::TakeFailure() {
+  const bool failed = !machine_.notebook.FailurePending();
   machine_.notebook.FailCall(0);
-  if (failed) {
-    ++tally_.failed_calls;
-    Adopt(before);
-  } else {
-    Compare();
-  }
+  tally_.failed_calls += failed ? 1 : 0;
+  return failed;
 }
 
 void World::MoveTraffic() {
@@ -153,12 +173,10 @@ std::int64_t World::SecondsToMidnight() { return 86400 - Now().time.count(); }
 void World::Happen() {
   switch (Below(24)) {
     case 0:
-      return AddAdapter();
     case 1:
-      return RemoveAdapter();
     case 2:
+      return ChangeAdapters();
     case 3:
-      return SwapAdapter();
     case 4:
     case 5:
       return SetCountersBack();
@@ -183,6 +201,17 @@ void World::Happen() {
       return;
     default:
       return Choose();
+  }
+}
+
+void World::ChangeAdapters() {
+  switch (Below(4)) {
+    case 0:
+      return AddAdapter();
+    case 1:
+      return RemoveAdapter();
+    default:
+      return SwapAdapter();
   }
 }
 
@@ -274,11 +303,15 @@ void World::Include() {
 
 void World::UseMachineWindow() {
   if (!machine_.windowing.Exists("T_frmConnInfo")) return OpenFromMenu("DL-UL Statistics");
-  if (Chance(2)) {
-    machine_.windowing.Press("Button3");
-    model_.ResetMachine();
-  } else {
-    machine_.windowing.ClickCloseBox("T_frmConnInfo");
+  switch (Below(3)) {
+    case 0:
+      machine_.windowing.Press("Button3");
+      return model_.ResetMachine();
+    case 1:
+      machine_.windowing.Press("ISBAShown");  // it shows what was stored half a second ago
+      return Adopt(nullptr);
+    default:
+      machine_.windowing.ClickCloseBox("T_frmConnInfo");
   }
 }
 
@@ -299,10 +332,16 @@ void World::UseAdapterWindow() {
 void World::UsePreferences() {
   constexpr const char* kForm = "T_frmPreferences";
   if (machine_.windowing.Exists(kForm) && machine_.windowing.Find(kForm).visible) {
-    machine_.windowing.ClickCloseBox(kForm);
-  } else {
-    OpenFromMenu("Settings...");
+    return machine_.windowing.ClickCloseBox(kForm);
   }
+  OpenFromMenu("Settings...");
+  if (Chance(2)) return;
+  const auto& pages = machine_.windowing.Find("TreeItems").items;
+  const auto page = std::find(pages.begin(), pages.end(), "Graph Other");
+  machine_.windowing.Choose("TreeItems", static_cast<int>(page - pages.begin()));
+  model_.choices.GraphScaleType = Below(16);
+  machine_.windowing.Choose("ScaleCombo", static_cast<int>(model_.choices.GraphScaleType));
+  model_.TakeScale();
 }
 
 // Killed or ended: no figure is written at the end, so both leave the same behind. What a kill in
@@ -325,7 +364,27 @@ void World::StartAnew() {
   StartProgram();
 }
 
+// A start may meet a call that fails as well. It may go on or give up, as long as the next one,
+// or the next scan, is right again.
 void World::StartProgram() {
+  model_.Start(Rows(), Now());
+  const bool wanted = model_.choices.included.size() > 3 && Chance(4);
+  if (wanted) machine_.notebook.FailCall(1 + Below(600));
+  try {
+    program_ = std::make_unique<program::Program>(machine_.Platform());
+  } catch (const std::exception&) {
+    if (!TakeFailure()) throw;
+    ++tally_.given_up;
+    EndProgram();
+    return StartAgain();
+  }
+  if (wanted && TakeFailure()) return Adopt(nullptr);
+  Compare();
+}
+
+// After a start that gave up: what it has stored counts.
+void World::StartAgain() {
+  AdoptStored();
   model_.Start(Rows(), Now());
   program_ = std::make_unique<program::Program>(machine_.Platform());
   Compare();
@@ -402,25 +461,30 @@ void World::Compare() {
   const engine::TrafficState& traffic = program_->Meter().Traffic();
   see("RunTotalDL", model_.run_total_dl, traffic.RunTotalDL);
   see("RunTotalUL", model_.run_total_ul, traffic.RunTotalUL);
+  see("scans that were missed", 0, std::exchange(scans_missing_, 0));
   if (!differences.empty()) throw Difference(differences);
 }
 
-// A call of the scan failed: what it did not get done is not known, so the model goes on from what
-// is stored and kept. One thing must hold all the same: a row's counters are those of this scan, or
-// still those of the one before, which leaves the bytes to the next.
-void World::Adopt(const std::vector<Model::Counter>& before) {
+// A call of the scan failed, or the table changed while it was read: what was not done is not
+// known, so the model goes on from what is stored and kept. One thing must hold all the same: where
+// the rows are the same, a row's counters are those of this scan, or still those `before` it, which
+// leaves the bytes to the next.
+void World::Adopt(const std::vector<Model::Counter>* before) {
   const engine::TrafficState& traffic = program_->Meter().Traffic();
   std::vector<Model::Counter> kept;
   for (const engine::AdapterCounters& c : traffic.adapter_counters) {
     kept.push_back({c.LastInOctets, c.LastOutOctets, c.MaxIn, c.MaxOut});
   }
-  for (std::size_t i = 0; i < kept.size() && kept.size() == model_.counters.size(); ++i) {
-    const Model::Counter& now = model_.counters[i];
-    const bool is_now = kept[i].last_in == now.last_in && kept[i].last_out == now.last_out;
-    const bool is_before = i < before.size() && kept[i].last_in == before[i].last_in &&
-                           kept[i].last_out == before[i].last_out;
-    if (!is_now && !is_before) throw Difference("\n  the counters of a row after a failed call");
+  if (before != nullptr && kept.size() == model_.counters.size()) {
+    for (std::size_t row = 0; row < kept.size(); ++row) {
+      const bool waits = row < before->size() && SameBase(kept[row], (*before)[row]);
+      if (!waits && !SameBase(kept[row], model_.counters[row])) {
+        throw Difference("\n  after a failed call the counters of row " + std::to_string(row) +
+                         " are neither those of this scan nor those of the one before");
+      }
+    }
   }
+  scans_missing_ = 0;
   model_.counters = kept;
   model_.table = RowsOf(traffic.interface_table);
   model_.rows_at_seeding.reset();
@@ -430,6 +494,10 @@ void World::Adopt(const std::vector<Model::Counter>& before) {
   model_.speed_cap = traffic.SpeedCap;
   model_.run_total_dl = traffic.RunTotalDL;
   model_.run_total_ul = traffic.RunTotalUL;
+  AdoptStored();
+}
+
+void World::AdoptStored() {
   model_.ForEachStored([&](const char* key, const std::string& name, std::int64_t& value) {
     value = Stored(key, name);
   });

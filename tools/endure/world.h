@@ -30,6 +30,7 @@ struct Tally {
   std::int64_t set_back = 0;
   int restarts = 0;
   int failed_calls = 0;
+  int given_up = 0;  // starts that a failed call ended
 };
 
 class World {
@@ -57,11 +58,14 @@ class World {
   void Stretch(int scans);
   void ScanAfter(std::int64_t seconds);
   void RunScan();
+  void PlayScan();
+  bool TakeFailure();
   void MoveTraffic();
   [[nodiscard]] std::int64_t SecondsToMidnight();
 
   // What may happen between two scans.
   void Happen();
+  void ChangeAdapters();
   void AddAdapter();
   void RemoveAdapter();
   void SwapAdapter();
@@ -78,6 +82,7 @@ class World {
 
   // The program.
   void StartProgram();
+  void StartAgain();
   void EndProgram();
   void OpenFromMenu(const std::string& text);
   void StoreChoices();
@@ -88,14 +93,16 @@ class World {
   [[nodiscard]] std::vector<Row> Rows() { return RowsOf(machine_.interface_table.rows); }
   [[nodiscard]] std::int64_t Stored(const char* key, const std::string& name);
   void Compare();
-  void Adopt(const std::vector<Model::Counter>& before);
+  void Adopt(const std::vector<Model::Counter>* before);
+  void AdoptStored();
 
   std::mt19937 die_;
   platform::memory::Machine machine_;
   std::unique_ptr<program::Program> program_;
   Model model_;
   Tally tally_;
-  int registry_writes_of_scans_ = 0;  // each scan writes "InfoMaxDL" once
+  std::int64_t scans_seen_ = 0;     // each asks once whether notifications are on
+  std::int64_t scans_missing_ = 0;  // in what was played last; negative for scans too many
 };
 
 }  // namespace endure
