@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 namespace endure {
 namespace {
@@ -99,6 +100,11 @@ void Model::ForEachStored(const See& see) {
 
 void Model::Read(const std::vector<Row>& rows) {
   if (!rows.empty()) table = rows;
+}
+
+void Model::TakeTable(std::vector<Row> rows) {
+  table = std::move(rows);
+  for (const Row& row : table) adapters_.try_emplace(Trimmed(Lower(row.description)));
 }
 
 void Model::Start(const std::vector<Row>& rows, Moment now) {

@@ -57,6 +57,8 @@ class Model {
   void Scan(const std::vector<Row>& rows, Moment now);
   // The machine comes back from sleep.
   void Resume(const std::vector<Row>& rows);
+  // The program holds this table now, in whatever way it came by it.
+  void TakeTable(std::vector<Row> rows);
   // The user picks the chosen scale in the preferences.
   void TakeScale();
   // The user resets the figures of the machine's window, or of an adapter's.

@@ -339,9 +339,10 @@ void World::UsePreferences() {
   const auto& pages = machine_.windowing.Find("TreeItems").items;
   const auto page = std::find(pages.begin(), pages.end(), "Graph Other");
   machine_.windowing.Choose("TreeItems", static_cast<int>(page - pages.begin()));
-  model_.choices.GraphScaleType = Below(16);
-  machine_.windowing.Choose("ScaleCombo", static_cast<int>(model_.choices.GraphScaleType));
-  model_.TakeScale();
+  // The choice that is shown is no change, and leaves a fresh run uncapped.
+  const int scale = Below(16);
+  machine_.windowing.Choose("ScaleCombo", scale);
+  if (std::exchange(model_.choices.GraphScaleType, scale) != scale) model_.TakeScale();
 }
 
 // Killed or ended: no figure is written at the end, so both leave the same behind. What a kill in
@@ -486,7 +487,7 @@ void World::Adopt(const std::vector<Model::Counter>* before) {
   }
   scans_missing_ = 0;
   model_.counters = kept;
-  model_.table = RowsOf(traffic.interface_table);
+  model_.TakeTable(RowsOf(traffic.interface_table));
   model_.rows_at_seeding.reset();
   if (traffic.AdapterHigh != engine::kNotInitialised) {
     model_.rows_at_seeding = static_cast<std::size_t>(traffic.AdapterHigh + 1);
