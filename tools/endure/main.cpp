@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
+#include <exception>
 
 #include "tools/endure/world.h"
 
@@ -13,10 +14,10 @@ namespace {
 void Print(const Tally& tally, const Model& model, double seconds) {
   std::printf(
       "%d days, %lld scans, %lld wraps, %lld counters set back, %d roll-overs, %d alerts, "
-      "%d restarts, %d starts given up, %d failed calls, %.1f seconds\n",
+      "%d restarts, %d failed calls, %.1f seconds\n",
       tally.days, static_cast<long long>(tally.scans), static_cast<long long>(tally.wraps),
       static_cast<long long>(tally.set_back), model.roll_overs, model.alerts, tally.restarts,
-      tally.given_up, tally.failed_calls, seconds);
+      tally.failed_calls, seconds);
 }
 
 int Main(int days, std::uint32_t seed) {
@@ -24,7 +25,7 @@ int Main(int days, std::uint32_t seed) {
   World world(seed);
   try {
     while (world.Counted().days < days) world.PlayDay();
-  } catch (const Difference& difference) {
+  } catch (const std::exception& difference) {
     std::printf("seed %lu, day %d, scan %lld (%s):%s\n", static_cast<unsigned long>(seed),
                 world.Counted().days + 1, static_cast<long long>(world.Counted().scans),
                 world.Date().c_str(), difference.what());

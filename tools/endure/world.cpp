@@ -365,29 +365,13 @@ void World::StartAnew() {
   StartProgram();
 }
 
-// A start may meet a call that fails as well. It may go on or give up, as long as the next one,
-// or the next scan, is right again.
+// A start may meet a call that fails as well; the program runs all the same.
 void World::StartProgram() {
   model_.Start(Rows(), Now());
   const bool wanted = model_.choices.included.size() > 3 && Chance(4);
   if (wanted) machine_.notebook.FailCall(1 + Below(600));
-  try {
-    program_ = std::make_unique<program::Program>(machine_.Platform());
-  } catch (const std::exception&) {
-    if (!TakeFailure()) throw;
-    ++tally_.given_up;
-    EndProgram();
-    return StartAgain();
-  }
-  if (wanted && TakeFailure()) return Adopt(nullptr);
-  Compare();
-}
-
-// After a start that gave up: what it has stored counts.
-void World::StartAgain() {
-  AdoptStored();
-  model_.Start(Rows(), Now());
   program_ = std::make_unique<program::Program>(machine_.Platform());
+  if (wanted && TakeFailure()) return Adopt(nullptr);
   Compare();
 }
 
@@ -485,7 +469,7 @@ void World::Adopt(const std::vector<Model::Counter>* before) {
       }
     }
   }
-  scans_missing_ = 0;
+  scans_seen_ += std::exchange(scans_missing_, 0);
   model_.counters = kept;
   model_.TakeTable(RowsOf(traffic.interface_table));
   model_.rows_at_seeding.reset();
@@ -499,6 +483,10 @@ void World::Adopt(const std::vector<Model::Counter>* before) {
 }
 
 void World::AdoptStored() {
+  // An include flag that the scan did not come to has its default.
+  std::erase_if(model_.choices.included, [this](const auto& flag) {
+    return !machine_.registry.Exists(KeyPath("Settings"), flag.first);
+  });
   model_.ForEachStored([&](const char* key, const std::string& name, std::int64_t& value) {
     value = Stored(key, name);
   });

@@ -30,7 +30,6 @@ struct Tally {
   std::int64_t set_back = 0;
   int restarts = 0;
   int failed_calls = 0;
-  int given_up = 0;  // starts that a failed call ended
 };
 
 class World {
@@ -82,7 +81,6 @@ class World {
 
   // The program.
   void StartProgram();
-  void StartAgain();
   void EndProgram();
   void OpenFromMenu(const std::string& text);
   void StoreChoices();
