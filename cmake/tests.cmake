@@ -115,4 +115,10 @@ else()
   test_program(preferences_tests tests/preferences program memory)
   test_program(program_tests tests/program program memory)
   test_program(house_tests tests/house)
+
+  # Two days of the meter's life here; ./dev endure plays years.
+  floor(endurance tools/endure program memory)
+  add_executable(endure tools/endure/main.cpp)
+  target_link_libraries(endure PRIVATE endurance)
+  add_test(NAME endure COMMAND endure 2 78)
 endif()

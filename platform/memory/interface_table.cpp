@@ -62,7 +62,7 @@ std::optional<bool> InterfaceTable::IsFilter(std::uint32_t index) {
 std::optional<LongOctets> InterfaceTable::Octets(std::uint32_t index) {
   ++octet_questions;
   const InterfaceRow* row = RowOf(index);
-  if (notebook_.Fails() || row == nullptr) return std::nullopt;
+  if (notebook_.Fails() || row == nullptr || hidden_.contains(index)) return std::nullopt;
   const LongOctets& wrapped = wrapped_[index];
   return LongOctets{wrapped.in + row->dwInOctets, wrapped.out + row->dwOutOctets};
 }

@@ -44,6 +44,8 @@ class InterfaceTable : public platform::InterfaceTable {
   void AddTraffic(std::size_t position, std::uint32_t received, std::uint32_t sent);
   // Marks an interface as a lightweight filter on another one.
   void MarkFilter(std::uint32_t index) { filters_.insert(index); }
+  // From now on the system does not tell this interface's octets in 64 bits.
+  void HideOctets(std::uint32_t index) { hidden_.insert(index); }
 
   // Makes the n-th Read from now (1 is the next) return `code` and do nothing.
   void FailRead(int n, std::uint32_t code);
@@ -67,6 +69,7 @@ class InterfaceTable : public platform::InterfaceTable {
   Notebook& notebook_;
   std::map<std::uint32_t, LongOctets> wrapped_;  // what the counters of a row lost, by dwIndex
   std::set<std::uint32_t> filters_;
+  std::set<std::uint32_t> hidden_;
   std::vector<Failure> failures_;
   std::function<void()> after_size_read_;
   std::uint32_t last_index_ = 0;
