@@ -85,8 +85,9 @@ void TKxInterMeter::Compose(platform::Size size) {
 
 GraphLook TKxInterMeter::PixelLook() {
   GraphLook look = look_;
-  for (int GraphLook::*width : {&GraphLook::BevelWidth, &GraphLook::BorderWidth,
-                                &GraphLook::PulseWidth, &GraphLook::PulseSpace}) {
+  for (int GraphLook::*width :
+       {&GraphLook::BevelWidth, &GraphLook::BorderWidth, &GraphLook::PulseWidth,
+        &GraphLook::PulseSpace, &GraphLook::FlatPulseWidth}) {
     look.*width = Scale(std::clamp(look.*width, -kWidestDrawn, kWidestDrawn));
   }
   look.Font = Scale(Font());
