@@ -90,6 +90,8 @@ GraphLook TKxInterMeter::PixelLook() {
         &GraphLook::PulseSpace, &GraphLook::FlatPulseWidth}) {
     look.*width = Scale(std::clamp(look.*width, -kWidestDrawn, kWidestDrawn));
   }
+  // Told apart from what has almost this colour.
+  look.DisplayColor = App().Platform().screen.Resolve(look.DisplayColor);
   look.Font = Scale(Font());
   look.FontColour = FontColour();
   return look;

@@ -57,13 +57,29 @@ ScaleColumn DivideArea(platform::Canvas& canvas, const GraphLook& look, const pl
   return divided;
 }
 
+// Of the background to the eye, but not to the shape of a window that leaves the background out.
+platform::Colour HaloColour(const GraphLook& look) { return look.DisplayColor ^ 1; }
+
+void PaintScaleText(platform::Canvas& canvas, const GraphLook& look, const platform::Rect& box,
+                    const std::string& text) {
+  const auto write = [&](int right, int down, platform::Colour colour) {
+    canvas.Text({box.left + right, box.top + down, box.width, box.height}, text, look.Font, colour,
+                platform::TextAlign::kRight);
+  };
+  // On a desktop of the letters' own colour they would be lost.
+  for (int down = -1; look.Transparent && down <= 1; ++down) {
+    for (int right = -1; right <= 1; ++right) write(right, down, HaloColour(look));
+  }
+  write(0, 0, look.FontColour);
+}
+
 void PaintScale(platform::Canvas& canvas, const GraphLook& look, const platform::Rect& column,
                 const GraphScale& scale, std::string_view decimal_separator) {
   const int height = canvas.TextSize("8", look.Font).height;
   const auto write = [&](int top, std::int64_t amount) {
-    canvas.Text({column.left + kScaleGap, top, column.width - 2 * kScaleGap, height},
-                ScaleText(amount, look.ScaleUnits, decimal_separator), look.Font, look.FontColour,
-                platform::TextAlign::kRight);
+    PaintScaleText(canvas, look,
+                   {column.left + kScaleGap, top, column.width - 2 * kScaleGap, height},
+                   ScaleText(amount, look.ScaleUnits, decimal_separator));
   };
   write(column.top, scale.high);
   if (column.height >= 2 * height) write(column.Bottom() - height, scale.low);

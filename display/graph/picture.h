@@ -35,7 +35,8 @@ struct GraphLook : ScaleRule {
   int FlatPulseWidth = 4;
   bool ScaleShow = true;
   display::ScalePosition ScalePosition = display::ScalePosition::kLeft;
-  // No background: what is neither bar nor text nor frame is left out of the window.
+  // No background: what is neither bar nor text nor frame is left out of the window. The texts get
+  // a rim, of almost the background's colour.
   bool Transparent = false;
   // Of the scale.
   platform::FontSpec Font;

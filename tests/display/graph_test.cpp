@@ -250,6 +250,15 @@ TEST_F(Graph, BarsHaveEdgesIn3DAndNarrowOnesKeepTheirColour) {
   }
 }
 
+TEST_F(Graph, ASeeThroughScaleHasARimThatIsNotBackground) {
+  Set("ScaleShow", 1);
+  Set("GraphColor_Background", "clWhite");
+  for (const std::uint32_t transparent : {0U, 1U}) {
+    Set("Transparent", transparent);
+    Run([&] { EXPECT_EQ(Count(*MeterTest::Graph(), 0xFFFFFE) > 0, transparent != 0); });
+  }
+}
+
 // As a loopback counts, which moves the same both ways.
 TEST_F(Graph, EachOfTheSixColoursIsSeenIn3DAtEqualAmounts) {
   Set("Pulse3D", 1);
