@@ -105,6 +105,12 @@ void Control::Fire(const std::function<void()>& handler) {
 
 void Control::Invalidate() { peer_->Invalidate(); }
 
+platform::Rect Control::OnScreen() const {
+  const platform::Point origin = peer_->ToScreen({0, 0});
+  const platform::Size size = peer_->ClientSize();
+  return {origin.x, origin.y, size.width, size.height};
+}
+
 platform::Size Control::ClientPixels() const { return peer_->ClientSize(); }
 
 int Control::Scale(int design_pixels) { return ScaleTo(ParentForm().Dpi(), design_pixels); }

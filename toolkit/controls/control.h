@@ -82,6 +82,8 @@ class Control : protected platform::WidgetEvents {
 
   // Asks for a repaint.
   void Invalidate();
+  // Where its client area is on the screen, in real pixels.
+  [[nodiscard]] platform::Rect OnScreen() const;
   // Its client area in real pixels.
   [[nodiscard]] platform::Size ClientPixels() const;
   // Real pixels for so many design pixels, at the resolution of its form.
