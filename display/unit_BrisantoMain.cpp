@@ -343,10 +343,10 @@ void T_frmBrisanto::FormResize() {
   platform::FontSpec font = _tlkDLULMeter.Font();
   font.height = toolkit::PointsToDesignPixels(LabelPoints(Unscale(WindowBounds().width)));
   _tlkDLULMeter.SetFont(font);
-  _tlkDLULMeter.Invalidate();
+  _tlkDLULMeter.Refresh();
 }
 
-void T_frmBrisanto::FormShow() { _tlkDLULMeter.Invalidate(); }
+void T_frmBrisanto::FormShow() { _tlkDLULMeter.Refresh(); }
 
 void T_frmBrisanto::FormDpiChanged() { RestrictSize(); }
 

@@ -15,6 +15,7 @@
 #include "display/exit.h"
 #include "display/graph/kxintermeter.h"
 #include "display/hot_keys.h"
+#include "display/line_label.h"
 #include "display/main_menu.h"
 #include "display/numeric_line.h"
 #include "display/option_table.h"
@@ -31,7 +32,6 @@
 #include "language/language.h"
 #include "quantity/quantity.h"
 #include "settings/store.h"
-#include "toolkit/controls/label.h"
 #include "toolkit/controls/panel.h"
 #include "toolkit/forms/docking_magnet.h"
 #include "toolkit/forms/form.h"
@@ -137,7 +137,7 @@ class T_frmBrisanto final : public toolkit::Form, private engine::ScanSteps {
   AdapterMenus adapter_menus_;
   TKxInterMeter _tlkInterMeter;
   toolkit::Panel pnlContain;
-  toolkit::Label _tlkDLULMeter;
+  LineLabel _tlkDLULMeter;
   toolkit::DockingMagnet _FormMagnet;
   toolkit::PlacementSaver _tlkFormSaver;
   Transparency transparency_;
