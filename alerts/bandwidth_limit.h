@@ -10,6 +10,9 @@
 
 namespace alerts {
 
+// The limit in its unit; 0 where none is stored.
+[[nodiscard]] std::int64_t LimitNumber(settings::Store& store);
+
 // The limit in bytes; nothing for a stored unit that does not exist. Wraps like all sums.
 [[nodiscard]] std::optional<std::int64_t> LimitBytes(settings::Store& store);
 

@@ -9,7 +9,7 @@ namespace display {
 namespace {
 
 // Design pixels.
-constexpr int kMargin = 2;      // before a text that is cut
+constexpr int kMargin = 2;        // before a text that is cut
 constexpr int kSteadyWithin = 8;  // the text stays where it is while it is centred as well as this
 
 // The texts of the modes: each begins with a bracket.

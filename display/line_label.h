@@ -11,7 +11,8 @@
 namespace display {
 
 // The caption is the whole line. What is too wide is painted with each of its texts on a line of
-// its own, where the label is high enough; else its left end is in sight, and the whole is the hint.
+// its own, where the label is high enough; else its left end is in sight, and the whole is the
+// hint.
 class LineLabel final : public toolkit::Control {
  public:
   LineLabel(toolkit::Control& parent, std::string_view name);

@@ -50,7 +50,7 @@ class T_frmBrisanto final : public toolkit::Form, private engine::ScanSteps {
 
   // The one call that opens the preferences, which belong to it; until it is set they cannot be
   // opened.
-  void SetPreferences(std::function<void()> open);
+  void SetPreferences(std::function<void(std::string_view page)> open);
 
   // Takes the stored display settings over into all parts: at the start, when the adapters changed,
   // and after a reset of the settings.
@@ -84,7 +84,9 @@ class T_frmBrisanto final : public toolkit::Form, private engine::ScanSteps {
   void mnuAlwaysTopOnClick();
   void mnuTransparent2kClick();
   void mnuTransparentClick();
-  void Settings1Click();
+  void Settings1Click() { OpenPreferences(""); }
+  // At a page, or with an empty name at the one that was open last.
+  void OpenPreferences(std::string_view page);
   void HelpContents1Click();
   void AboutBrisantoXP1Click();
   void GlobalAtomKeyGlobalKeys0KeyDown();
@@ -158,7 +160,8 @@ class T_frmBrisanto final : public toolkit::Form, private engine::ScanSteps {
   HotKeyHolder GlobalAtomKey;
   Exit exit_;
 
-  std::function<void()> open_preferences_;  // last: the preferences go before what they change
+  std::function<void(std::string_view page)>
+      open_preferences_;  // last: the preferences go before what they change
 };
 
 }  // namespace display

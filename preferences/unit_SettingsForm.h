@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <memory>
+#include <string_view>
 #include <vector>
 
 #include "preferences/context.h"
@@ -21,8 +22,9 @@ class T_frmPreferences final : public toolkit::Form {
   // Made hidden. The application and the meter's parts outlive it.
   T_frmPreferences(toolkit::Application& app, const display::RunningMeter& meter);
 
-  // Shows it with what is stored now, or brings it to the front.
-  void Open();
+  // Shows it with what is stored now, or brings it to the front. At the page of this name, or with
+  // an empty one where the user was.
+  void Open(std::string_view page = {});
 
   // Puts every stored value into its control. A control that changes fires its handler, and that is
   // how the running meter takes over what was stored from elsewhere.
@@ -46,7 +48,7 @@ class T_frmPreferences final : public toolkit::Form {
 };
 
 // The call that opens the preferences of a meter: it makes them the first time and keeps them.
-[[nodiscard]] std::function<void()> PreferencesOf(toolkit::Application& app,
-                                                  const display::RunningMeter& meter);
+[[nodiscard]] std::function<void(std::string_view page)> PreferencesOf(
+    toolkit::Application& app, const display::RunningMeter& meter);
 
 }  // namespace preferences
