@@ -26,12 +26,15 @@ std::optional<std::int64_t> CountedTotal(settings::Store& store) {
 
 }  // namespace
 
+std::int64_t LimitNumber(settings::Store& store) {
+  return store.ReadWith(setting::MoreThan, kDefaultMoreThan);
+}
+
 std::optional<std::int64_t> LimitBytes(settings::Store& store) {
   const std::int64_t unit = store.Read(setting::AlertsMoreThan);
   if (unit < 0 || unit >= kUnits) return {};
-  const std::int64_t number = store.ReadWith(setting::MoreThan, kDefaultMoreThan);
   // The number has 32 bits and the largest unit 30, so the product fits.
-  return number * (std::int64_t{1024} << (10 * unit));
+  return LimitNumber(store) * (std::int64_t{1024} << (10 * unit));
 }
 
 std::optional<engine::Period> ReadLimitPeriod(settings::Store& store) {

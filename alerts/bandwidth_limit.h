@@ -10,6 +10,9 @@
 
 namespace alerts {
 
+// Returns the limit in its unit, or 0 when none is stored.
+[[nodiscard]] std::int64_t LimitNumber(settings::Store& store);
+
 // Returns the limit in bytes, or nullopt when the stored unit does not exist.
 [[nodiscard]] std::optional<std::int64_t> LimitBytes(settings::Store& store);
 

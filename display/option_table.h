@@ -15,7 +15,7 @@
 #include "display/tray/tray_icon.h"
 #include "settings/scale_choice.h"
 #include "settings/store.h"
-#include "toolkit/controls/label.h"
+#include "toolkit/controls/control.h"
 #include "toolkit/forms/docking_magnet.h"
 #include "toolkit/hint_window.h"
 
@@ -28,7 +28,7 @@ struct MeterParts {
   T_frmBrisanto& window;
   settings::Store& store;
   TKxInterMeter& graph;
-  toolkit::Label& label;  // shows the numeric line
+  toolkit::Control& label;  // shows the numeric line
   NumericLine& line;
   TrayIcon& tray;
   Transparency& transparency;

@@ -73,7 +73,7 @@ T_frmBrisanto::T_frmBrisanto(toolkit::Application& app)
       ticker_(RegME, reactions_),
       bandwidth_alert_(app, RegME, quantity_, _ReadLangauge, reactions_, _MainMenu.popup),
       statistics_windows_({app, RegME, quantity_, _ReadLangauge, traffic_},
-                          [this] { Settings1Click(); }),
+                          [this] { OpenPreferences("BandwidthAlert"); }),
       options_({*this, RegME, _tlkInterMeter, _tlkDLULMeter, numeric_line_, _TrayIcon,
                 transparency_, _FormMagnet, app.Hints(), traffic_.SpeedCap, notifications_}),
       GlobalAtomKey(
@@ -184,7 +184,7 @@ void T_frmBrisanto::Localise() {
   ShowLine();
 }
 
-void T_frmBrisanto::SetPreferences(std::function<void()> open) {
+void T_frmBrisanto::SetPreferences(std::function<void(std::string_view page)> open) {
   open_preferences_ = std::move(open);
   _MainMenu.Settings1->Enabled = true;
 }
@@ -278,13 +278,13 @@ void T_frmBrisanto::mnuTransparent2kClick() { transparency_.mnuTransparent2kClic
 
 void T_frmBrisanto::mnuTransparentClick() { transparency_.mnuTransparentClick(); }
 
-void T_frmBrisanto::Settings1Click() {
+void T_frmBrisanto::OpenPreferences(std::string_view page) {
   if (!open_preferences_ || App().Modals().RaiseTop()) return;
   // The password is also asked for while the preferences are open: the user who has just locked
   // them may have left them open.
   const bool asks = settings::LockEngaged(RegME);
   if (asks && !settings::AskForPassword(App(), RegME, _ReadLangauge)) return;
-  open_preferences_();
+  open_preferences_(page);
 }
 
 void T_frmBrisanto::HelpContents1Click() {
@@ -345,10 +345,10 @@ void T_frmBrisanto::FormResize() {
   platform::FontSpec font = _tlkDLULMeter.Font();
   font.height = toolkit::PointsToDesignPixels(LabelPoints(Unscale(WindowBounds().width)));
   _tlkDLULMeter.SetFont(font);
-  _tlkDLULMeter.Invalidate();
+  _tlkDLULMeter.Refresh();
 }
 
-void T_frmBrisanto::FormShow() { _tlkDLULMeter.Invalidate(); }
+void T_frmBrisanto::FormShow() { _tlkDLULMeter.Refresh(); }
 
 void T_frmBrisanto::FormDpiChanged() { RestrictSize(); }
 

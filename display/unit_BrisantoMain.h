@@ -15,6 +15,7 @@
 #include "display/exit.h"
 #include "display/graph/kxintermeter.h"
 #include "display/hot_keys.h"
+#include "display/line_label.h"
 #include "display/main_menu.h"
 #include "display/numeric_line.h"
 #include "display/option_table.h"
@@ -31,7 +32,6 @@
 #include "language/language.h"
 #include "quantity/quantity.h"
 #include "settings/store.h"
-#include "toolkit/controls/label.h"
 #include "toolkit/controls/panel.h"
 #include "toolkit/forms/docking_magnet.h"
 #include "toolkit/forms/form.h"
@@ -49,9 +49,9 @@ class T_frmBrisanto final : public toolkit::Form, private engine::ScanSteps {
   [[nodiscard]] engine::TrafficState& Traffic() { return traffic_; }
   [[nodiscard]] RunningMeter Parts();
 
-  // Sets the function that opens the preferences and owns them. Until it is set, the preferences
-  // cannot be opened.
-  void SetPreferences(std::function<void()> open);
+  // Sets the function that opens the preferences, at the page of this name or, with an empty one,
+  // where the user was. It owns them; until it is set, the preferences cannot be opened.
+  void SetPreferences(std::function<void(std::string_view page)> open);
 
   // Applies the stored display settings to all parts. It runs at the start, when the adapters
   // changed, and after a reset of the settings.
@@ -85,7 +85,9 @@ class T_frmBrisanto final : public toolkit::Form, private engine::ScanSteps {
   void mnuAlwaysTopOnClick();
   void mnuTransparent2kClick();
   void mnuTransparentClick();
-  void Settings1Click();
+  void Settings1Click() { OpenPreferences(""); }
+  // At a page, or with an empty name at the one that was open last.
+  void OpenPreferences(std::string_view page);
   void HelpContents1Click();
   void AboutBrisantoXP1Click();
   void GlobalAtomKeyGlobalKeys0KeyDown();
@@ -138,7 +140,7 @@ class T_frmBrisanto final : public toolkit::Form, private engine::ScanSteps {
   AdapterMenus adapter_menus_;
   TKxInterMeter _tlkInterMeter;
   toolkit::Panel pnlContain;
-  toolkit::Label _tlkDLULMeter;
+  LineLabel _tlkDLULMeter;
   toolkit::DockingMagnet _FormMagnet;
   toolkit::PlacementSaver _tlkFormSaver;
   Transparency transparency_;
@@ -159,7 +161,8 @@ class T_frmBrisanto final : public toolkit::Form, private engine::ScanSteps {
   HotKeyHolder GlobalAtomKey;
   Exit exit_;
 
-  std::function<void()> open_preferences_;  // last: destroyed before the parts that it uses
+  // Last: destroyed before the parts that it uses.
+  std::function<void(std::string_view page)> open_preferences_;
 };
 
 }  // namespace display

@@ -1,6 +1,7 @@
 #include <string>
 #include <vector>
 
+#include "alerts/bandwidth_limit.h"
 #include "preferences/action_fields.h"
 #include "preferences/pages.h"
 #include "toolkit/controls/list_box.h"
@@ -9,6 +10,7 @@ namespace preferences {
 namespace {
 
 namespace setting = settings::setting;
+namespace text = language::text::SettingsForm;
 
 constexpr int kDays = 31;
 constexpr Range kLimit{1, 2100000000};
@@ -30,7 +32,11 @@ class BandwidthAlertPage final : public Page {
     std::vector<std::string> days;
     for (int day = 1; day <= kDays; ++day) days.push_back(std::to_string(day));
     mPerStartsOn.SetItems(days);
-    const auto enable = [this] { EnablePlayControls(); };
+    const auto enable = [this] {
+      EnablePlayControls();
+      Tell();
+    };
+    const auto tell = [this] { Tell(); };
     // Where nothing is stored the box stays as it is.
     const auto play = [this] {
       return settings::BooleanSetting{setting::chkBAPlay.name, chkBAPlay.Checked()};
@@ -40,20 +46,52 @@ class BandwidthAlertPage final : public Page {
             {BAAlertsCheckBox, Line(kMargin), setting::BAAlerts, enable},
             {mPerStartsOn, kFields.At(0, kNumberWidth), setting::mPerStartsOn},
             {wPerStartsOn, kFields.At(1), setting::wPerStartsOn, Items{"WeekDay"}},
-            {AlertsMoreThan, kUnit, setting::AlertsMoreThan, Items{"LimitUnit"}},
-            {MoreThan, kFields.At(2, kNumberWidth), setting::MoreThan, kLimit},
-            {cmbDayWeekMonth, kFields.At(4, kNumberWidth), setting::BADayWeekMonth,
-             Items{"Period"}},
-            {baDownload, {kLeft, kDirections, kHalf, kBoxHeight}, setting::baDownload},
-            {baUpload, {kLeft + kHalf, kDirections, kHalf, kBoxHeight}, setting::baUpload},
+            {AlertsMoreThan, kUnit, setting::AlertsMoreThan, Items{"LimitUnit"}, tell},
+            {MoreThan, kFields.At(2, kNumberWidth), setting::MoreThan, kLimit,
+             [this] {
+               limit_ = MoreThan.Value();
+               Tell();
+             }},
+            {cmbDayWeekMonth, kFields.At(4, kNumberWidth), setting::BADayWeekMonth, Items{"Period"},
+             tell},
+            {baDownload, {kLeft, kDirections, kHalf, kBoxHeight}, setting::baDownload, tell},
+            {baUpload, {kLeft + kHalf, kDirections, kHalf, kBoxHeight}, setting::baUpload, tell},
             {chkBAPlay, Line(kLower.Top(5) + 2), play, enable},
             {sound_, {kMargin, kFields.Top(6) + 2, kWidth, kFieldHeight}, setting::BaPlayFile},
         });
     Add(ReadStep::kBandwidthAlert, action_.Rows(kLower, 7, setting::BAAction, setting::BAMessage));
+    // The field shows a limit also where none is stored, but that one does not count.
+    Add(ReadStep::kBandwidthAlert, [this] {
+      limit_ = alerts::LimitNumber(context_.store);
+      Tell();
+    });
+    lblBaOutcome.SetBounds({kMargin, kLower.Top(9) + 4, kWidth, 3 * kBoxHeight});
     EnablePlayControls();
   }
 
+  void Localise(const language::Translation& say) override {
+    Page::Localise(say);
+    Tell();
+  }
+
  private:
+  // Says what will come of all this.
+  void Tell() { lblBaOutcome.SetCaption(Outcome(context_.language.Chosen())); }
+
+  [[nodiscard]] std::string Outcome(const language::Translation& say) const {
+    if (!BAAlertsCheckBox.Checked()) return say(text::BaNeverOff);
+    if (!baDownload.Checked() && !baUpload.Checked()) return say(text::BaNeverNothing);
+    const language::TextEntry& sentence = !baUpload.Checked()     ? text::BaWhenDownload
+                                          : !baDownload.Checked() ? text::BaWhenUpload
+                                                                  : text::BaWhenBoth;
+    static constexpr const char* kUnits[] = {" kB", " MB", " GB"};
+    const int period = cmbDayWeekMonth.ItemIndex();
+    const int unit = AlertsMoreThan.ItemIndex();
+    const auto* of_period = FindText("BaPeriod" + std::to_string(period));
+    if (of_period == nullptr || unit < 0 || unit >= std::ssize(kUnits)) return {};
+    return say(sentence, {say(*of_period), std::to_string(limit_) + kUnits[unit]});
+  }
+
   void EnablePlayControls() {
     sound_.SetEnabled(BAAlertsCheckBox.Checked() && chkBAPlay.Checked());
   }
@@ -68,6 +106,8 @@ class BandwidthAlertPage final : public Page {
   Labelled<toolkit::ComboBox> cmbDayWeekMonth{*this, "lblDayWeekMonth", "cmbDayWeekMonth"};
   toolkit::CheckBox chkBAPlay{*this, "chkBAPlay"};
   SoundFile sound_{*this, "BaPlayFile", "BaSpeedbtn", "BaSpeedbtn2"};
+  std::int64_t limit_ = 0;  // in the unit of the list
+  toolkit::Label lblBaOutcome{*this, "lblBaOutcome", toolkit::kWrappedText};
   ActionFields action_{{*this, "lblBaAction", "BaAction"}, {*this, "lblBaMessage", "BaMessage"}};
 };
 

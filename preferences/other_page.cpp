@@ -1,9 +1,14 @@
+#include <string>
+
 #include "preferences/pages.h"
 
 namespace preferences {
 namespace {
 
 namespace setting = settings::setting;
+namespace text = language::text::SettingsForm;
+
+constexpr int kOpaque = 255;  // position of the track bar
 
 // Keyboard lights, transparency, exit.
 class OtherPage final : public Page {
@@ -23,8 +28,10 @@ class OtherPage final : public Page {
             {Win2kTransTrack,
              {{kMargin, GroupLine(2).control.top, kGroupWidth, 30}, GroupLine(1).control},
              setting::Win2kTransparentRatio,
-             Range{0, 255, 16}},
+             Range{0, kOpaque, 16},
+             [this] { ShowOpacity(); }},
         });
+    Add(ReadStep::kTransparency, [this] { ShowOpacity(); });
     Add(ReadStep::kExitAndFade, {
                                     {grpExit, {kMargin, kExitTop, kWidth, kGroupTop + kRow + 3}},
                                     {AskOnExit, GroupLine(0), setting::AskOnExit},
@@ -39,7 +46,26 @@ class OtherPage final : public Page {
                          });
   }
 
+  void Localise(const language::Translation& say) override {
+    Page::Localise(say);
+    ShowOpacity();
+  }
+
  private:
+  // The per cent behind the label, and whether they count at all.
+  void ShowOpacity() {
+    const language::Translation say = context_.language.Chosen();
+    const int percent = (Win2kTransTrack.Position() * 100 + kOpaque / 2) / kOpaque;
+    Win2kTransTrack.label.SetCaption(say(text::lblWin2kTransTrack) + ' ' + std::to_string(percent) +
+                                     " %");
+    namespace menu = language::text::MainForm;
+    const std::string entry = say(menu::GraphDisplayOptions1) + " > " + say(menu::Transparent1) +
+                              " > " + say(menu::mnuTransparent2k);
+    Win2kTransTrack.SetHint(context_.store.ReadWith(setting::Transparent2k, false)
+                                ? say(text::Win2kTransTrackHint)
+                                : say(text::Win2kTransTrackOffHint, {entry}));
+  }
+
   toolkit::GroupBox grpKeyboardLeds{*this, "grpKeyboardLeds"};
   toolkit::CheckBox DLSwitchScr{grpKeyboardLeds, "DLSwitchScr"};
   toolkit::CheckBox ULSwitchNum{grpKeyboardLeds, "ULSwitchNum"};

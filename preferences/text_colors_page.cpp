@@ -28,19 +28,21 @@ class TextColorsPage final : public Page {
 
  private:
   // The name counts, as the system reads it in small letters or capitals: another font may have
-  // come to stand at the stored index. One that is not installed leaves the list without a choice.
+  // come to stand at the stored index. One that is not installed is in use all the same, and stands
+  // behind the others.
   void ReadFont() {
     const std::int64_t index = context_.store.Read(setting::FontNameIndex);
     const std::string name = context_.store.Read(setting::FontName);
-    const std::vector<std::string> fonts = context_.app.Platform().fonts.Families();
-    if (fonts != FontChoose.Items()) {
-      FontChoose.SetItemIndex(-1);
-      FontChoose.SetItems(fonts);
-    }
+    std::vector<std::string> fonts = context_.app.Platform().fonts.Families();
     platform::Locale& locale = context_.app.Platform().locale;
     const auto is_named = [&locale, wanted = locale.Lower(name)](const std::string& font) {
       return locale.Lower(font) == wanted;
     };
+    if (!name.empty() && std::ranges::none_of(fonts, is_named)) fonts.push_back(name);
+    if (fonts != FontChoose.Items()) {
+      FontChoose.SetItemIndex(-1);
+      FontChoose.SetItems(fonts);
+    }
     if (index >= 0 && index < std::ssize(fonts) &&
         is_named(fonts[static_cast<std::size_t>(index)])) {
       FontChoose.SetItemIndex(static_cast<int>(index));

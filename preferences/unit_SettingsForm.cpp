@@ -1,5 +1,7 @@
 #include "preferences/unit_SettingsForm.h"
 
+#include <algorithm>
+#include <iterator>
 #include <string_view>
 
 #include "preferences/pages.h"
@@ -105,13 +107,18 @@ void T_frmPreferences::Localise() {
   btnClose.SetHint(say(text::btnCloseHint));
 }
 
-void T_frmPreferences::Open() {
+void T_frmPreferences::Open(std::string_view page) {
   if (Showing()) {
     Raise();
   } else {
     ReadSettings();
     TreeItems.FullExpand();
     Show();
+  }
+  const auto item =
+      std::ranges::find_if(kTree, [page](const PageTreeItem& i) { return i.page == page; });
+  if (!page.empty() && item != std::end(kTree)) {
+    TreeItems.SetItemIndex(static_cast<int>(item - std::begin(kTree)));
   }
 }
 
@@ -128,10 +135,12 @@ void T_frmPreferences::TreeItemsChange() {
   PrefNotebook.SetActivePage(kTree[row].page);
 }
 
-std::function<void()> PreferencesOf(toolkit::Application& app, const display::RunningMeter& meter) {
-  return [&app, meter, form = std::make_shared<std::unique_ptr<T_frmPreferences>>()] {
+std::function<void(std::string_view page)> PreferencesOf(toolkit::Application& app,
+                                                         const display::RunningMeter& meter) {
+  return [&app, meter,
+          form = std::make_shared<std::unique_ptr<T_frmPreferences>>()](std::string_view page) {
     if (!*form) *form = std::make_unique<T_frmPreferences>(app, meter);
-    (*form)->Open();
+    (*form)->Open(page);
   };
 }
 

@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <memory>
+#include <string_view>
 #include <vector>
 
 #include "preferences/context.h"
@@ -22,8 +23,8 @@ class T_frmPreferences final : public toolkit::Form {
   T_frmPreferences(toolkit::Application& app, const display::RunningMeter& meter);
 
   // Shows the window with the values that are stored now, or brings it to the front when it is
-  // open.
-  void Open();
+  // open: at the page of this name or, with an empty one, where the user was.
+  void Open(std::string_view page = {});
 
   // Puts every stored value into its control. A control that changes fires its handler; in this way
   // the running meter takes over values that were stored by something else.
@@ -48,7 +49,7 @@ class T_frmPreferences final : public toolkit::Form {
 
 // Returns the function that opens the preferences of a meter. It makes the window the first time
 // and keeps it.
-[[nodiscard]] std::function<void()> PreferencesOf(toolkit::Application& app,
-                                                  const display::RunningMeter& meter);
+[[nodiscard]] std::function<void(std::string_view page)> PreferencesOf(
+    toolkit::Application& app, const display::RunningMeter& meter);
 
 }  // namespace preferences

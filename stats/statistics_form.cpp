@@ -17,6 +17,7 @@ constexpr int kRefreshMs = 500;
 // Design pixels.
 constexpr int kMargin = 1;
 constexpr int kInfoGroupHeight = 40;
+constexpr int kAddressBelow = 18;  // from the address's caption to the address, where it is below
 constexpr int kFootHeight = 29;    // of the form, with the button "Ok"
 constexpr int kButtonHeight = 21;  // within a group
 constexpr int kGroupFoot = 4;      // what a group leaves free below its rows
@@ -48,6 +49,7 @@ StatisticsForm::StatisticsForm(const StatisticsContext& context, const Kind& kin
       Timer1(context.app, kRefreshMs, [this] { Timer1Timer(); }),
       _tlkFormSaver(*this, kind.placement_key, toolkit::PlacementSaver::Restores::kPlace),
       address_caption_(kind.address_caption),
+      address_below_(kind.address_below),
       since_date_(context.traffic.RunStartDate),
       since_time_(context.traffic.RunStartTime) {
   IpAddress.SetCaption(kind.address);
@@ -75,13 +77,15 @@ void StatisticsForm::Arrange() {
 
   const platform::Size room = RoomOf(InfoTab);
   const int group = room.width - 2 * kMargin;
-  const int since_top = kInfoGroupHeight + 1;
+  const int lower = address_below_ ? kAddressBelow : 0;
+  const int address_left = address_below_ ? 8 : 80;
+  const int since_top = kInfoGroupHeight + lower + 1;
   const int since_height = room.height - since_top - 1;
   toolkit::ApplyLayout(
-      {{InfoGroup, {kMargin, 0, group, kInfoGroupHeight}},
-       {IpLabel, {8, 16, 71, 18}},
-       {IpAddress, {80, 16, group - 148, 18}},
-       {Button1, {group - 64, 14, 56, kButtonHeight}},
+      {{InfoGroup, {kMargin, 0, group, kInfoGroupHeight + lower}},
+       {IpLabel, {8, 16, address_below_ ? group - 16 : 71, address_below_ ? 16 : 18}},
+       {IpAddress, {address_left, 16 + lower, group - address_left - 68, 18}},
+       {Button1, {group - 64, 14 + lower, 56, kButtonHeight}},
        {Button3, {group - 98, since_height - kButtonHeight - kGroupFoot, 90, kButtonHeight}}});
   InfoGroupBox.Arrange({kMargin, since_top, group, since_height}, kButtonHeight + kGroupFoot + 2);
   for (FiguresGroup* period : {&DailyGroupBox, &WeeklyGroupBox, &MonthlyGroupBox}) {

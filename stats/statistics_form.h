@@ -42,7 +42,8 @@ class StatisticsForm : public toolkit::Form {
     std::string_view form_name;
     std::string_view placement_key;
     language::TextEntry address_caption;
-    std::string_view address;  // before the first refresh
+    std::string_view address;    // before the first refresh
+    bool address_below = false;  // its caption, as it is too long to stand beside it
   };
 
   // Made hidden; the window then sets its size and calls Arrange. `context` is copied.
@@ -95,6 +96,7 @@ class StatisticsForm : public toolkit::Form {
   void LocaliseSince(const language::Translation& say);
 
   language::TextEntry address_caption_;
+  bool address_below_;
   bool copied_by_click_ = false;  // since the mouse was last pressed on Button1
   // The start of the run that this window knows.
   platform::DateTime since_date_;

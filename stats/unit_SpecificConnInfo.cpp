@@ -21,7 +21,7 @@ T_frmSpecificConnInfo::T_frmSpecificConnInfo(const StatisticsContext& context,
                                              std::string_view description)
     : StatisticsForm(context,
                      {kSpecificConnInfoForm, settings::placement_key::kSpecificConnInfo,
-                      text::MacLabel, "-----------"},
+                      text::MacLabel, "-----------", true},
                      engine::CounterOwner::AdapterWindow(context.store, description)) {
   SetCaption(description);
   SetClientSize(kClientSize);

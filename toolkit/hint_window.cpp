@@ -17,6 +17,8 @@ constexpr int kShortestTimer = 10;  // ms, what the system can do
 constexpr int kMargin = 3;          // design pixels between frame and text
 constexpr int kBelowPointer = 20;   // design pixels, so that the arrow covers nothing
 constexpr int kWidest = 600;        // design pixels of text in a line
+constexpr int kGap = 4;             // design pixels between a hint and what it explains
+constexpr int kHighestRow = 40;     // design pixels; of what is higher, the pointer tells the place
 const platform::FontSpec kFont{"Tahoma", 11, false};
 
 // A hint may have several lines, each ended by a carriage return.
@@ -73,13 +75,19 @@ class HintWindow::Window final : public platform::TopWindowEvents {
     window_ = app.Platform().windowing.CreateTopWindow(params, nullptr, *this);
   }
 
-  void Show(const std::string& text, const platform::Rect& beside, int dpi) {
+  // `beside` is empty for a place at the pointer.
+  void Show(const std::string& text, const platform::Rect& beside, bool opens_submenu, int dpi) {
     dpi_ = dpi;
     lines_ = Lines(text);
     window_->SetText(text);
     const platform::Point pointer = app_.Platform().screen.Pointer();
     const platform::Rect at = beside.Empty() ? platform::Rect{pointer.x, pointer.y, 1, 1} : beside;
-    window_->SetBounds(Place(Extent(app_.Platform().screen.MonitorOf(at).work_area), beside));
+    const platform::Rect work = app_.Platform().screen.MonitorOf(at).work_area;
+    const platform::Size size = Extent(work);
+    const platform::Point place =
+        beside.Empty() ? UnderPointer(size, work) : Beside(size, work, beside, opens_submenu);
+    window_->SetBounds(
+        {std::max(place.x, work.left), std::max(place.y, work.top), size.width, size.height});
     window_->Invalidate();
     window_->Show(platform::Activation::kLeaveFocus);
   }
@@ -123,18 +131,29 @@ class HintWindow::Window final : public platform::TopWindowEvents {
     return {size.width + margins, size.height + margins};
   }
 
-  // Beside the area or under the pointer, and inside the monitor's work area.
-  platform::Rect Place(platform::Size size, const platform::Rect& beside) {
+  platform::Point UnderPointer(platform::Size size, const platform::Rect& work) {
     const platform::Point pointer = app_.Platform().screen.Pointer();
-    platform::Rect place{pointer.x, pointer.y + ScaleTo(dpi_, kBelowPointer), size.width,
-                         size.height};
-    if (!beside.Empty()) place = {beside.Right(), beside.top, size.width, size.height};
-    const platform::Rect work = app_.Platform().screen.MonitorOf(place).work_area;
-    if (place.Right() > work.Right()) place.left = work.Right() - size.width;
-    if (place.Bottom() > work.Bottom()) place.top = pointer.y - size.height;
-    place.left = std::max(place.left, work.left);
-    place.top = std::max(place.top, work.top);
-    return place;
+    const int below = pointer.y + ScaleTo(dpi_, kBelowPointer);
+    return {std::min(pointer.x, work.Right() - size.width),
+            below + size.height > work.Bottom() ? pointer.y - size.height : below};
+  }
+
+  // At a side, so that the rows around stay in sight; below or above where both are too narrow.
+  platform::Point Beside(platform::Size size, const platform::Rect& work,
+                         const platform::Rect& area, bool opens_submenu) const {
+    const int gap = ScaleTo(dpi_, kGap);
+    const int right = area.Right() + gap;
+    const int left = area.left - gap - size.width;
+    const int top = std::min(area.top, work.Bottom() - size.height);
+    // The system opens a submenu at the right where it has room; it is about as wide as the menu.
+    const bool right_is_taken = opens_submenu && area.Right() + area.width <= work.Right();
+    const bool left_is_taken = opens_submenu && !right_is_taken;
+    if (!right_is_taken && right + size.width <= work.Right()) return {right, top};
+    if (!left_is_taken && left >= work.left) return {left, top};
+    const int below = area.Bottom() + gap;
+    const bool above = opens_submenu || below + size.height > work.Bottom();
+    return {std::min(area.left, work.Right() - size.width),
+            above ? area.top - gap - size.height : below};
   }
 
   Application& app_;
@@ -153,8 +172,10 @@ void HintWindow::PointerOn(Control& control) {
   Disappear();
   control_ = &control;
   text_ = control.Hint();
-  beside_ = {};
   dpi_ = control.ParentForm().Dpi();
+  beside_ = control.OnScreen();
+  if (beside_.height > ScaleTo(dpi_, kHighestRow)) beside_ = {};
+  opens_submenu_ = false;
   Begin();
 }
 
@@ -168,7 +189,7 @@ void HintWindow::TextChanged(const Control& control) {
   } else if (text_.empty()) {
     Disappear();
   } else {
-    window_->Show(text_, beside_, dpi_);
+    window_->Show(text_, beside_, opens_submenu_, dpi_);
   }
 }
 
@@ -178,11 +199,13 @@ void HintWindow::Forget(const Control& control) {
   Disappear();
 }
 
-void HintWindow::ShowBeside(std::string_view text, const platform::Rect& area, int dpi) {
+void HintWindow::ShowBeside(std::string_view text, const platform::Rect& area, int dpi,
+                            bool opens_submenu) {
   Disappear();
   control_ = nullptr;
   text_ = text;
   beside_ = area;
+  opens_submenu_ = opens_submenu;
   dpi_ = dpi;
   Begin();
 }
@@ -196,7 +219,7 @@ void HintWindow::Begin() {
 
 void HintWindow::Appear() {
   window_ = std::make_unique<Window>(app_, Colour);
-  window_->Show(text_, beside_, dpi_);
+  window_->Show(text_, beside_, opens_submenu_, dpi_);
   timer_ = app_.Platform().timers.Start(std::max(HidePause, kShortestTimer),
                                         [this] { app_.Guard([this] { Disappear(); }); });
 }

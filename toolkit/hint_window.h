@@ -33,8 +33,9 @@ class HintWindow {
   void Forget(const Control& control);
 
   // Shows `text` beside `area` (screen pixels) without a control, under the same pauses; an empty
-  // text takes it away.
-  void ShowBeside(std::string_view text, const platform::Rect& area, int dpi);
+  // text takes it away. The side where a submenu of `area` opens stays free.
+  void ShowBeside(std::string_view text, const platform::Rect& area, int dpi,
+                  bool opens_submenu = false);
 
   [[nodiscard]] bool Showing() const;
 
@@ -48,7 +49,8 @@ class HintWindow {
   Application& app_;
   const Control* control_ = nullptr;  // under the pointer; not owned
   std::string text_;
-  platform::Rect beside_;  // empty: at the pointer
+  platform::Rect beside_;  // on the screen; empty: at the pointer
+  bool opens_submenu_ = false;
   int dpi_ = 96;
   std::unique_ptr<platform::Timer> timer_;
   std::unique_ptr<Window> window_;

@@ -86,10 +86,13 @@ void TKxInterMeter::Compose(platform::Size size) {
 
 GraphLook TKxInterMeter::PixelLook() {
   GraphLook look = look_;
-  for (int GraphLook::*width : {&GraphLook::BevelWidth, &GraphLook::BorderWidth,
-                                &GraphLook::PulseWidth, &GraphLook::PulseSpace}) {
+  for (int GraphLook::*width :
+       {&GraphLook::BevelWidth, &GraphLook::BorderWidth, &GraphLook::PulseWidth,
+        &GraphLook::PulseSpace, &GraphLook::FlatPulseWidth}) {
     look.*width = Scale(std::clamp(look.*width, -kWidestDrawn, kWidestDrawn));
   }
+  // Told apart from what has almost this colour.
+  look.DisplayColor = App().Platform().screen.Resolve(look.DisplayColor);
   look.Font = Scale(Font());
   look.FontColour = FontColour();
   return look;

@@ -57,13 +57,29 @@ ScaleColumn DivideArea(platform::Canvas& canvas, const GraphLook& look, const pl
   return divided;
 }
 
+// Of the background to the eye, but not to the shape of a window that leaves the background out.
+platform::Colour HaloColour(const GraphLook& look) { return look.DisplayColor ^ 1; }
+
+void PaintScaleText(platform::Canvas& canvas, const GraphLook& look, const platform::Rect& box,
+                    const std::string& text) {
+  const auto write = [&](int right, int down, platform::Colour colour) {
+    canvas.Text({box.left + right, box.top + down, box.width, box.height}, text, look.Font, colour,
+                platform::TextAlign::kRight);
+  };
+  // On a desktop of the letters' own colour they would be lost.
+  for (int down = -1; look.Transparent && down <= 1; ++down) {
+    for (int right = -1; right <= 1; ++right) write(right, down, HaloColour(look));
+  }
+  write(0, 0, look.FontColour);
+}
+
 void PaintScale(platform::Canvas& canvas, const GraphLook& look, const platform::Rect& column,
                 const GraphScale& scale, std::string_view decimal_separator) {
   const int height = canvas.TextSize("8", look.Font).height;
   const auto write = [&](int top, std::int64_t amount) {
-    canvas.Text({column.left + kScaleGap, top, column.width - 2 * kScaleGap, height},
-                ScaleText(amount, look.ScaleUnits, decimal_separator), look.Font, look.FontColour,
-                platform::TextAlign::kRight);
+    PaintScaleText(canvas, look,
+                   {column.left + kScaleGap, top, column.width - 2 * kScaleGap, height},
+                   ScaleText(amount, look.ScaleUnits, decimal_separator));
   };
   write(column.top, scale.high);
   if (column.height >= 2 * height) write(column.Bottom() - height, scale.low);
@@ -72,14 +88,25 @@ void PaintScale(platform::Canvas& canvas, const GraphLook& look, const platform:
   }
 }
 
-// Light at the left and on top, shadow at the right. One of two columns would lose half of its own
-// colour at each side, and has its shadow at the foot.
+enum class BarEdges {
+  kNone,
+  kEnds,   // light on top, shadow at the foot
+  kSides,  // light at the left and on top, shadow at the right
+};
+
+// A narrow bar would lose most of its own colour to edges at its sides.
+BarEdges EdgesOf(const GraphLook& look) {
+  if (!look.Pulse3D || PulseWidth(look) < 2) return BarEdges::kNone;
+  return PulseWidth(look) <= look.FlatPulseWidth ? BarEdges::kEnds : BarEdges::kSides;
+}
+
+// What is too low for face and edges has its own colour.
 void PaintBar(platform::Canvas& canvas, const platform::Rect& bar, const BarColours& colours,
-              bool edges) {
+              BarEdges edges) {
   canvas.Fill(bar, colours.face);
-  if (!edges || bar.width < 2) return;
+  if (edges == BarEdges::kNone || bar.height < 2) return;
   canvas.Fill({bar.left, bar.top, bar.width, 1}, colours.light);
-  if (bar.width > 2) {
+  if (edges == BarEdges::kSides) {
     canvas.Fill({bar.left, bar.top, 1, bar.height}, colours.light);
     canvas.Fill({bar.Right() - 1, bar.top, 1, bar.height}, colours.shadow);
   } else if (bar.height > 2) {
@@ -87,8 +114,8 @@ void PaintBar(platform::Canvas& canvas, const platform::Rect& bar, const BarColo
   }
 }
 
-// The smaller amount stands in front of the larger one and leaves its left column and its top
-// visible, so that both are seen whatever their sizes. Beside the smaller one that column has no
+// The smaller amount stands in front of the larger one and leaves its left side and its top
+// visible, so that both are seen whatever their sizes. Beside the smaller one that side has no
 // light: it is all that is left of the larger one's own colour when both are the same.
 void PaintPulse(platform::Canvas& canvas, const GraphLook& look, const platform::Rect& slot,
                 int in_height, int out_height) {
@@ -96,17 +123,27 @@ void PaintPulse(platform::Canvas& canvas, const GraphLook& look, const platform:
   const BarColours in{look.InColor, look.InLight, look.InShadow};
   const BarColours out{look.OutColor, look.OutLight, look.OutShadow};
   const BarColours& behind = in_behind ? in : out;
-  const int back = std::max(in_height, out_height);
+  int back = std::max(in_height, out_height);
   int front = std::min(in_height, out_height);
   const auto bar = [&slot](int inset, int height) {
     return platform::Rect{slot.left + inset, slot.Bottom() - height, slot.width - inset, height};
   };
-  if (back > 0) PaintBar(canvas, bar(0, back), behind, look.Pulse3D);
-  if (front == back && front > 1) --front;
+  if (front == back && front > 0) {
+    if (front > 1) {
+      --front;
+    } else if (back < slot.height) {
+      ++back;
+    }
+  }
+  const BarEdges edges = EdgesOf(look);
+  if (back > 0) PaintBar(canvas, bar(0, back), behind, edges);
   if (front <= 0) return;
-  const int inset = slot.width > 1 ? 1 : 0;
-  canvas.Fill({slot.left, slot.Bottom() - front, inset, front}, behind.face);
-  PaintBar(canvas, bar(inset, front), in_behind ? out : in, look.Pulse3D);
+  const int seen = edges == BarEdges::kEnds ? std::max(1, slot.width / 3) : 1;
+  const int inset = std::min(seen, slot.width - 1);
+  if (edges == BarEdges::kSides) {
+    canvas.Fill({slot.left, slot.Bottom() - front, inset, front}, behind.face);
+  }
+  PaintBar(canvas, bar(inset, front), in_behind ? out : in, edges);
 }
 
 void PaintBars(platform::Canvas& canvas, const GraphLook& look, const platform::Rect& area,

@@ -31,9 +31,12 @@ struct GraphLook : ScaleRule {
   int PulseWidth = 3;
   int PulseSpace = 0;
   bool Pulse3D = true;  // bars with light and shadow edges
+  // Pixels; a bar so narrow keeps its colour: it has light on top and shadow at its foot only.
+  int FlatPulseWidth = 4;
   bool ScaleShow = true;
   display::ScalePosition ScalePosition = display::ScalePosition::kLeft;
-  // No background: what is neither bar nor text nor frame is left out of the window.
+  // No background: what is neither bar nor text nor frame is left out of the window. The texts get
+  // a rim, of almost the background's colour.
   bool Transparent = false;
   // Of the scale.
   platform::FontSpec Font;

@@ -14,6 +14,10 @@ constexpr std::int64_t kBitsPerByte = 8;
 // An idle line has a scale too: one kilobyte or kilobit.
 constexpr std::int64_t kSmallestUpperEdge = 1;
 
+// The scale leaves zero when all amounts in sight are above this part of the largest.
+constexpr std::int64_t kSteadyNumerator = 4;
+constexpr std::int64_t kSteadyDenominator = 5;
+
 // The smallest of 1, 2, 5, 10, 20 ... that is not below `value`.
 std::int64_t RoundUp(std::int64_t value) {
   for (std::int64_t decade = 1; decade < std::numeric_limits<std::int64_t>::max() / 10;
@@ -23,6 +27,13 @@ std::int64_t RoundUp(std::int64_t value) {
     }
   }
   return value;
+}
+
+// The largest of 0, 1, 2, 5, 10, 20 ... that is not above `value`.
+std::int64_t RoundDown(std::int64_t value) {
+  std::int64_t round = 0;
+  for (std::int64_t next = RoundUp(1); next <= value; next = RoundUp(next + 1)) round = next;
+  return round;
 }
 
 // The unit of the amount: how many bytes (or bits) one is.
@@ -46,6 +57,16 @@ std::int64_t AutomaticEdge(std::int64_t peak, ScaleUnits units) {
   return units == ScaleUnits::kKBits ? edge / kBitsPerByte : edge;
 }
 
+// A round amount at half of `smallest` or below.
+std::int64_t LowerEdge(std::int64_t smallest, ScaleUnits units) {
+  const std::int64_t amount = InUnits(smallest, units) / 2;
+  std::int64_t unit = UnitOf(amount);
+  if (amount < unit) unit /= kStep;  // 1000 to 1023 of a unit are written in the next one
+  if (unit < kStep) return 0;
+  const std::int64_t edge = RoundDown(std::min(amount / unit, kNextUnitAt - 1)) * unit;
+  return units == ScaleUnits::kKBits ? edge / kBitsPerByte : edge;
+}
+
 }  // namespace
 
 int GraphScale::HeightOf(std::int64_t amount, int height) const {
@@ -64,8 +85,10 @@ GraphScale ScaleFor(std::span<const GraphSample> in_sight, const ScaleRule& choi
   GraphScale scale;
   scale.high = choice.AutoScale ? AutomaticEdge(peak, choice.ScaleUnits)
                                 : std::max<std::int64_t>(1, choice.SpeedLimit);
-  if (!choice.ZeroBased && !in_sight.empty()) {
-    scale.low = std::clamp<std::int64_t>(smallest, 0, scale.high - 1);
+  const bool steady =
+      !in_sight.empty() && smallest > 0 && smallest * kSteadyDenominator > peak * kSteadyNumerator;
+  if (!choice.ZeroBased && steady) {
+    scale.low = LowerEdge(std::min(smallest, scale.high), choice.ScaleUnits);
   }
   return scale;
 }

@@ -29,14 +29,15 @@ struct ScaleRule {
   // On: the scale fits the largest amount in sight. Off: it ends at SpeedLimit.
   bool AutoScale = true;
   std::int64_t SpeedLimit = 0;  // bytes per second
-  bool ZeroBased = false;       // off: the lower end follows the smallest amount in sight
+  bool ZeroBased = false;       // off: a load that is high and steady does not begin at zero
   display::ScaleUnits ScaleUnits = display::ScaleUnits::kKBytes;
 
   friend bool operator==(const ScaleRule&, const ScaleRule&) = default;
 };
 
 // The scale for the samples in sight. Automatic: the upper edge is a round number of the chosen
-// unit at or above the largest amount, so it rises at once and comes down when the peak leaves.
+// unit at or above the largest amount, so it rises at once and comes down when the peak leaves. The
+// lower edge is round too, and at half of the smallest amount at the most: what flows is seen.
 [[nodiscard]] GraphScale ScaleFor(std::span<const GraphSample> in_sight, const ScaleRule& choice);
 
 // An amount as the scale writes it, such as "12,5 kB" or "96 kb": three digits at the most, in the

@@ -61,16 +61,39 @@ TEST(GraphScale, TheUpperEdgeRisesWithThePeakToARoundNumber) {
   }
 }
 
-TEST(GraphScale, TheLowerEdgeFollowsTheSmallestAmountUnlessItIsZeroBased) {
-  const GraphSample samples[] = {{5000, 7000}, {3000, 9000}};
+TEST(GraphScale, TheLowerEdgeIsRoundAndLeavesZeroOnlyForASteadyLoad) {
+  struct Row {
+    const char* why;
+    GraphSample sample;
+    bool ZeroBased;
+    ScaleUnits units;
+    std::int64_t low;
+  };
+  constexpr std::int32_t kK = 1024;
+  static constexpr Row kRows[] = {
+      {"steady", {587 * kK, 534 * kK}, false, ScaleUnits::kKBytes, 200 * kK},
+      {"a little more", {588 * kK, 536 * kK}, false, ScaleUnits::kKBytes, 200 * kK},
+      {"in bits", {587 * kK, 534 * kK}, false, ScaleUnits::kKBits, 2 * 1024 * kK / 8},
+      {"zero based", {587 * kK, 534 * kK}, true, ScaleUnits::kKBytes, 0},
+      {"four fifths", {1000 * kK, 800 * kK}, false, ScaleUnits::kKBytes, 0},
+      {"just above", {1000 * kK, 801 * kK}, false, ScaleUnits::kKBytes, 200 * kK},
+      {"one way idle", {587 * kK, 0}, false, ScaleUnits::kKBytes, 0},
+      {"idle", {0, 0}, false, ScaleUnits::kKBytes, 0},
+      {"less than the unit", {900, 900}, false, ScaleUnits::kKBytes, 0},
+      {"between two units", {2040 * kK, 2020 * kK}, false, ScaleUnits::kKBytes, 500 * kK},
+  };
+  for (const Row& row : kRows) {
+    SCOPED_TRACE(row.why);
+    EXPECT_EQ(ScaleFor({&row.sample, 1}, {true, 0, row.ZeroBased, row.units}).low, row.low);
+  }
+}
+
+TEST(GraphScale, TheEdgesOfAFixedScaleNeverMeet) {
+  const GraphSample samples[] = {{8500, 8600}, {8700, 9000}};
   ScaleRule rule;
-  rule.ZeroBased = true;
-  EXPECT_EQ(ScaleFor(samples, rule).low, 0);
-  rule.ZeroBased = false;
-  EXPECT_EQ(ScaleFor(samples, rule).low, 3000);
   rule.AutoScale = false;
   for (const std::int64_t limit : {std::int64_t{0}, std::int64_t{-5}, std::int64_t{1800}}) {
-    rule.SpeedLimit = limit;  // all amounts above the limit: the edges must not meet
+    rule.SpeedLimit = limit;  // all amounts above the limit
     const display::GraphScale scale = ScaleFor(samples, rule);
     EXPECT_LT(scale.low, scale.high);
     EXPECT_EQ(scale.HeightOf(9000, 50), 50);
@@ -137,7 +160,7 @@ TEST_F(Graph, ScrollsToTheLeftWithTheNewestAtTheRight) {
 
 TEST_F(Graph, DownloadAndUploadAreBothSeenWhateverTheirSizes) {
   for (const test::Traffic traffic :
-       {test::Traffic{1000, 1000}, {1000, 1}, {1, 1000}, {500, 1000}}) {
+       {test::Traffic{1000, 1000}, {1000, 1}, {1, 1000}, {500, 1000}, {1, 1}}) {
     for (const std::uint32_t width : {1U, 2U, 3U, 8U}) {
       Set("PulseWidth", width);
       Run([&] {
@@ -182,7 +205,7 @@ TEST_F(Graph, EveryPropertyShows) {
   const auto picture_of = [&] {
     std::vector<Colour> pixels;
     Run([&] {
-      for (std::uint32_t i = 1; i < 8; ++i) Scan({500 + i * 7, 300});
+      for (std::uint32_t i = 1; i < 8; ++i) Scan({50000 + i * 700, 48000});
       const auto picture = MeterTest::Graph();
       for (int y = 0; y < picture->Extent().height; ++y) {
         for (int x = 0; x < picture->Extent().width; ++x) pixels.push_back(picture->Pixel({x, y}));
@@ -206,15 +229,38 @@ TEST_F(Graph, EveryPropertyShows) {
   EXPECT_EQ(picture_of(), plain);
 }
 
-TEST_F(Graph, EdgesAreDrawnIn3D) {
+TEST_F(Graph, BarsHaveEdgesIn3DAndNarrowOnesKeepTheirColour) {
   Set("Pulse3D", 1);
+  Set("PulseWidth", 5U);
   Run([&] {
     Scan({1024, 0});
     const auto picture = MeterTest::Graph();
-    EXPECT_GT(Count(*picture, Newest(*picture), kInLight), 10);
-    EXPECT_GT(Count(*picture, Newest(*picture) + 1, kIn), 10);
+    EXPECT_GT(Count(*picture, Newest(*picture) - 2, kInLight), 10);
+    EXPECT_GT(Count(*picture, Newest(*picture) - 1, kIn), 10);
     EXPECT_GT(Count(*picture, Newest(*picture) + 2, platform::colour::kBlack), 10);
   });
+  for (const int dpi : {96, 192}) {
+    for (const std::uint32_t width : {2U, 3U, 4U}) {
+      Set("PulseWidth", width);
+      Run([&] {
+        machine.windowing.ChangeDpi("T_frmBrisanto", dpi, {0, 0, 274 * dpi / 96, 135 * dpi / 96});
+        Scan({1024, 0});
+        const auto picture = MeterTest::Graph();
+        const int inside = picture->Extent().height - 2 * dpi / 96;
+        const int bar = static_cast<int>(width) * dpi / 96;
+        EXPECT_EQ(Count(*picture, kIn), bar * (inside - 2)) << width << " at " << dpi;
+      });
+    }
+  }
+}
+
+TEST_F(Graph, ASeeThroughScaleHasARimThatIsNotBackground) {
+  Set("ScaleShow", 1);
+  Set("GraphColor_Background", "clWhite");
+  for (const std::uint32_t transparent : {0U, 1U}) {
+    Set("Transparent", transparent);
+    Run([&] { EXPECT_EQ(Count(*MeterTest::Graph(), 0xFFFFFE) > 0, transparent != 0); });
+  }
 }
 
 // As a loopback counts, which moves the same both ways.

@@ -34,14 +34,14 @@ TEST_F(LanguageChoice, CountsAtOnceInMenuLineAndGraphAndAtTheNextStart) {
     Scan({});
     ASSERT_EQ(Line(), "[ Average DL:1 kB UL:2 kB ]");
     ChooseLanguage("German");
-    EXPECT_EQ(Line(), "[ Durchschnitt DL:1 kB UL:2 kB ]") << "before another scan";
+    EXPECT_EQ(Line(), "[ Ø DL:1 kB UL:2 kB ]") << "before another scan";
     EXPECT_TRUE(Entry("Immer im Vordergrund").checked);
     EXPECT_EQ(Entry("Diagrammtransparenz").hint, "Tastenkürzel [ Ctrl+Alt+S ]");
     EXPECT_EQ(Widget("_tlkInterMeter").text, "Datenverkehr");
     EXPECT_EQ(StoredText("Language"), "German");
   });
   Run([&] {
-    EXPECT_EQ(Line(), "[ Durchschnitt DL:0,0 kB UL:0,0 kB ]");
+    EXPECT_EQ(Line(), "[ Ø DL:0,0 kB UL:0,0 kB ]");
     ChooseLanguage("English");
     EXPECT_EQ(Line(), "[ Average DL:0,0 kB UL:0,0 kB ]") << "there is no file of it";
     EXPECT_TRUE(Entry("Always on Top").checked);
@@ -71,7 +71,7 @@ TEST_F(LanguageChoice, ScansReadNoLanguageFile) {
     const int loads = machine.files.loads;
     for (int i = 0; i < 20; ++i) Scan({1024, 1024});
     EXPECT_EQ(machine.files.loads, loads);
-    EXPECT_EQ(Line(), "[ Durchschnitt DL:1 kB UL:1 kB ]");
+    EXPECT_EQ(Line(), "[ Ø DL:1 kB UL:1 kB ]");
   });
 }
 

@@ -212,7 +212,7 @@ TEST_F(Meter, ThePasswordIsAskedForWheneverThePreferencesAreWanted) {
     params.name = "T_frmPreferences";
     toolkit::Form preferences(App(), params);
     int opened = 0;
-    Window().SetPreferences([&] {
+    Window().SetPreferences([&](std::string_view) {
       ++opened;
       preferences.Show();
     });

@@ -144,6 +144,45 @@ TEST(NumericLineForm, IsKnownInEveryLanguageAndUnitAndNothingElseIs) {
   }
 }
 
+TEST_F(NumericLine, IsBrokenWhereItIsHighEnoughAndElseToldByTheHint) {
+  for (const char* mode : {"SOM1", "SOM2", "SOM3"}) Set(mode, 1);
+  for (const std::uint32_t window_mode : {1U, 2U}) {
+    Set("WindowMode", window_mode);
+    Run([&] {
+      machine.windowing.PointAt("_tlkDLULMeter");
+      Scan({1024, 1024});
+      const auto picture = Widget("_tlkDLULMeter").Paint(machine.screen);
+      std::string joined;
+      for (const auto& text : picture->Texts()) {
+        EXPECT_GT(text.box.left, 0);
+        joined += text.text;
+      }
+      EXPECT_EQ(joined, Line());
+      EXPECT_EQ(picture->Texts().size(), window_mode == 1 ? 3U : 1U);
+      EXPECT_EQ(App().Hints().Showing(), window_mode == 2);
+      if (window_mode == 2) {
+        EXPECT_EQ(Widget("TremoluxHint").text, Line());
+      }
+    });
+  }
+}
+
+TEST_F(NumericLine, StaysWhereItIsWhileItsWidthHardlyChanges) {
+  Set("SOM1", 1);
+  Set("SOM2", 0);
+  const auto left = [&] {
+    return Widget("_tlkDLULMeter").Paint(machine.screen)->Texts().front().box.left;
+  };
+  Run([&] {
+    Scan({1024, 1024});
+    const int before = left();
+    Scan({10 * 1024, 1024});
+    EXPECT_EQ(left(), before);
+    Scan({1024 * 1024 + 300 * 1024, 1024 * 1024 + 300 * 1024});
+    EXPECT_LT(left(), before);
+  });
+}
+
 TEST_F(NumericLine, AnEqualTextIsNotSetAgain) {
   Set("SOM1", 1);
   Set("SOM2", 0);

@@ -63,7 +63,7 @@ TEST_F(StatisticsMenu, AnAdaptersWindowIsModalAndBothStayRight) {
       EXPECT_EQ(Shown(*Find("T_frmConnInfo"), "lblInfoTotalDL"), "5");
 
       int settings_opened = 0;
-      Window().SetPreferences([&] { ++settings_opened; });
+      Window().SetPreferences([&](std::string_view) { ++settings_opened; });
       int raised = 0;
       for (const char* other :
            {"DL-UL Statistics", "Ethernet", "Settings...", "About Korvane Tremolux"}) {

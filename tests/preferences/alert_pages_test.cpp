@@ -72,6 +72,25 @@ class AlertPages : public test::PreferencesTest {
   }
 };
 
+TEST_F(AlertPages, TheFootOfTheBandwidthAlertSaysWhatWillCome) {
+  for (const char* on : {"baDownload", "baUpload"}) Set(on, 1);
+  for (const char* last : {"AlertsMoreThan", "BADayWeekMonth"}) Set(last, 2);
+  Set("BAAlerts", 0U);
+  const auto says = [&] { return Widget("lblBaOutcome").text; };
+  RunOpen([&] {
+    ChoosePage("Bandwidth Alerts");
+    EXPECT_EQ(says(), "Never alerts: the bandwidth alert is not active.");
+    User().Press("BAAlertsCheckBox");
+    EXPECT_EQ(says(), "Alerts when download and upload of a month reach 1 GB.");
+    User().Press("baUpload");
+    Select("cmbDayWeekMonth", 0)();
+    TypeNew("MoreThan", "50");
+    EXPECT_EQ(says(), "Alerts when the download of a day reaches 50 GB.");
+    User().Press("baDownload");
+    EXPECT_EQ(says(), "Never alerts: neither download nor upload counts.");
+  });
+}
+
 TEST_F(AlertPages, OfTheBandwidthAlertEachControlWritesItsOneValue) {
   const auto plays = [this] {
     return Widget("BaPlayFile").enabled && Widget("BaSpeedbtn").enabled &&

@@ -59,6 +59,10 @@ TEST_F(Preferences, EachItemOfTheTreeLeadsToItsPage) {
     // The second of two items of that name.
     User().Choose("TreeItems", 16);
     EXPECT_EQ(Page(), "SpeedUp");
+    Choose("DL-UL Statistics");
+    User().Choose("PageControl1", 4);
+    User().Press("Label1");
+    EXPECT_EQ(Page(), "BandwidthAlert") << "the link of the statistics";
   });
 }
 

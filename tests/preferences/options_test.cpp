@@ -106,8 +106,8 @@ TEST_F(PreferenceOptions, OfGeneralWorkedOnceWriteTheirValueAndShowInTheMeter) {
 
 TEST_F(PreferenceOptions, OfTheGraphWorkedOnceWriteTheirValueAndShowInTheMeter) {
   RunOpen([&] {
-    Scan({100000, 50000});
-    Scan({50000, 100000});
+    Scan({100000, 90000});
+    Scan({90000, 100000});
     const auto colour = [&](const char* panel, const char* name, platform::Colour chosen,
                             const char* text) {
       return Row{"Graph Colors", Redrawn(Colour(panel, chosen)), {{name, Text(text)}}, {}};
@@ -325,10 +325,14 @@ TEST_F(PreferenceOptions, OpeningShowsWhatIsStoredAndChangesNoStoredValue) {
        "the name counts"},
       {"FontName", Text("COURIER new"), [&] { return Widget("FontChoose").text == "Courier New"; },
        "capitals do not matter"},
-      {"FontName", Text("No Such Font"), [&] { return Widget("FontChoose").index == -1; },
-       "not installed"},
+      {"FontName", Text("No Such Font"),
+       [&] { return Widget("FontChoose").text == "No Such Font"; }, "not installed"},
       {"Win2kTransparentRatio", Number(4000),
-       [&] { return Widget("Win2kTransTrack").position == 255; }, ""},
+       [&] {
+         return Widget("Win2kTransTrack").position == 255 &&
+                Widget("lblWin2kTransTrack").text.ends_with(" 100 %");
+       },
+       ""},
       {"FormMagnet", Number(0), [&] { return !Widget("chkScreenDocking").checked; }, ""},
       {"CopyIP", Number(5), [&] { return Widget("chkCopyIP").checked; }, "any number is true"},
       {"AvarageTime", Number(4000),

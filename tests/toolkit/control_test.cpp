@@ -125,6 +125,37 @@ TEST_F(Controls, ALongHintIsBrokenBetweenItsWordsOrElseWithinThem) {
                      std::string(26, 'x') + '|');
 }
 
+TEST_F(Controls, AHintStandsBesideItsRowAndLeavesTheSubmenuFree) {
+  struct Row {
+    const char* why;
+    platform::Rect area;
+    bool opens_submenu;
+    bool at_right;
+    bool at_left;
+  };
+  static constexpr Row kRows[] = {
+      {"a row", {300, 100, 100, 20}, false, true, false},
+      {"at the right edge", {880, 100, 100, 20}, false, false, true},
+      {"a submenu opens at the right", {300, 100, 100, 20}, true, false, true},
+      {"a submenu opens at the left", {850, 100, 100, 20}, true, true, false},
+      {"no side is free", {10, 100, 980, 20}, false, false, false},
+      {"no side but that of the submenu", {10, 100, 200, 20}, true, false, false},
+  };
+  machine.screen.monitors = {{{0, 0, 1000, 700}, {0, 0, 1000, 700}, 96}};
+  app.Hints().Pause = 0;
+  for (const Row& row : kRows) {
+    SCOPED_TRACE(row.why);
+    app.Hints().ShowBeside("some", row.area, 96, row.opens_submenu);
+    machine.timers.Advance(10);
+    const platform::Rect hint = machine.windowing.Find("TremoluxHint").bounds;
+    EXPECT_EQ(hint.left >= row.area.Right(), row.at_right);
+    EXPECT_EQ(hint.Right() <= row.area.left, row.at_left);
+    if (!row.at_right && !row.at_left) {
+      EXPECT_TRUE(hint.top >= row.area.Bottom() || hint.Bottom() <= row.area.top);
+    }
+  }
+}
+
 TEST_F(Controls, AHintGoesWithItsControl) {
   app.Hints().Pause = 0;
   {

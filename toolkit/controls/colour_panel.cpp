@@ -1,7 +1,6 @@
 #include "toolkit/controls/colour_panel.h"
 
 #include "toolkit/application.h"
-#include "toolkit/controls/bevel.h"
 
 namespace toolkit {
 
@@ -14,9 +13,10 @@ ColourPanel::ColourPanel(Control& parent, std::string_view name)
 
 void ColourPanel::Paint(platform::Canvas& canvas) {
   const platform::Size size = canvas.Extent();
-  const platform::Rect inside =
-      DrawBevel(canvas, {0, 0, size.width, size.height}, BevelCut::kLowered, 1, Colour());
-  canvas.Fill(inside, Enabled() ? Colour() : platform::colour::kButtonFace);
+  const platform::Rect all{0, 0, size.width, size.height};
+  // The same on all sides: a pale colour would have no edge where the light falls.
+  canvas.Fill(all, platform::colour::kButtonShadow);
+  canvas.Fill(all.Shrunk(1), Enabled() ? Colour() : platform::colour::kButtonFace);
 }
 
 }  // namespace toolkit

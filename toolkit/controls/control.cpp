@@ -140,6 +140,13 @@ void Control::Invalidate() {
   if (peer_) peer_->Invalidate();
 }
 
+platform::Rect Control::OnScreen() const {
+  if (!peer_) return {};
+  const platform::Point origin = peer_->ToScreen({0, 0});
+  const platform::Size size = peer_->ClientSize();
+  return {origin.x, origin.y, size.width, size.height};
+}
+
 // What has no peer yet lies on a page, where nothing that holds others has a frame.
 platform::Size Control::ClientPixels() const {
   if (peer_) return peer_->ClientSize();

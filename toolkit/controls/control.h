@@ -106,6 +106,8 @@ class Control : protected platform::WidgetEvents {
 
   // Asks for a repaint.
   void Invalidate();
+  // Returns the place of the client area on the screen, in real pixels; nothing without a peer.
+  [[nodiscard]] platform::Rect OnScreen() const;
   // Returns the size of the client area in real pixels.
   [[nodiscard]] platform::Size ClientPixels() const;
   // Convert design pixels into real pixels, and back, at the resolution of the control's form.

@@ -146,7 +146,11 @@ void MenuPainter::PaintMark(const platform::MenuEntry& entry, const platform::Me
 void MenuPainter::Highlighted(const platform::MenuEntry* entry, const platform::Rect& area) {
   app_.Guard([&] {
     const int dpi = app_.Platform().screen.MonitorOf(area).dpi;
-    app_.Hints().ShowBeside(entry != nullptr ? entry->hint : std::string_view(), area, dpi);
+    if (entry == nullptr) {
+      app_.Hints().ShowBeside("", area, dpi);
+    } else {
+      app_.Hints().ShowBeside(entry->hint, area, dpi, !entry->children.empty());
+    }
   });
 }
 

@@ -40,6 +40,10 @@ std::optional<LRESULT> TextWidget::Handle(const Message& message) {
     case WM_NCHITTEST:
       // The control itself would let the mouse through to its parent.
       return OnSizingEdge(hwnd(), message.l) ? HTTRANSPARENT : HTCLIENT;
+    case WM_NCPAINT:
+      if (style_.border != Border::kSunken) return std::nullopt;
+      PaintFrame();
+      return 0;
     case WM_SETTEXT:
     case WM_ENABLE:
     case WM_UPDATEUISTATE:
@@ -53,6 +57,17 @@ LRESULT TextWidget::WithoutControl(const Message& message) {
   const LRESULT answer = ::DefWindowProcW(hwnd(), message.id, message.w, message.l);
   Invalidate();
   return answer;
+}
+
+// The same on all sides: of the system's own frame only two are seen on a bright window.
+void TextWidget::PaintFrame() {
+  RECT frame{};
+  ::GetWindowRect(hwnd(), &frame);
+  ::OffsetRect(&frame, -frame.left, -frame.top);
+  const HDC dc = ::GetWindowDC(hwnd());
+  if (dc == nullptr) return;
+  ::FrameRect(dc, &frame, ::GetSysColorBrush(COLOR_BTNSHADOW));
+  ::ReleaseDC(hwnd(), dc);
 }
 
 void TextWidget::PaintContent(GdiCanvas& canvas) {

@@ -18,6 +18,7 @@ class TextWidget final : public WidgetOf<Widget> {
   void PaintContent(GdiCanvas& canvas) override;
 
  private:
+  void PaintFrame();
   // Lets the system do its part without the control, which would paint at once.
   LRESULT WithoutControl(const Message& message);
 
