@@ -29,8 +29,9 @@ std::vector<std::string_view> TextsOf(std::string_view line) {
 LineLabel::LineLabel(toolkit::Control& parent, std::string_view name)
     : Control(parent.App(), &parent, name),
       scratch_(App().Platform().graphics.CreateBitmap({1, 1})) {
-  Attach(App().Platform().windowing.CreateSurface(PeerOf(parent), name,
-                                                  platform::SurfaceKind::kArea, *this));
+  Attach([this](platform::Windowing& windowing, platform::Widget& on) {
+    return windowing.CreateSurface(on, Name(), *this);
+  });
 }
 
 void LineLabel::Refresh() {
