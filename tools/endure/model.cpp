@@ -7,8 +7,6 @@
 namespace endure {
 namespace {
 
-using std::chrono::day;
-using std::chrono::month;
 using std::chrono::sys_days;
 using std::chrono::weekday;
 using std::chrono::year;

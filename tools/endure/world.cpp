@@ -44,17 +44,18 @@ std::string KeyPath(const char* key) { return std::string(kHome) + key; }
 
 World::World(std::uint32_t seed) : die_(seed) {
   machine_.locale.decimal_separator = ",";
-  machine_.clock.SetNow(platform::EncodeDateTime(2019 + Below(12), 1 + Below(12), 1 + Below(28),
-                                                 Below(24), Below(60), Below(60)));
+  // Every other life begins shortly before a new year.
+  machine_.clock.SetNow(platform::EncodeDateTime(2019 + Below(12), Chance(2) ? 12 : 1 + Below(12),
+                                                 20 + Below(9), Below(24), Below(60), Below(60)));
   machine_.notebook.on_registry_read = [this](std::string_view name) {
     scans_seen_ += name == "NotificationsActive" ? 1 : 0;
   };
   AddAdapter();
   AddAdapter();
-  StartAnew();
 }
 
 void World::PlayDay() {
+  if (!program_) StartAnew();
   const auto day = Now().day;
   while (Now().day == day) {
     const std::int64_t rest = SecondsToMidnight();
@@ -183,7 +184,7 @@ void World::Happen() {
     case 6:
       return Sleep();
     case 7:
-      if (Chance(8)) SetClock();
+      if (Chance(3)) SetClock();
       return;
     case 8:
     case 9:
@@ -197,7 +198,7 @@ void World::Happen() {
     case 13:
       return Restart();
     case 14:
-      if (Chance(20)) StartAnew();
+      if (Chance(6)) StartAnew();
       return;
     default:
       return Choose();
