@@ -1,6 +1,7 @@
 # floor(<target> <folders> [<floors below>...])
 #
-# A static library of all sources directly in the folders (a list); header-only while they have none.
+# A library (static, unless BUILD_SHARED_LIBS says otherwise) of all sources directly in the folders
+# (a list); header-only while they have none.
 # Sources are found at configure time, so that a new file needs no second entry here.
 function(floor target folders)
   list(TRANSFORM folders APPEND "/*.cpp")
@@ -8,7 +9,7 @@ function(floor target folders)
   file(GLOB sources CONFIGURE_DEPENDS ${folders})
   list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")
   if(sources)
-    add_library(${target} STATIC ${sources})
+    add_library(${target} ${sources})
     target_link_libraries(${target} PUBLIC tremolux_options ${ARGN})
   else()
     add_library(${target} INTERFACE)

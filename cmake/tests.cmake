@@ -65,8 +65,14 @@ function(test_program name folders)
   endif()
   add_executable(${name} ${sources})
   target_link_libraries(${name} PRIVATE tremolux_options ${ARGN} gtest_main)
-  # For tests that compare what is shipped or written with what the code says.
-  target_compile_definitions(${name} PRIVATE SOURCE_FOLDER="${CMAKE_SOURCE_DIR}")
+  # For tests that compare what is shipped or written with what the code says; nobody else is built
+  # anew for another folder.
+  foreach(source ${sources})
+    file(STRINGS ${source} mentions REGEX SOURCE_FOLDER)
+    if(mentions)
+      set_property(SOURCE ${source} PROPERTY COMPILE_DEFINITIONS SOURCE_FOLDER="${CMAKE_SOURCE_DIR}")
+    endif()
+  endforeach()
   read_headers_once(${name})
   add_test(NAME ${name} COMMAND ${name} --gtest_brief=1)
   if(CMAKE_CROSSCOMPILING)

@@ -92,6 +92,16 @@ TEST_F(SavedPlacement, ClosingTheFormAndTheEndOfTheSessionStoreIt) {
   EXPECT_EQ(Stored(), kDesign);
 }
 
+TEST_F(SavedPlacement, AFormThatClosesWhileTheUserHoldsItIsStoredWhereItIs) {
+  Run run(machine);
+  run.form.Show();
+  machine.windowing.Find("form").dragging = true;
+  machine.windowing.Place("form", {200, 300, 274, 135});
+  EXPECT_EQ(machine.registry.Dword(kKey, "Left"), std::nullopt) << "the user may still move it on";
+  machine.windowing.ClickCloseBox("form");
+  EXPECT_EQ(Stored(), (Rect{200, 300, 274, 135}));
+}
+
 TEST_F(SavedPlacement, WhatCannotBeUsedIsBroughtIntoViewOrLeftOut) {
   struct Row {
     const char* why;

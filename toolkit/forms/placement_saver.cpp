@@ -98,12 +98,14 @@ void PlacementSaver::FormDisplayChanged() {
   if (active_) Place();
 }
 
-void PlacementSaver::FormClosing() {
-  if (active_) Save();
-}
+void PlacementSaver::FormClosing() { SaveAsItStands(); }
 
-void PlacementSaver::FormSessionEnds() {
-  if (active_) Save();
+void PlacementSaver::FormSessionEnds() { SaveAsItStands(); }
+
+void PlacementSaver::SaveAsItStands() {
+  if (!active_) return;
+  if (form_.Window().Dragging()) TakePlace(true);  // nobody will hear of the end of this drag
+  Save();
 }
 
 void PlacementSaver::TakePlace(bool dragged) {

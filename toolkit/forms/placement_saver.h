@@ -41,6 +41,8 @@ class PlacementSaver final : public FormComponent {
   // Puts the form at its wanted place, or into view when that is on no monitor.
   void Place();
   void TakePlace(bool dragged);
+  // Stores the place that the form has now, also while the user still drags it.
+  void SaveAsItStands();
   void Save() noexcept;
   [[nodiscard]] bool MonitorsChanged();
 
