@@ -287,8 +287,11 @@ void T_frmBrisanto::OpenPreferences(std::string_view page) {
   open_preferences_(page);
 }
 
+// A language without a help of its own, as one that the user has made, gets the English one.
 void T_frmBrisanto::HelpContents1Click() {
-  App().Platform().shell.Open(RegME.ProgramFile("Help\\index.html"));
+  platform::Shell& shell = App().Platform().shell;
+  const std::string own = "Help\\" + RegME.Read(setting::Language) + "\\index.html";
+  if (!shell.Open(RegME.ProgramFile(own))) shell.Open(RegME.ProgramFile("Help\\index.html"));
 }
 
 void T_frmBrisanto::AboutBrisantoXP1Click() { ShowAbout(App(), _ReadLangauge); }

@@ -286,13 +286,19 @@ TEST_F(Effects, TheMeterDocksAndKeepsItsPlace) {
   EXPECT_EQ(machine.registry.Dword("Software\\BrisantoNET\\Settings\\MainScreen", "Left"), 9U);
 }
 
-TEST_F(Effects, HelpOpensTheFileBesideTheProgram) {
+TEST_F(Effects, HelpOpensThatOfTheLanguageOrElseTheEnglishOne) {
   machine.files.PutBesideProgram("Help\\index.html", "<html>");
+  machine.files.PutBesideProgram("Help\\German\\index.html", "<html>");
   Run([&] {
-    Choose("Help Contents");
-    ASSERT_EQ(machine.shell.opened.size(), 1U);
-    EXPECT_TRUE(machine.shell.opened[0].ends_with("\\Help\\index.html"));
+    for (const char* language : {"", "German", "Own"}) {
+      Set("Language", std::string(language));
+      Choose("Help Contents");
+    }
   });
+  ASSERT_EQ(machine.shell.opened.size(), 3U);
+  EXPECT_TRUE(machine.shell.opened[0].ends_with("\\Help\\index.html"));
+  EXPECT_TRUE(machine.shell.opened[1].ends_with("\\Help\\German\\index.html"));
+  EXPECT_TRUE(machine.shell.opened[2].ends_with("\\Help\\index.html"));
 }
 
 }  // namespace
