@@ -1,13 +1,17 @@
-// The language files that are shipped. `./dev languages` runs this with TREMOLUX_UPDATE set and so
-// brings them into the order of the catalogue.
+// The language files and the help pages that are shipped. `./dev languages` runs this with
+// TREMOLUX_UPDATE set and so brings the files into the order of the catalogue, and the names of
+// menus and pages in the help up to date.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cctype>
 #include <cstdlib>
+#include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <set>
 #include <string>
+#include <vector>
 
 #include "language/language_file.h"
 #include "language/texts.h"
@@ -107,6 +111,105 @@ TEST(LanguageFiles, HaveEveryTextWithItsPlaceHoldersAndMarkedKeys) {
       for (const char key : keys) {
         EXPECT_TRUE(std::isalnum(key)) << *text << ": not on every keyboard";
         EXPECT_TRUE(marked.insert(key).second) << *text << ": the key stands on this page already";
+      }
+    }
+  }
+}
+
+std::string FolderOfHelp(const std::string& language) {
+  return SOURCE_FOLDER "/assets/Help/" + (language == "English" ? "" : language + '/');
+}
+
+std::string HelpPage(const std::string& language) {
+  return ReadFile(FolderOfHelp(language) + "index.html");
+}
+
+// A caption in HTML, without what marks its key and without the colon before a field.
+std::string AsNamed(std::string_view caption) {
+  std::string name;
+  for (std::size_t at = 0; at < caption.size(); ++at) {
+    const std::string_view rest = caption.substr(at);
+    if (rest.starts_with("&&")) {
+      name += "&amp;";
+      ++at;
+    } else if (rest.starts_with("(&") && rest.size() > 3 && rest[3] == ')') {
+      at += 3;
+    } else if (rest.front() != '&') {
+      name += rest.front() == '<'   ? "&lt;"
+              : rest.front() == '>' ? "&gt;"
+                                    : std::string(1, rest.front());
+    }
+  }
+  if (name.ends_with(':')) name.pop_back();
+  return std::string(platform::Trim(name));
+}
+
+// The page with the captions of the program in each <b data-text="section.key">.
+std::string WithNames(const std::string& page, const std::string& language) {
+  constexpr std::string_view kStart = "<b data-text=\"";
+  const language::LanguageFile file = Parsed(language);
+  std::string made;
+  std::size_t kept = 0;
+  for (std::size_t at = page.find(kStart); at != std::string::npos; at = page.find(kStart, kept)) {
+    at += kStart.size();
+    const std::string name = page.substr(at, page.find('"', at) - at);
+    const std::size_t point = name.find('.');
+    const TextEntry* entry = language::FindText(name.substr(0, point), name.substr(point + 1));
+    EXPECT_NE(entry, nullptr) << name << " is no text of the catalogue";
+    const std::size_t begin = page.find('>', at) + 1;
+    made += page.substr(kept, begin - kept);
+    kept = page.find("</b>", begin);
+    if (entry == nullptr) continue;
+    const auto text =
+        language == "English" ? entry->english : file.Find(entry->section, entry->key);
+    made += AsNamed(text.value_or(entry->english));
+  }
+  return made + page.substr(kept);
+}
+
+std::vector<std::string> Sorted(std::vector<std::string> values) {
+  std::sort(values.begin(), values.end());
+  return values;
+}
+
+// The values of an attribute, in their order.
+std::vector<std::string> Values(const std::string& page, const std::string& attribute) {
+  const std::string start = ' ' + attribute + "=\"";
+  std::vector<std::string> values;
+  for (std::size_t at = page.find(start); at != std::string::npos; at = page.find(start, at)) {
+    at += start.size();
+    values.push_back(page.substr(at, page.find('"', at) - at));
+  }
+  return values;
+}
+
+TEST(HelpPages, NameWhatTheProgramShows) {
+  for (const std::string language : kLanguages) {
+    const std::string page = HelpPage(language);
+    const std::string made = WithNames(page, language);
+    if (std::getenv("TREMOLUX_UPDATE") != nullptr) {
+      std::ofstream(FolderOfHelp(language) + "index.html", std::ios::binary) << made;
+    }
+    EXPECT_FALSE(page.empty()) << language;
+    EXPECT_TRUE(page == made) << language << ": run ./dev languages";
+  }
+}
+
+TEST(HelpPages, HaveTheSectionsOfTheEnglishOneAndNoDeadLink) {
+  const std::string english = HelpPage("English");
+  for (const std::string language : kLanguages) {
+    SCOPED_TRACE(language);
+    const std::string page = HelpPage(language);
+    const std::vector<std::string> sections = Values(page, "id");
+    EXPECT_EQ(sections, Values(english, "id"));
+    EXPECT_EQ(Sorted(Values(page, "data-text")), Sorted(Values(english, "data-text")));
+    for (const char* attribute : {"href", "src"}) {
+      EXPECT_EQ(Values(page, attribute).size(), Values(english, attribute).size());
+      for (const std::string& target : Values(page, attribute)) {
+        const bool there = target.starts_with('#')
+                               ? std::count(sections.begin(), sections.end(), target.substr(1)) == 1
+                               : std::filesystem::is_regular_file(FolderOfHelp(language) + target);
+        EXPECT_TRUE(there) << target;
       }
     }
   }

@@ -31,6 +31,7 @@ void MeterInItsModes(Scene& scene) {
 void MenuOfTheMeter(Scene& scene) {
   OpenMenu menu = scene.meter().Menu();
   (void)menu.Items(scene.Path({text::GraphDisplayOptions1}));
+  Scene::AwaitPainted();
   scene.Save("menu", scene.OfAll());
   menu.Leave();
 }
@@ -58,10 +59,10 @@ void ActivityPictures(Scene& scene) {
 
 std::span<const Shot> MeterShots() {
   static constexpr Shot kShots[] = {
-      {"meter", MeterInItsModes, Languages::kEnglish},
+      {"meter", MeterInItsModes},
       {"menu", MenuOfTheMeter},
-      {"tray-histogram", Histogram, Languages::kEnglish},
-      {"tray-pictures", ActivityPictures, Languages::kEnglish},
+      {"tray-histogram", Histogram},
+      {"tray-pictures", ActivityPictures},
   };
   return kShots;
 }

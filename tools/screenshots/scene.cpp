@@ -39,8 +39,8 @@ std::wstring ClassOf(HWND window) {
 
 }  // namespace
 
-Scene::Scene(const std::string& language, Album album)
-    : texts_(TextsOf(language)), album_(std::move(album)) {
+Scene::Scene(const std::string& language, std::wstring folder)
+    : texts_(TextsOf(language)), folder_(std::move(folder)) {
   RegistryGuard::RemoveStored();
   for (const AdapterRow& row : ReadAdapters()) Store(row.name, row.name == waves_.adapter());
   Store("ExecuteTime", 1U);
@@ -133,9 +133,9 @@ Picture Scene::OfAll() {
 Picture Scene::Of(HWND window) { return TakePicture(AreaOf(window)); }
 
 void Scene::Save(std::string_view name, const Picture& picture) const {
-  const std::string file = std::string(name) + album_.suffix + ".png";
-  SavePng(picture, album_.folder + L"\\" + ToWide(file));
-  std::printf("%s\n", file.c_str());
+  const std::wstring path = folder_ + L"\\" + ToWide(std::string(name)) + L".png";
+  SavePng(picture, path);
+  std::printf("%s\n", FromWide(path).c_str());
   std::fflush(stdout);
 }
 

@@ -15,18 +15,12 @@
 
 namespace desktop {
 
-// The folder and the names of the pictures.
-struct Album {
-  std::wstring folder;
-  std::string suffix;  // at the end of the files' names, such as "-german"
-};
-
 // A started program with default settings and traffic. The stored values of the user's own copy are
 // put back at the end. A wait that times out throws std::runtime_error.
 class Scene {
  public:
-  // `language` is one that the program offers.
-  Scene(const std::string& language, Album album);
+  // `language` is one that the program offers; the pictures go to `folder`, which is there.
+  Scene(const std::string& language, std::wstring folder);
 
   [[nodiscard]] Meter& meter() { return *meter_; }
   [[nodiscard]] Waves& waves() { return waves_; }
@@ -62,13 +56,13 @@ class Scene {
   // Returns a picture of all windows that the program shows, with the space between them.
   [[nodiscard]] Picture OfAll();
   [[nodiscard]] static Picture Of(HWND window);
-  // Saves a picture in the album. `name` has no folder and no ending.
+  // Saves a picture in the folder. `name` has no folder and no ending.
   void Save(std::string_view name, const Picture& picture) const;
 
  private:
   RegistryGuard guard_;
   language::Translation texts_;
-  Album album_;
+  std::wstring folder_;
   Waves waves_;
   std::optional<Meter> meter_;
 };

@@ -1,10 +1,12 @@
-// Writes pictures of the windows of the real program.
+// Writes pictures of the windows of the real program, for the documentation or for the help.
 //
-//   screenshots FOLDER [NAME...]     Tremolux.exe lies in the current folder; with names only the
-//                                    shots whose names begin so
+//   screenshots docs|help LANGUAGE FOLDER [NAME...]     Tremolux.exe lies in the current folder;
+//   with
+//                                                       names only the shots whose names begin so
 #include <algorithm>
 #include <cstdio>
 #include <exception>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -16,25 +18,23 @@
 namespace desktop {
 namespace {
 
-struct Tour {
-  const char* language;
-  const char* suffix;
-};
+constexpr std::span<const Shot> (*kDocs[])() = {MeterShots, AlertShots, StatisticsShots, ExitShots,
+                                                PreferencesShots};
+constexpr std::span<const Shot> (*kHelp[])() = {HelpShots};
 
-constexpr Tour kTours[] = {{"English", ""}, {"German", "-german"}};
+using Subsystems = std::span<std::span<const Shot> (*const)()>;
 
-std::vector<Shot> ShotsOf(const Tour& tour, const std::vector<std::string>& wanted) {
+bool IsWanted(std::string_view name, const std::vector<std::string>& wanted) {
+  return wanted.empty() || std::any_of(wanted.begin(), wanted.end(), [&](const std::string& begin) {
+           return name.starts_with(begin);
+         });
+}
+
+std::vector<Shot> ShotsOf(Subsystems subsystems, const std::vector<std::string>& wanted) {
   std::vector<Shot> shots;
-  for (const auto subsystem :
-       {MeterShots(), AlertShots(), StatisticsShots(), ExitShots(), PreferencesShots()}) {
-    for (const Shot& shot : subsystem) {
-      const std::string_view name = shot.name;
-      const bool is_wanted = wanted.empty() || std::any_of(wanted.begin(), wanted.end(),
-                                                           [&](const std::string& begin) {
-                                                             return name.starts_with(begin);
-                                                           });
-      const bool in_language = &tour == kTours || shot.languages == Languages::kEnglishAndGerman;
-      if (is_wanted && in_language) shots.push_back(shot);
+  for (const auto subsystem : subsystems) {
+    for (const Shot& shot : subsystem()) {
+      if (IsWanted(shot.name, wanted)) shots.push_back(shot);
     }
   }
   return shots;
@@ -50,29 +50,33 @@ void Take(const Shot& shot, Scene& scene) {
   }
 }
 
-void TakeAll(const std::wstring& folder, const std::vector<std::string>& wanted) {
+void TakeAll(Subsystems subsystems, const std::string& language, const std::wstring& folder,
+             const std::vector<std::string>& wanted) {
   if (ProgramRuns()) throw std::runtime_error("end the program that is running");
-  for (const Tour& tour : kTours) {
-    const std::vector<Shot> shots = ShotsOf(tour, wanted);
-    if (shots.empty()) continue;
-    Scene scene(tour.language, {folder, tour.suffix});
-    for (const Shot& shot : shots) Take(shot, scene);
-  }
+  const std::vector<Shot> shots = ShotsOf(subsystems, wanted);
+  if (shots.empty()) return;
+  Scene scene(language, folder);
+  for (const Shot& shot : shots) Take(shot, scene);
 }
 
 }  // namespace
 }  // namespace desktop
 
 int wmain(int argc, wchar_t** argv) {
-  if (argc < 2) {
-    std::printf("usage: screenshots FOLDER [NAME...]\n");
+  if (argc < 4) {
+    std::printf("usage: screenshots docs|help LANGUAGE FOLDER [NAME...]\n");
     return 2;
   }
   try {
     ::SetProcessDpiAwarenessContext(DPI_AWARENESS_CONTEXT_PER_MONITOR_AWARE_V2);
+    const std::vector<std::wstring> words(argv + 1, argv + argc);
     std::vector<std::string> wanted;
-    for (int at = 2; at < argc; ++at) wanted.push_back(platform::windows::FromWide(argv[at]));
-    desktop::TakeAll(argv[1], wanted);
+    for (std::size_t at = 3; at < words.size(); ++at) {
+      wanted.push_back(platform::windows::FromWide(words[at]));
+    }
+    const auto subsystems = words[0] == L"help" ? desktop::Subsystems(desktop::kHelp)
+                                                : desktop::Subsystems(desktop::kDocs);
+    desktop::TakeAll(subsystems, platform::windows::FromWide(words[1]), words[2], wanted);
     return 0;
   } catch (const std::exception& error) {
     std::printf("screenshots: %s\n", error.what());

@@ -8,12 +8,9 @@
 
 namespace desktop {
 
-enum class Languages { kEnglish, kEnglishAndGerman };
-
 struct Shot {
   const char* name;
   void (*take)(Scene& scene);
-  Languages languages = Languages::kEnglishAndGerman;
 };
 
 [[nodiscard]] std::span<const Shot> MeterShots();
@@ -21,5 +18,7 @@ struct Shot {
 [[nodiscard]] std::span<const Shot> StatisticsShots();
 [[nodiscard]] std::span<const Shot> ExitShots();
 [[nodiscard]] std::span<const Shot> PreferencesShots();
+// Those of the help, which are taken in every language.
+[[nodiscard]] std::span<const Shot> HelpShots();
 
 }  // namespace desktop

@@ -1,0 +1,78 @@
+// Pictures of the help, one for each thing that it tells how to do.
+#include "tests/desktop/driver/input.h"
+#include "tests/desktop/driver/preferences.h"
+#include "tests/desktop/driver/registry.h"
+#include "tests/desktop/driver/windows_of.h"
+#include "tools/screenshots/shots.h"
+// This header must follow the system's own header, which it needs.
+#include <commctrl.h>
+
+namespace desktop {
+namespace {
+
+namespace text = language::text::MainForm;
+
+constexpr int kDailyTab = 1;
+
+// Shows some weeks of use and a limit of 20 gigabytes a month.
+void Today(Scene& scene) {
+  scene.Restart([] {
+    Store("CurrentDayTotalDL", std::string("734003200"));
+    Store("CurrentDayTotalUL", std::string("52428800"));
+    Store("CurrentMonthTotalDL", std::string("15032385536"));
+    Store("CurrentMonthTotalUL", std::string("1288490188"));
+    Store("MoreThan", 20U);
+    Store("AlertsMoreThan", 2U);
+    Store("BADayWeekMonth", 2U);
+    Store("baDownload", 1U);
+    Store("baUpload", 1U);
+    Store("BAAction", 1U);
+    Store("BAAlerts", 1U);
+    Store("Transparent2k", 1U);
+    Store("AutoStart", 1U);
+  });
+  const HWND window = scene.Open({text::ConnectionInformations1}, L"T_frmConnInfo");
+  ::SendMessageW(FindControl(window, L"PageControl1"), TCM_SETCURFOCUS, kDailyTab, 0);
+  Scene::AwaitPainted();
+  scene.Save("today", Scene::Of(window));
+  scene.Close(window);
+}
+
+void Page(Scene& scene, PageRow row, const char* name) {
+  const HWND window = scene.Open({text::Settings1}, L"T_frmPreferences");
+  ChoosePage(window, row);
+  Scene::AwaitPainted();
+  scene.Save(name, Scene::Of(window));
+  scene.Close(window);
+}
+
+void Limit(Scene& scene) { Page(scene, PageRow::kBandwidthAlert, "limit"); }
+void Colours(Scene& scene) { Page(scene, PageRow::kGraphColors, "colours"); }
+void Opacity(Scene& scene) { Page(scene, PageRow::kOther, "opacity"); }
+void Adapters(Scene& scene) { Page(scene, PageRow::kInterfaces, "adapters"); }
+void General(Scene& scene) { Page(scene, PageRow::kGeneral, "general"); }
+void Reset(Scene& scene) { Page(scene, PageRow::kResetSettings, "reset"); }
+
+// Shows the menu beside the meter, whose graph the other pictures have given the time to fill.
+void Menu(Scene& scene) {
+  AwaitScans(30);
+  OpenMenu menu = scene.meter().Menu();
+  (void)menu.Items(scene.Path({text::GraphDisplayOptions1, text::Transparent1}));
+  MoveMouse({1000, 900});  // takes the hint of the item away, which would cover its neighbours
+  Scene::AwaitPainted();
+  scene.Save("menu", scene.OfAll());
+  menu.Leave();
+}
+
+}  // namespace
+
+std::span<const Shot> HelpShots() {
+  static constexpr Shot kShots[] = {
+      {"help-today", Today},     {"help-limit", Limit},       {"help-colours", Colours},
+      {"help-opacity", Opacity}, {"help-adapters", Adapters}, {"help-general", General},
+      {"help-reset", Reset},     {"help-menu", Menu},
+  };
+  return kShots;
+}
+
+}  // namespace desktop
