@@ -12,6 +12,7 @@ import subprocess
 import sys
 import tempfile
 import time
+import zipfile
 
 PREFIX = pathlib.Path(os.environ["WINEPREFIX"])
 DRIVE = PREFIX / "drive_c"
@@ -122,9 +123,16 @@ def upgrade_while_it_runs(copy):
     return set(kept)
 
 
-def play(copy):
+def names_in(archive):
+    """The files of the zip, without the folder that all of them are in."""
+    with zipfile.ZipFile(archive) as opened:
+        return {name.split("/", 1)[1] for name in opened.namelist()}
+
+
+def play(copy, shipped):
     files_before, registry_before = files(), registry()
     copy.install("/AUTOSTART=1")
+    assert copy.left() == shipped | {"uninstall.exe"}, copy.left() ^ shipped
     program = value(RUN, "BrisantoXP")
     assert program.startswith("C:\\") and program.endswith(r"\Korvane Tremolux\Tremolux.exe"), program
     assert value(SETTINGS, "AutoStart") == "0x1"
@@ -147,11 +155,12 @@ def play(copy):
 
 def main():
     (setup,) = pathlib.Path(sys.argv[1]).glob("*-setup.exe")
+    (archive,) = pathlib.Path(sys.argv[1]).glob("*.zip")
     shutil.rmtree(PREFIX, ignore_errors=True)
     try:
         wine("wineboot", "--init")
         wine("reg", "query", RUN)
-        play(Installed(setup))
+        play(Installed(setup), names_in(archive))
     finally:
         subprocess.run(["wineserver", "--kill"], check=False)
 
