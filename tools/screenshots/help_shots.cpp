@@ -1,4 +1,5 @@
 // Pictures of the help, one for each thing that it tells how to do.
+#include "tests/desktop/driver/input.h"
 #include "tests/desktop/driver/preferences.h"
 #include "tests/desktop/driver/registry.h"
 #include "tests/desktop/driver/windows_of.h"
@@ -52,10 +53,11 @@ void Adapters(Scene& scene) { Page(scene, PageRow::kInterfaces, "adapters"); }
 void General(Scene& scene) { Page(scene, PageRow::kGeneral, "general"); }
 void Reset(Scene& scene) { Page(scene, PageRow::kResetSettings, "reset"); }
 
-// Shows the menu beside the meter, whose graph the other pictures have given the time to fill.
+// Shows the menu below the graph.
 void Menu(Scene& scene) {
-  AwaitScans(40);
-  OpenMenu menu = scene.meter().Menu();
+  scene.FillGraph();
+  RightClick(MiddleOf(AreaOf(scene.meter().line())));
+  OpenMenu menu(scene.meter().program().id());
   (void)menu.Items(scene.Path({text::GraphDisplayOptions1}));
   Scene::AwaitPainted();
   scene.Save("menu", scene.OfAll());
