@@ -22,6 +22,10 @@ if(TREMOLUX_SANITIZE)
   add_link_options(-fsanitize=address,undefined)
 endif()
 
+if(TREMOLUX_FUZZ)
+  add_compile_options(-fsanitize=fuzzer-no-link)
+endif()
+
 if(WIN32)
   add_compile_definitions(UNICODE _UNICODE WIN32_LEAN_AND_MEAN NOMINMAX _WIN32_WINNT=0x0A00)
   add_compile_options(-ffunction-sections -fdata-sections)
