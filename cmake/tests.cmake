@@ -127,4 +127,10 @@ else()
   add_executable(endure tools/endure/main.cpp)
   target_link_libraries(endure PRIVATE endurance)
   add_test(NAME endure COMMAND endure 2 43)
+
+  # The language files and the page of all stored values; ./dev languages writes them.
+  floor(made_files_parts tools/made_files settings memory)
+  add_executable(made_files tools/made_files/main.cpp)
+  target_link_libraries(made_files PRIVATE made_files_parts)
+  add_test(NAME made_files COMMAND made_files --check ${CMAKE_SOURCE_DIR})
 endif()

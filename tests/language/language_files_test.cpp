@@ -1,9 +1,7 @@
-// The language files that are shipped. `./dev languages` runs this with TREMOLUX_UPDATE set and so
-// brings them into the order of the catalogue.
+// The language files that are shipped.
 #include <gtest/gtest.h>
 
 #include <cctype>
-#include <cstdlib>
 #include <fstream>
 #include <iterator>
 #include <set>
@@ -21,47 +19,11 @@ using language::TextEntry;
 constexpr const char* kLanguages[] = {"English", "German",  "French",
                                       "Spanish", "Turkish", "Japanese"};
 
-std::string PathOf(const std::string& language) {
-  return SOURCE_FOLDER "/assets/Languages/" + language + ".lng";
-}
-
-std::string ReadFile(const std::string& path) {
-  std::ifstream file(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-}
-
 language::LanguageFile Parsed(const std::string& language) {
+  std::ifstream file(SOURCE_FOLDER "/assets/Languages/" + language + ".lng", std::ios::binary);
+  const std::string bytes{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
   platform::memory::Locale locale;
-  return language::LanguageFile(ReadFile(PathOf(language)), locale);
-}
-
-// As a line of the file, quoted where the reader would take something off its ends.
-std::string Line(const TextEntry& entry, std::string_view text) {
-  const bool quote = platform::Trim(text) != text ||
-                     (text.size() > 1 && text.front() == '"' && text.back() == '"');
-  const std::string mark = quote ? "\"" : "";
-  return std::string(entry.key) + '=' + mark + std::string(text) + mark;
-}
-
-// The file in the order of the catalogue. What is not translated yet is a comment.
-std::string MadeFromCatalogue(const std::string& language, const language::LanguageFile& file) {
-  std::string made = "\xEF\xBB\xBF; Korvane Tremolux, " + language + "\r\n";
-  std::string_view section;
-  std::string heading;
-  for (const TextEntry& entry : language::TextCatalogue()) {
-    if (entry.key.empty()) {
-      heading = "; " + std::string(entry.english) + "\r\n";
-      continue;
-    }
-    if (entry.section != section) made += "\r\n[" + std::string(entry.section) + "]\r\n";
-    if (!heading.empty()) made += (entry.section == section ? "\r\n" : "") + heading;
-    heading.clear();
-    section = entry.section;
-    const auto text = language == "English" ? entry.english : file.Find(entry.section, entry.key);
-    made += text ? Line(entry, *text) : "; " + Line(entry, entry.english);
-    made += "\r\n";
-  }
-  return made;
+  return language::LanguageFile(bytes, locale);
 }
 
 // The letters that the text marks with "&".
@@ -73,16 +35,6 @@ std::string MarkedKeys(std::string_view text) {
     if (letter != '&') keys += letter < 0x80 ? static_cast<char>(std::toupper(letter)) : '?';
   }
   return keys;
-}
-
-TEST(LanguageFiles, AreInTheOrderOfTheCatalogueAndHaveNoOtherKey) {
-  for (const std::string language : kLanguages) {
-    const std::string made = MadeFromCatalogue(language, Parsed(language));
-    if (std::getenv("TREMOLUX_UPDATE") != nullptr) {
-      std::ofstream(PathOf(language), std::ios::binary) << made;
-    }
-    EXPECT_TRUE(ReadFile(PathOf(language)) == made) << language << ": run ./dev languages";
-  }
 }
 
 TEST(LanguageFiles, HaveEveryTextWithItsPlaceHoldersAndMarkedKeys) {
