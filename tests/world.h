@@ -38,9 +38,10 @@ class Computer {
     machine.registry.Set(kAdapterDatas, name, RegistryValue::Text(value));
   }
 
-  // A stored number, and a stored text; what stands for none is never stored.
+  // A stored number, and a stored text; for none, what is never stored.
+  static constexpr std::uint32_t kNoNumber = 0xDEADBEEF;
   [[nodiscard]] std::uint32_t Stored(std::string_view name) const {
-    return machine.registry.Dword(kSettingsKey, name).value_or(0xDEADBEEF);
+    return machine.registry.Dword(kSettingsKey, name).value_or(kNoNumber);
   }
   [[nodiscard]] std::string StoredText(std::string_view name) const {
     return machine.registry.Text(kSettingsKey, name).value_or("(missing)");

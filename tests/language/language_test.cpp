@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "platform/memory/machine.h"
+#include "tests/world.h"
 
 namespace {
 
@@ -13,17 +13,13 @@ using namespace std::string_literals;
 
 constexpr std::string_view kEnglishTitle = "Security";
 
-class Language : public testing::Test {
+class Language : public testing::Test, protected test::World {
  protected:
   void Put(const std::string& name, std::string_view bytes) {
     machine.files.PutBesideProgram("Languages\\" + name + ".lng", bytes);
   }
-  void Store(std::string_view name) { store.Write(settings::setting::Language, name); }
+  void Choose(std::string_view name) { store.Write(settings::setting::Language, name); }
   std::string Title() { return language.Text(text::Security::Title); }
-
-  platform::memory::Machine machine;
-  settings::Store store{machine.registry, machine.files};
-  language::Language language{store, machine.files, machine.locale};
 };
 
 TEST_F(Language, WithoutAChoiceAllIsBuiltInEnglishAndNoFileIsRead) {
@@ -35,7 +31,7 @@ TEST_F(Language, WithoutAChoiceAllIsBuiltInEnglishAndNoFileIsRead) {
 
 TEST_F(Language, AFileChangesTheTextsThatItHasAndNothingElse) {
   Put("Klingon", "[Security]\r\nTitle=QaD\r\n");
-  Store("Klingon");
+  Choose("Klingon");
   EXPECT_EQ(Title(), "QaD");
   EXPECT_EQ(language.Text(text::Security::CancelButton), "Cancel");
   EXPECT_EQ(language.Text(text::AddTitles::Title), "Window Titles") << "the same key elsewhere";
@@ -102,21 +98,21 @@ TEST_F(Language, ANameDoesNotLeaveTheFolder) {
   Put("inside", "[Security]\nTitle=inside\n");
   for (const char* name : {"..\\secret", "../secret", "..\\Languages\\inside", "C:\\secret",
                            "\\secret", ".\\inside", "*", "i?side", "..", "CON", "inside.lng"}) {
-    Store(name);
+    Choose(name);
     EXPECT_EQ(Title(), kEnglishTitle) << name;
   }
   EXPECT_EQ(machine.files.loads, 0);
-  Store("INSIDE");
+  Choose("INSIDE");
   EXPECT_EQ(Title(), "inside");
 }
 
 TEST_F(Language, AStoredLanguageCountsAtOnceAndItsFileIsReadOnce) {
   Put("one", "[Security]\nTitle=1\n");
   Put("two", "[Security]\nTitle=2\n");
-  Store("one");
+  Choose("one");
   for (int i = 0; i < 100; ++i) EXPECT_EQ(Title(), "1");
   EXPECT_EQ(machine.files.loads, 1);
-  Store("two");
+  Choose("two");
   EXPECT_EQ(Title(), "2");
   store.Write(settings::setting::Language, "");
   EXPECT_EQ(Title(), kEnglishTitle);
@@ -178,9 +174,9 @@ TEST_F(Language, OffersEnglishFirstAndThenTheFilesFound) {
   EXPECT_EQ(names, (Names{"English", "Deutsch & mehr", "Turkish"}));
 
   EXPECT_EQ(language.IndexIn(names), 0U) << "nothing stored";
-  Store("turkish");
+  Choose("turkish");
   EXPECT_EQ(language.IndexIn(names), 2U);
-  Store("gone");
+  Choose("gone");
   EXPECT_EQ(language.IndexIn(names), 0U) << "what is shown is English";
 }
 
