@@ -60,7 +60,6 @@ TEST_F(Periods, TheDayRollsOverOnAnyOtherMarker) {
       {"yesterday", kWednesday - 1, "0"},
       {"tomorrow: the clock was set back", kWednesday + 1, "0"},
       {"today with a time of day is another date", kWednesday + 0.5, "0"},
-      {"a year ago", kWednesday - 366, "0"},
   };
   for (const Row& row : kRows) {
     SCOPED_TRACE(row.why);
@@ -95,12 +94,8 @@ TEST_F(Periods, TheWeekWaitsForItsStartDayOneWeekLong) {
   const Row rows[] = {
       {"the same week", may(15), 20, 0, "1005", "1005", 20},
       {"Monday, no start day", may(13), 19, 0, "0", "0", 20},
-      {"Monday, start on Sunday", may(13), 19, 1, "0", "0", 20},
       {"Monday, start on Monday", may(13), 19, 2, "0", "0", 20},
       {"Monday, start on Tuesday", may(13), 19, 3, "1005", "1005", 19},
-      {"Tuesday, start on Wednesday", may(14), 19, 4, "1005", "1005", 19},
-      {"Wednesday, start on Wednesday", may(15), 19, 4, "0", "0", 20},
-      {"Friday, start on Saturday", may(17), 19, 7, "1005", "1005", 19},
       {"Saturday, start on Saturday", may(18), 19, 7, "0", "0", 20},
       {"Sunday is day 1 again", may(19), 19, 7, "1005", "1005", 19},
       {"a day that never comes", may(18), 19, 8, "1005", "1005", 19},
@@ -109,9 +104,6 @@ TEST_F(Periods, TheWeekWaitsForItsStartDayOneWeekLong) {
       {"two weeks, before the start day", may(13), 18, 3, "5", "5", 20},
       {"set back one week", may(15), 21, 0, "5", "0", 20},
       {"turn of the year: no waiting", EncodeDate(2024, 1, 1), 52, 7, "5", "5", 1},
-      {"turn of the year in the middle of a week", EncodeDate(2025, 1, 1), 53, 7, "5", "5", 1},
-      {"a marker that was never set", may(15), 0, 0, "5", "0", 20},
-      {"a nonsense marker", may(15), -5, 9, "5", "5", 20},
   };
   for (const Row& row : rows) {
     SCOPED_TRACE(row.why);
@@ -144,12 +136,9 @@ TEST_F(Periods, TheMonthWaitsForItsStartDayInBothDirections) {
       {"the 1st", may(1), 4, 0, "0", "0", 5},
       {"the 14th, start on the 15th", may(14), 4, 14, "1005", "1005", 4},
       {"the 15th", may(15), 4, 14, "0", "0", 5},
-      {"the 31st, start on the 32nd", may(31), 4, 31, "1005", "1005", 4},
       {"set back one month, before the start day", may(15), 6, 20, "1005", "1005", 6},
-      {"set back one month, at the start day", may(21), 6, 20, "0", "0", 5},
       {"set back two months", may(15), 7, 20, "5", "5", 5},
       {"two months on, before the start day", may(15), 3, 20, "5", "5", 5},
-      {"two months on, behind it", may(15), 3, 0, "5", "0", 5},
       {"turn of the year: no waiting", EncodeDate(2025, 1, 1), 12, 14, "5", "5", 1},
       {"back from January to December", EncodeDate(2024, 12, 31), 1, 14, "5", "0", 12},
   };
@@ -175,56 +164,6 @@ TEST_F(Periods, StartDaysAreReadOnlyWhileAPeriodWaits) {
   UpdateMachine(kWednesday);
   EXPECT_EQ(world.machine.registry.Dword(test::kSettingsKey, "mPerStartsOn"), 0U)
       << "the scan's own default, not the preferences'";
-}
-
-TEST_F(Periods, AnAdapterThatMissesTheRollOverGoesOnWithItsOldValues) {
-  Prepare(kWednesday - 1, 20, 5);
-  UpdateMachine(kWednesday);  // the adapter was idle in this scan
-  UpdateAdapter(kWednesday);
-  EXPECT_EQ(world.StoredOfAdapter("cardCurrentDayTotalDL"), "1005");
-}
-
-TEST(Statistics, AdaptersKeepTotalsWithoutAPeriod) {
-  test::Adapters world;
-  world.SetAdapter("cardInfoTotalDL", "9000000000");
-  world.statistics.UpdateAdapterStatistics(" Card ", Counters(7, 8, 70, 80), kWednesday);
-  EXPECT_EQ(world.StoredOfAdapter("cardInfoTotalDL"), "9000000007");
-  EXPECT_EQ(world.StoredOfAdapter("cardInfoTotalUL"), "8");
-  EXPECT_EQ(world.StoredOfAdapter("cardInfoMaxDL"), "70");
-  EXPECT_EQ(world.StoredOfAdapter("cardInfoMaxUL"), "80");
-  world.statistics.UpdateAdapterStatistics("CARD", Counters(1, 1, 69, 81), kWednesday);
-  EXPECT_EQ(world.StoredOfAdapter("cardInfoMaxDL"), "70") << "a smaller one does not count";
-  EXPECT_EQ(world.StoredOfAdapter("cardInfoMaxUL"), "81");
-}
-
-TEST(Statistics, TheMachinesMaximaAreOverwrittenAlsoDownwards) {
-  test::Adapters world;
-  world.statistics.UpdateMachineMaxima({1, 1, 8000, 9000});
-  world.statistics.UpdateMachineMaxima({1, 1, 300, 0});
-  EXPECT_EQ(world.StoredText("InfoMaxDL"), "300");
-  EXPECT_EQ(world.StoredText("InfoMaxUL"), "0");
-  EXPECT_EQ(world.StoredText("InfoTotalDL"), "(missing)") << "never written by a scan";
-}
-
-TEST(Statistics, AnEqualMaximumIsWrittenAgainForAnAdapterOnly) {
-  test::Adapters world;
-  const auto writes_of = [&](auto&& update) {
-    update();
-    world.machine.notebook.Restart();
-    update();
-    return world.machine.notebook.registry.text_writes;
-  };
-  world.store.Write(setting::CurrentDay, kWednesday);
-  world.store.Write(setting::CurrentWeek, 20);
-  world.store.Write(setting::CurrentMonth, 5);
-  EXPECT_EQ(writes_of([&] {
-              world.statistics.UpdateMachinePeriods({5, 5, 9, 9}, kWednesday);
-            }),
-            3 * 2);
-  EXPECT_EQ(writes_of([&] {
-              world.statistics.UpdateAdapterStatistics("a", Counters(5, 5, 9, 9), kWednesday);
-            }),
-            4 * 4);
 }
 
 TEST(Statistics, ACounterAtItsEndWrapsAndStaysReadable) {
