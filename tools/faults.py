@@ -32,7 +32,10 @@ EXCLUDED = {
 EXCLUDED_LINES = re.compile(
     r"constexpr (int|platform::Rect|platform::Size|FieldColumn) k|\.(Label|Field)\(|\{\w+, \{|kMargin|kRow|SetBounds"
     r"|\.reserve\(|^\s*(//|#|case |default:|namespace|using|template|struct|class|enum)"
-    r"|static_assert|assign\(|NOLINT")
+    r"|static_assert|assign\(|NOLINT"
+    # places in the statistics windows and their rows
+    r"|const int (address_left|since_top|since_height|check_top|lower|group|value_left|unit_left) = "
+    r"|since_height - kButtonHeight|group - \d|width - 81|details_\.SetBounds|unit_left \+")
 
 
 def tokens(line):

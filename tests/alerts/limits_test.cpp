@@ -69,7 +69,7 @@ TEST_F(BandwidthLimit, AlertsAtTheExactByteOfItsPeriodAndDirections) {
   }
 }
 
-TEST_F(BandwidthLimit, KnowsItsThreeUnitsAndNoOther) {
+TEST_F(BandwidthLimit, KnowsItsThreeUnitsAndItsDefault) {
   Set("MoreThan", 7);
   for (const int unit : {0, 1, 2}) {
     Set("AlertsMoreThan", unit);
@@ -81,6 +81,9 @@ TEST_F(BandwidthLimit, KnowsItsThreeUnitsAndNoOther) {
     EXPECT_FALSE(alerts::LimitBytes(store).has_value());
     EXPECT_FALSE(Alerts());
   }
+  Set("AlertsMoreThan", 0);
+  machine.registry.Remove(test::kSettingsKey, "MoreThan");
+  EXPECT_EQ(alerts::LimitBytes(store), 0) << "the scan's own default, not the preferences'";
 }
 
 TEST_F(BandwidthLimit, ATotalThatIsNoNumberEndsTheScan) {
