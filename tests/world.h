@@ -16,6 +16,7 @@
 #include "platform/memory/machine.h"
 #include "settings/store.h"
 #include "toolkit/application.h"
+#include "toolkit/controls/control.h"
 
 namespace test {
 
@@ -69,6 +70,17 @@ class World : public Computer {
   language::Language language{store, machine.files, machine.locale};
   std::vector<std::string> errors;
 };
+
+// The names of the controls below `root` that have no caption, or, if they are to have one, no
+// hint.
+inline std::string Untold(const toolkit::Control& root, bool with_hints = false) {
+  std::string names;
+  for (const toolkit::Control* child : root.Children()) {
+    const bool told = !child->Caption().empty() && !(with_hints && child->Hint().empty());
+    names += (told ? "" : child->Name() + " ") + Untold(*child, with_hints);
+  }
+  return names;
+}
 
 // The adapters and who counts them.
 class Adapters : public Computer {

@@ -100,6 +100,7 @@ TEST_F(BandwidthAlert, OtherActionsShowNothing) {
 
 TEST_F(BandwidthAlert, TheDetailsOpenAndCloseAndRefreshTwiceASecond) {
   Check([&] {
+    EXPECT_EQ(Widget("btnDetails").text, "Details >>");
     EXPECT_EQ(Widget(kForm).ClientSize().height, 110);
     machine.windowing.Press("btnDetails");
     EXPECT_EQ(Widget(kForm).ClientSize().height, 255);

@@ -139,17 +139,18 @@ TEST_F(Leds, FollowTheTable) {
     const char* why;
     std::int64_t limit, dl, ul;
     int scroll, num;
+    std::size_t from_off, from_on;  // key events: two a stroke
   };
   static constexpr Row kRows[] = {
-      {"download only", 1000, 5000, 200, 1, 0},
-      {"upload only", 1000, 200, 5000, 0, 1},
-      {"both idle", 1000, 200, 300, 0, 0},
-      {"both busy", 1000, 5000, 5000, 1, 1},
-      {"both on the limit: the second pair has the last word", 1000, 1000, 1000, 1, 0},
-      {"download on the limit", 1000, 1000, 200, 1, 0},
-      {"upload on the limit", 1000, 200, 1000, 0, 1},
-      {"busy on the limit", 1000, 1000, 5000, 0, 1},
-      {"and the other way round", 1000, 5000, 1000, 1, 0},
+      {"download only", 1000, 5000, 200, 1, 0, 2, 2},
+      {"upload only", 1000, 200, 5000, 0, 1, 2, 2},
+      {"both idle", 1000, 200, 300, 0, 0, 0, 4},
+      {"both busy", 1000, 5000, 5000, 1, 1, 4, 0},
+      {"both on the limit: the second pair has the last word", 1000, 1000, 1000, 1, 0, 2, 6},
+      {"download on the limit", 1000, 1000, 200, 1, 0, 2, 6},
+      {"upload on the limit", 1000, 200, 1000, 0, 1, 2, 6},
+      {"busy on the limit", 1000, 1000, 5000, 0, 1, 6, 2},
+      {"and the other way round", 1000, 5000, 1000, 1, 0, 6, 2},
   };
   Set("DLSwitchScr", 1);
   Set("ULSwitchNum", 1);
@@ -159,7 +160,9 @@ TEST_F(Leds, FollowTheTable) {
       Set("spnKeyLedsLimit", row.limit);
       machine.keyboard.states[kScroll] = before;
       machine.keyboard.states[kNum] = before;
+      machine.keyboard.sent.clear();
       Update(row.dl, row.ul);
+      EXPECT_EQ(machine.keyboard.sent.size(), before == 0 ? row.from_off : row.from_on);
       EXPECT_EQ(machine.keyboard.states[kScroll], row.scroll);
       EXPECT_EQ(machine.keyboard.states[kNum], row.num);
     }
