@@ -46,43 +46,6 @@ TEST_F(Sampler, TheCapCutsAmountsAndMaximaButNotTheTotals) {
   EXPECT_EQ(state.adapter_counters[0].ActiveOutScans, 5U);
 }
 
-// Which rows are stored depends on the order of the rows and on the sums so far.
-TEST_F(Sampler, ARowIsPersistedOnceBothSumsAreAboveZero) {
-  struct Row {
-    const char* why;
-    std::uint32_t in_a, out_a, in_b, out_b;
-    bool includes_a;
-    const char* persisted;
-    std::int64_t dl;
-  };
-  static constexpr Row kRows[] = {
-      {"one direction persists nothing", 500, 0, 600, 0, true, "", 1100},
-      {"the rows before an active one are not", 0, 0, 50, 60, true, "bc", 50},
-      {"those behind it are, idle ones too", 50, 60, 0, 0, true, "abc", 50},
-      {"one row each way: from the second on", 50, 0, 0, 60, true, "bc", 50},
-      {"an excluded row brings nothing to the sums", 500, 600, 1, 0, false, "", 1},
-      {"but is persisted behind an active one", 0, 0, 50, 60, true, "bc", 50},
-  };
-  for (const Row& row : kRows) {
-    SCOPED_TRACE(row.why);
-    test::Adapters world;
-    for (const char* name : {"a", "b", "c"}) world.AddAdapter(name);
-    (void)world.Initialise();
-    world.Set("a", row.includes_a);
-    world.Set("c", 0);
-    world.machine.interface_table.AddTraffic(1, row.in_b, row.out_b);
-    world.machine.interface_table.AddTraffic(2, 77, 77);
-    EXPECT_EQ(world.Sample(row.in_a, row.out_a).ScanSumDL, row.dl);
-    std::string persisted;
-    for (const std::string name : {"a", "b", "c"}) {
-      if (world.machine.registry.Exists(test::kAdapterDatas, name + "InfoTotalDL")) {
-        persisted += name;
-      }
-    }
-    EXPECT_EQ(persisted, row.persisted);
-  }
-}
-
 TEST_F(Sampler, OnlyTheLoopbackItselfIsLeftOut) {
   for (const char* name : {"MS TCP Loopback interface", "ms tcp loopback INTERFACE",
                            "MS TCP Loopback interface ", "MS TCP Loopback interface 2", "lo"}) {
@@ -144,39 +107,6 @@ TEST_F(Sampler, ARowThatVanishesWithinAScanCausesNoSpike) {
   sampler.TakePresentCounters();
   (void)Initialise();
   EXPECT_EQ(Sample(500, 600).ScanSumDL, 500);
-}
-
-TEST_F(Sampler, OctetsThatFellWithoutAWrapAreANewBase) {
-  struct Row {
-    const char* why;
-    std::uint32_t in, out;  // of the driver that began anew; both stood at 5000
-    bool answers;           // whether the system knows the counters in 64 bits
-    std::int64_t dl, ul;
-  };
-  static constexpr std::int64_t kWrap = std::int64_t{1} << 32;
-  static constexpr Row kRows[] = {
-      {"both fell", 30, 40, true, 0, 0},
-      {"one fell: the other is of another driver too", 30, 9000, true, 0, 0},
-      {"sent octets alone", 9000, 40, true, 0, 0},
-      {"without an answer it is a wrap", 30, 5040, false, kWrap - 4970, 40},
-      {"the same", 5000, 5000, true, 0, 0},
-  };
-  for (const Row& row : kRows) {
-    SCOPED_TRACE(row.why);
-    test::Adapters world;
-    platform::InterfaceRow& card = world.AddAdapter("card");
-    card.dwInOctets = card.dwOutOctets = 5000;
-    (void)world.Initialise();
-    card.dwInOctets = row.in;
-    card.dwOutOctets = row.out;
-    if (!row.answers) world.machine.interface_table.HideOctets(card.dwIndex);
-    const ScanAmounts scan = world.Sample();
-    EXPECT_EQ(scan.ScanSumDL, row.dl);
-    EXPECT_EQ(scan.ScanSumUL, row.ul);
-    const int questions = world.machine.interface_table.octet_questions;
-    EXPECT_EQ(world.Sample(7, 8).ScanSumDL, 7) << "and counts from there";
-    EXPECT_EQ(world.machine.interface_table.octet_questions, questions) << "asked once";
-  }
 }
 
 }  // namespace

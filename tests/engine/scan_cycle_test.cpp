@@ -221,28 +221,4 @@ TEST(ScanCycle, WhicheverCallOfAnInitialisationFailsItIsMadeAgain) {
   }
 }
 
-// Of a scan with N rows that are no loopback, P of them persisted, in the middle of a period and
-// with no maximum rising:
-//   a row          1 read (include flag)
-//   persisted row  3 writes (adapter data), 3 reads (markers), and for each of 4 groups 4 reads
-//                  and 2 writes; an adapter's maximum that is equal is written too: 8 writes
-//   machine        2 writes (maxima), 3 reads (markers), 3 groups of 4 reads and 2 writes
-// Each is one round trip.
-TEST(ScanCycle, EachValueCostsOneRoundTrip) {
-  constexpr int kPersisted = 5;
-  Cycle world;
-  for (int i = 0; i < kPersisted; ++i) world.AddAdapter("card " + std::to_string(i));
-  world.AddAdapter("MS TCP Loopback interface");
-  (void)world.Initialise();
-  world.Scan(500, 600);  // raises the maxima
-  world.machine.notebook.Restart();
-  const int table_reads = world.machine.interface_table.reads;
-  world.Scan(500, 600);
-  const auto& registry = world.machine.notebook.registry;
-  EXPECT_EQ(registry.Reads(), kPersisted * (1 + 3 + 4 * 4) + 3 + 3 * 4);
-  EXPECT_EQ(registry.Writes(), kPersisted * (3 + 4 * 2 + 8) + 2 + 3 * 2);
-  EXPECT_EQ(registry.round_trips, registry.Reads() + registry.Writes());
-  EXPECT_EQ(world.machine.interface_table.reads - table_reads, 4) << "the table twice";
-}
-
 }  // namespace

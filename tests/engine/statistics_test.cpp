@@ -185,25 +185,4 @@ TEST(Statistics, GarbageInACounterIsTheConversionError) {
   EXPECT_EQ(world.StoredOfAdapter("aInfoTotalUL"), "12 MB") << "and nothing is put right";
 }
 
-TEST(Statistics, TheFirstStartSetsTheMarkersAndIncludesEveryAdapter) {
-  test::Adapters world;
-  world.AddAdapter(" Card ");
-  world.AddAdapter("MS TCP Loopback interface");
-  world.machine.clock.SetNow(platform::EncodeDateTime(2024, 5, 19, 15, 0, 0));  // Sunday afternoon
-  (void)world.Initialise();
-  EXPECT_EQ(world.store.Read(setting::ExecuteTime), 1);
-  EXPECT_EQ(world.store.ReadDate("CurrentDay", 0), EncodeDate(2024, 5, 19));
-  EXPECT_EQ(world.store.Read(setting::CurrentWeek), 21) << "already the next day's week";
-  EXPECT_EQ(world.store.Read(setting::CurrentMonth), 5);
-  EXPECT_EQ(world.machine.registry.Dword(test::kSettingsKey, " card "), 1U);
-  EXPECT_EQ(world.machine.registry.Dword(test::kSettingsKey, "ms tcp loopback interface"), 1U);
-
-  world.machine.clock.SetNow(platform::EncodeDateTime(2024, 7, 1, 9, 0, 0));
-  world.store.WriteBool(" card ", false);
-  (void)world.Initialise();
-  EXPECT_EQ(world.store.Read(setting::ExecuteTime), 2);
-  EXPECT_EQ(world.store.ReadDate("CurrentDay", 0), EncodeDate(2024, 5, 19)) << "only once";
-  EXPECT_FALSE(world.store.ReadBool(" card ", true));
-}
-
 }  // namespace
