@@ -74,4 +74,13 @@ TEST(WaveFile, IsWhatAPlayerCanTrust) {
   }
 }
 
+TEST(WaveFile, IsOnAShareWhicheverSlashesItHas) {
+  for (const char* path : {"\\\\nas\\a.wav", "//nas/a.wav", "\\/"}) {
+    EXPECT_TRUE(platform::IsOnShare(path)) << path;
+  }
+  for (const char* path : {"", "\\", "\\a.wav", "C:\\\\a.wav", "a\\\\b.wav"}) {
+    EXPECT_FALSE(platform::IsOnShare(path)) << path;
+  }
+}
+
 }  // namespace
