@@ -16,7 +16,7 @@ class BandwidthAlert : public testing::Test, protected test::Reacting {
     Set("MoreThan", 1);
     Set("baDownload", 1);
     Set("BAAction", 1);
-    Set("BAMessage", "stop");
+    Set("BAMessage", std::string(254, 's') + "\u00DFt");
     Set("CurrentDayTotalDL", "1024");
   }
 
@@ -61,8 +61,10 @@ TEST_F(BandwidthAlert, ShowsABalloonAndItsWindowOnceInAPeriod) {
   });
   ASSERT_EQ(balloons.size(), 2U);
   EXPECT_EQ(balloons[0].title, "Korvane TremoluxBandwidth Alert") << "no blank between the parts";
-  EXPECT_EQ(balloons[0].text, "stop");
+  EXPECT_EQ(balloons[0].text, std::string(254, 's') + "\u00DF") << "255 characters";
   EXPECT_EQ(balloons[0].seconds, 15);
+  reactions.Warn(std::string(64, 't'), "", 1);
+  EXPECT_EQ(balloons[2].title, std::string(63, 't'));
 }
 
 TEST_F(BandwidthAlert, AMenuThatIsOpenGoesBeforeItsWindowComes) {

@@ -42,6 +42,7 @@ TEST_F(Sampler, TheCapCutsAmountsAndMaximaButNotTheTotals) {
     EXPECT_EQ(state.adapter_counters[0].TotalIn, row.total);
     EXPECT_EQ(state.adapter_counters[0].TotalOut, row.total);
   }
+  EXPECT_EQ(machine.interface_table.octet_questions, 1) << "only where they fell";
   EXPECT_EQ(state.adapter_counters[0].ActiveInScans, 5U);
   EXPECT_EQ(state.adapter_counters[0].ActiveOutScans, 5U);
 }
