@@ -99,8 +99,7 @@ TEST_F(Notifications, TheActionCodesDoWhatTheyDo) {
   struct Row {
     const char* why;
     int action;
-    std::size_t balloons;
-    std::size_t session_calls;
+    std::size_t balloons, session_calls;
   };
   static constexpr Row kRows[] = {{"none", 0, 0, 0},
                                   {"message", 1, 1, 0},

@@ -83,8 +83,7 @@ TEST_F(Periods, TheWeekWaitsForItsStartDayOneWeekLong) {
   struct Row {
     const char* why;
     platform::DateTime today;
-    int marker;
-    int starts_on;
+    int marker, starts_on;
     const char* machine;
     const char* adapter;
     int marker_after;
@@ -124,8 +123,7 @@ TEST_F(Periods, TheMonthWaitsForItsStartDayInBothDirections) {
   struct Row {
     const char* why;
     platform::DateTime today;
-    int marker;
-    int starts_on;
+    int marker, starts_on;
     const char* machine;
     const char* adapter;
     int marker_after;

@@ -40,8 +40,7 @@ TEST_F(Language, AFileChangesTheTextsThatItHasAndNothingElse) {
 TEST_F(Language, ReadsWhatUsersWriteIntoIniFiles) {
   struct Row {
     const char* why;
-    std::string bytes;
-    std::string title;
+    std::string bytes, title;
   };
   const std::string longest(1000, 'A');
   const Row rows[] = {
@@ -104,18 +103,6 @@ TEST_F(Language, ANameDoesNotLeaveTheFolder) {
   EXPECT_EQ(machine.files.loads, 0);
   Choose("INSIDE");
   EXPECT_EQ(Title(), "inside");
-}
-
-TEST_F(Language, AStoredLanguageCountsAtOnceAndItsFileIsReadOnce) {
-  Put("one", "[Security]\nTitle=1\n");
-  Put("two", "[Security]\nTitle=2\n");
-  Choose("one");
-  for (int i = 0; i < 100; ++i) EXPECT_EQ(Title(), "1");
-  EXPECT_EQ(machine.files.loads, 1);
-  Choose("two");
-  EXPECT_EQ(Title(), "2");
-  store.Write(settings::setting::Language, "");
-  EXPECT_EQ(Title(), kEnglishTitle);
 }
 
 TEST_F(Language, AFileThatCouldNotBeReadIsTriedAgainByTheNextWindow) {

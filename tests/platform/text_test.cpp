@@ -33,8 +33,7 @@ TEST(Text, LowerCaseTouchesAToZOnly) {
 TEST(Text, TrimTakesBlanksAndControlCharactersOffBothEnds) {
   struct Row {
     const char* why;
-    std::string_view text;
-    std::string_view trimmed;
+    std::string_view text, trimmed;
   };
   static constexpr Row kRows[] = {
       {"nothing but blanks", " \t\r\n ", ""},
@@ -53,8 +52,7 @@ TEST(Text, TrimTakesBlanksAndControlCharactersOffBothEnds) {
 TEST(Text, MalformedUtf8IsReplaced) {
   struct Row {
     const char* why;
-    std::string_view text;
-    std::string_view valid;
+    std::string_view text, valid;
   };
   static constexpr Row kRows[] = {
       {"valid text stays", "a\u00E4\u4E2D\U0001F600\U0010FFFF",

@@ -13,8 +13,7 @@ using namespace std::string_literals;
 TEST(TextFile, IsReadInEveryEncodingThatAnEditorWrites) {
   struct Row {
     const char* why;
-    std::string bytes;
-    std::string text;
+    std::string bytes, text;
   };
   const Row rows[] = {
       {"UTF-8 with mark", "\xEF\xBB\xBFGröße", "Größe"},
