@@ -97,7 +97,7 @@ TEST_F(Sampler, RowCountsAreComparedAlsoAroundAnEmptyTable) {
   EXPECT_EQ(Sample().ScanSumDL, 0);
 }
 
-TEST_F(Sampler, ARowThatVanishesWithinAScanCausesNoSpike) {
+TEST_F(Sampler, RowsThatVanishAndCountersAfterSleepCauseNoSpike) {
   AddAdapter("a").dwInOctets = 3000000000;
   AddAdapter("b");
   (void)Initialise();
@@ -108,6 +108,12 @@ TEST_F(Sampler, ARowThatVanishesWithinAScanCausesNoSpike) {
   sampler.TakePresentCounters();
   (void)Initialise();
   EXPECT_EQ(Sample(500, 600).ScanSumDL, 500);
+  machine.interface_table.rows[0].dwInOctets = 3;  // the driver started anew
+  machine.interface_table.AddTraffic(0, 0, 700);
+  sampler.TakePresentCounters();
+  const ScanAmounts scan = Sample(50, 60);
+  EXPECT_EQ(scan.ScanSumDL, 50);
+  EXPECT_EQ(scan.ScanSumUL, 60);
 }
 
 }  // namespace

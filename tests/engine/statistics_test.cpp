@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "settings/counter_text.h"
 #include "tests/world.h"
 
 namespace {
@@ -172,15 +171,6 @@ TEST(Statistics, ACounterAtItsEndWrapsAndStaysReadable) {
   EXPECT_EQ(world.StoredText("CurrentDayTotalDL"), "-9223372036854775808");
   world.statistics.UpdateMachinePeriods({1, 1, 1, 1}, kWednesday);
   EXPECT_EQ(world.StoredText("CurrentDayTotalDL"), "9223372036854775807");
-}
-
-TEST(Statistics, GarbageInACounterIsTheConversionError) {
-  test::Adapters world;
-  world.SetAdapter("aInfoTotalUL", "12 MB");
-  EXPECT_THROW(world.statistics.UpdateAdapterStatistics("a", Counters(1, 1, 1, 1), kWednesday),
-               settings::ConversionError);
-  EXPECT_EQ(world.StoredOfAdapter("aInfoTotalDL"), "1") << "what came before it is written";
-  EXPECT_EQ(world.StoredOfAdapter("aInfoTotalUL"), "12 MB") << "and nothing is put right";
 }
 
 }  // namespace
