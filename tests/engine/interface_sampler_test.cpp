@@ -92,6 +92,10 @@ TEST_F(Sampler, RowCountsAreComparedAlsoAroundAnEmptyTable) {
   EXPECT_TRUE(sampler.RowCountChanged());
   EXPECT_TRUE(sampler.RowCountChanged()) << "until it is initialised again";
   (void)Initialise();
+  machine.notebook.FailCall(4);  // behind the table's two and the opening of the key
+  EXPECT_THROW((void)Initialise(), std::runtime_error);
+  EXPECT_TRUE(sampler.RowCountChanged()) << "one that fails half-way is none";
+  (void)Initialise();
   machine.interface_table.rows.clear();
   EXPECT_FALSE(sampler.RowCountChanged()) << "no rows at all: the old table stays";
   EXPECT_EQ(Sample().ScanSumDL, 0);

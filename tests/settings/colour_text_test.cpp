@@ -20,7 +20,7 @@ TEST(ColourText, NamesTheStandardColoursAndThoseOfTheSystem) {
             "clBlack clRed clLime clYellow clBlue clFuchsia clAqua clWhite ");
   EXPECT_EQ(settings::ColourText(0xC0C0C0), "clSilver");
   names.clear();
-  for (int index = 0; index < 32; ++index) {
+  for (std::uint32_t index = 0; index < 32; ++index) {
     names += settings::ColourText(platform::colour::System(index)) + ' ';
   }
   EXPECT_EQ(names,

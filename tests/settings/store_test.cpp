@@ -8,7 +8,6 @@
 
 namespace {
 
-using platform::memory::RegistryValue;
 using platform::memory::ValueType;
 using settings::KeyIndex;
 namespace setting = settings::setting;
