@@ -35,7 +35,7 @@ EXCLUDED_LINES = re.compile(
     r"|static_assert|assign\(|NOLINT"
     # places in the statistics windows and their rows
     r"|const int (address_left|since_top|since_height|check_top|lower|group|value_left|unit_left) = "
-    r"|FigureRow::Columns k|since_height - kButtonHeight|group - \d|width - 81|details_\.SetBounds|unit_left \+")
+    r"|FigureRow::Columns k|GroupBox::kTitleHeight|since_height - kButtonHeight|group - \d|width - 81|details_\.SetBounds|unit_left \+")
 
 
 def tokens(line):

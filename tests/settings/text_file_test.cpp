@@ -25,6 +25,7 @@ TEST(TextFile, IsReadInEveryEncodingThatAnEditorWrites) {
       {"UTF-16 cut between two halves", "\xFF\xFEG\0\x3D\xD8"s, "G\xEF\xBF\xBD"},
       {"the code page, which is Latin-1 here", "Gr\xF6\xDF"s + "e", "Größe"},
       {"the code page with such a character last", "Caf\xE9", "Café"},
+      {"UTF-8 with its one such character last", "Café", "Café"},
       {"UTF-8 cut behind two bytes of three", "ö\xE2\x80", "ö\xEF\xBF\xBD"},
       {"the same of the lowest three", "ö\xE0\xA4", "ö\xEF\xBF\xBD"},
       {"behind three of four", "ö\xF0\x9F\x98", "ö\xEF\xBF\xBD"},
