@@ -7,6 +7,7 @@
 #include "alerts/system_manager.h"
 #include "platform/notification_area.h"
 #include "platform/sound.h"
+#include "platform/text.h"
 
 namespace alerts {
 
@@ -23,6 +24,13 @@ class Balloons {
  public:
   virtual ~Balloons() = default;
   // Shows a balloon for so many seconds. The title is cut at 63 characters, the text at 255.
+  void Show(std::string_view title, std::string_view text, platform::BalloonIcon icon,
+            int seconds) {
+    ShowBalloon(platform::CutCharacters(title, 63), platform::CutCharacters(text, 255), icon,
+                seconds);
+  }
+
+ private:
   virtual void ShowBalloon(std::string_view title, std::string_view text,
                            platform::BalloonIcon icon, int seconds) = 0;
 };
@@ -36,7 +44,7 @@ class Reactions {
   // Starts the sound and does not wait for its end. A file that cannot be played stays silent.
   void PlayWave(std::string_view path) { sound_.Play(path); }
   void Warn(std::string_view title, std::string_view text, int seconds) {
-    balloons_.ShowBalloon(title, text, platform::BalloonIcon::kWarning, seconds);
+    balloons_.Show(title, text, platform::BalloonIcon::kWarning, seconds);
   }
   // Ends the session without asking the user. Nothing happens when the system refuses.
   void ShutDownComputer() { shutdown_.Execute(); }

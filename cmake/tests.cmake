@@ -139,4 +139,10 @@ else()
     target_link_libraries(fuzz PRIVATE fuzz_targets)
     target_link_options(fuzz PRIVATE -fsanitize=fuzzer)
   endif()
+
+  # The language files, the names in the help and the page of all stored values; ./dev languages writes them.
+  floor(made_files_parts tools/made_files settings memory)
+  add_executable(made_files tools/made_files/main.cpp)
+  target_link_libraries(made_files PRIVATE made_files_parts)
+  add_test(NAME made_files COMMAND made_files --check ${CMAKE_SOURCE_DIR})
 endif()

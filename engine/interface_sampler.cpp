@@ -1,5 +1,6 @@
 #include "engine/interface_sampler.h"
 
+#include <algorithm>
 #include <cstddef>
 
 #include "engine/adapter.h"
@@ -43,7 +44,7 @@ void Advance(std::uint32_t octets, std::uint32_t& last, std::uint32_t& delta, st
 }
 
 void Cap(std::int64_t cap, std::uint32_t& bytes) {
-  if (bytes > cap) bytes = static_cast<std::uint32_t>(cap);
+  bytes = static_cast<std::uint32_t>(std::min<std::int64_t>(bytes, cap));
 }
 
 // The order matters for the figures: the maxima are taken from the full amounts and capped
@@ -51,8 +52,8 @@ void Cap(std::int64_t cap, std::uint32_t& bytes) {
 void UpdateCounters(const InterfaceRow& row, std::int64_t speed_cap, AdapterCounters& c) {
   Advance(row.dwInOctets, c.LastInOctets, c.DeltaIn, c.TotalIn, c.ActiveInScans);
   Advance(row.dwOutOctets, c.LastOutOctets, c.DeltaOut, c.TotalOut, c.ActiveOutScans);
-  if (c.DeltaIn > c.MaxIn) c.MaxIn = c.DeltaIn;
-  if (c.DeltaOut > c.MaxOut) c.MaxOut = c.DeltaOut;
+  c.MaxIn = std::max(c.MaxIn, c.DeltaIn);
+  c.MaxOut = std::max(c.MaxOut, c.DeltaOut);
   if (speed_cap <= 0) return;
   for (std::uint32_t* bytes : {&c.DeltaIn, &c.DeltaOut, &c.MaxIn, &c.MaxOut}) {
     Cap(speed_cap, *bytes);

@@ -22,7 +22,7 @@ bool MatchesMask(std::string_view name, std::string_view mask) {
   };
   std::optional<Retry> star;
   while (at < text.size()) {
-    if (step < pattern.size() && pattern[step] == u'*') {
+    if (pattern[step] == u'*') {  // behind the last one is a NUL
       star = Retry{at, ++step};
     } else if (step < pattern.size() && (pattern[step] == u'?' || pattern[step] == text[at])) {
       ++at;
@@ -34,7 +34,7 @@ bool MatchesMask(std::string_view name, std::string_view mask) {
       return false;
     }
   }
-  while (step < pattern.size() && pattern[step] == u'*') ++step;
+  while (pattern[step] == u'*') ++step;
   return step == pattern.size();
 }
 

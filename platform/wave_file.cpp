@@ -69,4 +69,9 @@ bool IsWaveFile(std::string_view bytes) {
   return false;
 }
 
+bool IsOnShare(std::string_view path) {
+  const auto is_slash = [](char c) { return c == '\\' || c == '/'; };
+  return path.size() > 1 && is_slash(path[0]) && is_slash(path[1]);
+}
+
 }  // namespace platform

@@ -1,4 +1,4 @@
-// Checks a wave file before the system is asked to play it.
+// Checks the path of a wave file, and the file, before the system is asked to play it.
 #pragma once
 
 #include <string_view>
@@ -9,5 +9,9 @@ namespace platform {
 // within the file, and before the sound a format whose numbers a player can divide by. The system's
 // player trusts these numbers, and a broken file may crash the program in it.
 [[nodiscard]] bool IsWaveFile(std::string_view bytes);
+
+// Returns whether a path is on a share, "\\machine\share\x.wav": opening it may wait for a
+// machine that does not answer. The system takes slashes as well as backslashes.
+[[nodiscard]] bool IsOnShare(std::string_view path);
 
 }  // namespace platform

@@ -90,9 +90,9 @@ std::optional<platform::Colour> ParseColour(std::string_view text) {
   for (const NamedColour& named : kNamedColours) {
     if (platform::AsciiLower(named.name) == lower) return named.value;
   }
-  const bool hexadecimal = text.starts_with('$');
-  if (hexadecimal && text.starts_with("$-")) return std::nullopt;
-  const auto number = hexadecimal ? ParseNumber(text.substr(1), 16) : ParseNumber(text, 10);
+  if (text.starts_with("$-")) return std::nullopt;
+  const auto number =
+      text.starts_with('$') ? ParseNumber(text.substr(1), 16) : ParseNumber(text, 10);
   // Signed and unsigned decimals of 32 bits: a system colour is negative in the one form.
   if (!number || *number < INT32_MIN || *number > UINT32_MAX) return std::nullopt;
   return static_cast<platform::Colour>(*number);

@@ -152,7 +152,7 @@ void StatisticsForm::Button1MouseUp(const platform::MouseEvent& event) {
   const bool closes = event.button == platform::MouseButton::kRight;
   if (!closes && event.button != platform::MouseButton::kLeft) return;
   // A click of the mouse is heard just before its release.
-  if (closes || !std::exchange(copied_by_click_, false)) CopyAddress();
+  if (closes || !copied_by_click_) CopyAddress();
   if (closes) Close();
 }
 

@@ -119,8 +119,8 @@ void T_frmAddTitles::OkBtnClick() {
 
 void T_frmAddTitles::FormDestroy() {
   if (Save()) return;
-  balloons_.ShowBalloon(language_.Text(text::Title), language_.Text(text::SaveFailed),
-                        platform::BalloonIcon::kWarning, kBalloonSeconds);
+  balloons_.Show(language_.Text(text::Title), language_.Text(text::SaveFailed),
+                 platform::BalloonIcon::kWarning, kBalloonSeconds);
 }
 
 // The process may be gone before the editor is destroyed.

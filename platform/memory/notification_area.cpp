@@ -6,8 +6,6 @@ namespace platform::memory {
 namespace {
 
 constexpr std::size_t kHintCharacters = 127;
-constexpr std::size_t kTitleCharacters = 63;
-constexpr std::size_t kTextCharacters = 255;
 
 }  // namespace
 
@@ -38,8 +36,7 @@ class NotificationArea::Icon final : public TrayIcon {
   }
   void ShowBalloon(std::string_view title, std::string_view text, BalloonIcon icon,
                    int seconds) override {
-    area_.balloons.push_back({CutCharacters(title, kTitleCharacters),
-                              CutCharacters(text, kTextCharacters), icon, seconds});
+    area_.balloons.push_back({std::string(title), std::string(text), icon, seconds});
   }
   [[nodiscard]] int PictureSize() const override { return area_.picture_size; }
 

@@ -3,28 +3,41 @@
 #include <gtest/gtest.h>
 
 #include "alerts/unit_BandWidthAlert.h"
-#include "tests/alerts/alerts_world.h"
+#include "tests/world.h"
 
 namespace {
 
-class BandwidthAlert : public test::AlertsTest {
+constexpr const char* kForm = "T_frmBandWidthAlert";
+
+class BandwidthAlert : public testing::Test, protected test::Reacting {
  protected:
   BandwidthAlert() {
     Set("BAAlerts", 1);
     Set("MoreThan", 1);
     Set("baDownload", 1);
     Set("BAAction", 1);
-    SetText("BAMessage", "stop");
-    SetText("CurrentDayTotalDL", "1024");
+    Set("BAMessage", std::string(254, 's') + "\u00DFt");
+    Set("CurrentDayTotalDL", "1024");
   }
 
   // Runs the scan's step; `user` is what happens while the window is open.
   void Check(std::function<void()> user) {
     machine.message_loop.Then(std::move(user));
     alert.Check();
+    EXPECT_FALSE(machine.windowing.Exists(kForm));
   }
-  platform::memory::WidgetState& Widget(std::string_view name) {
-    return machine.windowing.Find(name);
+  // What the details show, from top to bottom.
+  std::string Details() {
+    std::string all;
+    for (const char* row : {"Limit", "Type", "CurrDLTotal", "CurrULTotal", "Left"}) {
+      const platform::memory::WidgetState& value = Widget(std::string("lblBandwidth") + row);
+      static constexpr platform::Colour kLightRed = 0x9999FF;
+      const bool lime = value.text_colour == platform::colour::kLime;
+      const bool silver = value.text_colour == platform::colour::kSilver;
+      const bool red = value.text_colour == kLightRed;
+      all += value.text + (lime ? ", " : silver ? " silver, " : red ? " red, " : " ?, ");
+    }
+    return all;
   }
 
   quantity::Quantity quantity{store, machine.locale};
@@ -33,39 +46,25 @@ class BandwidthAlert : public test::AlertsTest {
   alerts::BandwidthAlert alert{app, store, quantity, language, reactions, menu};
 };
 
-TEST_F(BandwidthAlert, ShowsABalloonAndItsWindowOnce) {
-  bool shown = false;
+TEST_F(BandwidthAlert, ShowsABalloonAndItsWindowOnceInAPeriod) {
   Check([&] {
-    shown = Widget("T_frmBandWidthAlert").visible;
-    EXPECT_EQ(Widget("T_frmBandWidthAlert").text, "Brisanto .NET Bandwidth Alert");
-    alert.Check();  // a scan while the window is open
-    machine.windowing.Press("OkBtn");
-  });
-  EXPECT_TRUE(shown);
-  EXPECT_FALSE(machine.windowing.Exists("T_frmBandWidthAlert"));
-  ASSERT_EQ(balloons.size(), 1U);
-  EXPECT_EQ(balloons[0].title, "Korvane TremoluxBandwidth Alert") << "no blank between the parts";
-  EXPECT_EQ(balloons[0].text, "stop");
-  EXPECT_EQ(balloons[0].seconds, 15);
-  EXPECT_TRUE(store.ReadBool("BAShow", false));
-}
-
-TEST_F(BandwidthAlert, EnterAnswersItsWindow) {
-  Check([&] {
+    EXPECT_TRUE(Widget(kForm).visible);
+    EXPECT_EQ(Widget(kForm).text, "Brisanto .NET Bandwidth Alert");
     EXPECT_EQ(machine.windowing.Focused(), "OkBtn");
-    machine.windowing.PressEnter("T_frmBandWidthAlert");
-  });
-  EXPECT_FALSE(machine.windowing.Exists("T_frmBandWidthAlert"));
-}
-
-TEST_F(BandwidthAlert, ASecondOneWhileTheFirstIsOpenRaisesIt) {
-  Check([&] {
-    store.WriteBool("BAShow", false);  // midnight
+    EXPECT_TRUE(Widget("OkBtn").is_default);
+    alert.Check();  // a scan while the window is open
+    EXPECT_EQ(balloons.size(), 1U);
+    Set("BAShow", 0);  // midnight
     alert.Check();
-    EXPECT_EQ(Widget("T_frmBandWidthAlert").raised, 1);
-    EXPECT_EQ(balloons.size(), 2U);
-    machine.windowing.ClickCloseBox("T_frmBandWidthAlert");
+    EXPECT_EQ(Widget(kForm).raised, 1);
+    machine.windowing.PressEnter(kForm);
   });
+  ASSERT_EQ(balloons.size(), 2U);
+  EXPECT_EQ(balloons[0].title, "Korvane TremoluxBandwidth Alert") << "no blank between the parts";
+  EXPECT_EQ(balloons[0].text, std::string(254, 's') + "\u00DF") << "255 characters";
+  EXPECT_EQ(balloons[0].seconds, 15);
+  reactions.Warn(std::string(64, 't'), "", 1);
+  EXPECT_EQ(balloons[2].title, std::string(63, 't'));
 }
 
 TEST_F(BandwidthAlert, AMenuThatIsOpenGoesBeforeItsWindowComes) {
@@ -74,13 +73,12 @@ TEST_F(BandwidthAlert, AMenuThatIsOpenGoesBeforeItsWindowComes) {
     alert.Check();  // a scan while the menu is open
     EXPECT_TRUE(machine.menus.cancelled);
     EXPECT_EQ(balloons.size(), 1U) << "the balloon waits for nothing";
-    EXPECT_FALSE(machine.windowing.Exists("T_frmBandWidthAlert"))
-        << "under the menu it would not get the mouse";
+    EXPECT_FALSE(machine.windowing.Exists(kForm)) << "under the menu it would not get the mouse";
     return 0;
   };
   bool shown = false;
   machine.message_loop.Then([&] {
-    shown = machine.windowing.Exists("T_frmBandWidthAlert");
+    shown = machine.windowing.Exists(kForm);
     machine.windowing.Press("OkBtn");
   });
   menu.Popup({5, 6}, owner);
@@ -88,81 +86,57 @@ TEST_F(BandwidthAlert, AMenuThatIsOpenGoesBeforeItsWindowComes) {
 }
 
 TEST_F(BandwidthAlert, OtherActionsShowNothing) {
-  struct Row {
-    int action;
-    std::size_t session_calls;
-  };
   Set("chkBAPlay", 1);
-  SetText("BaPlayFile", "C:\\alarm.wav");
-  for (const Row& row : {Row{0, 0}, Row{3, 0}, Row{9, 0}, Row{2, 3}}) {
-    SCOPED_TRACE(row.action);
-    Set("BAAction", row.action);
-    store.WriteBool("BAShow", false);
+  Set("BaPlayFile", "C:\\alarm.wav");
+  for (const int action : {0, 3, 9, 2}) {
+    SCOPED_TRACE(action);
+    Set("BAAction", action);
+    Set("BAShow", 0);
     machine.sound.played.clear();
     alert.Check();
     EXPECT_TRUE(balloons.empty());
     EXPECT_EQ(machine.sound.played, (std::vector<std::string>{"C:\\alarm.wav"}));
-    EXPECT_EQ(machine.session.calls.size(), row.session_calls);
+    EXPECT_EQ(machine.session.calls.size(), action == 2 ? 3U : 0U);
   }
 }
 
 TEST_F(BandwidthAlert, TheDetailsOpenAndCloseAndRefreshTwiceASecond) {
-  constexpr platform::Colour kLime = 0x00FF00;
-  constexpr platform::Colour kSilver = 0xC0C0C0;
-  constexpr platform::Colour kLightRed = 0x9999FF;
   Check([&] {
-    const int closed = Widget("T_frmBandWidthAlert").ClientSize().height;
-    EXPECT_EQ(closed, 110);
+    EXPECT_EQ(Widget("btnDetails").text, "Details >>");
+    EXPECT_EQ(Widget(kForm).ClientSize().height, 110);
     machine.windowing.Press("btnDetails");
-    EXPECT_EQ(Widget("T_frmBandWidthAlert").ClientSize().height, 255);
+    EXPECT_EQ(Widget(kForm).ClientSize().height, 255);
     EXPECT_EQ(Widget("btnDetails").text, "<< Details");
-
-    EXPECT_EQ(Widget("lblBandwidthLimit").text, "0,0") << "nothing before the first tick";
-    machine.timers.Advance(500);
-    EXPECT_EQ(Widget("lblBandwidthLimit").text, "1");
-    EXPECT_EQ(Widget("lblBandwidthType").text, "Daily");
-    EXPECT_EQ(Widget("lblBandwidthCurrDLTotal").text, "1");
-    EXPECT_EQ(Widget("lblBandwidthCurrDLTotal").text_colour, kLime);
-    EXPECT_EQ(Widget("lblBandwidthCurrULTotal").text_colour, kSilver);
-    EXPECT_EQ(Widget("lblBandwidthLeft").text, "0");
-    EXPECT_EQ(Widget("lblBandwidthLeft").text_colour, kLime);
-
-    SetText("CurrentDayTotalDL", "2560");
-    machine.timers.Advance(500);
-    EXPECT_EQ(Widget("lblBandwidthLeft").text, "-1,5");
-    EXPECT_EQ(Widget("lblBandwidthLeft").text_colour, kLightRed);
-    SetText("CurrentDayTotalDL", "0");
-    machine.timers.Advance(500);
-    EXPECT_EQ(Widget("lblBandwidthLeft").text_colour, kLightRed) << "the red is never set back";
-
+    EXPECT_FALSE(Widget("").visible) << "the unit of the kind of limit, which has none";
+    const auto after = [&] {
+      machine.timers.Advance(500);
+      return Details();
+    };
+    EXPECT_EQ(Details(), "0,0, Daily, 0,0 silver, 0,0 silver, 0,0, ") << "before the first tick";
+    EXPECT_EQ(after(), "1, Daily, 1, 0,0 silver, 0, ");
+    Set("CurrentDayTotalDL", "2560");
+    EXPECT_EQ(after(), "1, Daily, 2,5, 0,0 silver, -1,5 red, ");
+    Set("CurrentDayTotalDL", "0");
+    Set("baUpload", 1);
+    Set("CurrentDayTotalUL", "512");
+    EXPECT_EQ(after(), "1, Daily, 0,0, 0,5, 0,5 red, ") << "the red is never set back";
+    Set("BADayWeekMonth", 3);
+    EXPECT_EQ(after(), "1, Daily, 0,0, 0,5, 0,5 red, ") << "no such period";
     Set("baDownload", 0);
     Set("AlertsMoreThan", 7);
     Set("BADayWeekMonth", 2);
-    SetText("CurrentMonthTotalUL", "1536");
-    machine.timers.Advance(500);
-    EXPECT_EQ(Widget("lblBandwidthLimit").text, "1") << "a unit that does not exist leaves its row";
-    EXPECT_EQ(Widget("lblBandwidthType").text, "Monthly");
-    EXPECT_EQ(Widget("lblBandwidthCurrULTotal").text, "1,5");
-    EXPECT_EQ(Widget("lblBandwidthCurrDLTotal").text_colour, kSilver);
-    machine.windowing.Press("btnDetails");
-    EXPECT_EQ(Widget("T_frmBandWidthAlert").ClientSize().height, 110);
-    EXPECT_EQ(Widget("btnDetails").text, "Details >>");
-    machine.windowing.PressEsc("T_frmBandWidthAlert");
-  });
-  EXPECT_FALSE(machine.windowing.Exists("T_frmBandWidthAlert"));
-}
+    Set("CurrentMonthTotalUL", "1536");
+    EXPECT_EQ(after(), "1, Monthly, 0,0 silver, 1,5, 0,5 red, ") << "no such unit, so no limit";
 
-TEST_F(BandwidthAlert, ATotalThatIsNoNumberIsToldOnce) {
-  int told = 0;
-  app.SetExceptionHandler([&told](std::string_view) { ++told; });
-  Check([&] {
-    SetText("CurrentDayTotalDL", "many");
+    Set("CurrentMonthTotalUL", "many");
     machine.timers.Advance(1500);
-    EXPECT_EQ(told, 1);
-    SetText("CurrentDayTotalDL", "512");
-    machine.timers.Advance(500);
-    EXPECT_EQ(Widget("lblBandwidthCurrDLTotal").text, "0,5");
-    machine.windowing.Press("OkBtn");
+    EXPECT_EQ(errors.size(), 1U) << "told once";
+    Set("CurrentMonthTotalUL", "1024");
+    EXPECT_EQ(after(), "1, Monthly, 0,0 silver, 1, 0,5 red, ");
+    machine.windowing.Press("btnDetails");
+    EXPECT_EQ(Widget(kForm).ClientSize().height, 110);
+    EXPECT_EQ(Widget("btnDetails").text, "Details >>");
+    machine.windowing.PressEsc(kForm);
   });
 }
 

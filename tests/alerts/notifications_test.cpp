@@ -2,21 +2,20 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/alerts/alerts_world.h"
+#include "tests/world.h"
 
 namespace {
 
-class Notifications : public test::AlertsTest {
+class Notifications : public testing::Test, protected test::Reacting {
  protected:
   Notifications() { Set("NotificationsActive", 1); }
 
-  // A second: a scan, and then the timer.
-  void Second(std::int64_t dl, std::int64_t ul) {
-    notifications.CheckNotifications(Bytes(dl, ul));
-    machine.timers.Advance(1000);
-  }
+  // So many seconds, each a scan and then the timer.
   void Seconds(int count, std::int64_t dl, std::int64_t ul) {
-    for (int i = 0; i < count; ++i) Second(dl, ul);
+    for (int i = 0; i < count; ++i) {
+      notifications.CheckNotifications({dl, ul, 0, 0});
+      machine.timers.Advance(1000);
+    }
   }
 
   alerts::Notifications notifications{app, store, language, reactions};
@@ -25,12 +24,12 @@ class Notifications : public test::AlertsTest {
 TEST_F(Notifications, FireAfterSoManyScansInARowAndBeginAnew) {
   Set("LessUploaded", 1);
   Set("LessAction", 1);
-  SetText("LessDisplayMessage", "too quiet");
+  Set("LessDisplayMessage", "too quiet");
   Seconds(59, 9999, 5000);
-  Second(9999, 5001);
+  Seconds(1, 9999, 5001);
   Seconds(59, 9999, 0);
   EXPECT_TRUE(balloons.empty());
-  Second(9999, 5000);
+  Seconds(1, 9999, 5000);
   ASSERT_EQ(balloons.size(), 1U);
   EXPECT_EQ(balloons[0].title, "Korvane Tremolux Notification");
   EXPECT_EQ(balloons[0].text, "too quiet");
@@ -38,51 +37,34 @@ TEST_F(Notifications, FireAfterSoManyScansInARowAndBeginAnew) {
   EXPECT_EQ(balloons[0].seconds, 30);
   Seconds(59, 9999, 0);
   EXPECT_EQ(balloons.size(), 1U);
-  Second(9999, 0);
+  Seconds(1, 9999, 0);
   EXPECT_EQ(balloons.size(), 2U);
 }
 
 TEST_F(Notifications, AnAmountEqualToTheThresholdCountsForBothRules) {
   struct Row {
-    const char* why;
-    const char* rule;
+    std::string rule;
     std::int64_t bytes;
-    bool fires;
+    std::size_t fires;
   };
-  static constexpr Row kRows[] = {
-      {"less: equal", "Less", 5000, true}, {"less: one more", "Less", 5001, false},
-      {"more: equal", "More", 5000, true}, {"more: one less", "More", 4999, false},
-      {"less: nothing", "Less", 0, true},
-  };
-  for (const Row& row : kRows) {
-    for (const char* direction : {"Downloaded", "Uploaded"}) {
-      SCOPED_TRACE(std::string(row.why) + direction);
-      const std::string rule = row.rule;
-      Set(rule + direction, 1);
-      Set(rule + "NotSecs", 3);
-      Set(rule + "Action", 1);
+  const Row rows[] = {{"Less", 5000, 1}, {"Less", 5001, 0}, {"More", 5000, 1}, {"More", 4999, 0}};
+  for (const Row& row : rows) {
+    for (const bool download : {false, true}) {
+      SCOPED_TRACE(row.rule + std::to_string(row.bytes) + (download ? " down" : " up"));
+      const std::string direction = row.rule + (download ? "Downloaded" : "Uploaded");
+      Set(direction, 1);
+      Set(row.rule + "NotSecs", 3);
+      Set(row.rule + "Action", 1);
       balloons.clear();
       alerts::Notifications fresh(app, store, language, reactions);
-      const bool download = std::string_view(direction) == "Downloaded";
       for (int i = 0; i < 3; ++i) {
-        fresh.CheckNotifications(Bytes(download ? row.bytes : 7000, download ? 7000 : row.bytes));
+        fresh.CheckNotifications({download ? row.bytes : 7000, download ? 7000 : row.bytes, 0, 0});
         machine.timers.Advance(1000);
       }
-      EXPECT_EQ(balloons.size(), row.fires ? 1U : 0U);
-      Set(rule + direction, 0);
+      EXPECT_EQ(balloons.size(), row.fires);
+      Set(direction, 0);
     }
   }
-}
-
-TEST_F(Notifications, BothDirectionsQualifyingRunTheReactionTwiceInASecond) {
-  Set("LessDownloaded", 1);
-  Set("LessUploaded", 1);
-  Set("LessNotSecs", 2);
-  Set("LessAction", 1);
-  Set("LessIsPlay", 1);
-  Seconds(2, 0, 0);
-  EXPECT_EQ(balloons.size(), 2U);
-  EXPECT_EQ(machine.sound.played.size(), 2U);
 }
 
 TEST_F(Notifications, SwitchedOffTheyKeepTheirCounts) {
@@ -92,22 +74,22 @@ TEST_F(Notifications, SwitchedOffTheyKeepTheirCounts) {
   Seconds(3, 9000, 0);
   for (const char* flag : {"NotificationsActive", "MoreDownloaded"}) {
     Set(flag, 0);
-    Second(0, 0);
+    Seconds(1, 0, 0);
     EXPECT_FALSE(notifications.TimeOutTimer.Enabled());
     Set(flag, 1);
   }
   Seconds(1, 9000, 0);
   EXPECT_TRUE(balloons.empty());
-  Second(9000, 0);
+  Seconds(1, 9000, 0);
   EXPECT_EQ(balloons.size(), 1U);
 }
 
-TEST_F(Notifications, ATimeOfZeroOrLessHoldsAtEveryTick) {
+TEST_F(Notifications, ATimeOfZeroOrLessHoldsAtEveryTickInBothDirections) {
   Set("MoreUploaded", 1);
   Set("MoreAction", 1);
   Set("MoreNotSecs", 0);
   Seconds(3, 0, 0);
-  EXPECT_EQ(balloons.size(), 6U) << "both directions, each second";
+  EXPECT_EQ(balloons.size(), 6U);
   Set("MoreNotSecs", -7);
   Seconds(1, 0, 0);
   EXPECT_EQ(balloons.size(), 8U);
@@ -117,8 +99,7 @@ TEST_F(Notifications, TheActionCodesDoWhatTheyDo) {
   struct Row {
     const char* why;
     int action;
-    std::size_t balloons;
-    std::size_t session_calls;
+    std::size_t balloons, session_calls;
   };
   static constexpr Row kRows[] = {{"none", 0, 0, 0},
                                   {"message", 1, 1, 0},
@@ -134,56 +115,48 @@ TEST_F(Notifications, TheActionCodesDoWhatTheyDo) {
     notifications.LessNotification.Execute();
     EXPECT_EQ(balloons.size(), row.balloons);
     EXPECT_EQ(machine.session.calls.size(), row.session_calls);
-    EXPECT_EQ(machine.sound.played, (std::vector<std::string>{ProgramFile("warning.wav")}));
+    EXPECT_EQ(machine.sound.played, (std::vector<std::string>{store.ProgramFile("warning.wav")}));
   }
   EXPECT_TRUE(app.Terminated());
 }
 
-TEST(Shutdown, AsksTheSystemWithThePrivilegeAndEndsTheProgramOnSuccessOnly) {
-  struct Row {
-    alerts::ExitType type;
-    const char* call;
-  };
-  static constexpr Row kRows[] = {{alerts::ExitType::xLogoff, "exit 0"},
-                                  {alerts::ExitType::xReboot, "exit 2"},
-                                  {alerts::ExitType::xShutDown, "exit 1"},
-                                  {alerts::ExitType::xPowerOff, "exit 8"},
-                                  {alerts::ExitType::xForce, "exit 4"}};
-  for (const Row& row : kRows) {
-    platform::memory::Machine machine;
-    toolkit::Application app(machine.Platform());
-    alerts::Shutdown shutdown(app);
-    shutdown.Exittype = row.type;
-    machine.session.exit_result = 5;
-    std::uint32_t error = 0;
-    shutdown.OnError = [&](std::uint32_t code) { error = code; };
-    EXPECT_EQ(shutdown.Execute(), 5U);
-    EXPECT_EQ(error, 5U);
-    EXPECT_FALSE(app.Terminated());
-    EXPECT_EQ(machine.session.calls,
-              (std::vector<std::string>{"enable SeShutdownPrivilege", row.call,
-                                        "disable SeShutdownPrivilege"}));
-    machine.session.exit_result = 0;
-    EXPECT_EQ(shutdown.Execute(), 0U);
-    EXPECT_TRUE(app.Terminated());
-  }
+class Shutdown : public testing::Test, protected test::Reacting {};
+
+TEST_F(Shutdown, AsksTheSystemWithThePrivilegeAndEndsTheProgramOnSuccessOnly) {
+  machine.session.exit_result = 5;
+  std::uint32_t error = 0;
+  manager.shutdown.OnError = [&](std::uint32_t code) { error = code; };
+  EXPECT_EQ(manager.shutdown.Execute(), 5U);
+  EXPECT_EQ(error, 5U);
+  EXPECT_FALSE(app.Terminated());
+  machine.session.exit_result = 0;
+  EXPECT_EQ(manager.shutdown.Execute(), 0U);
+  EXPECT_TRUE(app.Terminated());
+  manager.shutdown.Exittype = alerts::ExitType::xReboot;
+  manager.shutdown.Execute();
+  std::string calls;
+  for (const std::string& call : machine.session.calls) calls += call + ", ";
+  EXPECT_EQ(calls,
+            "enable SeShutdownPrivilege, exit 1, disable SeShutdownPrivilege, "
+            "enable SeShutdownPrivilege, exit 1, disable SeShutdownPrivilege, "
+            "enable SeShutdownPrivilege, exit 2, disable SeShutdownPrivilege, ");
 }
 
-TEST(Shutdown, AsksTheUserOnlyWhereItIsToConfirm) {
-  platform::memory::Machine machine;
-  toolkit::Application app(machine.Platform());
-  alerts::Shutdown shutdown(app);
-  int before = 0;
-  shutdown.OnBeforeShutdown = [&] { ++before; };
-  shutdown.Confirm = true;
-  shutdown.OnConfirm = [](std::string_view) { return false; };
-  EXPECT_EQ(shutdown.Execute(), 0U);
-  EXPECT_EQ(before, 1);
-  EXPECT_TRUE(machine.session.calls.empty());
-  shutdown.OnConfirm = [](std::string_view question) {
-    return question == "Are you sure you want to reboot your PC now ?";
+TEST_F(Shutdown, AsksTheUserOnlyWhereItIsToConfirm) {
+  std::string asked;
+  bool yes = false;
+  manager.shutdown.OnBeforeShutdown = [&] { asked += "before, "; };
+  manager.shutdown.Confirm = true;
+  EXPECT_EQ(manager.shutdown.Execute(), 0U) << "nobody can be asked";
+  manager.shutdown.OnConfirm = [&](std::string_view question) {
+    asked += question;
+    return yes;
   };
-  shutdown.Execute();
+  EXPECT_EQ(manager.shutdown.Execute(), 0U);
+  EXPECT_TRUE(machine.session.calls.empty());
+  EXPECT_EQ(asked, "before, before, Are you sure you want to reboot your PC now ?");
+  yes = true;
+  manager.shutdown.Execute();
   EXPECT_EQ(machine.session.calls.size(), 3U);
 }
 

@@ -1,11 +1,8 @@
-// The language files and the help pages that are shipped. `./dev languages` runs this with
-// TREMOLUX_UPDATE set and so brings the files into the order of the catalogue, and the names of
-// menus and pages in the help up to date.
+// The language files and the help pages that are shipped.
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cctype>
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -25,10 +22,6 @@ using language::TextEntry;
 constexpr const char* kLanguages[] = {"English", "German",  "French",
                                       "Spanish", "Turkish", "Japanese"};
 
-std::string PathOf(const std::string& language) {
-  return SOURCE_FOLDER "/assets/Languages/" + language + ".lng";
-}
-
 std::string ReadFile(const std::string& path) {
   std::ifstream file(path, std::ios::binary);
   return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
@@ -36,36 +29,8 @@ std::string ReadFile(const std::string& path) {
 
 language::LanguageFile Parsed(const std::string& language) {
   platform::memory::Locale locale;
-  return language::LanguageFile(ReadFile(PathOf(language)), locale);
-}
-
-// As a line of the file, quoted where the reader would take something off its ends.
-std::string Line(const TextEntry& entry, std::string_view text) {
-  const bool quote = platform::Trim(text) != text ||
-                     (text.size() > 1 && text.front() == '"' && text.back() == '"');
-  const std::string mark = quote ? "\"" : "";
-  return std::string(entry.key) + '=' + mark + std::string(text) + mark;
-}
-
-// The file in the order of the catalogue. What is not translated yet is a comment.
-std::string MadeFromCatalogue(const std::string& language, const language::LanguageFile& file) {
-  std::string made = "\xEF\xBB\xBF; Korvane Tremolux, " + language + "\r\n";
-  std::string_view section;
-  std::string heading;
-  for (const TextEntry& entry : language::TextCatalogue()) {
-    if (entry.key.empty()) {
-      heading = "; " + std::string(entry.english) + "\r\n";
-      continue;
-    }
-    if (entry.section != section) made += "\r\n[" + std::string(entry.section) + "]\r\n";
-    if (!heading.empty()) made += (entry.section == section ? "\r\n" : "") + heading;
-    heading.clear();
-    section = entry.section;
-    const auto text = language == "English" ? entry.english : file.Find(entry.section, entry.key);
-    made += text ? Line(entry, *text) : "; " + Line(entry, entry.english);
-    made += "\r\n";
-  }
-  return made;
+  return language::LanguageFile(ReadFile(SOURCE_FOLDER "/assets/Languages/" + language + ".lng"),
+                                locale);
 }
 
 // The letters that the text marks with "&".
@@ -77,16 +42,6 @@ std::string MarkedKeys(std::string_view text) {
     if (letter != '&') keys += letter < 0x80 ? static_cast<char>(std::toupper(letter)) : '?';
   }
   return keys;
-}
-
-TEST(LanguageFiles, AreInTheOrderOfTheCatalogueAndHaveNoOtherKey) {
-  for (const std::string language : kLanguages) {
-    const std::string made = MadeFromCatalogue(language, Parsed(language));
-    if (std::getenv("TREMOLUX_UPDATE") != nullptr) {
-      std::ofstream(PathOf(language), std::ios::binary) << made;
-    }
-    EXPECT_TRUE(ReadFile(PathOf(language)) == made) << language << ": run ./dev languages";
-  }
 }
 
 TEST(LanguageFiles, HaveEveryTextWithItsPlaceHoldersAndMarkedKeys) {
@@ -124,49 +79,6 @@ std::string HelpPage(const std::string& language) {
   return ReadFile(FolderOfHelp(language) + "index.html");
 }
 
-// A caption in HTML, without what marks its key and without the colon before a field.
-std::string AsNamed(std::string_view caption) {
-  std::string name;
-  for (std::size_t at = 0; at < caption.size(); ++at) {
-    const std::string_view rest = caption.substr(at);
-    if (rest.starts_with("&&")) {
-      name += "&amp;";
-      ++at;
-    } else if (rest.starts_with("(&") && rest.size() > 3 && rest[3] == ')') {
-      at += 3;
-    } else if (rest.front() != '&') {
-      name += rest.front() == '<'   ? "&lt;"
-              : rest.front() == '>' ? "&gt;"
-                                    : std::string(1, rest.front());
-    }
-  }
-  if (name.ends_with(':')) name.pop_back();
-  return std::string(platform::Trim(name));
-}
-
-// The page with the captions of the program in each <b data-text="section.key">.
-std::string WithNames(const std::string& page, const std::string& language) {
-  constexpr std::string_view kStart = "<b data-text=\"";
-  const language::LanguageFile file = Parsed(language);
-  std::string made;
-  std::size_t kept = 0;
-  for (std::size_t at = page.find(kStart); at != std::string::npos; at = page.find(kStart, kept)) {
-    at += kStart.size();
-    const std::string name = page.substr(at, page.find('"', at) - at);
-    const std::size_t point = name.find('.');
-    const TextEntry* entry = language::FindText(name.substr(0, point), name.substr(point + 1));
-    EXPECT_NE(entry, nullptr) << name << " is no text of the catalogue";
-    const std::size_t begin = page.find('>', at) + 1;
-    made += page.substr(kept, begin - kept);
-    kept = page.find("</b>", begin);
-    if (entry == nullptr) continue;
-    const auto text =
-        language == "English" ? entry->english : file.Find(entry->section, entry->key);
-    made += AsNamed(text.value_or(entry->english));
-  }
-  return made + page.substr(kept);
-}
-
 std::vector<std::string> Sorted(std::vector<std::string> values) {
   std::sort(values.begin(), values.end());
   return values;
@@ -181,18 +93,6 @@ std::vector<std::string> Values(const std::string& page, const std::string& attr
     values.push_back(page.substr(at, page.find('"', at) - at));
   }
   return values;
-}
-
-TEST(HelpPages, NameWhatTheProgramShows) {
-  for (const std::string language : kLanguages) {
-    const std::string page = HelpPage(language);
-    const std::string made = WithNames(page, language);
-    if (std::getenv("TREMOLUX_UPDATE") != nullptr) {
-      std::ofstream(FolderOfHelp(language) + "index.html", std::ios::binary) << made;
-    }
-    EXPECT_FALSE(page.empty()) << language;
-    EXPECT_TRUE(page == made) << language << ": run ./dev languages";
-  }
 }
 
 TEST(HelpPages, HaveTheSectionsOfTheEnglishOneAndNoDeadLink) {

@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "platform/memory/machine.h"
+#include "tests/world.h"
 
 namespace {
 
@@ -13,17 +13,13 @@ using namespace std::string_literals;
 
 constexpr std::string_view kEnglishTitle = "Security";
 
-class Language : public testing::Test {
+class Language : public testing::Test, protected test::World {
  protected:
   void Put(const std::string& name, std::string_view bytes) {
     machine.files.PutBesideProgram("Languages\\" + name + ".lng", bytes);
   }
-  void Store(std::string_view name) { store.Write(settings::setting::Language, name); }
+  void Choose(std::string_view name) { store.Write(settings::setting::Language, name); }
   std::string Title() { return language.Text(text::Security::Title); }
-
-  platform::memory::Machine machine;
-  settings::Store store{machine.registry, machine.files};
-  language::Language language{store, machine.files, machine.locale};
 };
 
 TEST_F(Language, WithoutAChoiceAllIsBuiltInEnglishAndNoFileIsRead) {
@@ -35,7 +31,7 @@ TEST_F(Language, WithoutAChoiceAllIsBuiltInEnglishAndNoFileIsRead) {
 
 TEST_F(Language, AFileChangesTheTextsThatItHasAndNothingElse) {
   Put("Klingon", "[Security]\r\nTitle=QaD\r\n");
-  Store("Klingon");
+  Choose("Klingon");
   EXPECT_EQ(Title(), "QaD");
   EXPECT_EQ(language.Text(text::Security::CancelButton), "Cancel");
   EXPECT_EQ(language.Text(text::AddTitles::Title), "Window Titles") << "the same key elsewhere";
@@ -44,19 +40,16 @@ TEST_F(Language, AFileChangesTheTextsThatItHasAndNothingElse) {
 TEST_F(Language, ReadsWhatUsersWriteIntoIniFiles) {
   struct Row {
     const char* why;
-    std::string bytes;
-    std::string title;
+    std::string bytes, title;
   };
+  const std::string longest(1000, 'A');
   const Row rows[] = {
       {"plain", "[Security]\nTitle=A\n", "A"},
-      {"no line end behind the last line", "[Security]\r\nTitle=A", "A"},
-      {"line ends of an old Macintosh", "[Security]\rTitle=A\r", "A"},
       {"either case", "[SECURITY]\ntitle=A\n", "A"},
       {"blanks everywhere", " [ Security ] \n\t Title \t=  A b  \n", "A b"},
       {"quotes keep blanks", "[Security]\nTitle=\" A \"\n", " A "},
       {"quotes around quotes", "[Security]\nTitle=\"\"A\" or \"B\"\"\n", "\"A\" or \"B\""},
       {"one quote is a character", "[Security]\nTitle=\"\n", "\""},
-      {"single quotes keep them too", "[Security]\nTitle=' A '\n", " A "},
       {"one pair of either goes", "[Security]\nTitle='\"A\"'\n", "\"A\""},
       {"two kinds are no pair", "[Security]\nTitle='A\"\n", "'A\""},
       {"equals signs in the text", "[Security]\nTitle=A=B\n", "A=B"},
@@ -64,17 +57,17 @@ TEST_F(Language, ReadsWhatUsersWriteIntoIniFiles) {
       {"a text that is empty on purpose", "[Security]\nTitle=\n", ""},
       {"the first of two counts", "[Security]\nTitle=A\nTitle=B\n", "A"},
       {"a section goes on", "[Security]\nx=1\n[Other]\nTitle=B\n[Security]\nTitle=A\n", "A"},
-      {"encoding", "[Security]\nTitle=Gr\xF6\xDF"s + "e\n", "Größe"},
       {"a key before any section", "Title=A\n", "Security"},
-      {"another section", "[Other]\nTitle=A\n", "Security"},
       {"a section without its end is none", "[Security]\nx=1\n[Security\nTitle=A\n", "Security"},
-      {"no equals sign", "[Security]\nTitle A\n", "Security"},
+      {"no equals sign", "[Security]\nTitle\n", "Security"},
+      {"the longest text", "[Security]\nTitle=" + longest, longest},
+      {"a byte more fits nowhere", "[Security]\nTitle=" + longest + "x", "Security"},
+      {"a line that was cut leaves the others", "[Security]\nTitle=Größe\nSt3=Kennw\xC3"s, "Größe"},
   };
   for (const Row& row : rows) {
-    SCOPED_TRACE(row.why);
     Put("x", row.bytes);
     language.Choose("x");
-    EXPECT_EQ(Title(), row.title);
+    EXPECT_EQ(Title(), row.title) << row.why;
   }
 }
 
@@ -85,32 +78,17 @@ TEST_F(Language, ADamagedFileIsEnglish) {
   };
   const std::string good = "[Security]\nTitle=Größe\n";
   const Row rows[] = {
-      {"empty", ""},
       {"4 MiB", good + std::string(4U << 20, ' ')},
       {"binary", "MZ\x90\0\3\0\0\0"s + good},
-      {"zeros where the rest was never written", good + std::string(4096, '\0')},
-      {"UTF-16 without mark", "[\0S\0e\0c\0u\0r\0i\0t\0y\0]\0\n\0T\0i\0t\0l\0e\0=\0A\0"s},
       {"cut in the middle of the text", "[Security]\nSt1=ö\nTitle=Gr\xC3"s},
-      {"the same with a mark", "\xEF\xBB\xBF[Security]\nTitle=Gr\xC3"s},
-      {"cut in the key", "[Security]\nTit"},
-      {"cut in the section", "[Secu"},
-      {"a text that fits nowhere", "[Security]\nTitle=" + std::string(100000, 'A')},
   };
   for (const Row& row : rows) {
-    SCOPED_TRACE(row.why);
     Put("x", row.bytes);
     language.Choose("x");
-    EXPECT_EQ(Title(), kEnglishTitle);
+    EXPECT_EQ(Title(), kEnglishTitle) << row.why;
   }
   language.Choose("missing");
   EXPECT_EQ(Title(), kEnglishTitle);
-}
-
-TEST_F(Language, AHalfWrittenFileKeepsItsWholeLines) {
-  Put("x", "[Security]\nTitle=Größe\nSt3=Kennw\xC3"s);
-  Store("x");
-  EXPECT_EQ(Title(), "Größe");
-  EXPECT_EQ(language.Text(text::Security::St3), "Password:");
 }
 
 TEST_F(Language, ANameDoesNotLeaveTheFolder) {
@@ -119,25 +97,12 @@ TEST_F(Language, ANameDoesNotLeaveTheFolder) {
   Put("inside", "[Security]\nTitle=inside\n");
   for (const char* name : {"..\\secret", "../secret", "..\\Languages\\inside", "C:\\secret",
                            "\\secret", ".\\inside", "*", "i?side", "..", "CON", "inside.lng"}) {
-    SCOPED_TRACE(name);
-    Store(name);
-    EXPECT_EQ(Title(), kEnglishTitle);
+    Choose(name);
+    EXPECT_EQ(Title(), kEnglishTitle) << name;
   }
   EXPECT_EQ(machine.files.loads, 0);
-  Store("INSIDE");
+  Choose("INSIDE");
   EXPECT_EQ(Title(), "inside");
-}
-
-TEST_F(Language, AStoredLanguageCountsAtOnceAndItsFileIsReadOnce) {
-  Put("one", "[Security]\nTitle=1\n");
-  Put("two", "[Security]\nTitle=2\n");
-  Store("one");
-  for (int i = 0; i < 100; ++i) EXPECT_EQ(Title(), "1");
-  EXPECT_EQ(machine.files.loads, 1);
-  Store("two");
-  EXPECT_EQ(Title(), "2");
-  store.Write(settings::setting::Language, "");
-  EXPECT_EQ(Title(), kEnglishTitle);
 }
 
 TEST_F(Language, AFileThatCouldNotBeReadIsTriedAgainByTheNextWindow) {
@@ -196,20 +161,10 @@ TEST_F(Language, OffersEnglishFirstAndThenTheFilesFound) {
   EXPECT_EQ(names, (Names{"English", "Deutsch & mehr", "Turkish"}));
 
   EXPECT_EQ(language.IndexIn(names), 0U) << "nothing stored";
-  Store("turkish");
+  Choose("turkish");
   EXPECT_EQ(language.IndexIn(names), 2U);
-  Store("gone");
+  Choose("gone");
   EXPECT_EQ(language.IndexIn(names), 0U) << "what is shown is English";
-}
-
-TEST_F(Language, TheDirectoryIsListedWithAndWithoutItsBackslash) {
-  Put("a", "");
-  for (const char* folder : {"C:\\Program Files\\Korvane Tremolux\\Languages",
-                             "C:\\Program Files\\Korvane Tremolux\\Languages\\"}) {
-    EXPECT_EQ(language::LoadDirectory(machine.files, folder, "*.lng"),
-              std::vector<std::string>{"a.lng"});
-  }
-  EXPECT_TRUE(language::LoadDirectory(machine.files, "C:\\nowhere", "*").empty());
 }
 
 }  // namespace

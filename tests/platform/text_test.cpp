@@ -15,64 +15,36 @@ TEST(Text, ACutNeverLeavesHalfACharacter) {
     std::string_view cut;
   };
   static constexpr Row kRows[] = {
-      {"nothing of nothing", "", 3, ""},
-      {"nothing asked", "abc", 0, ""},
-      {"as many as there are", "abc", 3, "abc"},
       {"fewer than there are", "abc", 2, "ab"},
       {"more than there are", "abc", 9, "abc"},
-      {"an umlaut is one", "\u00E4bc", 1, "\u00E4"},
-      {"a Chinese character is one", "\u4E2D\u6587", 1, "\u4E2D"},
-      {"so is one beyond the first plane", "\U0001F600x", 1, "\U0001F600"},
-      {"a stray byte counts as one and is not joined",
-       "\x80"
-       "abc",
-       2,
-       "\x80"
-       "a"},
-      {"a broken sequence ends where it breaks",
-       "\xE4\xB8"
-       "abc",
-       2,
-       "\xE4\xB8"
-       "a"},
+      {"whole ones", "\u4E2D\U0001F600x", 2, "\u4E2D\U0001F600"},
+      {"a stray byte counts as one and is not joined", "\x80xyz", 2, "\x80x"},
+      {"a broken sequence ends where it breaks", "\xE4\xB8xyz", 2, "\xE4\xB8x"},
   };
   for (const Row& row : kRows) {
-    SCOPED_TRACE(row.why);
-    EXPECT_EQ(CutCharacters(row.text, row.count), row.cut);
+    EXPECT_EQ(CutCharacters(row.text, row.count), row.cut) << row.why;
   }
 }
 
 TEST(Text, LowerCaseTouchesAToZOnly) {
-  EXPECT_EQ(AsciiLower("MS TCP Loopback [@`{] interface 09"), "ms tcp loopback [@`{] interface 09");
-  EXPECT_EQ(AsciiLower("\u00C4\u0130I \u0394"), "\u00C4\u0130i \u0394");
+  EXPECT_EQ(AsciiLower("AZ [@`{] \u00C4\u0130\u0394"), "az [@`{] \u00C4\u0130\u0394");
 }
 
 TEST(Text, TrimTakesBlanksAndControlCharactersOffBothEnds) {
   struct Row {
     const char* why;
-    std::string_view text;
-    std::string_view trimmed;
+    std::string_view text, trimmed;
   };
   static constexpr Row kRows[] = {
-      {"nothing", "", ""},
       {"nothing but blanks", " \t\r\n ", ""},
       {"inner blanks stay", "  a b\t", "a b"},
-      {"the last control character",
-       "\x1F"
-       "a"
-       "\x1F",
-       "a"},
-      {"delete is none",
-       "\x7F"
-       "a",
-       "\x7F"
-       "a"},
+      {"the last control character", "\x1Fx\x1F", "x"},
+      {"delete is none", "\x7Fx", "\x7Fx"},
       {"a no-break space is none", "\u00A0a", "\u00A0a"},
       {"bytes above 127 are not negative numbers", "\u00E4", "\u00E4"},
   };
   for (const Row& row : kRows) {
-    SCOPED_TRACE(row.why);
-    EXPECT_EQ(Trim(row.text), row.trimmed);
+    EXPECT_EQ(Trim(row.text), row.trimmed) << row.why;
   }
   EXPECT_EQ(Trim(std::string_view("\0a\0", 3)), "a");
 }
@@ -80,8 +52,7 @@ TEST(Text, TrimTakesBlanksAndControlCharactersOffBothEnds) {
 TEST(Text, MalformedUtf8IsReplaced) {
   struct Row {
     const char* why;
-    std::string_view text;
-    std::string_view valid;
+    std::string_view text, valid;
   };
   static constexpr Row kRows[] = {
       {"valid text stays", "a\u00E4\u4E2D\U0001F600\U0010FFFF",
@@ -90,7 +61,6 @@ TEST(Text, MalformedUtf8IsReplaced) {
       {"a lead without its end", "a\xC3", "a\uFFFD"},
       {"a lead before something else", "\xC3(", "\uFFFD("},
       {"the begun bytes are one replacement", "\xF0\x9F\x98z", "\uFFFDz"},
-      {"overlong slash", "\xC0\xAF", "\uFFFD\uFFFD"},
       {"overlong in three bytes", "\xE0\x80\xAF", "\uFFFD\uFFFD\uFFFD"},
       {"overlong in four bytes", "\xF0\x8F\xBF\xBF", "\uFFFD\uFFFD\uFFFD\uFFFD"},
       {"a surrogate", "\xED\xA0\x80", "\uFFFD\uFFFD\uFFFD"},
@@ -105,10 +75,7 @@ TEST(Text, MalformedUtf8IsReplaced) {
   }
 }
 
-TEST(Text, Utf16AndBack) {
-  EXPECT_EQ(ToUtf16("a\u00E4\u4E2D\U0001F600"), u"a\u00E4\u4E2D\U0001F600");
-  EXPECT_EQ(ToUtf16(std::string_view("a\0b", 3)).size(), 3U);
-
+TEST(Text, HalfCharactersOfUtf16AreReplaced) {
   struct Row {
     const char* why;
     std::u16string wide;
@@ -122,8 +89,7 @@ TEST(Text, Utf16AndBack) {
       {"the last of all characters", {0xDBFF, 0xDFFF}, "\U0010FFFF"},
   };
   for (const Row& row : rows) {
-    SCOPED_TRACE(row.why);
-    EXPECT_EQ(ToUtf8(row.wide), row.text);
+    EXPECT_EQ(ToUtf8(row.wide), row.text) << row.why;
   }
 }
 

@@ -6,44 +6,45 @@ namespace {
 
 using platform::Colour;
 
-TEST(ColourText, NamesWhatHasANameAndWritesTheOthersInHexadecimal) {
-  struct Row {
-    const char* why;
-    Colour colour;
-    const char* text;
-  };
-  static constexpr Row kRows[] = {
-      {"standard", 0x0000FF, "clRed"},
-      {"the grey of the sixteen", 0x808080, "clGray"},
-      {"the light grey of the sixteen", 0xC0C0C0, "clSilver"},
-      {"system colour", 0x8000000F, "clBtnFace"},
-      {"first system colour", 0x80000000, "clScrollBar"},
-      {"last system colour", 0x8000001E, "clMenuBar"},
-      {"hole in the system's numbering", 0x80000019, "$80000019"},
-      {"beyond the system's colours", 0x8000001F, "$8000001F"},
-      {"no name", 0x8184FE, "$008184FE"},
-      {"one beside red", 0x0000CD, "$000000CD"},
-      {"every bit", 0xFFFFFFFF, "$FFFFFFFF"},
-  };
-  for (const Row& row : kRows) {
-    SCOPED_TRACE(row.why);
-    EXPECT_EQ(settings::ColourText(row.colour), row.text);
-    EXPECT_EQ(settings::ParseColour(row.text), row.colour);
+TEST(ColourText, NamesTheStandardColoursAndThoseOfTheSystem) {
+  std::string names;
+  for (const Colour part : {0x80U, 0xFFU}) {
+    for (Colour bits = 0; bits < 8; ++bits) {
+      names += settings::ColourText((bits & 1 ? part : 0) | (bits & 2 ? part << 8 : 0) |
+                                    (bits & 4 ? part << 16 : 0)) +
+               ' ';
+    }
   }
+  EXPECT_EQ(names,
+            "clBlack clMaroon clGreen clOlive clNavy clPurple clTeal clGray "
+            "clBlack clRed clLime clYellow clBlue clFuchsia clAqua clWhite ");
+  EXPECT_EQ(settings::ColourText(0xC0C0C0), "clSilver");
+  names.clear();
+  for (std::uint32_t index = 0; index < 32; ++index) {
+    names += settings::ColourText(platform::colour::System(index)) + ' ';
+  }
+  EXPECT_EQ(names,
+            "clScrollBar clBackground clActiveCaption clInactiveCaption clMenu clWindow "
+            "clWindowFrame clMenuText clWindowText clCaptionText clActiveBorder clInactiveBorder "
+            "clAppWorkSpace clHighlight clHighlightText clBtnFace clBtnShadow clGrayText clBtnText "
+            "clInactiveCaptionText clBtnHighlight cl3DDkShadow cl3DLight clInfoText clInfoBk "
+            "$80000019 clHotLight clGradientActiveCaption clGradientInactiveCaption "
+            "clMenuHighlight clMenuBar $8000001F ");
 }
 
-TEST(ColourText, ReadsWhatOtherProgramsMayHaveWritten) {
+TEST(ColourText, ReadsNamesAndNumbersOf32Bits) {
   struct Row {
     const char* text;
     std::optional<Colour> colour;
   };
   static constexpr Row kRows[] = {
-      {"CLBTNFACE", 0x8000000F},
       {"clred", 0x0000FF},
-      {"$ff", 0xFF},
+      {"clMenuBar", 0x8000001E},
+      {"$008184FE", 0x8184FE},
       {"$0000fF00", 0x00FF00},
+      {"$FFFFFFFF", 0xFFFFFFFF},
       {"255", 0xFF},
-      {"-2147483633", 0x8000000F},
+      {"-2147483648", 0x80000000},
       {"4294967295", 0xFFFFFFFF},
       {"4294967296", std::nullopt},
       {"-2147483649", std::nullopt},
@@ -52,15 +53,14 @@ TEST(ColourText, ReadsWhatOtherProgramsMayHaveWritten) {
       {"$", std::nullopt},
       {"$-1", std::nullopt},
       {"$12G", std::nullopt},
-      {"abc", std::nullopt},
-      {"clNoSuchColour", std::nullopt},
       {" clRed", std::nullopt},
+      {"clNoSuchColour", std::nullopt},
       {"0xFF", std::nullopt},
   };
   for (const Row& row : kRows) {
-    SCOPED_TRACE(row.text);
-    EXPECT_EQ(settings::ParseColour(row.text), row.colour);
+    EXPECT_EQ(settings::ParseColour(row.text), row.colour) << row.text;
   }
+  EXPECT_EQ(settings::ColourText(0x8184FE), "$008184FE");
 }
 
 }  // namespace

@@ -25,13 +25,4 @@ TEST(HostAddress, ASlowLookUpIsNotRepeatedBeforeTwentyTimesItsLength) {
   EXPECT_EQ(address.Get(), "10.0.0.3");
 }
 
-TEST(HostAddress, IsEmptyWithoutANetwork) {
-  platform::memory::Machine machine;
-  stats::HostAddress address(machine.sockets, machine.clock);
-  machine.sockets.addresses.reset();
-  EXPECT_EQ(address.Get(), "");
-  EXPECT_EQ(machine.sockets.starts, 1);
-  EXPECT_EQ(machine.sockets.cleanups, 0) << "a failed look-up leaves the library started";
-}
-
 }  // namespace

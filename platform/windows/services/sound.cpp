@@ -1,4 +1,3 @@
-#include <algorithm>
 #include <memory>
 #include <string>
 
@@ -15,13 +14,13 @@ namespace {
 
 constexpr std::size_t kLargestSound = 64U << 20;  // bytes; the system's player loads it whole
 
-// Returns whether the file may be on another machine, so that opening it may wait for a machine
-// that does not answer. The system takes slashes as well as backslashes.
-bool IsRemote(std::wstring path) {
-  std::replace(path.begin(), path.end(), L'/', L'\\');
-  if (path.starts_with(L"\\\\")) return true;
-  const std::wstring root = path.substr(0, path.find(L'\\') + 1);
-  return !root.empty() && ::GetDriveTypeW(root.c_str()) == DRIVE_REMOTE;
+// Returns whether the file may be on another machine: on a share, or on a drive that is one.
+bool IsRemote(std::string_view path) {
+  if (IsOnShare(path)) return true;
+  const std::size_t slash = path.find_first_of("\\/");
+  if (slash == std::string_view::npos) return false;
+  const std::wstring root = ToWide(path.substr(0, slash)) + L'\\';
+  return ::GetDriveTypeW(root.c_str()) == DRIVE_REMOTE;
 }
 
 // The function is looked up at the first sound: its library loads a dozen others, and most runs
@@ -46,7 +45,7 @@ DWORD WINAPI StartLater(void* path) {
 void Sound::Play(std::string_view path) {
   if (path.empty()) return;
   auto wide = std::make_unique<std::wstring>(ToWide(path));
-  if (!IsRemote(*wide)) {
+  if (!IsRemote(path)) {
     Start(*wide);
     return;
   }
