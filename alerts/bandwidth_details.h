@@ -10,7 +10,7 @@
 #include "quantity/figure_row.h"
 #include "quantity/quantity.h"
 #include "settings/store.h"
-#include "toolkit/controls/group_box.h"
+#include "toolkit/controls/buttons.h"
 
 namespace alerts {
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "alerts/bandwidth_details.h"
-#include "toolkit/controls/button.h"
+#include "toolkit/controls/buttons.h"
 #include "toolkit/controls/edit.h"
 #include "toolkit/controls/panel.h"
 #include "toolkit/controls/sign.h"

@@ -27,11 +27,8 @@ std::vector<std::string_view> TextsOf(std::string_view line) {
 }  // namespace
 
 LineLabel::LineLabel(toolkit::Control& parent, std::string_view name)
-    : Control(parent.App(), &parent, name),
-      scratch_(App().Platform().graphics.CreateBitmap({1, 1})) {
-  Attach([this](platform::Windowing& windowing, platform::Widget& on) {
-    return windowing.CreateSurface(on, Name(), *this);
-  });
+    : Control(parent, name), scratch_(App().Platform().graphics.CreateBitmap({1, 1})) {
+  AttachSurface(name);
 }
 
 void LineLabel::Refresh() {

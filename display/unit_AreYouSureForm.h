@@ -5,8 +5,7 @@
 
 #include "language/language.h"
 #include "settings/store.h"
-#include "toolkit/controls/button.h"
-#include "toolkit/controls/check_box.h"
+#include "toolkit/controls/buttons.h"
 #include "toolkit/controls/label.h"
 #include "toolkit/controls/sign.h"
 #include "toolkit/forms/form.h"

@@ -31,6 +31,8 @@ class Canvas {
   virtual ~Canvas() = default;
 
   [[nodiscard]] virtual Size Extent() const = 0;
+  // Returns the whole area.
+  [[nodiscard]] Rect Area() const { return {0, 0, Extent().width, Extent().height}; }
 
   virtual void Fill(const Rect& area, Colour colour) = 0;
 

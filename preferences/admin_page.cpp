@@ -2,7 +2,7 @@
 
 #include "preferences/pages.h"
 #include "settings/administrator_lock.h"
-#include "toolkit/controls/button.h"
+#include "toolkit/controls/buttons.h"
 
 namespace preferences {
 namespace {

@@ -4,7 +4,7 @@
 #include "alerts/bandwidth_limit.h"
 #include "preferences/action_fields.h"
 #include "preferences/pages.h"
-#include "toolkit/controls/list_box.h"
+#include "toolkit/controls/lists.h"
 
 namespace preferences {
 namespace {

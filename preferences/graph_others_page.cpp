@@ -4,7 +4,7 @@
 
 #include "preferences/pages.h"
 #include "settings/scale_choice.h"
-#include "toolkit/controls/list_box.h"
+#include "toolkit/controls/lists.h"
 
 namespace preferences {
 namespace {

@@ -4,7 +4,7 @@
 
 #include "preferences/pages.h"
 #include "settings/adapter_values.h"
-#include "toolkit/controls/check_list_box.h"
+#include "toolkit/controls/lists.h"
 
 namespace preferences {
 namespace {

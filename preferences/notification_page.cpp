@@ -3,7 +3,7 @@
 #include "alerts/traffic_rule.h"
 #include "preferences/action_fields.h"
 #include "preferences/pages.h"
-#include "toolkit/controls/list_box.h"
+#include "toolkit/controls/lists.h"
 
 namespace preferences {
 namespace {

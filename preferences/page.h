@@ -9,7 +9,7 @@
 #include "preferences/context.h"
 #include "preferences/places.h"
 #include "preferences/row.h"
-#include "toolkit/controls/notebook.h"
+#include "toolkit/controls/pages.h"
 
 namespace preferences {
 

@@ -1,7 +1,7 @@
 #include "preferences/picture_panel.h"
 
 #include "toolkit/application.h"
-#include "toolkit/controls/bevel.h"
+#include "toolkit/controls/panel.h"
 
 namespace preferences {
 namespace {
@@ -14,11 +14,7 @@ constexpr int kPictures = 4;
 }  // namespace
 
 PicturePanel::PicturePanel(toolkit::Control& parent, std::string_view name)
-    : Control(parent.App(), &parent, name) {
-  Attach([this](platform::Windowing& windowing, platform::Widget& on) {
-    return windowing.CreateButton(on, Name(), platform::ButtonKind::kPainted, *this);
-  });
-}
+    : ButtonControl(parent, name, platform::ButtonKind::kPainted) {}
 
 void PicturePanel::Load(const std::string& path, const std::string& fallback) {
   pictures_.Load(App().Platform().files, path, fallback);
@@ -27,8 +23,8 @@ void PicturePanel::Load(const std::string& path, const std::string& fallback) {
 
 void PicturePanel::Paint(platform::Canvas& canvas) {
   const platform::Size size = canvas.Extent();
-  const platform::Rect inside = toolkit::DrawBevel(canvas, {0, 0, size.width, size.height},
-                                                   toolkit::BevelCut::kLowered, 1, Colour());
+  const platform::Rect inside =
+      toolkit::DrawBevel(canvas, canvas.Area(), toolkit::BevelCut::kLowered, 1, Colour());
   canvas.Fill(inside, platform::colour::kButtonFace);
   const int side = Scale(kSide);
   const auto picture = App().Platform().graphics.CreateBitmap({side, side});

@@ -5,15 +5,13 @@
 #include <string_view>
 
 #include "display/tray/pictures.h"
-#include "toolkit/controls/control.h"
+#include "toolkit/controls/buttons.h"
 
 namespace preferences {
 
-class PicturePanel final : public toolkit::Control {
+class PicturePanel final : public toolkit::ButtonControl {
  public:
   PicturePanel(toolkit::Control& parent, std::string_view name);
-
-  [[nodiscard]] toolkit::KeyRole Role() const override { return toolkit::KeyRole::kPush; }
 
   // Shows the pictures of a file, or else of `fallback`, or else none.
   void Load(const std::string& path, const std::string& fallback);

@@ -8,8 +8,8 @@
 #include "display/unit_BrisantoMain.h"
 #include "preferences/grouped_reset.h"
 #include "preferences/pages.h"
-#include "toolkit/controls/button.h"
-#include "toolkit/controls/progress_bar.h"
+#include "toolkit/controls/bars.h"
+#include "toolkit/controls/buttons.h"
 #include "toolkit/timer.h"
 
 namespace preferences {

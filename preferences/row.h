@@ -16,14 +16,11 @@
 #include "preferences/places.h"
 #include "preferences/sound_file.h"
 #include "settings/schema.h"
-#include "toolkit/controls/check_box.h"
-#include "toolkit/controls/colour_panel.h"
+#include "toolkit/controls/bars.h"
+#include "toolkit/controls/buttons.h"
 #include "toolkit/controls/edit.h"
-#include "toolkit/controls/list_control.h"
-#include "toolkit/controls/radio_button.h"
-#include "toolkit/controls/radio_group.h"
+#include "toolkit/controls/lists.h"
 #include "toolkit/controls/spin_edit.h"
-#include "toolkit/controls/track_bar.h"
 
 namespace preferences {
 

@@ -3,7 +3,7 @@
 #include <vector>
 
 #include "preferences/pages.h"
-#include "toolkit/controls/list_box.h"
+#include "toolkit/controls/lists.h"
 
 namespace preferences {
 namespace {

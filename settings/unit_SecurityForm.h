@@ -5,7 +5,7 @@
 
 #include "language/language.h"
 #include "settings/store.h"
-#include "toolkit/controls/button.h"
+#include "toolkit/controls/buttons.h"
 #include "toolkit/controls/edit.h"
 #include "toolkit/controls/label.h"
 #include "toolkit/controls/sign.h"

@@ -8,7 +8,7 @@
 #include "quantity/figure_row.h"
 #include "quantity/quantity.h"
 #include "stats/figures.h"
-#include "toolkit/controls/group_box.h"
+#include "toolkit/controls/buttons.h"
 
 namespace stats {
 

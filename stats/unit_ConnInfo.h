@@ -6,8 +6,8 @@
 #include "alerts/bandwidth_details.h"
 #include "stats/host_address.h"
 #include "stats/statistics_form.h"
-#include "toolkit/controls/check_box.h"
-#include "toolkit/controls/link_label.h"
+#include "toolkit/controls/buttons.h"
+#include "toolkit/controls/label.h"
 
 namespace stats {
 

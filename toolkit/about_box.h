@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "toolkit/controls/button.h"
+#include "toolkit/controls/buttons.h"
 #include "toolkit/controls/label.h"
 #include "toolkit/controls/sign.h"
 #include "toolkit/forms/form.h"

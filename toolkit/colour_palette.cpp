@@ -6,7 +6,7 @@
 #include <string>
 
 #include "toolkit/application.h"
-#include "toolkit/controls/bevel.h"
+#include "toolkit/controls/panel.h"
 
 namespace toolkit {
 namespace {
@@ -41,11 +41,7 @@ std::string NameOf(Colour colour) {
 }  // namespace
 
 ColourPalette::ColourPalette(Control& parent, std::string_view name)
-    : Control(parent.App(), &parent, name) {
-  Attach([this](platform::Windowing& windowing, platform::Widget& on) {
-    return windowing.CreateButton(on, Name(), platform::ButtonKind::kPainted, *this);
-  });
-}
+    : ButtonControl(parent, name, platform::ButtonKind::kPainted) {}
 
 std::optional<platform::Colour> ColourPalette::Chosen() const {
   if (cell_ < 0) return std::nullopt;
@@ -88,8 +84,7 @@ platform::Rect ColourPalette::CellArea(int cell) const {
 }
 
 void ColourPalette::Paint(platform::Canvas& canvas) {
-  const platform::Size size = canvas.Extent();
-  canvas.Fill({0, 0, size.width, size.height}, platform::colour::kButtonFace);
+  canvas.Fill(canvas.Area(), platform::colour::kButtonFace);
   for (int cell = 0; cell < kCells; ++cell) {
     const platform::Rect area = CellArea(cell);
     if (cell == cell_) canvas.Fill(area, platform::colour::kHighlight);

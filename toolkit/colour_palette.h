@@ -5,12 +5,12 @@
 #include <optional>
 
 #include "platform/colour.h"
-#include "toolkit/controls/control.h"
+#include "toolkit/controls/buttons.h"
 
 namespace toolkit {
 
 // The palette's caption is the chosen colour as "#RRGGBB", so that screen readers say it.
-class ColourPalette : public Control {
+class ColourPalette : public ButtonControl {
  public:
   static constexpr int kColumns = 8;
   static constexpr int kRows = 6;
@@ -26,8 +26,6 @@ class ColourPalette : public Control {
   std::function<void()> OnChange;
   // Runs when the user confirms the chosen colour with a double click, Enter or the space bar.
   std::function<void()> OnConfirm;
-
-  [[nodiscard]] KeyRole Role() const override { return KeyRole::kPush; }
 
  protected:
   void Paint(platform::Canvas& canvas) override;

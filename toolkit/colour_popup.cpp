@@ -4,7 +4,7 @@
 
 #include "toolkit/application.h"
 #include "toolkit/colour_palette.h"
-#include "toolkit/controls/button.h"
+#include "toolkit/controls/buttons.h"
 #include "toolkit/controls/layout.h"
 #include "toolkit/controls/panel.h"
 #include "toolkit/forms/form.h"
@@ -65,9 +65,7 @@ class ColourPopup final : public Form {
 
   // Places the popup below the anchor, or above it when there is no room, and within the work area.
   void StandBelow(const Control& anchor) {
-    const platform::Widget& peer = PeerOf(anchor);
-    const platform::Point above = peer.ToScreen({0, 0});
-    const platform::Rect place{above.x, above.y, peer.ClientSize().width, peer.ClientSize().height};
+    const platform::Rect place = anchor.OnScreen();
     const platform::Rect work = App().Platform().screen.MonitorOf(place).work_area;
     const platform::Rect own = WindowBounds();
     int top = place.Bottom() + Scale(2);

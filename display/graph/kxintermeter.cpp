@@ -24,12 +24,10 @@ std::int32_t Drawn(std::int32_t input) {
 }  // namespace
 
 TKxInterMeter::TKxInterMeter(toolkit::Control& parent, std::string_view name)
-    : Control(parent.App(), &parent, name), timer_(parent.App(), kScanPeriodMs, [this] {
+    : Control(parent, name), timer_(parent.App(), kScanPeriodMs, [this] {
         if (OnScan) OnScan();
       }) {
-  Attach([this](platform::Windowing& windowing, platform::Widget& on) {
-    return windowing.CreateSurface(on, Name(), *this);
-  });
+  AttachSurface(name);
   SetFont(kScaleFont);
 }
 

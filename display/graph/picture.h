@@ -6,7 +6,7 @@
 
 #include "display/graph/scale.h"
 #include "platform/canvas.h"
-#include "toolkit/controls/bevel.h"
+#include "toolkit/controls/panel.h"
 
 namespace display {
 

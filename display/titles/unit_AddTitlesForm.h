@@ -6,10 +6,10 @@
 #include "alerts/reactions.h"
 #include "display/titles/posting.h"
 #include "language/language.h"
-#include "toolkit/controls/button.h"
+#include "toolkit/controls/buttons.h"
 #include "toolkit/controls/edit.h"
 #include "toolkit/controls/label.h"
-#include "toolkit/controls/list_box.h"
+#include "toolkit/controls/lists.h"
 #include "toolkit/forms/form.h"
 #include "toolkit/forms/placement_saver.h"
 

@@ -100,7 +100,7 @@ class ListPeer final : public PeerOf<ItemList> {
  public:
   ListPeer(Desktop& desktop, std::string_view name, ListKind kind, WidgetState& parent,
            WidgetEvents& events);
-  void SetItems(std::span<const std::string> items) override;
+  void Replace(int first, int removed, std::span<const std::string> added) override;
   [[nodiscard]] int Count() const override { return static_cast<int>(state_.items.size()); }
   void SetIndex(int index) override { state_.Select(index); }
   [[nodiscard]] int Index() const override { return state_.index; }

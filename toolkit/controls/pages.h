@@ -1,8 +1,8 @@
-// Pages behind a row of tabs.
+// Pages of which one is seen: without tabs, and behind a row of tabs.
 #pragma once
 
 #include <functional>
-#include <string>
+#include <string_view>
 #include <vector>
 
 #include "platform/controls.h"
@@ -10,9 +10,41 @@
 
 namespace toolkit {
 
+class NotebookPage;
 class TabSheet;
 
-class PageControl : public Control {
+// Pages without tabs.
+class Notebook : public Panel {
+ public:
+  using Panel::Panel;
+
+  // Returns the name of the page that is seen, which is at first the first one; it is empty without
+  // pages.
+  [[nodiscard]] std::string_view ActivePage() const;
+  // Returns false, and changes nothing, when there is no page of this name.
+  bool SetActivePage(std::string_view name);
+
+ private:
+  friend class NotebookPage;
+
+  void Add(NotebookPage& page);
+  void Remove(NotebookPage& page);
+
+  std::vector<NotebookPage*> pages_;
+  NotebookPage* active_ = nullptr;
+};
+
+class NotebookPage : public Panel {
+ public:
+  NotebookPage(Notebook& pages, std::string_view name);
+  ~NotebookPage() override { pages_.Remove(*this); }
+
+ private:
+  Notebook& pages_;
+};
+
+// Pages behind a row of tabs.
+class PageControl : public ControlOf<platform::Tabs> {
  public:
   PageControl(Control& parent, std::string_view name);
 
@@ -22,7 +54,7 @@ class PageControl : public Control {
   // without pages.
   [[nodiscard]] int ActivePageIndex() const { return active_; }
   void SetActivePageIndex(int index);
-  // To the page that is so many behind, around the ends.
+  // Shows the page that is `by` pages behind the present one, around the ends.
   void Step(int by);
 
   // Runs when another page is shown.
@@ -30,9 +62,7 @@ class PageControl : public Control {
 
  protected:
   void OnChanged() override;
-  void Resized() override { PlacePages(); }
-  void Rescale() override;
-  [[nodiscard]] platform::Rect ChildArea() const override { return tabs_->PageArea(); }
+  [[nodiscard]] platform::Rect ChildArea() const override { return Peer()->PageArea(); }
 
  private:
   friend class TabSheet;
@@ -40,10 +70,9 @@ class PageControl : public Control {
   void Add(TabSheet& page);
   void Remove(TabSheet& page);
   void ShowCaptions();
-  void PlacePages();
-  void ShowPage(int index);
+  // Returns false, and changes nothing, when the page is shown already or does not exist.
+  bool ShowPage(int index);
 
-  platform::Tabs* tabs_ = nullptr;  // the peer, owned by Control
   std::vector<TabSheet*> pages_;
   int active_ = -1;
 };

@@ -1,4 +1,4 @@
-// A track bar (slider).
+// Track bars (sliders), and progress bars, which show how far something has come.
 #pragma once
 
 #include <functional>
@@ -8,12 +8,12 @@
 
 namespace toolkit {
 
-class TrackBar : public Control {
+class TrackBar : public ControlOf<platform::TrackBar> {
  public:
   TrackBar(Control& parent, std::string_view name);
 
   [[nodiscard]] KeyRole Role() const override { return KeyRole::kStop; }
-  // `page` is the step of the page keys. Moves the position into the range.
+  // Sets the range and the step of the page keys, and moves the position into the range.
   void SetRange(int lowest, int highest, int page);
   [[nodiscard]] int Position() const { return position_; }
   // A position outside the range is moved into it.
@@ -27,10 +27,27 @@ class TrackBar : public Control {
   void Realised() override;
 
  private:
-  platform::TrackBar* bar_ = nullptr;  // the peer, owned by Control
   int lowest_ = 0;
   int highest_ = 100;
   int page_ = 0;  // until it is set, the system's
+  int position_ = 0;
+};
+
+// The range is 0 to 100 at first.
+class ProgressBar : public ControlOf<platform::ProgressBar> {
+ public:
+  ProgressBar(Control& parent, std::string_view name);
+
+  void SetRange(int lowest, int highest);
+  [[nodiscard]] int Position() const { return position_; }
+  void SetPosition(int position);
+
+ protected:
+  void Realised() override;
+
+ private:
+  int lowest_ = 0;
+  int highest_ = 100;
   int position_ = 0;
 };
 
