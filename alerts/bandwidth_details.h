@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <optional>
 
-#include "alerts/bandwidth_limit.h"
+#include "alerts/bandwidth_alert.h"
 #include "language/language.h"
 #include "quantity/figure_row.h"
 #include "quantity/quantity.h"

@@ -6,7 +6,6 @@
 #include "display/titles/unit_AddTitlesForm.h"
 #include "engine/local_ip.h"
 #include "program/product.h"
-#include "settings/administrator_lock.h"
 #include "settings/placement_keys.h"
 #include "settings/unit_SecurityForm.h"
 #include "toolkit/application.h"
@@ -54,7 +53,7 @@ T_frmBrisanto::T_frmBrisanto(toolkit::Application& app)
       _ReadLangauge(RegME, app.Platform().files, app.Platform().locale),
       quantity_(RegME, app.Platform().locale),
       statistics_(RegME),
-      sampler_(app.Platform().interface_table, app.Platform().locale, RegME, traffic_),
+      sampler_(app.Platform().interface_table, app.Platform().locale, traffic_),
       scan_cycle_(app.Platform().clock, sampler_, statistics_, traffic_, *this),
       _MainMenu(app),
       adapter_menus_(RegME, *_MainMenu.conenctionMonitor1, *_MainMenu.ConnectionSources1),
@@ -171,7 +170,11 @@ void T_frmBrisanto::FormCreate() {
   App().Platform().windowing.HideTaskbarButton();
 }
 
-void T_frmBrisanto::InitAdapters() { adapter_menus_.Add(sampler_.InitAdapters()); }
+void T_frmBrisanto::InitAdapters() {
+  adapter_menus_.Add(sampler_.InitAdapters([this](std::string_view description, const auto& row) {
+    return statistics_.RecordAdapter(description, row);
+  }));
+}
 
 void T_frmBrisanto::LocaliseControls() {
   _MainMenu.Localise(_ReadLangauge);

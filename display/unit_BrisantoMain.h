@@ -19,7 +19,6 @@
 #include "display/main_menu.h"
 #include "display/numeric_line.h"
 #include "display/option_table.h"
-#include "display/running_meter.h"
 #include "display/statistics_windows.h"
 #include "display/titles/posting.h"
 #include "display/transparency.h"

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 
-#include "platform/interface_row.h"
+#include "platform/interface_table.h"
 #include "platform/text.h"
 #include "settings/adapter_values.h"
 

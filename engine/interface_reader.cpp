@@ -5,7 +5,7 @@
 #include <cstring>
 #include <utility>
 
-#include "platform/interface_row.h"
+#include "platform/interface_table.h"
 
 namespace engine {
 

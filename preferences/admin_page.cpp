@@ -1,7 +1,7 @@
 #include <string>
 
-#include "preferences/pages.h"
-#include "settings/administrator_lock.h"
+#include "preferences/page.h"
+#include "settings/unit_SecurityForm.h"
 #include "toolkit/controls/buttons.h"
 
 namespace preferences {

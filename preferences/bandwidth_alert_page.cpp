@@ -1,9 +1,9 @@
 #include <string>
 #include <vector>
 
-#include "alerts/bandwidth_limit.h"
+#include "alerts/bandwidth_alert.h"
 #include "preferences/action_fields.h"
-#include "preferences/pages.h"
+#include "preferences/page.h"
 #include "toolkit/controls/lists.h"
 
 namespace preferences {

@@ -1,7 +1,7 @@
 #include <string>
 #include <vector>
 
-#include "preferences/pages.h"
+#include "preferences/page.h"
 #include "toolkit/controls/lists.h"
 
 namespace preferences {

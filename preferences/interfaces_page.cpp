@@ -2,7 +2,7 @@
 #include <string>
 #include <vector>
 
-#include "preferences/pages.h"
+#include "preferences/page.h"
 #include "settings/adapter_values.h"
 #include "toolkit/controls/lists.h"
 

@@ -2,7 +2,7 @@
 
 #include "alerts/traffic_rule.h"
 #include "preferences/action_fields.h"
-#include "preferences/pages.h"
+#include "preferences/page.h"
 #include "toolkit/controls/lists.h"
 
 namespace preferences {

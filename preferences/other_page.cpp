@@ -1,6 +1,6 @@
 #include <string>
 
-#include "preferences/pages.h"
+#include "preferences/page.h"
 
 namespace preferences {
 namespace {

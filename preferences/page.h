@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <string_view>
 #include <vector>
 
@@ -70,5 +71,22 @@ class Page : public toolkit::NotebookPage {
   std::vector<Part> parts_;
   std::vector<Row::Words> says_;
 };
+
+// The pages, each in the file of its name. Each function makes its page in the notebook. Both
+// arguments outlive the page.
+using MakePage = std::unique_ptr<Page>(toolkit::Notebook& notebook, Context& context);
+
+MakePage MakeGeneralPage;
+MakePage MakeGraphColorsPage;
+MakePage MakeGraphGridsPage;
+MakePage MakeGraphOthersPage;
+MakePage MakeTextColorsPage;
+MakePage MakeTextOtherPage;
+MakePage MakeAdminPage;
+MakePage MakeInterfacesPage;
+MakePage MakeBandwidthAlertPage;
+MakePage MakeNotificationPage;
+MakePage MakeOtherPage;
+MakePage MakeResetSettingsPage;
 
 }  // namespace preferences

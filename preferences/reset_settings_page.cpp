@@ -7,7 +7,7 @@
 
 #include "display/unit_BrisantoMain.h"
 #include "preferences/grouped_reset.h"
-#include "preferences/pages.h"
+#include "preferences/page.h"
 #include "toolkit/controls/bars.h"
 #include "toolkit/controls/buttons.h"
 #include "toolkit/timer.h"

@@ -12,17 +12,35 @@
 
 #include "language/language.h"
 #include "preferences/context.h"
-#include "preferences/labelled.h"
 #include "preferences/places.h"
 #include "preferences/sound_file.h"
 #include "settings/schema.h"
 #include "toolkit/controls/bars.h"
 #include "toolkit/controls/buttons.h"
 #include "toolkit/controls/edit.h"
+#include "toolkit/controls/label.h"
 #include "toolkit/controls/lists.h"
 #include "toolkit/controls/spin_edit.h"
 
 namespace preferences {
+
+struct LabelBefore {
+  LabelBefore(toolkit::Control& parent, std::string_view name)
+      : label(parent, name, toolkit::kCaptionText) {}
+  toolkit::Label label;
+};
+
+// A field together with its label. The label is made first: the marked letter of a label leads to
+// the control that was made next.
+template <class Field>
+class Labelled : public LabelBefore, public Field {
+ public:
+  Labelled(toolkit::Control& parent, std::string_view label, std::string_view name)
+      : LabelBefore(parent, label), Field(parent, name) {}
+  // The label has the name of the field with "lbl" before it.
+  Labelled(toolkit::Control& parent, std::string_view name)
+      : Labelled(parent, "lbl" + std::string(name), name) {}
+};
 
 // Returns the text of the preferences under this key, or null when there is none.
 [[nodiscard]] const language::TextEntry* FindText(std::string_view key);

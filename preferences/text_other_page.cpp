@@ -1,5 +1,5 @@
 #include "display/unit_BrisantoMain.h"
-#include "preferences/pages.h"
+#include "preferences/page.h"
 #include "toolkit/controls/buttons.h"
 
 namespace preferences {

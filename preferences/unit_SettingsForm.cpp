@@ -4,7 +4,7 @@
 #include <iterator>
 #include <string_view>
 
-#include "preferences/pages.h"
+#include "preferences/page.h"
 #include "settings/placement_keys.h"
 #include "toolkit/controls/layout.h"
 

@@ -1,11 +1,17 @@
 #include "settings/unit_SecurityForm.h"
 
 #include "language/texts.h"
-#include "settings/administrator_lock.h"
 #include "toolkit/application.h"
 #include "toolkit/controls/layout.h"
 
 namespace settings {
+
+bool LockEngaged(Store& store) { return store.Read(setting::zdP1); }
+
+bool PasswordMatches(Store& store, std::string_view typed, std::string_view if_none) {
+  return store.ReadWith(setting::zdP, if_none) == typed;
+}
+
 namespace {
 
 constexpr platform::Size kClientSize{300, 138};  // design pixels

@@ -10,7 +10,6 @@
 #include "quantity/quantity.h"
 #include "settings/store.h"
 #include "stats/figures.h"
-#include "stats/figures_group.h"
 #include "toolkit/application.h"
 #include "toolkit/controls/buttons.h"
 #include "toolkit/controls/label.h"

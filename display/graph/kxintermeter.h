@@ -11,7 +11,7 @@
 
 #include "display/graph/picture.h"
 #include "toolkit/controls/control.h"
-#include "toolkit/phase_timer.h"
+#include "toolkit/timer.h"
 
 namespace display {
 

@@ -3,6 +3,7 @@
 
 #include <span>
 #include <string_view>
+#include <vector>
 
 #include "display/graph/scale.h"
 #include "platform/canvas.h"
@@ -55,5 +56,10 @@ struct GraphLook : ScaleRule {
 // newest stands at the right edge.
 void PaintGraph(platform::Canvas& canvas, const GraphLook& look,
                 std::span<const GraphSample> samples, std::string_view decimal_separator);
+
+// Returns the pixels of `picture` whose colour is not `background` (0x00BBGGRR), as rectangles that
+// do not overlap, from top to bottom.
+[[nodiscard]] std::vector<platform::Rect> VisibleParts(const platform::Bitmap& picture,
+                                                       platform::Colour background);
 
 }  // namespace display

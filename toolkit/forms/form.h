@@ -1,4 +1,4 @@
-// A window of the program.
+// A window of the program, and the parts of a form that hear what happens to its window.
 #pragma once
 
 #include <functional>
@@ -7,14 +7,44 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/geometry.h"
 #include "platform/top_window.h"
 #include "toolkit/controls/control.h"
 #include "toolkit/forms/dialog_keys.h"
-#include "toolkit/forms/form_component.h"
 #include "toolkit/forms/modal_stack.h"
 #include "toolkit/forms/placement.h"
 
 namespace toolkit {
+
+class Form;
+
+// A component belongs to a form, mostly as a member of it. Each of its functions is called inside
+// the application's guard.
+class FormComponent {
+ public:
+  // `form` outlives the component.
+  explicit FormComponent(Form& form);
+  virtual ~FormComponent();
+  FormComponent(const FormComponent&) = delete;
+  FormComponent& operator=(const FormComponent&) = delete;
+
+  // The user drags the form, which is about to get these bounds (screen pixels). The component may
+  // change them.
+  virtual void FormMoving(platform::Rect& /*bounds*/) {}
+  // The form was moved or sized, by the user or by code.
+  virtual void FormPlaced() {}
+  // The user has let go after moving or sizing the form.
+  virtual void FormDragEnded() {}
+  // The monitors changed.
+  virtual void FormDisplayChanged() {}
+  // The form is asked to close; it may stay open.
+  virtual void FormClosing() {}
+  // The Windows session ends; the process may be gone when this returns.
+  virtual void FormSessionEnds() {}
+
+ protected:
+  Form& form_;
+};
 
 class Form : public Control {
  public:

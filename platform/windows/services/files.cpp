@@ -1,9 +1,9 @@
 #include <algorithm>
 
 #include "platform/file_mask.h"
-#include "platform/windows/kernel_handle.h"
 #include "platform/windows/services/services.h"
-#include "platform/windows/wide.h"
+#include "platform/windows/system_handles.h"
+#include "platform/windows/wide_text.h"
 
 namespace platform::windows {
 namespace {

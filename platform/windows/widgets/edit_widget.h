@@ -8,8 +8,7 @@ namespace platform::windows {
 
 class EditWidget final : public WidgetOf<Edit, NativeControl> {
  public:
-  EditWidget(HWND parent, std::string_view name, const EditStyle& style, Drawing& drawing,
-             WidgetEvents& events);
+  EditWidget(const NewWidget& widget, const EditStyle& style);
 
   void SetText(std::string_view text) override;
   [[nodiscard]] std::string Text() const override;
@@ -27,7 +26,6 @@ class EditWidget final : public WidgetOf<Edit, NativeControl> {
   [[nodiscard]] Colour Background() const override;
 
  private:
-  [[nodiscard]] std::wstring WideText() const;
   void Changed();
   // What the user may enter of `text`, which has come to be in it.
   [[nodiscard]] std::wstring CutToLimit(const std::wstring& text);

@@ -11,8 +11,8 @@ class NativeControl : public WidgetWindow {
   virtual std::optional<LRESULT> HandleNotification(const Message& message);
 
  protected:
-  NativeControl(Drawing& drawing, WidgetEvents& events)
-      : WidgetWindow(drawing, events, Capture::kByControl) {}
+  explicit NativeControl(const NewWidget& widget)
+      : WidgetWindow(widget.drawing, widget.events, Capture::kByControl) {}
 
   std::optional<LRESULT> Handle(const Message& message) override;
 

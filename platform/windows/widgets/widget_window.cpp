@@ -1,6 +1,6 @@
 #include "platform/windows/widgets/widget_window.h"
 
-#include "platform/windows/wide.h"
+#include "platform/windows/wide_text.h"
 #include "platform/windows/widgets/native_control.h"
 #include "platform/windows/windows/dialog_keys.h"
 
@@ -54,11 +54,13 @@ void WidgetWindow::SetText(std::string_view text) {
   if (Text() != text) ::SetWindowTextW(hwnd(), ToWide(text).c_str());
 }
 
-std::string WidgetWindow::Text() const {
+std::string WidgetWindow::Text() const { return FromWide(WideText()); }
+
+std::wstring WidgetWindow::WideText() const {
   std::wstring text(static_cast<std::size_t>(::GetWindowTextLengthW(hwnd())) + 1, L'\0');
   const int length = ::GetWindowTextW(hwnd(), text.data(), static_cast<int>(text.size()));
   text.resize(static_cast<std::size_t>(length));
-  return FromWide(text);
+  return text;
 }
 
 void WidgetWindow::SetBounds(const Rect& bounds) {
@@ -127,6 +129,13 @@ Point WidgetWindow::ToScreen(Point client) const {
   POINT at{client.x, client.y};
   ::ClientToScreen(hwnd(), &at);
   return {static_cast<int>(at.x), static_cast<int>(at.y)};
+}
+
+void WidgetWindow::MakeControl(const wchar_t* control, const WindowStyle& style,
+                               const NewWidget& widget) {
+  CreateControl(control, style, widget.parent);
+  PublishName(widget.name);
+  StartReporting();
 }
 
 void WidgetWindow::StartReporting() {

@@ -11,6 +11,14 @@
 
 namespace platform::windows {
 
+// What a widget is made with.
+struct NewWidget {
+  HWND parent;
+  std::string_view name;  // may be empty
+  Drawing& drawing;       // this and the events outlive the widget
+  WidgetEvents& events;
+};
+
 // Who gets a key that was pressed in a window.
 enum class KeyTaker { kDialog, kWindow, kNobody };
 
@@ -61,11 +69,15 @@ class WidgetWindow : public NativeWindow {
   // What the system tells the parent of a control goes to the control.
   [[nodiscard]] std::optional<LRESULT> ToControl(const Message& message);
 
+  // Returns the text in the system's form.
+  [[nodiscard]] std::wstring WideText() const;
   // Reports are made from here on, so that nothing is heard of a widget that its maker does not
   // hold yet.
   void StartReporting();
   [[nodiscard]] bool Reporting() const { return reporting_; }
 
+  // Makes the widget as a control of the system and starts reporting.
+  void MakeControl(const wchar_t* control, const WindowStyle& style, const NewWidget& widget);
   // Lets another process find the window by the widget's name: GetProp with it is not null.
   void PublishName(std::string_view name);
   void ForgetName();

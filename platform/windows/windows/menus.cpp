@@ -3,8 +3,8 @@
 #include "platform/scoped_value.h"
 #include "platform/windows/dpi.h"
 #include "platform/windows/drawing/gdi_canvas.h"
-#include "platform/windows/windows/foreground.h"
 #include "platform/windows/windows/menu_tree.h"
+#include "platform/windows/windows/native_window.h"
 
 namespace platform::windows {
 namespace {

@@ -4,10 +4,10 @@
 #include <utility>
 
 #include "platform/windows/dpi.h"
-#include "platform/windows/wide.h"
+#include "platform/windows/wide_text.h"
 #include "platform/windows/windows/dialog_keys.h"
-#include "platform/windows/windows/foreground.h"
-#include "platform/windows/windows/layered.h"
+#include "platform/windows/windows/native_window.h"
+#include "platform/windows/windows/window_effects.h"
 
 namespace platform::windows {
 namespace {

@@ -1,4 +1,4 @@
-#include "platform/windows/wide.h"
+#include "platform/windows/wide_text.h"
 
 #include "platform/text.h"
 

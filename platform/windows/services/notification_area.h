@@ -1,4 +1,4 @@
-// One icon of the notification area and the hidden window that gets its messages.
+// The notification area.
 #pragma once
 
 #include <optional>
@@ -7,13 +7,11 @@
 #include "platform/notification_area.h"
 #include "platform/windows/drawing/icon_maker.h"
 #include "platform/windows/windows/native_window.h"
-// This header must follow the system's header, which it needs.
-#include <shellapi.h>
 
 namespace platform::windows {
 
-// The window is a top window, though never shown: the shell tells only top windows that it has
-// started anew.
+// One icon and the hidden window that gets its messages. The window is a top window, though never
+// shown: the shell tells only top windows that it has started anew.
 class ShellTrayIcon final : public TrayIcon, public NativeWindow {
  public:
   // `events` outlives the icon.
@@ -50,6 +48,14 @@ class ShellTrayIcon final : public TrayIcon, public NativeWindow {
   bool added_ = false;
   bool waiting_ = false;      // the timer is going to add the icon
   LONG last_key_select_ = 0;  // message time, ms
+};
+
+class NotificationArea final : public platform::NotificationArea {
+ public:
+  [[nodiscard]] std::unique_ptr<TrayIcon> CreateIcon(TrayIconEvents& events) override;
+
+ private:
+  WindowClass class_{"TremoluxTray"};
 };
 
 }  // namespace platform::windows

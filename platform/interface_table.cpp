@@ -1,4 +1,4 @@
-#include "platform/interface_row.h"
+#include "platform/interface_table.h"
 
 #include <algorithm>
 

@@ -1,11 +1,11 @@
-#include "display/menu_images.h"
+#include "display/images.h"
 
 #include <array>
 
 namespace display {
 namespace {
 
-constexpr std::array<toolkit::PaletteColour, 8> kPalette = {{
+constexpr std::array<toolkit::PaletteColour, 8> kMenuPalette = {{
     {'#', 0x404040},
     {'g', 0x808080},
     {'s', 0xD8D8D8},
@@ -16,7 +16,7 @@ constexpr std::array<toolkit::PaletteColour, 8> kPalette = {{
     {'n', 0x40A040},
 }};
 
-constexpr std::array<toolkit::Image, 7> kImages = {{
+constexpr std::array<toolkit::Image, 7> kMenuPictures = {{
     // Columns of a table of figures.
     {
         "................",
@@ -154,6 +154,34 @@ constexpr std::array<toolkit::Image, 7> kImages = {{
 
 }  // namespace
 
-const toolkit::ImageList kMenuImages(kImages, kPalette);
+const toolkit::ImageList kMenuImages(kMenuPictures, kMenuPalette);
+
+namespace {
+
+constexpr std::array<toolkit::PaletteColour, 4> kProgramPalette = {
+    {{'#', 0x404040}, {'w', 0xFFFFFF}, {'r', 0x0000CD}, {'b', 0xFF0000}}};
+
+constexpr std::array<toolkit::Image, 1> kProgramPictures = {{{
+    "................",
+    ".##############.",
+    ".#wwwwwwwwwwww#.",
+    ".#wwwwwwwwrrww#.",
+    ".#wwwwwwwwrrww#.",
+    ".#wwwwwwwwrrww#.",
+    ".#wwwwrrwwrrww#.",
+    ".#wwwwrrwwrrbb#.",
+    ".#wwwwrrwwrrbb#.",
+    ".#rrwwrrbbrrbb#.",
+    ".#rrwwrrbbrrbb#.",
+    ".#rrbbrrbbrrbb#.",
+    ".#rrbbrrbbrrbb#.",
+    ".#rrbbrrbbrrbb#.",
+    ".##############.",
+    "................",
+}}};
+
+}  // namespace
+
+const toolkit::ImageList kProgramImage(kProgramPictures, kProgramPalette);
 
 }  // namespace display

@@ -1,8 +1,21 @@
-#include "platform/windows/widgets/text_widget.h"
+#include "platform/windows/widgets/painted_widgets.h"
 
 #include "platform/windows/windows/bare_frame.h"
 
 namespace platform::windows {
+
+Surface::Surface(const WindowClass& window_class, const NewWidget& widget)
+    : WidgetOf(widget.drawing, widget.events) {
+  Create(window_class, {WS_CHILD | WS_CLIPSIBLINGS | WS_CLIPCHILDREN, 0}, widget.parent, {});
+  PublishName(widget.name);
+  StartReporting();
+}
+
+std::optional<LRESULT> Surface::Handle(const Message& message) {
+  if (message.id == WM_NCHITTEST && OnSizingEdge(hwnd(), message.l)) return HTTRANSPARENT;
+  return WidgetOf::Handle(message);
+}
+
 namespace {
 
 WindowStyle StyleOf(const TextStyle& text) {
@@ -27,12 +40,9 @@ UINT FormatOf(const TextStyle& text, HWND hwnd) {
 
 }  // namespace
 
-TextWidget::TextWidget(HWND parent, std::string_view name, const TextStyle& style, Drawing& drawing,
-                       WidgetEvents& events)
-    : WidgetOf(drawing, events), style_(style) {
-  CreateControl(L"STATIC", StyleOf(style), parent);
-  PublishName(name);
-  StartReporting();
+TextWidget::TextWidget(const NewWidget& widget, const TextStyle& style)
+    : WidgetOf(widget.drawing, widget.events), style_(style) {
+  MakeControl(L"STATIC", StyleOf(style), widget);
 }
 
 std::optional<LRESULT> TextWidget::Handle(const Message& message) {

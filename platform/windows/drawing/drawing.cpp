@@ -1,4 +1,4 @@
-#include "platform/windows/drawing/back_buffer.h"
+#include "platform/windows/drawing/drawing.h"
 
 #include <algorithm>
 #include <utility>

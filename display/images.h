@@ -1,4 +1,4 @@
-// The pictures of the main menu.
+// The pictures of the main menu, and the program's icon as a picture.
 #pragma once
 
 #include "toolkit/menus/image_list.h"
@@ -15,5 +15,8 @@ inline constexpr int kHelpImage = 5;
 inline constexpr int kExitImage = 6;
 
 extern const toolkit::ImageList kMenuImages;
+
+// The program's icon; a test compares it with the icon file.
+extern const toolkit::ImageList kProgramImage;  // one image
 
 }  // namespace display

@@ -1,4 +1,4 @@
-// A text.
+// Widgets that are painted here and not by the system.
 #pragma once
 
 #include "platform/controls.h"
@@ -6,12 +6,20 @@
 
 namespace platform::windows {
 
-// The system's static control, so that screen readers know what it is and read its text. It is
-// painted here: the control's own painting flickers.
+// An area that the program paints.
+class Surface final : public WidgetOf<Widget> {
+ public:
+  Surface(const WindowClass& window_class, const NewWidget& widget);
+
+ protected:
+  std::optional<LRESULT> Handle(const Message& message) override;
+};
+
+// A text: the system's static control, so that screen readers know what it is and read its text. It
+// is painted here: the control's own painting flickers.
 class TextWidget final : public WidgetOf<Widget> {
  public:
-  TextWidget(HWND parent, std::string_view name, const TextStyle& style, Drawing& drawing,
-             WidgetEvents& events);
+  TextWidget(const NewWidget& widget, const TextStyle& style);
 
  protected:
   std::optional<LRESULT> Handle(const Message& message) override;

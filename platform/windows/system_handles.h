@@ -1,4 +1,4 @@
-// Looks functions up at run time, in libraries that most runs do not need.
+// Handles that CloseHandle closes, and libraries in which functions are looked up at run time.
 #pragma once
 
 #include "platform/windows/handle.h"
@@ -6,6 +6,22 @@
 
 namespace platform::windows {
 
+struct KernelKind {
+  using Raw = HANDLE;
+  static constexpr Raw None() { return nullptr; }
+  static void Close(Raw handle) { ::CloseHandle(handle); }
+};
+using KernelHandle = Handle<KernelKind>;
+
+// The "none" of CreateFile is INVALID_HANDLE_VALUE, not null.
+struct FileKind {
+  using Raw = HANDLE;
+  static Raw None() { return INVALID_HANDLE_VALUE; }
+  static void Close(Raw handle) { ::CloseHandle(handle); }
+};
+using FileHandle = Handle<FileKind>;
+
+// A library that most runs do not need.
 struct LibraryKind {
   using Raw = HMODULE;
   static constexpr Raw None() { return nullptr; }
