@@ -15,15 +15,7 @@ constexpr platform::Size kClientSize{277, 102};  // design pixels
 
 T_frmAreYouSure::T_frmAreYouSure(toolkit::Application& app, settings::Store& store,
                                  const language::Language& language)
-    : Form(app, kAreYouSureForm, platform::Frame::kDialog),
-      store_(store),
-      language_(language),
-      Image1(*this, "Image1", toolkit::Sign::Picture::kQuestion),
-      lblQuestion1(*this, "lblQuestion1", toolkit::kWrappedText),
-      lblQuestion2(*this, "lblQuestion2", toolkit::kWrappedText),
-      AskCheck(*this, "AskCheck"),
-      btnYes(*this, "btnYes"),
-      btnNo(*this, "btnNo") {
+    : Form(app, kAreYouSureForm, platform::Frame::kDialog), store_(store), language_(language) {
   SetClientSize(kClientSize);
   toolkit::ApplyLayout({
       {Image1, {12, 10, toolkit::kSignSize, toolkit::kSignSize}},

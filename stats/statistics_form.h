@@ -71,21 +71,21 @@ class StatisticsForm : public toolkit::Form {
   toolkit::RefreshFaults faults_;
 
   // In reading order, which is that of Tab.
-  toolkit::PageControl PageControl1;
-  toolkit::TabSheet InfoTab;
-  toolkit::GroupBox InfoGroup;
-  toolkit::Label IpLabel;
+  toolkit::PageControl PageControl1{*this, "PageControl1"};
+  toolkit::TabSheet InfoTab{PageControl1, "InfoTab"};
+  toolkit::GroupBox InfoGroup{InfoTab, "InfoGroup"};
+  toolkit::Label IpLabel{InfoGroup, "IpLabel", toolkit::kCaptionText};
   toolkit::Label IpAddress;
-  toolkit::Button Button1;
-  FiguresGroup InfoGroupBox;
-  toolkit::Button Button3;
-  toolkit::TabSheet DailyTab;
-  FiguresGroup DailyGroupBox;
-  toolkit::TabSheet WeeklyTab;
-  FiguresGroup WeeklyGroupBox;
-  toolkit::TabSheet MonthlyTab;
-  FiguresGroup MonthlyGroupBox;
-  toolkit::Button Button2;
+  toolkit::Button Button1{InfoGroup, "Button1"};
+  FiguresGroup InfoGroupBox{InfoTab, kInfoNames};
+  toolkit::Button Button3{InfoGroupBox, "Button3"};
+  toolkit::TabSheet DailyTab{PageControl1, "DailyTab"};
+  FiguresGroup DailyGroupBox{DailyTab, kDailyNames};
+  toolkit::TabSheet WeeklyTab{PageControl1, "WeeklyTab"};
+  FiguresGroup WeeklyGroupBox{WeeklyTab, kWeeklyNames};
+  toolkit::TabSheet MonthlyTab{PageControl1, "MonthlyTab"};
+  FiguresGroup MonthlyGroupBox{MonthlyTab, kMonthlyNames};
+  toolkit::Button Button2{*this, "Button2"};
   toolkit::Timer Timer1;
   toolkit::PlacementSaver _tlkFormSaver;
 

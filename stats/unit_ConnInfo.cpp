@@ -41,10 +41,7 @@ T_frmConnInfo::T_frmConnInfo(const StatisticsContext& context)
           context, {kConnInfoForm, settings::placement_key::kConnInfo, text::IpLabel, "127.0.0.1"},
           engine::CounterOwner::Machine(context.store)),
       host_address_(context.app.Platform().sockets, context.app.Platform().clock),
-      BandwidthTab(PageControl1, "BandwidthTab"),
-      Label1(BandwidthTab, "Label1"),
-      details_(BandwidthTab, context.store, context.language),
-      ISBAShown(BandwidthTab, "ISBAShown") {
+      details_(BandwidthTab, context.store, context.language) {
   SetDesignSize();
   Arrange();
   ArrangeBandwidthTab();

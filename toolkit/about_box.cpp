@@ -15,11 +15,7 @@ constexpr int kProductFontHeight = 15;
 AboutBox::AboutBox(Application& app, const ImageList& images, std::function<AboutTexts()> texts)
     : Form(app, AboutBox::kName, platform::Frame::kDialog),
       texts_(std::move(texts)),
-      Image1(*this, "Image1", images),
-      lblProduct(*this, "lblProduct", kWrappedText),
-      lblVersion(*this, "lblVersion", kWrappedText),
-      lblDescription(*this, "lblDescription", kWrappedText),
-      OkBtn(*this, "OkBtn") {
+      Image1(*this, "Image1", images) {
   SetClientSize(kClientSize);
   ApplyLayout({
       {Image1, {12, 12, kSignSize, kSignSize}},

@@ -23,13 +23,6 @@ T_frmAddTitles::T_frmAddTitles(toolkit::Application& app, TitlePosting& posting,
       posting_(posting),
       balloons_(balloons),
       language_(language),
-      WindowTitlesListbox(*this, "WindowTitlesListbox"),
-      btnRemove(*this, "btnRemove"),
-      AddNewLabel(*this, "AddNewLabel", toolkit::kCaptionText),
-      AddNew(*this, "AddNew"),
-      btnAdd(*this, "btnAdd"),
-      Note(*this, "Note", toolkit::kWrappedText),
-      OkBtn(*this, "OkBtn"),
       placement_saver_(*this, settings::placement_key::kAddTitles,
                        toolkit::PlacementSaver::Restores::kPlace) {
   SetClientSize(kClientSize);

@@ -8,13 +8,6 @@
 namespace platform::windows {
 namespace {
 
-struct FindKind {
-  using Raw = HANDLE;
-  static Raw None() { return INVALID_HANDLE_VALUE; }
-  static void Close(Raw handle) { ::FindClose(handle); }
-};
-using FindHandle = Handle<FindKind>;
-
 constexpr std::size_t kLongestPath = 32767;  // of the system, in UTF-16 units
 constexpr DWORD kLargestPiece = 1U << 20;    // bytes of one read or write call
 

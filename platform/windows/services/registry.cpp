@@ -10,12 +10,7 @@
 namespace platform::windows {
 namespace {
 
-struct RegistryKeyKind {
-  using Raw = HKEY;
-  static constexpr Raw None() { return nullptr; }
-  static void Close(Raw key) { ::RegCloseKey(key); }
-};
-using KeyHandle = Handle<RegistryKeyKind>;
+using KeyHandle = Handle<ZeroIsNone<HKEY, &::RegCloseKey>>;
 
 // Nearly every value fits into this size, so that a read is one call.
 constexpr std::size_t kUsualSize = 512;
