@@ -82,11 +82,6 @@ std::string Files::ProgramFolder() {
   return path.substr(0, path.rfind('\\') + 1);
 }
 
-bool Files::Exists(std::string_view path) {
-  const DWORD attributes = ::GetFileAttributesW(ToWide(path).c_str());
-  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
-}
-
 bool Files::Missing(std::string_view path) {
   if (::GetFileAttributesW(ToWide(path).c_str()) != INVALID_FILE_ATTRIBUTES) return false;
   const DWORD code = ::GetLastError();

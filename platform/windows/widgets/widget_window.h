@@ -24,14 +24,14 @@ enum class KeyTaker { kDialog, kWindow, kNobody };
 
 class WidgetWindow : public NativeWindow {
  public:
-  // Of a widget that this folder made; the system's own window behind it.
+  // Returns the system's window behind a widget that this folder made.
   [[nodiscard]] static HWND Of(Widget& widget);
-  // The object behind a window; null when it is none of this program's widgets.
+  // Returns the object behind a window, or null when it is none of this program's widgets.
   [[nodiscard]] static WidgetWindow* Of(HWND hwnd) {
     return dynamic_cast<WidgetWindow*>(NativeWindow::Of(hwnd));
   }
 
-  // As Widget says.
+  // These functions do what Widget says.
   void SetText(std::string_view text);
   [[nodiscard]] std::string Text() const;
   void SetBounds(const Rect& bounds);
@@ -48,9 +48,10 @@ class WidgetWindow : public NativeWindow {
   void Invalidate();
   [[nodiscard]] Point ToScreen(Point client) const;
 
-  // Asked for Enter and Esc before anything else happens with them (dialog_keys.h).
+  // Returns who gets Enter or Esc; it is asked before anything else happens with them
+  // (dialog_keys.h).
   [[nodiscard]] virtual KeyTaker TakerOf(WPARAM /*key*/) { return KeyTaker::kDialog; }
-  // A mouse message came to a window inside it, or to itself.
+  // Is called when a mouse message came to the window or to one inside it.
   virtual void HearMouse(HWND /*hwnd*/, const Message& /*message*/) {}
 
  protected:
@@ -63,16 +64,15 @@ class WidgetWindow : public NativeWindow {
 
   // Paints the client area; the canvas has the background already.
   virtual void PaintContent(GdiCanvas& canvas) { events_.OnPaint(canvas); }
-  // What a DrawThemeParentBackground of a child or the painting of the window itself asks for.
+  // Paints the part `shown` of the window on `target`.
   void PaintOn(HDC target, const RECT& shown);
 
-  // What the system tells the parent of a control goes to the control.
+  // Hands what the system tells the parent of a control to the control.
   [[nodiscard]] std::optional<LRESULT> ToControl(const Message& message);
 
   // Returns the text in the system's form.
   [[nodiscard]] std::wstring WideText() const;
-  // Reports are made from here on, so that nothing is heard of a widget that its maker does not
-  // hold yet.
+  // Starts the reports: until then nothing is heard of a widget that its maker does not hold yet.
   void StartReporting();
   [[nodiscard]] bool Reporting() const { return reporting_; }
 
