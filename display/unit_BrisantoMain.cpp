@@ -322,7 +322,7 @@ void T_frmBrisanto::FormEndSession() {
 }
 
 void T_frmBrisanto::FormResize() {
-  platform::FontSpec font = _tlkDLULMeter.Font();
+  platform::FontStyle font = _tlkDLULMeter.Font();
   font.height = toolkit::PointsToDesignPixels(LabelPoints(Unscale(WindowBounds().width)));
   _tlkDLULMeter.SetFont(font);
   _tlkDLULMeter.Refresh();

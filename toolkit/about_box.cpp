@@ -24,7 +24,7 @@ AboutBox::AboutBox(Application& app, const ImageList& images, std::function<Abou
       {lblDescription, {60, 52, 228, 30}},
       {OkBtn, {213, 90, 75, 25}},
   });
-  platform::FontSpec font = lblProduct.Font();
+  platform::FontStyle font = lblProduct.Font();
   font.height = kProductFontHeight;
   font.bold = true;
   lblProduct.SetFont(font);

@@ -41,7 +41,7 @@ struct GraphLook : ScaleRule {
   // rim of almost the background's colour.
   bool Transparent = false;
   // The font of the scale, and its colour.
-  platform::FontSpec Font;
+  platform::FontStyle Font;
   platform::Colour FontColour = platform::colour::kWindowText;
 
   friend bool operator==(const GraphLook&, const GraphLook&) = default;

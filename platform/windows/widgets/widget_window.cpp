@@ -94,7 +94,7 @@ void WidgetWindow::SetEnabled(bool enabled) { ::EnableWindow(hwnd(), enabled); }
 
 bool WidgetWindow::Enabled() const { return ::IsWindowEnabled(hwnd()) != 0; }
 
-void WidgetWindow::SetFont(const FontSpec& font) {
+void WidgetWindow::SetFont(const FontStyle& font) {
   if (native_font_ && font == font_) return;
   font_ = font;
   SharedFont made = drawing_.fonts.Get(font);

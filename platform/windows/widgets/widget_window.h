@@ -41,7 +41,7 @@ class WidgetWindow : public NativeWindow {
   [[nodiscard]] bool Visible() const;
   void SetEnabled(bool enabled);
   [[nodiscard]] bool Enabled() const;
-  void SetFont(const FontSpec& font);
+  void SetFont(const FontStyle& font);
   void SetColours(Colour text, Colour background);
   void Focus();
   [[nodiscard]] bool HasFocus() const;
@@ -88,7 +88,7 @@ class WidgetWindow : public NativeWindow {
   [[nodiscard]] WidgetEvents& events() const { return events_; }
   [[nodiscard]] Colour text_colour() const { return text_colour_; }
   [[nodiscard]] Colour background() const { return background_; }
-  [[nodiscard]] const FontSpec& font() const { return font_; }
+  [[nodiscard]] const FontStyle& font() const { return font_; }
 
  private:
   [[nodiscard]] std::optional<LRESULT> HandleReports(const Message& message);
@@ -100,7 +100,7 @@ class WidgetWindow : public NativeWindow {
   Mouse mouse_;
   Size reported_size_;
   std::wstring published_name_;
-  FontSpec font_;
+  FontStyle font_;
   SharedFont native_font_;  // the control goes on using it
   Colour text_colour_ = colour::kWindowText;
   Colour background_ = colour::kButtonFace;
@@ -120,7 +120,7 @@ class WidgetOf : public Interface, public Window {
   [[nodiscard]] bool Visible() const override { return Window::Visible(); }
   void SetEnabled(bool enabled) override { Window::SetEnabled(enabled); }
   [[nodiscard]] bool Enabled() const override { return Window::Enabled(); }
-  void SetFont(const FontSpec& font) override { Window::SetFont(font); }
+  void SetFont(const FontStyle& font) override { Window::SetFont(font); }
   void SetColours(Colour text, Colour background) override { Window::SetColours(text, background); }
   void Focus() override { Window::Focus(); }
   [[nodiscard]] bool HasFocus() const override { return Window::HasFocus(); }
