@@ -41,11 +41,7 @@ void T_frmAreYouSure::FormCreate() {
 void T_frmAreYouSure::Localise() {
   const language::Translation say = language_.Chosen();
   SetCaption(say(text::Title));
-  lblQuestion1.SetCaption(say(text::lblQuestion1));
-  lblQuestion2.SetCaption(say(text::lblQuestion2));
-  AskCheck.SetCaption(say(text::AskCheck));
-  btnYes.SetCaption(say(text::btnYes));
-  btnNo.SetCaption(say(text::btnNo));
+  language::SayNames(*this, text::Title.section, say);
 }
 
 // The check box comes first in reading order, but the focus starts on the answer.

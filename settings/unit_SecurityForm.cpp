@@ -44,11 +44,9 @@ void T_frmSecurity::FormCreate() {
 
 void T_frmSecurity::Localise() {
   const language::Translation say = language_.Chosen();
-  SetCaption(say(language::text::Security::Title));
-  St1.SetCaption(say(language::text::Security::St1));
-  St2.SetCaption(say(language::text::Security::St2));
-  St3.SetCaption(say(language::text::Security::St3));
-  CancelButton.SetCaption(say(language::text::Security::CancelButton));
+  const language::TextEntry& title = language::text::Security::Title;
+  SetCaption(say(title));
+  language::SayNames(*this, title.section, say);
 }
 
 void T_frmSecurity::PassEditChange() {

@@ -83,14 +83,8 @@ void StatisticsForm::Arrange() {
 
 void StatisticsForm::Localise() {
   const language::Translation say = context_.language.Chosen();
-  InfoTab.SetCaption(say(text::InfoTab));
-  InfoGroup.SetCaption(say(text::InfoGroup));
+  language::SayNames(*this, text::Title.section, say);
   IpLabel.SetCaption(say(address_caption_));
-  Button1.SetCaption(say(text::Button1));
-  Button1.SetHint(say(text::Button1Hint));
-  Button2.SetCaption(say(text::Button2));
-  Button3.SetCaption(say(text::Button3));
-  Button3.SetHint(say(text::Button3Hint));
   DailyTab.SetCaption(say(text::Daily));
   WeeklyTab.SetCaption(say(text::Weekly));
   MonthlyTab.SetCaption(say(text::Monthly));

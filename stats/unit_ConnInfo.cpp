@@ -79,14 +79,8 @@ void T_frmConnInfo::FormCreate() {
 
 void T_frmConnInfo::Localise() {
   StatisticsForm::Localise();
-  const language::Translation say = context_.language.Chosen();
-  SetCaption(say(text::Title));
-  BandwidthTab.SetCaption(say(text::BandwidthTab));
-  Label1.SetCaption(say(text::Label1));
-  Label1.SetHint(say(text::Label1Hint));
+  SetCaption(context_.language.Text(text::Title));
   details_.Localise();
-  ISBAShown.SetCaption(say(text::ISBAShown));
-  ISBAShown.SetHint(say(text::ISBAShownHint));
 }
 
 void T_frmConnInfo::FormClose() {

@@ -61,12 +61,7 @@ void T_frmAddTitles::Localise() {
   const language::Translation say = language_.Chosen();
   SetCaption(say(text::Title));
   WindowTitlesListbox.SetCaption(say(text::Title));
-  WindowTitlesListbox.SetHint(say(text::WindowTitlesListboxHint));
-  AddNewLabel.SetCaption(say(text::AddNewLabel));
-  AddNew.SetHint(say(text::AddNewHint));
-  btnAdd.SetCaption(say(text::btnAdd));
-  btnRemove.SetCaption(say(text::btnRemove));
-  OkBtn.SetCaption(say(text::OkBtn));
+  language::SayNames(*this, text::Title.section, say);
   ShowState();
 }
 

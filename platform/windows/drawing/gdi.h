@@ -77,6 +77,10 @@ class SavedDc {
           static_cast<int>(area.right - area.left), static_cast<int>(area.bottom - area.top)};
 }
 
+[[nodiscard]] constexpr Point FromPoint(const POINT& at) {
+  return {static_cast<int>(at.x), static_cast<int>(at.y)};
+}
+
 // Fills `area` of `dc` without making a brush.
 void FillArea(HDC dc, const RECT& area, Colour colour);
 
