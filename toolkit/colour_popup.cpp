@@ -4,7 +4,6 @@
 #include <array>
 #include <cstdio>
 #include <functional>
-#include <string>
 
 #include "toolkit/application.h"
 #include "toolkit/controls/buttons.h"

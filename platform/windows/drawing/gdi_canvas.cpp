@@ -1,7 +1,6 @@
 #include "platform/windows/drawing/gdi_canvas.h"
 
 #include <algorithm>
-#include <cwchar>
 #include <string>
 #include <utility>
 

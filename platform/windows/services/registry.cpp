@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <array>
 
 #include "platform/windows/handle.h"
 #include "platform/windows/services/services.h"

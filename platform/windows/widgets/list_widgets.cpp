@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "platform/windows/wide_text.h"
-#include "platform/windows/win32.h"
 
 namespace platform::windows {
 namespace {

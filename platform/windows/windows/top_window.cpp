@@ -7,7 +7,6 @@
 #include "platform/windows/wide_text.h"
 #include "platform/windows/windows/dialog_keys.h"
 #include "platform/windows/windows/native_window.h"
-#include "platform/windows/windows/window_effects.h"
 
 namespace platform::windows {
 namespace {
