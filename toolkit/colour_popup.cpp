@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cstdio>
 #include <functional>
 
 #include "toolkit/application.h"
@@ -73,10 +72,10 @@ constexpr std::array<Colour, kCells> kColours = {
 };
 
 std::string NameOf(Colour colour) {
-  std::array<char, 8> text{};
-  std::snprintf(text.data(), text.size(), "#%02X%02X%02X", colour & 0xFF, colour >> 8 & 0xFF,
-                colour >> 16 & 0xFF);
-  return text.data();
+  constexpr std::string_view kDigits = "0123456789ABCDEF";
+  std::string text = "#";
+  for (const int shift : {4, 0, 12, 8, 20, 16}) text += kDigits[colour >> shift & 15U];
+  return text;
 }
 
 ColourPalette::ColourPalette(Control& parent, std::string_view name)
