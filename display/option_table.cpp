@@ -24,12 +24,13 @@ enum class On {
   kStart,    // only at the next start
 };
 
+// `of` is a constant of the schema, so that a row refers to it.
 struct Row {
   template <class Setting, class Effect>
   Row(const Setting& of, Effect effect, On when = On::kChoice)
       : name(of.name),
         when(when),
-        read([of](settings::Store& store) -> OptionValue { return store.Read(of); }) {
+        read([&of](settings::Store& store) -> OptionValue { return store.Read(of); }) {
     using Value = decltype(std::declval<settings::Store>().Read(of));
     take = [effect](Meter m, const OptionValue& value) { effect(m, std::get<Value>(value)); };
   }
@@ -85,7 +86,7 @@ void TakeFont(Meter m, const std::string& face) {
 }
 
 Row LineMode(const settings::BooleanSetting& mode) {
-  return {mode, [mode](Meter m, bool on) {
+  return {mode, [&mode](Meter m, bool on) {
             m.line.ShowMode(mode, on);
             m.window.LineChanged();
           }};

@@ -15,7 +15,7 @@ void Page::Read(ReadStep step) {
   }
 }
 
-void Page::Add(ReadStep step, const std::vector<Row>& rows) {
+void Page::Add(ReadStep step, std::span<const Row> rows) {
   for (const Row& row : rows) {
     if (row.event != nullptr) {
       *row.event = [this, follows = row.follows, take = row.take] {

@@ -106,7 +106,7 @@ inline void ShowIn(SoundFile& file, const std::string& value) { file.SetPath(val
 
 // A row is made where its page is made; the control outlives it. After the place come, in any
 // order:
-//   a setting, or a function that returns the setting that counts at the moment
+//   a constant of the schema, or a function that returns the setting that counts at the moment
 //   Range, Steps, Items, Choice or Says
 //   a function that updates the rest of the page; it runs before the value is pushed
 class Row {
@@ -138,7 +138,7 @@ class Row {
     if constexpr (std::is_same_v<More, settings::ColourSetting>) {
       BindColour(control, LabelOf(control), more);
     } else if constexpr (requires { more.name; }) {
-      Bind(control, [more] { return more; });
+      Bind(control, [&more] { return more; });
     } else if constexpr (!std::is_invocable_v<More>) {
       Design(control, more);
     } else if constexpr (std::is_void_v<std::invoke_result_t<More>>) {
