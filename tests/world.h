@@ -96,7 +96,10 @@ class Adapters : public Computer {
 
   // What the window's initialisation does for the engine.
   std::vector<engine::AdapterItem> Initialise() {
-    std::vector<engine::AdapterItem> items = sampler.InitAdapters();
+    std::vector<engine::AdapterItem> items = sampler.InitAdapters(
+        [this](std::string_view description, const platform::InterfaceRow& row) {
+          return statistics.RecordAdapter(description, row);
+        });
     statistics.InitStatistics(sampler.Descriptions(), machine.clock.Now());
     return items;
   }
@@ -107,14 +110,16 @@ class Adapters : public Computer {
     return Sample();
   }
   engine::ScanAmounts Sample() {
-    return sampler.SampleInterfaces([this](const engine::AdapterScan& adapter) {
-      statistics.PersistAdapter(adapter, platform::DateOf(machine.clock.Now()));
-    });
+    return sampler.SampleInterfaces(
+        [this](std::string_view description) { return statistics.Counts(description); },
+        [this](const engine::AdapterScan& adapter) {
+          statistics.PersistAdapter(adapter, platform::DateOf(machine.clock.Now()));
+        });
   }
 
   engine::TrafficState state;
   engine::Statistics statistics{store};
-  engine::InterfaceSampler sampler{machine.interface_table, machine.locale, store, state};
+  engine::InterfaceSampler sampler{machine.interface_table, machine.locale, state};
 };
 
 // Who reacts to traffic. What would be a balloon is in `balloons`.

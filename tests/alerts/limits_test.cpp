@@ -3,10 +3,10 @@
 
 #include <limits>
 
-#include "alerts/bandwidth_limit.h"
+#include "alerts/bandwidth_alert.h"
 #include "alerts/keyboard_leds.h"
 #include "alerts/ticker.h"
-#include "settings/counter_text.h"
+#include "settings/value_texts.h"
 #include "tests/world.h"
 
 namespace {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "settings/value_texts.h"
 #include "tests/world.h"
 
 namespace {

@@ -4,7 +4,6 @@
 #include <string>
 #include <vector>
 
-#include "settings/administrator_lock.h"
 #include "settings/unit_SecurityForm.h"
 #include "tests/world.h"
 #include "toolkit/controls/layout.h"

@@ -8,9 +8,9 @@
 
 #include "platform/memory/machine.h"
 #include "platform/text.h"
-#include "settings/colour_text.h"
 #include "settings/first_start.h"
 #include "settings/store.h"
+#include "settings/value_texts.h"
 
 namespace {
 

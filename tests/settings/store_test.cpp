@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "settings/autostart.h"
-#include "settings/counter_text.h"
+#include "settings/value_texts.h"
 #include "tests/world.h"
 
 namespace {

@@ -10,19 +10,18 @@
 #include <vector>
 
 #include "display/titles/list.h"
-#include "display/tray/bitmap_file.h"
+#include "display/tray/pictures.h"
 #include "engine/error_log.h"
 #include "engine/interface_reader.h"
 #include "language/language_file.h"
-#include "platform/interface_row.h"
+#include "platform/interface_table.h"
 #include "platform/memory/files.h"
 #include "platform/memory/locale.h"
 #include "platform/memory/notebook.h"
 #include "platform/text.h"
 #include "platform/wave_file.h"
 #include "quantity/quantity.h"
-#include "settings/colour_text.h"
-#include "settings/counter_text.h"
+#include "settings/value_texts.h"
 
 namespace fuzz {
 namespace {
