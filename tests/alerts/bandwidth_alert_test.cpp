@@ -3,28 +3,25 @@
 #include <gtest/gtest.h>
 
 #include "alerts/unit_BandWidthAlert.h"
-#include "tests/alerts/alerts_world.h"
+#include "tests/world.h"
 
 namespace {
 
-class BandwidthAlert : public test::AlertsTest {
+class BandwidthAlert : public testing::Test, protected test::Reacting {
  protected:
   BandwidthAlert() {
     Set("BAAlerts", 1);
     Set("MoreThan", 1);
     Set("baDownload", 1);
     Set("BAAction", 1);
-    SetText("BAMessage", "stop");
-    SetText("CurrentDayTotalDL", "1024");
+    Set("BAMessage", "stop");
+    Set("CurrentDayTotalDL", "1024");
   }
 
   // Runs the scan's step; `user` is what happens while the window is open.
   void Check(std::function<void()> user) {
     machine.message_loop.Then(std::move(user));
     alert.Check();
-  }
-  platform::memory::WidgetState& Widget(std::string_view name) {
-    return machine.windowing.Find(name);
   }
 
   quantity::Quantity quantity{store, machine.locale};
@@ -93,7 +90,7 @@ TEST_F(BandwidthAlert, OtherActionsShowNothing) {
     std::size_t session_calls;
   };
   Set("chkBAPlay", 1);
-  SetText("BaPlayFile", "C:\\alarm.wav");
+  Set("BaPlayFile", "C:\\alarm.wav");
   for (const Row& row : {Row{0, 0}, Row{3, 0}, Row{9, 0}, Row{2, 3}}) {
     SCOPED_TRACE(row.action);
     Set("BAAction", row.action);
@@ -127,18 +124,18 @@ TEST_F(BandwidthAlert, TheDetailsOpenAndCloseAndRefreshTwiceASecond) {
     EXPECT_EQ(Widget("lblBandwidthLeft").text, "0");
     EXPECT_EQ(Widget("lblBandwidthLeft").text_colour, kLime);
 
-    SetText("CurrentDayTotalDL", "2560");
+    Set("CurrentDayTotalDL", "2560");
     machine.timers.Advance(500);
     EXPECT_EQ(Widget("lblBandwidthLeft").text, "-1,5");
     EXPECT_EQ(Widget("lblBandwidthLeft").text_colour, kLightRed);
-    SetText("CurrentDayTotalDL", "0");
+    Set("CurrentDayTotalDL", "0");
     machine.timers.Advance(500);
     EXPECT_EQ(Widget("lblBandwidthLeft").text_colour, kLightRed) << "the red is never set back";
 
     Set("baDownload", 0);
     Set("AlertsMoreThan", 7);
     Set("BADayWeekMonth", 2);
-    SetText("CurrentMonthTotalUL", "1536");
+    Set("CurrentMonthTotalUL", "1536");
     machine.timers.Advance(500);
     EXPECT_EQ(Widget("lblBandwidthLimit").text, "1") << "a unit that does not exist leaves its row";
     EXPECT_EQ(Widget("lblBandwidthType").text, "Monthly");
@@ -156,10 +153,10 @@ TEST_F(BandwidthAlert, ATotalThatIsNoNumberIsToldOnce) {
   int told = 0;
   app.SetExceptionHandler([&told](std::string_view) { ++told; });
   Check([&] {
-    SetText("CurrentDayTotalDL", "many");
+    Set("CurrentDayTotalDL", "many");
     machine.timers.Advance(1500);
     EXPECT_EQ(told, 1);
-    SetText("CurrentDayTotalDL", "512");
+    Set("CurrentDayTotalDL", "512");
     machine.timers.Advance(500);
     EXPECT_EQ(Widget("lblBandwidthCurrDLTotal").text, "0,5");
     machine.windowing.Press("OkBtn");

@@ -3,11 +3,11 @@
 #include <gtest/gtest.h>
 
 #include "settings/counter_text.h"
-#include "tests/alerts/alerts_world.h"
+#include "tests/world.h"
 
 namespace {
 
-class BandwidthLimit : public test::AlertsTest {
+class BandwidthLimit : public testing::Test, protected test::Reacting {
  protected:
   BandwidthLimit() {
     Set("BAAlerts", 1);
@@ -57,8 +57,8 @@ TEST_F(BandwidthLimit, AlertsAtTheExactByteOfItsPeriodAndDirections) {
     Set("baDownload", row.download);
     Set("baUpload", row.upload);
     for (int period = 0; period < 3; ++period) {
-      SetText(kDl[period], period == row.period || row.period > 2 ? row.total_dl : "0");
-      SetText(kUl[period], period == row.period || row.period > 2 ? row.total_ul : "0");
+      Set(kDl[period], period == row.period || row.period > 2 ? row.total_dl : "0");
+      Set(kUl[period], period == row.period || row.period > 2 ? row.total_ul : "0");
     }
     EXPECT_EQ(Alerts(), row.alerts);
     EXPECT_FALSE(Alerts()) << "only once in a period";
@@ -76,7 +76,7 @@ TEST_F(BandwidthLimit, KnowsItsThreeUnitsAndNoOther) {
     Set("AlertsMoreThan", row.unit);
     EXPECT_EQ(alerts::LimitBytes(store), row.limit);
   }
-  SetText("CurrentDayTotalDL", "9223372036854775807");
+  Set("CurrentDayTotalDL", "9223372036854775807");
   for (const std::int64_t unit : {-1, 3, 64}) {
     Set("AlertsMoreThan", unit);
     EXPECT_FALSE(alerts::LimitBytes(store).has_value());
@@ -85,7 +85,7 @@ TEST_F(BandwidthLimit, KnowsItsThreeUnitsAndNoOther) {
 }
 
 TEST_F(BandwidthLimit, ATotalThatIsNoNumberEndsTheScan) {
-  SetText("CurrentDayTotalDL", "a lot");
+  Set("CurrentDayTotalDL", "a lot");
   EXPECT_THROW(Alerts(), settings::ConversionError);
   EXPECT_FALSE(store.ReadBool("BAShow", false));
 }

@@ -2,17 +2,17 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/alerts/alerts_world.h"
+#include "tests/world.h"
 
 namespace {
 
-class Notifications : public test::AlertsTest {
+class Notifications : public testing::Test, protected test::Reacting {
  protected:
   Notifications() { Set("NotificationsActive", 1); }
 
   // A second: a scan, and then the timer.
   void Second(std::int64_t dl, std::int64_t ul) {
-    notifications.CheckNotifications(Bytes(dl, ul));
+    notifications.CheckNotifications({dl, ul, 0, 0});
     machine.timers.Advance(1000);
   }
   void Seconds(int count, std::int64_t dl, std::int64_t ul) {
@@ -25,7 +25,7 @@ class Notifications : public test::AlertsTest {
 TEST_F(Notifications, FireAfterSoManyScansInARowAndBeginAnew) {
   Set("LessUploaded", 1);
   Set("LessAction", 1);
-  SetText("LessDisplayMessage", "too quiet");
+  Set("LessDisplayMessage", "too quiet");
   Seconds(59, 9999, 5000);
   Second(9999, 5001);
   Seconds(59, 9999, 0);
@@ -65,7 +65,7 @@ TEST_F(Notifications, AnAmountEqualToTheThresholdCountsForBothRules) {
       alerts::Notifications fresh(app, store, language, reactions);
       const bool download = std::string_view(direction) == "Downloaded";
       for (int i = 0; i < 3; ++i) {
-        fresh.CheckNotifications(Bytes(download ? row.bytes : 7000, download ? 7000 : row.bytes));
+        fresh.CheckNotifications({download ? row.bytes : 7000, download ? 7000 : row.bytes, 0, 0});
         machine.timers.Advance(1000);
       }
       EXPECT_EQ(balloons.size(), row.fires ? 1U : 0U);
@@ -134,7 +134,7 @@ TEST_F(Notifications, TheActionCodesDoWhatTheyDo) {
     notifications.LessNotification.Execute();
     EXPECT_EQ(balloons.size(), row.balloons);
     EXPECT_EQ(machine.session.calls.size(), row.session_calls);
-    EXPECT_EQ(machine.sound.played, (std::vector<std::string>{ProgramFile("warning.wav")}));
+    EXPECT_EQ(machine.sound.played, (std::vector<std::string>{store.ProgramFile("warning.wav")}));
   }
   EXPECT_TRUE(app.Terminated());
 }

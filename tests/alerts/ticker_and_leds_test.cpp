@@ -4,14 +4,14 @@
 
 #include "alerts/keyboard_leds.h"
 #include "alerts/ticker.h"
-#include "tests/alerts/alerts_world.h"
+#include "tests/world.h"
 
 namespace {
 
 constexpr std::uint8_t kNum = 144;
 constexpr std::uint8_t kScroll = 145;
 
-class Ticker : public test::AlertsTest {
+class Ticker : public testing::Test, protected test::Reacting {
  protected:
   Ticker() {
     Set("TickerActive", 1);
@@ -20,7 +20,7 @@ class Ticker : public test::AlertsTest {
   // Sounds of a scan.
   std::size_t Sounds(std::int64_t dl, std::int64_t ul) {
     machine.sound.played.clear();
-    ticker.Update(Bytes(dl, ul));
+    ticker.Update({dl, ul, 0, 0});
     return machine.sound.played.size();
   }
 
@@ -30,7 +30,7 @@ class Ticker : public test::AlertsTest {
 TEST_F(Ticker, TicksOnceAScanAndKeepsTheRest) {
   EXPECT_EQ(Sounds(600, 100), 0U);
   EXPECT_EQ(Sounds(600, 100), 1U);  // 1400, and 400 are left
-  EXPECT_EQ(machine.sound.played[0], ProgramFile("ticking.wav"));
+  EXPECT_EQ(machine.sound.played[0], store.ProgramFile("ticking.wav"));
   EXPECT_EQ(Sounds(5000, 0), 0U) << "both directions must have moved";
   EXPECT_EQ(Sounds(300, 299), 0U);
   EXPECT_EQ(Sounds(9000, 1), 1U);  // 10000: nine more ticks are owed
@@ -48,15 +48,15 @@ TEST_F(Ticker, CountsNothingWhileItIsOffAndKeepsWhatItHas) {
   Set("TickerActive", 0);
   EXPECT_EQ(Sounds(5000, 5000), 0U);
   Set("TickerActive", 1);
-  SetText("TickerWav", "C:\\tick.wav");
+  Set("TickerWav", "C:\\tick.wav");
   EXPECT_EQ(Sounds(1, 1), 1U);
   EXPECT_EQ(machine.sound.played[0], "C:\\tick.wav");
 }
 
-class Leds : public test::AlertsTest {
+class Leds : public testing::Test, protected test::Reacting {
  protected:
   void Update(std::int64_t dl, std::int64_t ul) {
-    alerts::UpdateKeyboardLeds(store, manager.sys_keys, Bytes(dl, ul));
+    alerts::UpdateKeyboardLeds(store, manager.sys_keys, {dl, ul, 0, 0});
   }
 };
 

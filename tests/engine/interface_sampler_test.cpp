@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "settings/adapter_values.h"
-#include "tests/engine/engine_world.h"
+#include "tests/world.h"
 
 namespace {
 
@@ -34,7 +34,7 @@ TEST(Sampler, CountsWhatMovedSinceTheScanBefore) {
   };
   for (const Row& row : kRows) {
     SCOPED_TRACE(row.why);
-    test::Engine world;
+    test::Adapters world;
     world.AddAdapter("card").dwInOctets = row.last;
     world.machine.interface_table.rows[0].dwOutOctets = row.last;
     (void)world.Initialise();
@@ -56,7 +56,7 @@ TEST(Sampler, CountsWhatMovedSinceTheScanBefore) {
 }
 
 TEST(Sampler, ACapThatComesLaterCutsTheMaximaToo) {
-  test::Engine world;
+  test::Adapters world;
   world.AddAdapter("card");
   (void)world.Initialise();
   EXPECT_EQ(world.Sample(5000, 700).ScanMaxDL, 5000);
@@ -67,7 +67,7 @@ TEST(Sampler, ACapThatComesLaterCutsTheMaximaToo) {
 }
 
 TEST(Sampler, ScansAddUpToTheGrowthOfTheCounter) {
-  test::Engine world;
+  test::Adapters world;
   world.AddAdapter("card").dwInOctets = 4294900000;
   (void)world.Initialise();
   std::int64_t sum = 0;
@@ -129,7 +129,7 @@ TEST(Sampler, ARowIsPersistedOnceBothSumsAreAboveZero) {
   };
   for (const Row& row : kRows) {
     SCOPED_TRACE(row.why);
-    test::Engine world;
+    test::Adapters world;
     for (const char* name : {"a", "b", "c"}) world.AddAdapter(name);
     (void)world.Initialise();
     std::size_t position = 0;
@@ -141,14 +141,14 @@ TEST(Sampler, ARowIsPersistedOnceBothSumsAreAboveZero) {
     const ScanAmounts scan = world.Sample();
     EXPECT_EQ(scan.ScanSumDL, row.dl);
     EXPECT_EQ(scan.ScanSumUL, row.ul);
-    EXPECT_EQ(world.Persisted("a"), row.a.persisted);
-    EXPECT_EQ(world.Persisted("b"), row.b.persisted);
-    EXPECT_EQ(world.Persisted("c"), row.c.persisted);
+    EXPECT_EQ((world.StoredOfAdapter("aInfoTotalDL") != "(missing)"), row.a.persisted);
+    EXPECT_EQ((world.StoredOfAdapter("bInfoTotalDL") != "(missing)"), row.b.persisted);
+    EXPECT_EQ((world.StoredOfAdapter("cInfoTotalDL") != "(missing)"), row.c.persisted);
   }
 }
 
 TEST(Sampler, TheMaximaOfAScanAreSumsOfPeaks) {
-  test::Engine world;
+  test::Adapters world;
   world.AddAdapter("a");
   world.AddAdapter("b");
   (void)world.Initialise();
@@ -169,7 +169,7 @@ TEST(Sampler, OnlyTheLoopbackItselfIsLeftOut) {
   };
   for (const Row& row : kRows) {
     SCOPED_TRACE(row.description);
-    test::Engine world;
+    test::Adapters world;
     world.AddAdapter(row.description);
     EXPECT_EQ(world.Initialise().size(), row.counts ? 1U : 0U);
     EXPECT_EQ(world.Sample(500, 600).ScanSumDL, row.counts ? 500 : 0);
@@ -181,42 +181,42 @@ TEST(Sampler, OnlyTheLoopbackItselfIsLeftOut) {
 }
 
 TEST(Sampler, NamesWithBlanksAtTheirEndsKeepTheirTwoForms) {
-  test::Engine world;
+  test::Adapters world;
   world.AddAdapter(
       " B\xDC"
       "RO-Karte ");  // the code page's capital U umlaut
-  world.machine.registry.Set(test::kSettings, "b\xC3\x9Cro-karte", RegistryValue::Dword(0));
+  world.machine.registry.Set(test::kSettingsKey, "b\xC3\x9Cro-karte", RegistryValue::Dword(0));
   const auto items = world.Initialise();
   ASSERT_EQ(items.size(), 1U);
   EXPECT_EQ(items[0].description, " B\xC3\x9CRO-Karte ");
   EXPECT_FALSE(items[0].included) << "the menu reads the trimmed name";
   EXPECT_EQ(world.Sample(500, 600).ScanSumDL, 500) << "the engine reads the one with blanks";
-  EXPECT_EQ(world.Adapter(" b\xC3\x9Cro-karte MTU"), "1500");
-  EXPECT_EQ(world.Adapter("b\xC3\x9Cro-karteInfoTotalDL"), "500");
+  EXPECT_EQ(world.StoredOfAdapter(" b\xC3\x9Cro-karte MTU"), "1500");
+  EXPECT_EQ(world.StoredOfAdapter("b\xC3\x9Cro-karteInfoTotalDL"), "500");
 }
 
 TEST(Sampler, AdapterDataAreWrittenByTheStartAndByEachPersistedScan) {
-  test::Engine world;
+  test::Adapters world;
   world.AddAdapter("Card A");
   world.AddAdapter("");
   const auto items = world.Initialise();
-  EXPECT_EQ(world.Adapter("card aMacAddress"), "00-1A-2B-3C-4D-5E");
-  EXPECT_EQ(world.Adapter("card aSpeed"), "1000000000");
-  EXPECT_EQ(world.Adapter("card aMTU"), "1500");
+  EXPECT_EQ(world.StoredOfAdapter("card aMacAddress"), "00-1A-2B-3C-4D-5E");
+  EXPECT_EQ(world.StoredOfAdapter("card aSpeed"), "1000000000");
+  EXPECT_EQ(world.StoredOfAdapter("card aMTU"), "1500");
   EXPECT_EQ(world.state.mac_addresses[0], "00-1A-2B-3C-4D-5E");
-  EXPECT_EQ(world.Adapter("MTU"), "1500") << "an adapter without a description has data";
+  EXPECT_EQ(world.StoredOfAdapter("MTU"), "1500") << "an adapter without a description has data";
   ASSERT_EQ(items.size(), 1U) << "but no place in the menus";
   EXPECT_EQ(items[0].row, 0);
 
   world.machine.interface_table.rows[0].dwMtu = 9000;
   (void)world.Sample(5, 0);
-  EXPECT_EQ(world.Adapter("card aMTU"), "1500");
+  EXPECT_EQ(world.StoredOfAdapter("card aMTU"), "1500");
   (void)world.Sample(5, 5);
-  EXPECT_EQ(world.Adapter("card aMTU"), "9000");
+  EXPECT_EQ(world.StoredOfAdapter("card aMTU"), "9000");
 }
 
 TEST(Sampler, RowCountsAreComparedAlsoAroundAnEmptyTable) {
-  test::Engine world;
+  test::Adapters world;
   EXPECT_TRUE(world.sampler.RowCountChanged()) << "before the first initialisation";
   (void)world.Initialise();
   EXPECT_FALSE(world.sampler.RowCountChanged()) << "an empty table is as good as any";
@@ -237,7 +237,7 @@ TEST(Sampler, RowCountsAreComparedAlsoAroundAnEmptyTable) {
 }
 
 TEST(Sampler, ARowThatVanishesWithinAScanCausesNoSpike) {
-  test::Engine world;
+  test::Adapters world;
   world.AddAdapter("a").dwInOctets = 3000000000;
   world.AddAdapter("b");
   (void)world.Initialise();
@@ -251,20 +251,20 @@ TEST(Sampler, ARowThatVanishesWithinAScanCausesNoSpike) {
 }
 
 TEST(Sampler, AFailureWhileStoringARowLosesThatScanAlone) {
-  test::Engine world;
+  test::Adapters world;
   world.AddAdapter("a");
   world.AddAdapter("b");
   (void)world.Initialise();
-  world.SetText(test::kAdapterDatas, "aInfoTotalDL", "garbage");
+  world.SetAdapter("aInfoTotalDL", "garbage");
   world.machine.interface_table.AddTraffic(1, 4000, 4000);
   EXPECT_THROW((void)world.Sample(500, 600), std::runtime_error);
-  world.SetText(test::kAdapterDatas, "aInfoTotalDL", "0");
+  world.SetAdapter("aInfoTotalDL", "0");
   world.machine.interface_table.AddTraffic(1, 20, 20);
   EXPECT_EQ(world.Sample(1, 1).ScanSumDL, 21) << "b's bytes of the failed scan do not come late";
 }
 
 TEST(Sampler, AFailedReadOfTheTableIsMadeUpForByTheNextScan) {
-  test::Engine world;
+  test::Adapters world;
   world.AddAdapter("a");
   (void)world.Initialise();
   world.machine.interface_table.FailRead(2, 5);
@@ -289,7 +289,7 @@ TEST(Sampler, OctetsThatFellWithoutAWrapAreANewBase) {
   };
   for (const Row& row : kRows) {
     SCOPED_TRACE(row.why);
-    test::Engine world;
+    test::Adapters world;
     platform::InterfaceRow& card = world.AddAdapter("card");
     card.dwInOctets = card.dwOutOctets = 5000;
     (void)world.Initialise();
@@ -306,7 +306,7 @@ TEST(Sampler, OctetsThatFellWithoutAWrapAreANewBase) {
 }
 
 TEST(Sampler, AfterSleepTheCountersAreTakenAsTheyStand) {
-  test::Engine world;
+  test::Adapters world;
   world.AddAdapter("a");
   (void)world.Initialise();
   (void)world.Sample(500, 600);

@@ -5,7 +5,7 @@
 #include <functional>
 #include <stdexcept>
 
-#include "tests/engine/engine_world.h"
+#include "tests/world.h"
 
 namespace {
 
@@ -13,7 +13,7 @@ using engine::ScanAmounts;
 namespace setting = settings::setting;
 
 // The meter window's part of a scan: writes down what it is asked to do.
-class Cycle : public test::Engine, private engine::ScanSteps {
+class Cycle : public test::Adapters, private engine::ScanSteps {
  public:
   // One scan in which the first adapter moves bytes.
   void Scan(std::uint32_t received, std::uint32_t sent) {
@@ -38,7 +38,7 @@ class Cycle : public test::Engine, private engine::ScanSteps {
   void Step(const char* name) {
     // Machine-wide values that are written by now show where the engine's own steps stand.
     steps += std::string(name) + "[" + std::to_string(state.RunTotalDL) + " " +
-             Machine("InfoMaxDL") + " " + Machine("CurrentMonthTotalDL") + "] ";
+             StoredText("InfoMaxDL") + " " + StoredText("CurrentMonthTotalDL") + "] ";
     if (during == name && inside) inside();
   }
   void Step(const char* name, const ScanAmounts& scan) {
@@ -70,10 +70,12 @@ TEST(ScanCycle, RunsItsStepsInOrder) {
   (void)world.Initialise();
   world.Scan(500, 600);
   EXPECT_EQ(world.steps,
-            "FeedGraph[0 - -] ShowIcon[500 500 -] ShowKeyboardLights[500 500 -] "
-            "CheckNotifications[500 500 -] ShowNumericLine[500 500 -] Tick[500 500 -] "
+            "FeedGraph[0 (missing) (missing)] ShowIcon[500 500 (missing)] ShowKeyboardLights[500 "
+            "500 (missing)] "
+            "CheckNotifications[500 500 (missing)] ShowNumericLine[500 500 (missing)] Tick[500 500 "
+            "(missing)] "
             "CheckBandwidthAlert[500 500 500] ");
-  EXPECT_EQ(world.Adapter("cardInfoTotalDL"), "500");
+  EXPECT_EQ(world.StoredOfAdapter("cardInfoTotalDL"), "500");
   EXPECT_EQ(world.graph, "500 600");
   world.Scan(0, 0);
   EXPECT_EQ(world.last.ScanSumDL, 0) << "amounts are those of one scan";
@@ -126,9 +128,9 @@ TEST(ScanCycle, AScanInsideTheBandwidthStepCountsItsOwnBytesOnly) {
   };
   world.Scan(500, 600);
   EXPECT_EQ(world.state.RunTotalDL, 570);
-  EXPECT_EQ(world.Machine("CurrentMonthTotalDL"), "570");
-  EXPECT_EQ(world.Machine("CurrentMonthTotalUL"), "607");
-  EXPECT_EQ(world.Adapter("cardInfoTotalDL"), "570");
+  EXPECT_EQ(world.StoredText("CurrentMonthTotalDL"), "570");
+  EXPECT_EQ(world.StoredText("CurrentMonthTotalUL"), "607");
+  EXPECT_EQ(world.StoredOfAdapter("cardInfoTotalDL"), "570");
   world.Scan(7, 7);
   EXPECT_EQ(world.last.ScanSumDL, 7);
 }
@@ -159,7 +161,7 @@ TEST(ScanCycle, AStepThatFailsEndsItsScanAlone) {
   Cycle world;
   world.AddAdapter("card");
   (void)world.Initialise();
-  world.SetText(test::kSettings, "CurrentDayTotalDL", "abc");
+  world.Set("CurrentDayTotalDL", "abc");
   for (int scan = 1; scan <= 2; ++scan) {
     world.steps.clear();
     EXPECT_THROW(world.Scan(500, 600), std::runtime_error);
@@ -167,9 +169,9 @@ TEST(ScanCycle, AStepThatFailsEndsItsScanAlone) {
     EXPECT_EQ(world.steps.find("CheckBandwidthAlert"), std::string::npos);
     EXPECT_EQ(world.state.RunTotalDL, 500 * scan) << "the steps before it have been done";
   }
-  world.SetText(test::kSettings, "CurrentDayTotalDL", "0");
+  world.Set("CurrentDayTotalDL", "0");
   world.Scan(30, 3);
-  EXPECT_EQ(world.Machine("CurrentDayTotalDL"), "30");
+  EXPECT_EQ(world.StoredText("CurrentDayTotalDL"), "30");
 
   world.during = "CheckBandwidthAlert";
   world.inside = [] { throw std::runtime_error("in the alert"); };

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "settings/counter_text.h"
-#include "tests/engine/engine_world.h"
+#include "tests/world.h"
 
 namespace {
 
@@ -32,8 +32,8 @@ class Periods : public testing::Test {
     world.store.Write(setting::BAShow, true);
     for (const std::string period : {"Day", "Week", "Month"}) {
       for (const std::string value : {"TotalDL", "TotalUL", "MaxDL", "MaxUL"}) {
-        world.SetText(test::kSettings, "Current" + period + value, "1000");
-        world.SetText(test::kAdapterDatas, "cardCurrent" + period + value, "1000");
+        world.Set("Current" + period + value, "1000");
+        world.SetAdapter("cardCurrent" + period + value, "1000");
       }
     }
   }
@@ -44,7 +44,7 @@ class Periods : public testing::Test {
     world.statistics.UpdateMachinePeriods({5, 5, 5, 5}, today);
   }
 
-  test::Engine world;
+  test::Adapters world;
 };
 
 constexpr platform::DateTime kWednesday = 45427;  // 2024-05-15, in week 20
@@ -66,18 +66,18 @@ TEST_F(Periods, TheDayRollsOverOnAnyOtherMarker) {
     SCOPED_TRACE(row.why);
     Prepare(row.marker, 20, 5);
     UpdateAdapter(kWednesday);
-    EXPECT_EQ(world.Adapter("cardCurrentDayTotalDL"), row.total);
+    EXPECT_EQ(world.StoredOfAdapter("cardCurrentDayTotalDL"), row.total);
     EXPECT_EQ(world.store.ReadDate("CurrentDay", 0), row.marker) << "adapters write no marker";
     UpdateMachine(kWednesday);
-    EXPECT_EQ(world.Machine("CurrentDayTotalDL"), row.total);
+    EXPECT_EQ(world.StoredText("CurrentDayTotalDL"), row.total);
     EXPECT_EQ(world.store.ReadDate("CurrentDay", 0), kWednesday);
     EXPECT_EQ(world.store.Read(setting::BAShow), row.marker == kWednesday);
-    EXPECT_EQ(world.Machine("CurrentWeekTotalDL"), "1005") << "week and month go on";
-    EXPECT_EQ(world.Machine("CurrentMonthTotalUL"), "1005");
+    EXPECT_EQ(world.StoredText("CurrentWeekTotalDL"), "1005") << "week and month go on";
+    EXPECT_EQ(world.StoredText("CurrentMonthTotalUL"), "1005");
   }
-  world.machine.registry.Remove(test::kSettings, "CurrentDay");
+  world.machine.registry.Remove(test::kSettingsKey, "CurrentDay");
   UpdateMachine(kWednesday);
-  EXPECT_EQ(world.Machine("CurrentDayTotalDL"), "0") << "a missing marker is yesterday's";
+  EXPECT_EQ(world.StoredText("CurrentDayTotalDL"), "0") << "a missing marker is yesterday's";
 }
 
 TEST_F(Periods, TheWeekWaitsForItsStartDayOneWeekLong) {
@@ -119,10 +119,10 @@ TEST_F(Periods, TheWeekWaitsForItsStartDayOneWeekLong) {
     world.store.Write(setting::wPerStartsOn, row.starts_on);
     UpdateAdapter(row.today);
     UpdateMachine(row.today);
-    EXPECT_EQ(world.Machine("CurrentWeekTotalDL"), row.machine);
-    EXPECT_EQ(world.Machine("CurrentWeekMaxUL"),
+    EXPECT_EQ(world.StoredText("CurrentWeekTotalDL"), row.machine);
+    EXPECT_EQ(world.StoredText("CurrentWeekMaxUL"),
               row.machine == std::string("1005") ? "1000" : row.machine);
-    EXPECT_EQ(world.Adapter("cardCurrentWeekTotalDL"), row.adapter);
+    EXPECT_EQ(world.StoredOfAdapter("cardCurrentWeekTotalDL"), row.adapter);
     EXPECT_EQ(world.store.Read(setting::CurrentWeek), row.marker_after);
     EXPECT_EQ(world.store.Read(setting::BAShow), row.machine == std::string("1005"));
   }
@@ -159,8 +159,8 @@ TEST_F(Periods, TheMonthWaitsForItsStartDayInBothDirections) {
     world.store.Write(setting::mPerStartsOn, row.starts_on);
     UpdateAdapter(row.today);
     UpdateMachine(row.today);
-    EXPECT_EQ(world.Machine("CurrentMonthTotalUL"), row.machine);
-    EXPECT_EQ(world.Adapter("cardCurrentMonthTotalUL"), row.adapter);
+    EXPECT_EQ(world.StoredText("CurrentMonthTotalUL"), row.machine);
+    EXPECT_EQ(world.StoredOfAdapter("cardCurrentMonthTotalUL"), row.adapter);
     EXPECT_EQ(world.store.Read(setting::CurrentMonth), row.marker_after);
   }
 }
@@ -169,11 +169,11 @@ TEST_F(Periods, StartDaysAreReadOnlyWhileAPeriodWaits) {
   Prepare(kWednesday, 20, 5);
   UpdateAdapter(kWednesday);
   UpdateMachine(kWednesday);
-  EXPECT_FALSE(world.machine.registry.Exists(test::kSettings, "wPerStartsOn"));
-  EXPECT_FALSE(world.machine.registry.Exists(test::kSettings, "mPerStartsOn"));
+  EXPECT_FALSE(world.machine.registry.Exists(test::kSettingsKey, "wPerStartsOn"));
+  EXPECT_FALSE(world.machine.registry.Exists(test::kSettingsKey, "mPerStartsOn"));
   Prepare(kWednesday, 20, 4);
   UpdateMachine(kWednesday);
-  EXPECT_EQ(world.machine.registry.Dword(test::kSettings, "mPerStartsOn"), 0U)
+  EXPECT_EQ(world.machine.registry.Dword(test::kSettingsKey, "mPerStartsOn"), 0U)
       << "the scan's own default, not the preferences'";
 }
 
@@ -181,33 +181,33 @@ TEST_F(Periods, AnAdapterThatMissesTheRollOverGoesOnWithItsOldValues) {
   Prepare(kWednesday - 1, 20, 5);
   UpdateMachine(kWednesday);  // the adapter was idle in this scan
   UpdateAdapter(kWednesday);
-  EXPECT_EQ(world.Adapter("cardCurrentDayTotalDL"), "1005");
+  EXPECT_EQ(world.StoredOfAdapter("cardCurrentDayTotalDL"), "1005");
 }
 
 TEST(Statistics, AdaptersKeepTotalsWithoutAPeriod) {
-  test::Engine world;
-  world.SetText(test::kAdapterDatas, "cardInfoTotalDL", "9000000000");
+  test::Adapters world;
+  world.SetAdapter("cardInfoTotalDL", "9000000000");
   world.statistics.UpdateAdapterStatistics(" Card ", Counters(7, 8, 70, 80), kWednesday);
-  EXPECT_EQ(world.Adapter("cardInfoTotalDL"), "9000000007");
-  EXPECT_EQ(world.Adapter("cardInfoTotalUL"), "8");
-  EXPECT_EQ(world.Adapter("cardInfoMaxDL"), "70");
-  EXPECT_EQ(world.Adapter("cardInfoMaxUL"), "80");
+  EXPECT_EQ(world.StoredOfAdapter("cardInfoTotalDL"), "9000000007");
+  EXPECT_EQ(world.StoredOfAdapter("cardInfoTotalUL"), "8");
+  EXPECT_EQ(world.StoredOfAdapter("cardInfoMaxDL"), "70");
+  EXPECT_EQ(world.StoredOfAdapter("cardInfoMaxUL"), "80");
   world.statistics.UpdateAdapterStatistics("CARD", Counters(1, 1, 69, 81), kWednesday);
-  EXPECT_EQ(world.Adapter("cardInfoMaxDL"), "70") << "a smaller one does not count";
-  EXPECT_EQ(world.Adapter("cardInfoMaxUL"), "81");
+  EXPECT_EQ(world.StoredOfAdapter("cardInfoMaxDL"), "70") << "a smaller one does not count";
+  EXPECT_EQ(world.StoredOfAdapter("cardInfoMaxUL"), "81");
 }
 
 TEST(Statistics, TheMachinesMaximaAreOverwrittenAlsoDownwards) {
-  test::Engine world;
+  test::Adapters world;
   world.statistics.UpdateMachineMaxima({1, 1, 8000, 9000});
   world.statistics.UpdateMachineMaxima({1, 1, 300, 0});
-  EXPECT_EQ(world.Machine("InfoMaxDL"), "300");
-  EXPECT_EQ(world.Machine("InfoMaxUL"), "0");
-  EXPECT_EQ(world.Machine("InfoTotalDL"), "-") << "never written by a scan";
+  EXPECT_EQ(world.StoredText("InfoMaxDL"), "300");
+  EXPECT_EQ(world.StoredText("InfoMaxUL"), "0");
+  EXPECT_EQ(world.StoredText("InfoTotalDL"), "(missing)") << "never written by a scan";
 }
 
 TEST(Statistics, AnEqualMaximumIsWrittenAgainForAnAdapterOnly) {
-  test::Engine world;
+  test::Adapters world;
   const auto writes_of = [&](auto&& update) {
     update();
     world.machine.notebook.Restart();
@@ -228,26 +228,26 @@ TEST(Statistics, AnEqualMaximumIsWrittenAgainForAnAdapterOnly) {
 }
 
 TEST(Statistics, ACounterAtItsEndWrapsAndStaysReadable) {
-  test::Engine world;
+  test::Adapters world;
   world.store.Write(setting::CurrentDay, kWednesday);
-  world.SetText(test::kSettings, "CurrentDayTotalDL", "9223372036854775807");
+  world.Set("CurrentDayTotalDL", "9223372036854775807");
   world.statistics.UpdateMachinePeriods({1, 1, 1, 1}, kWednesday);
-  EXPECT_EQ(world.Machine("CurrentDayTotalDL"), "-9223372036854775808");
+  EXPECT_EQ(world.StoredText("CurrentDayTotalDL"), "-9223372036854775808");
   world.statistics.UpdateMachinePeriods({1, 1, 1, 1}, kWednesday);
-  EXPECT_EQ(world.Machine("CurrentDayTotalDL"), "9223372036854775807");
+  EXPECT_EQ(world.StoredText("CurrentDayTotalDL"), "9223372036854775807");
 }
 
 TEST(Statistics, GarbageInACounterIsTheConversionError) {
-  test::Engine world;
-  world.SetText(test::kAdapterDatas, "aInfoTotalUL", "12 MB");
+  test::Adapters world;
+  world.SetAdapter("aInfoTotalUL", "12 MB");
   EXPECT_THROW(world.statistics.UpdateAdapterStatistics("a", Counters(1, 1, 1, 1), kWednesday),
                settings::ConversionError);
-  EXPECT_EQ(world.Adapter("aInfoTotalDL"), "1") << "what came before it is written";
-  EXPECT_EQ(world.Adapter("aInfoTotalUL"), "12 MB") << "and nothing is put right";
+  EXPECT_EQ(world.StoredOfAdapter("aInfoTotalDL"), "1") << "what came before it is written";
+  EXPECT_EQ(world.StoredOfAdapter("aInfoTotalUL"), "12 MB") << "and nothing is put right";
 }
 
 TEST(Statistics, TheFirstStartSetsTheMarkersAndIncludesEveryAdapter) {
-  test::Engine world;
+  test::Adapters world;
   world.AddAdapter(" Card ");
   world.AddAdapter("MS TCP Loopback interface");
   world.machine.clock.SetNow(platform::EncodeDateTime(2024, 5, 19, 15, 0, 0));  // Sunday afternoon
@@ -256,8 +256,8 @@ TEST(Statistics, TheFirstStartSetsTheMarkersAndIncludesEveryAdapter) {
   EXPECT_EQ(world.store.ReadDate("CurrentDay", 0), EncodeDate(2024, 5, 19));
   EXPECT_EQ(world.store.Read(setting::CurrentWeek), 21) << "already the next day's week";
   EXPECT_EQ(world.store.Read(setting::CurrentMonth), 5);
-  EXPECT_EQ(world.machine.registry.Dword(test::kSettings, " card "), 1U);
-  EXPECT_EQ(world.machine.registry.Dword(test::kSettings, "ms tcp loopback interface"), 1U);
+  EXPECT_EQ(world.machine.registry.Dword(test::kSettingsKey, " card "), 1U);
+  EXPECT_EQ(world.machine.registry.Dword(test::kSettingsKey, "ms tcp loopback interface"), 1U);
 
   world.machine.clock.SetNow(platform::EncodeDateTime(2024, 7, 1, 9, 0, 0));
   world.store.WriteBool(" card ", false);

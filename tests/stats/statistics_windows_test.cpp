@@ -1,8 +1,13 @@
+#include <gtest/gtest.h>
+
 #include <algorithm>
 #include <iterator>
 #include <memory>
 
-#include "tests/stats/stats_world.h"
+#include "quantity/quantity.h"
+#include "stats/unit_ConnInfo.h"
+#include "stats/unit_SpecificConnInfo.h"
+#include "tests/world.h"
 #include "toolkit/controls/layout.h"
 
 namespace {
@@ -14,13 +19,51 @@ using stats::T_frmSpecificConnInfo;
 constexpr std::string_view kPeriods[] = {"Day", "Week", "Month"};
 constexpr std::string_view kTabs[] = {"Daily", "Weekly", "Monthly"};
 
-class StatisticsWindows : public test::StatsTest {
+// The control of this name on a form, which may be one of two that have it; null for none.
+toolkit::Control* FindOn(toolkit::Control& root, std::string_view name) {
+  if (root.Name() == name) return &root;
+  for (toolkit::Control* child : root.Children()) {
+    if (toolkit::Control* found = FindOn(*child, name)) return found;
+  }
+  return nullptr;
+}
+
+// The names of all controls on a form.
+void AddNames(const toolkit::Control& root, std::vector<std::string>& names) {
+  names.push_back(root.Name());
+  for (const toolkit::Control* child : root.Children()) AddNames(*child, names);
+}
+
+class StatisticsWindows : public testing::Test, protected test::World {
  protected:
+  StatisticsWindows() { traffic.RestartRun(platform::EncodeDateTime(2024, 5, 17, 9, 30, 0)); }
+
+  static std::string Text(toolkit::Control& form, std::string_view name) {
+    const toolkit::Control* control = FindOn(form, name);
+    return control != nullptr ? control->Caption() : "(no " + std::string(name) + ")";
+  }
+  // Value and unit of a row.
+  static std::string Row(toolkit::Control& form, const std::string& name) {
+    return Text(form, name) + " " + Text(form, name + "Unit");
+  }
+
+  // What stands in a key, one "name=value" each.
+  std::vector<std::string> AllOf(std::string_view key) {
+    std::vector<std::string> all;
+    for (const std::string& name : machine.registry.Values(key)) {
+      const auto number = machine.registry.Dword(key, name);
+      const std::string text = machine.registry.Text(key, name).value_or("?");
+      all.push_back(name + "=" + (number ? std::to_string(*number) : text));
+    }
+    return all;
+  }
+
   // Numbers of kB that are different for every value of a window.
   void PlantAll(std::string_view key, const std::string& prefix) {
     int kilobytes = 1;
     const auto plant = [&](const std::string& name) {
-      Plant(key, prefix + name, std::to_string(1024 * kilobytes++));
+      machine.registry.Set(key, prefix + name,
+                           RegistryValue::Text(std::to_string(1024 * kilobytes++)));
     };
     for (const char* name : {"InfoMaxDL", "InfoMaxUL", "InfoTotalDL", "InfoTotalUL"}) plant(name);
     for (const std::string_view period : kPeriods) {
@@ -45,10 +88,14 @@ class StatisticsWindows : public test::StatsTest {
   }
 
   void Release(MouseButton button) { machine.windowing.ReleaseMouse("Button1", {1, 1}, button); }
+
+  quantity::Quantity quantity{store, machine.locale};
+  engine::TrafficState traffic;
+  stats::StatisticsContext context{app, store, quantity, language, traffic};
 };
 
 TEST_F(StatisticsWindows, EveryRowShowsItsOwnSource) {
-  PlantAll(test::kSettings, "");
+  PlantAll(test::kSettingsKey, "");
   traffic.RunTotalDL = 100 * 1024;
   traffic.RunTotalUL = 200 * 1024;
   T_frmConnInfo machine_window(context);
@@ -62,7 +109,7 @@ TEST_F(StatisticsWindows, EveryRowShowsItsOwnSource) {
   // A name with everything that has a meaning somewhere.
   const std::string name = " Fish & \"Chips\" | \xC3\x84 %s ";
   PlantAll(test::kAdapterDatas, " fish & \"chips\" | \xC3\x84 %s ");
-  Plant(test::kAdapterDatas, " fish & \"chips\" | \xC3\x84 %s MacAddress", "00-01-02-03-04-05");
+  SetAdapter(" fish & \"chips\" | \xC3\x84 %s MacAddress", "00-01-02-03-04-05");
   T_frmSpecificConnInfo adapter(context, name);
   EXPECT_EQ(Text(adapter, "IpAddress"), "-----------") << "before it is shown";
   adapter.Show();
@@ -71,7 +118,7 @@ TEST_F(StatisticsWindows, EveryRowShowsItsOwnSource) {
             "9 kB, 10 kB, 11 kB, 12 kB, 23 kB, 13 kB, 14 kB, 15 kB, 16 kB, 31 kB, ");
   EXPECT_EQ(Text(adapter, "IpAddress"), "00-01-02-03-04-05");
   EXPECT_EQ(machine.windowing.Find("T_frmSpecificConnInfo").text, name);
-  EXPECT_EQ(test::FindOn(adapter, "BandwidthTab"), nullptr);
+  EXPECT_EQ(FindOn(adapter, "BandwidthTab"), nullptr);
 
   T_frmSpecificConnInfo unknown(context, "Nobody");
   unknown.Show();
@@ -103,7 +150,7 @@ TEST_F(StatisticsWindows, ARowFollowsWhatIsStoredTwiceASecond) {
   window.Show();
   for (const Case& c : kCases) {
     SCOPED_TRACE(c.why);
-    Plant("CurrentWeekMaxUL", c.stored);
+    Set("CurrentWeekMaxUL", c.stored);
     store.WriteInteger("ScaleUnit", 0);
     machine.timers.Advance(500);
     EXPECT_EQ(Row(window, "lblWeeklyMaxULRate"), c.bytes);
@@ -115,15 +162,15 @@ TEST_F(StatisticsWindows, ARowFollowsWhatIsStoredTwiceASecond) {
 }
 
 TEST_F(StatisticsWindows, AStoredTextThatIsNoNumberLeavesItsRowsAloneAndIsToldOnce) {
-  Plant("CurrentDayTotalDL", "2048");
+  Set("CurrentDayTotalDL", "2048");
   T_frmConnInfo window(context);
   EXPECT_EQ(Row(window, "lblDailyDLUL"), "2 kB");
   for (const char* bad : {"", "12x", " 12", "9223372036854775808", "-"}) {
     SCOPED_TRACE(bad);
     errors.clear();
-    Plant("CurrentDayTotalDL", bad);
-    Plant("CurrentDayTotalUL", "1024");
-    Plant("CurrentMonthMaxDL", "4096");
+    Set("CurrentDayTotalDL", bad);
+    Set("CurrentDayTotalUL", "1024");
+    Set("CurrentMonthMaxDL", "4096");
     machine.timers.Advance(1500);
     EXPECT_EQ(Row(window, "lblDailyDL"), "2 kB");
     EXPECT_EQ(Row(window, "lblDailyDLUL"), "2 kB");
@@ -132,14 +179,14 @@ TEST_F(StatisticsWindows, AStoredTextThatIsNoNumberLeavesItsRowsAloneAndIsToldOn
     EXPECT_EQ(errors, (std::vector<std::string>{"'" + std::string(bad) +
                                                 "' is not a valid integer value"}));
   }
-  Plant("CurrentDayTotalDL", "1024");
+  Set("CurrentDayTotalDL", "1024");
   machine.timers.Advance(500);
   EXPECT_EQ(Row(window, "lblDailyDLUL"), "2 kB");
   EXPECT_EQ(errors.size(), 1U);
 }
 
 TEST_F(StatisticsWindows, ResetOfTheMachineWritesTheMaximaAndNothingElse) {
-  PlantAll(test::kSettings, "");
+  PlantAll(test::kSettingsKey, "");
   PlantAll(test::kAdapterDatas, "ethernet");
   traffic.RunTotalDL = 1000;
   traffic.adapter_counters.resize(2);
@@ -149,16 +196,16 @@ TEST_F(StatisticsWindows, ResetOfTheMachineWritesTheMaximaAndNothingElse) {
   T_frmConnInfo window(context);
   window.Show();
   EXPECT_EQ(Text(window, "InfoGroupBox"), "Data transferred since 17.05.2024 09:30:00");
-  const std::vector<std::string> before = Stored(test::kSettings);
-  const std::vector<std::string> adapters = Stored(test::kAdapterDatas);
+  const std::vector<std::string> before = AllOf(test::kSettingsKey);
+  const std::vector<std::string> adapters = AllOf(test::kAdapterDatas);
   machine.clock.Advance(1000);
   machine.notebook.Restart();
   machine.windowing.Press("Button3");
 
   EXPECT_EQ(machine.notebook.registry.Writes(), 2);
-  EXPECT_EQ(Stored(test::kAdapterDatas), adapters);
+  EXPECT_EQ(AllOf(test::kAdapterDatas), adapters);
   std::vector<std::string> changed;
-  const std::vector<std::string> after = Stored(test::kSettings);
+  const std::vector<std::string> after = AllOf(test::kSettingsKey);
   std::set_difference(after.begin(), after.end(), before.begin(), before.end(),
                       std::back_inserter(changed));
   EXPECT_EQ(changed, (std::vector<std::string>{"InfoMaxDL=0", "InfoMaxUL=0"}));
@@ -183,7 +230,7 @@ TEST_F(StatisticsWindows, ResetOfTheMachineWritesTheMaximaAndNothingElse) {
 }
 
 TEST_F(StatisticsWindows, ResetOfAnAdapterWritesItsFourValuesAndNothingElse) {
-  PlantAll(test::kSettings, "");
+  PlantAll(test::kSettingsKey, "");
   PlantAll(test::kAdapterDatas, "ethernet");
   PlantAll(test::kAdapterDatas, "wlan");
   traffic.RunTotalDL = 1000;
@@ -192,15 +239,15 @@ TEST_F(StatisticsWindows, ResetOfAnAdapterWritesItsFourValuesAndNothingElse) {
   T_frmSpecificConnInfo window(context, "Ethernet");
   window.Show();
   EXPECT_EQ(Text(window, "InfoGroupBox"), "Data transferred since") << "without a date as yet";
-  const std::vector<std::string> before = Stored(test::kAdapterDatas);
-  const std::vector<std::string> settings = Stored(test::kSettings);
+  const std::vector<std::string> before = AllOf(test::kAdapterDatas);
+  const std::vector<std::string> settings = AllOf(test::kSettingsKey);
   machine.clock.Advance(1000);
   machine.notebook.Restart();
   machine.windowing.Press("Button3");
   EXPECT_EQ(machine.notebook.registry.Writes(), 4);
-  EXPECT_EQ(Stored(test::kSettings), settings);
+  EXPECT_EQ(AllOf(test::kSettingsKey), settings);
   std::vector<std::string> changed;
-  const std::vector<std::string> after = Stored(test::kAdapterDatas);
+  const std::vector<std::string> after = AllOf(test::kAdapterDatas);
   std::set_difference(after.begin(), after.end(), before.begin(), before.end(),
                       std::back_inserter(changed));
   EXPECT_EQ(changed, (std::vector<std::string>{"ethernetInfoMaxDL=0", "ethernetInfoMaxUL=0",
@@ -253,7 +300,7 @@ TEST_F(StatisticsWindows, TheAddressIsCopiedWhenTheMouseIsReleased) {
   machine.clipboard.changes = 0;
   machine.windowing.Press("Button1");
   EXPECT_EQ(machine.clipboard.changes, 1) << "click and release are one";
-  test::FindOn(*window, "Button1")->OnClick();  // the blank bar
+  FindOn(*window, "Button1")->OnClick();  // the blank bar
   EXPECT_EQ(machine.clipboard.changes, 2);
   machine.windowing.PressMouse("Button1");
   Release(MouseButton::kLeft);  // elsewhere, which is no click
@@ -320,7 +367,7 @@ TEST_F(StatisticsWindows, AreLaidOutAndGoneThroughInReadingOrder) {
     }
     // Read one by one, each value comes behind its caption and before its unit.
     std::vector<std::string> names;
-    test::AddNames(*test::FindOn(window, "InfoGroupBox"), names);
+    AddNames(*FindOn(window, "InfoGroupBox"), names);
     for (const char* value : {"lblInfoMaxDL", "lblInfoTotalDLUL"}) {
       const auto at = std::find(names.begin(), names.end(), value);
       ASSERT_NE(at, names.end());
@@ -335,11 +382,11 @@ TEST_F(StatisticsWindows, AreLaidOutAndGoneThroughInReadingOrder) {
 }
 
 TEST_F(StatisticsWindows, ARefreshTouchesOnlyWhatChanged) {
-  PlantAll(test::kSettings, "");
+  PlantAll(test::kSettingsKey, "");
   T_frmConnInfo window(context);
   window.Show();
   std::vector<std::string> names;
-  test::AddNames(window, names);
+  AddNames(window, names);
   const auto touched = [&] {
     std::string all;
     for (const std::string& name : names) {
@@ -354,13 +401,13 @@ TEST_F(StatisticsWindows, ARefreshTouchesOnlyWhatChanged) {
   machine.timers.Advance(500);
   EXPECT_EQ(touched(), "");
   EXPECT_EQ(machine.notebook.registry.Writes(), 0);
-  Plant("CurrentWeekTotalUL", "2048");
+  Set("CurrentWeekTotalUL", "2048");
   machine.timers.Advance(500);
   EXPECT_EQ(touched(), "lblWeeklyUL lblWeeklyDLUL ");
 }
 
 TEST_F(StatisticsWindows, ARefreshThatFailsAnywhereIsMadeGoodByTheNext) {
-  PlantAll(test::kSettings, "");
+  PlantAll(test::kSettingsKey, "");
   traffic.RunTotalDL = 1024;
   T_frmConnInfo window(context);
   window.Show();
@@ -404,19 +451,19 @@ TEST_F(StatisticsWindows, RefreshesLeaveNothingBehind) {
 TEST_F(StatisticsWindows, TheBandwidthTabShowsTheLimitAndArmsTheAlertAgain) {
   store.WriteInteger("MoreThan", 4);
   store.WriteBool("baUpload", true);
-  Plant("CurrentDayTotalUL", "1024");
+  Set("CurrentDayTotalUL", "1024");
   machine.sockets.addresses.reset();
   T_frmConnInfo window(context);
   window.Show();
   EXPECT_EQ(Row(window, "lblBandwidthLeft"), "3 kB");
   EXPECT_EQ(Text(window, "IpAddress"), "") << "no network";
 
-  auto& box = dynamic_cast<toolkit::CheckBox&>(*test::FindOn(window, "ISBAShown"));
+  auto& box = dynamic_cast<toolkit::CheckBox&>(*FindOn(window, "ISBAShown"));
   EXPECT_FALSE(box.Checked());
   store.WriteBool("BAShow", true);  // the alert was given
   machine.timers.Advance(500);
   EXPECT_TRUE(box.Checked());
-  dynamic_cast<toolkit::PageControl&>(*test::FindOn(window, "PageControl1")).SetActivePageIndex(4);
+  dynamic_cast<toolkit::PageControl&>(*FindOn(window, "PageControl1")).SetActivePageIndex(4);
   machine.windowing.Press("ISBAShown");
   EXPECT_FALSE(store.ReadBool("BAShow", true));
 
