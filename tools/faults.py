@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Puts one fault at a time into the portable code and tells which ones no native test sees.
 
-    faults.py <build> [--count 150] [--seed 1] [--report FILE]
+    faults.py <build> [--count 150] [--seed 1] [--only REGEX] [--report FILE]
 
 A fault is a comparison turned, a constant moved, a condition inverted or a statement left out. The
 places are drawn from the seed, so that two runs over the same code put in the same ones. Places in
@@ -102,13 +102,14 @@ def main():
     asked.add_argument("build")
     asked.add_argument("--count", type=int, default=150)
     asked.add_argument("--seed", type=int, default=1)
+    asked.add_argument("--only", default="", metavar="REGEX", help="in files whose path fits")
     asked.add_argument("--report")
     asked = asked.parse_args()
     if subprocess.check_output(["git", "status", "--porcelain", "-uno"], cwd=ROOT):
         sys.exit("faults: there are changes that are not committed")
     if outcome(asked.build) != "unseen":
         sys.exit("faults: the tests fail without a fault")
-    drawn = sorted(places())
+    drawn = sorted(place for place in places() if re.search(asked.only, place[0]))
     random.Random(asked.seed).shuffle(drawn)
     report = open(asked.report, "w", encoding="utf-8") if asked.report else sys.stdout
     count = {"seen": 0, "unseen": 0}
