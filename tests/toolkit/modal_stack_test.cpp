@@ -70,7 +70,7 @@ TEST_F(Modals, NestedOnesEnableOnlyWhatTheyDisabledAndASecondRequestRaisesTheFir
     Then([&] {
       EXPECT_FALSE(first.enabled);
       EXPECT_EQ(app.Modals().Show(second), ModalResult::kCancel) << "one of its kind is open";
-      EXPECT_EQ(first.raised, 1);
+      EXPECT_EQ(Widget("inner").raised, 1) << "what stands above it with it";
       inner.EndModal(ModalResult::kYes);
     });
     EXPECT_EQ(app.Modals().Show(inner), ModalResult::kYes);
