@@ -1,22 +1,14 @@
 // The pictures and sounds that lie beside the program are such as it can use.
-#include <gtest/gtest.h>
-
-#include <fstream>
-#include <iterator>
-#include <string>
 #include <utility>
 
 #include "display/tray/bitmap_file.h"
+#include "tests/meter.h"
 
 namespace {
 
-std::string ReadAsset(const std::string& name) {
-  std::ifstream file(SOURCE_FOLDER "/assets/" + name, std::ios::binary);
-  return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-}
-
 TEST(ShippedFiles, TheTrayPicturesAreFourDifferentOnesThatLeaveRoomForTheTaskbar) {
-  const auto bitmap = display::DecodeBitmap(ReadAsset("Icons/default.bmp"));
+  const auto bitmap =
+      display::DecodeBitmap(test::ReadFile(SOURCE_FOLDER "/assets/Icons/default.bmp"));
   ASSERT_TRUE(bitmap.has_value());
   EXPECT_EQ(bitmap->size, (platform::Size{63, 16}));
   const platform::Colour see_through = bitmap->At({0, 15});
@@ -47,7 +39,7 @@ TEST(ShippedFiles, TheSoundsAreShortWaves) {
   };
   for (const Row& row : {Row{"warning.wav", 700}, Row{"ticking.wav", 80}}) {
     SCOPED_TRACE(row.name);
-    const std::string wave = ReadAsset(row.name);
+    const std::string wave = test::ReadFile(SOURCE_FOLDER "/assets/" + std::string(row.name));
     ASSERT_GT(wave.size(), 44U);
     EXPECT_EQ(wave.substr(0, 4) + wave.substr(8, 8), "RIFFWAVEfmt ");
     constexpr std::size_t kBytesAMillisecond = 44;  // 22050 Hz, 16 bits, one channel

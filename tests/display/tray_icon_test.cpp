@@ -1,20 +1,11 @@
 #include "display/tray/tray_icon.h"
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <optional>
-#include <string>
-#include <vector>
-
-#include "tests/display/meter.h"
+#include "tests/meter.h"
 
 namespace {
 
-using display::DecodeBitmap;
 using display::TrayHistory;
 using platform::Colour;
-using test::MeterTest;
 
 constexpr Colour kRed = 0x0000FF;
 constexpr Colour kBlue = 0xFF0000;
@@ -101,7 +92,7 @@ TEST(TrayHistory, OneBurstDoesNotFlattenTheIconForTheDay) {
   EXPECT_EQ(history.Level(1), 1);
 }
 
-class Tray : public MeterTest {
+class Tray : public test::Meter {
  protected:
   Colour At(int x, int y) {
     const platform::memory::Raster* picture = machine.notification_area.Picture();
@@ -111,6 +102,18 @@ class Tray : public MeterTest {
     int height = 0;
     for (int y = 0; y < 16; ++y) height += At(x, y) == colour ? 1 : 0;
     return height;
+  }
+  int Bars() {
+    int height = 0;
+    for (int x = 0; x < 16; ++x) height += Bar(x, kRed) + Bar(x, kBlue);
+    return height;
+  }
+  platform::Size Extent() { return machine.notification_area.Picture()->Extent(); }
+  // How often a scan gives the shell a picture.
+  int UpdatesOf(test::Traffic traffic) {
+    const int before = machine.notification_area.picture_updates;
+    Scan(traffic);
+    return machine.notification_area.picture_updates - before;
   }
   void UsePictures(const std::string& bytes) {
     machine.files.Put(machine.files.ProgramFolder() + "Icons\\default.bmp", bytes);
@@ -131,152 +134,39 @@ TEST_F(Tray, TheHistogramIsFramedAndItsBarsMoveToTheLeft) {
     EXPECT_EQ(At(14, 6), kRed);
     EXPECT_EQ(At(14, 1), kWhite) << "the end point of a line is not painted";
     EXPECT_EQ(At(14, 14), kBlue);
+    machine.interface_table.AddRow(platform::memory::MakeRow("Another"));
     for (int column = 13; column >= 1; --column) {
       Scan({});
       EXPECT_EQ(Bar(column, kRed), 5);
       EXPECT_EQ(Bar(column + 1, kRed), 0);
     }
     Scan({});
-    for (int x = 0; x < 16; ++x) EXPECT_EQ(Bar(x, kRed) + Bar(x, kBlue), 0);
+    EXPECT_EQ(Bars(), 0);
+    Scan({5000, 800});
+    Choose("Clear Graph");
+    EXPECT_EQ(Bars(), 0);
+    Scan({1, 0});
+    EXPECT_EQ(Bar(14, kRed), 5) << "the burst before is forgotten";
   });
   EXPECT_FALSE(machine.notification_area.Present()) << "the icon goes with the program";
 }
 
-TEST_F(Tray, AdaptersThatComeDoNotEmptyTheHistory) {
-  Run([&] {
-    Scan({5000, 0});
-    machine.interface_table.AddRow(platform::memory::MakeRow("Another"));
-    Scan({});
-    EXPECT_EQ(Bar(13, kRed), 5);
-  });
-}
-
 TEST_F(Tray, TheShellIsGivenOnlyWhatItDoesNotShow) {
   Run([&] {
-    const auto updates_of = [&](test::Traffic traffic) {
-      const int before = machine.notification_area.picture_updates;
-      Scan(traffic);
-      return machine.notification_area.picture_updates - before;
-    };
-    EXPECT_EQ(updates_of({}), 0) << "an idle line";
-    EXPECT_EQ(updates_of({5000, 0}), 1) << "the upper half";
-    EXPECT_EQ(updates_of({5000, 800}), 2);
+    EXPECT_EQ(UpdatesOf({}), 0) << "an idle line";
+    EXPECT_EQ(UpdatesOf({5000, 0}), 1) << "the upper half";
+    EXPECT_EQ(UpdatesOf({5000, 800}), 2);
     machine.notification_area.busy = true;
     for (int i = 0; i < 20; ++i) Scan({});
-    EXPECT_EQ(updates_of({}), 2) << "what was not taken is given again";
+    EXPECT_EQ(UpdatesOf({}), 2) << "what was not taken is given again";
     machine.notification_area.busy = false;
-    EXPECT_EQ(updates_of({}), 2);
+    EXPECT_EQ(UpdatesOf({}), 2);
     EXPECT_EQ(Bar(1, kRed), 0);
-    EXPECT_EQ(updates_of({}), 0);
-    machine.notification_area.picture_size = 32;
-    EXPECT_EQ(updates_of({}), 2) << "another size";
-  });
-}
-
-TEST_F(Tray, ClearGraphEmptiesTheHistogram) {
-  Run([&] {
-    Scan({5000, 800});
-    Choose("Clear Graph");
-    for (int x = 0; x < 16; ++x) EXPECT_EQ(Bar(x, kRed) + Bar(x, kBlue), 0);
-    Scan({1, 0});
-    EXPECT_EQ(Bar(14, kRed), 5) << "the burst before is forgotten";
-  });
-}
-
-TEST_F(Tray, PicturesMayBeAsLargeAsTheUserLikes) {
-  Set("IconType", 0U);
-  for (const int times : {1, 2, 4}) {
-    SCOPED_TRACE(times);
-    UsePictures(Pictures({0x111111, 0x222222, 0x333333, 0x444444}, times));
-    Run([&] {
-      Scan({100, 100});
-      EXPECT_EQ(At(3, 3), 0x444444U);
-    });
-  }
-}
-
-TEST_F(Tray, ActivityIsShownByFourPictures) {
-  constexpr Colour kPictures[] = {0x111111, 0x222222, 0x333333, 0x444444};
-  UsePictures(Pictures({kPictures[0], kPictures[1], kPictures[2], kPictures[3]}));
-  Set("IconType", 0U);
-  Run([&] {
-    EXPECT_EQ(At(3, 3), kPictures[0]);
-    Scan({100, 100});
-    EXPECT_EQ(At(3, 3), kPictures[3]);
-    Scan({100, 0});
-    EXPECT_EQ(At(3, 3), kPictures[2]);
-    Scan({0, 100});
-    EXPECT_EQ(At(3, 3), kPictures[1]);
-    Scan({});
-    EXPECT_EQ(At(3, 3), kPictures[0]);
-    const int updates = machine.notification_area.picture_updates;
-    Scan({});
-    EXPECT_EQ(machine.notification_area.picture_updates, updates) << "nothing has changed";
-    machine.notification_area.picture_size = 32;
-    Scan({});
-    EXPECT_EQ(machine.notification_area.Picture()->Extent(), (platform::Size{32, 32}));
-  });
-}
-
-TEST_F(Tray, APictureFileThatIsNoneIsReplacedInUseAndNotInTheStore) {
-  const std::string good = Pictures({0x555555, 1, 2, 3});
-  UsePictures(good);
-  Set("IconType", 0U);
-  const std::string path = machine.files.ProgramFolder() + "mine.bmp";
-  struct Row {
-    const char* why;
-    std::string bytes;
-  };
-  std::string compressed = good;
-  compressed[30] = 1;
-  std::string huge = good;
-  huge[21] = 0x7F;  // two thousand million columns
-  const std::vector<Row> rows = {
-      {"empty", ""},
-      {"no bitmap", std::string(2000, 'x')},
-      {"cut off", good.substr(0, good.size() - 1)},
-      {"another size", BitmapOf({1, 2, 3}, 16)},
-      {"compressed", compressed},
-      {"larger than any screen", huge},
-      {"larger than a picture can be", std::string(3U << 20, '\0')},
-  };
-  for (const Row& row : rows) {
-    SCOPED_TRACE(row.why);
-    machine.files.Put(path, row.bytes);
-    Set("TrayIconFile", path);
-    Run([&] { EXPECT_EQ(At(3, 3), 0x555555U); });
-    EXPECT_EQ(StoredText("TrayIconFile"), path);
-  }
-  Set("TrayIconFile", "C:\\nowhere.bmp");
-  Run([&] { EXPECT_EQ(At(3, 3), 0x555555U); });
-  machine.files.Remove(machine.files.ProgramFolder() + "Icons\\default.bmp");
-  Run([&] { EXPECT_EQ(At(14, 6), kWhite) << "without any picture the empty histogram"; });
-}
-
-TEST_F(Tray, AnotherIconTypeIsLeftAlone) {
-  Set("IconType", 2);
-  Run([&] {
-    const int updates = machine.notification_area.picture_updates;
-    Scan({5000, 5000});
-    EXPECT_EQ(machine.notification_area.picture_updates, updates);
-    EXPECT_EQ(Bar(14, kRed), 0);
-    Set("IconType", 1);
-    Scan({10, 0});
-    EXPECT_EQ(Bar(14, kRed), 5);
-    EXPECT_EQ(Bar(13, kRed), 0) << "the history stood still meanwhile";
-
-    UsePictures(Pictures({1, 2, 0x333333, 4}));
-    Set("IconType", 0U);
-    Scan({10, 0});
-    EXPECT_EQ(At(3, 3), 0x333333U) << "the pictures are loaded when they are first wanted";
-  });
-}
-
-TEST_F(Tray, IsEnlargedByWholePixelsWhereTheScreenAsksForMore) {
-  machine.notification_area.picture_size = 32;
-  Run([&] {
+    EXPECT_EQ(UpdatesOf({}), 0);
     Scan({5000, 0});
-    EXPECT_EQ(machine.notification_area.Picture()->Extent(), (platform::Size{32, 32}));
+    machine.notification_area.picture_size = 32;
+    EXPECT_EQ(UpdatesOf({5000, 0}), 2) << "another size";
+    EXPECT_EQ(Extent(), (platform::Size{32, 32}));
     EXPECT_EQ(At(28, 12), kRed);
     EXPECT_EQ(At(29, 13), kRed);
     EXPECT_EQ(At(28, 3), kWhite);
@@ -287,102 +177,117 @@ TEST_F(Tray, IsEnlargedByWholePixelsWhereTheScreenAsksForMore) {
   });
 }
 
-TEST_F(Tray, TheHintCarriesTheLineWithEveryTick) {
-  Set("SOM1", 1);
-  Set("SOM2", 0U);
+TEST_F(Tray, ActivityIsShownByFourPicturesAsLargeAsTheUserLikes) {
+  constexpr Colour kPictures[] = {0x111111, 0x222222, 0x333333, 0x444444};
+  Set("IconType", 0);
+  for (const int times : {1, 2, 4}) {
+    SCOPED_TRACE(times);
+    UsePictures(Pictures({kPictures[0], kPictures[1], kPictures[2], kPictures[3]}, times));
+    Run([&] {
+      EXPECT_EQ(At(3, 3), kPictures[0]);
+      Scan({100, 100});
+      EXPECT_EQ(At(3, 3), kPictures[3]);
+      Scan({100, 0});
+      EXPECT_EQ(At(3, 3), kPictures[2]);
+      Scan({0, 100});
+      EXPECT_EQ(At(3, 3), kPictures[1]);
+      Scan({});
+      EXPECT_EQ(At(3, 3), kPictures[0]);
+      EXPECT_EQ(UpdatesOf({}), 0) << "nothing has changed";
+      machine.notification_area.picture_size = 32;
+      EXPECT_EQ(UpdatesOf({}), 1);
+      EXPECT_EQ(Extent(), (platform::Size{32, 32}));
+      machine.notification_area.busy = true;
+      EXPECT_EQ(UpdatesOf({0, 1}) + UpdatesOf({0, 1}), 2) << "what was not taken is given again";
+      machine.notification_area.busy = false;
+      machine.notification_area.picture_size = 16;
+    });
+  }
+}
+
+TEST_F(Tray, APictureFileThatIsNoneIsReplacedInUseAndNotInTheStore) {
+  const std::string good = Pictures({0x555555, 1, 2, 3});
+  UsePictures(good);
+  Set("IconType", 0);
+  const std::string path = machine.files.ProgramFolder() + "mine.bmp";
+  struct Row {
+    const char* why;
+    std::string bytes;
+    Colour shown = 0x555555;
+  };
+  std::string compressed = good;
+  compressed[30] = 1;
+  std::string huge = good;
+  huge[21] = 0x7F;  // two thousand million columns
+  const std::vector<Row> rows = {
+      {"a good one", Pictures({0x666666, 1, 2, 3}), 0x666666},
+      {"empty", ""},
+      {"no bitmap", std::string(2000, 'x')},
+      {"cut off", good.substr(0, good.size() - 1)},
+      {"another size", BitmapOf({1, 2, 3}, 16)},
+      {"one column less", BitmapOf(std::vector<Colour>(62, 1), 16)},
+      {"compressed", compressed},
+      {"larger than any screen", huge},
+      {"larger than a picture can be", std::string(3U << 20, '\0')},
+  };
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.why);
+    machine.files.Put(path, row.bytes);
+    Set("TrayIconFile", path);
+    Run([&] { EXPECT_EQ(At(3, 3), row.shown); });
+    EXPECT_EQ(StoredText("TrayIconFile"), path);
+  }
+  Set("TrayIconFile", "C:\\nowhere.bmp");
+  Run([&] { EXPECT_EQ(At(3, 3), 0x555555U); });
+  const auto loads = [&] {
+    const int before = machine.files.loads;
+    Run([] {});
+    return machine.files.loads - before;
+  };
+  Set("IconType", 1);
+  const int without = loads();
+  Set("StartIconMode", 1);
+  EXPECT_EQ(loads(), without + 2) << "its file and the built-in one are looked at";
+  machine.files.Remove(machine.files.ProgramFolder() + "Icons\\default.bmp");
+  Set("IconType", 0);
+  Run([&] { EXPECT_EQ(At(14, 6), kWhite) << "without any picture the empty histogram"; });
+}
+
+TEST_F(Tray, AnotherIconTypeIsLeftAlone) {
+  Set("IconType", 2);
   Run([&] {
-    EXPECT_EQ(machine.notification_area.hint, "Korvane Tremolux");
-    Scan({1024, 0});
-    EXPECT_EQ(machine.notification_area.hint, "Korvane Tremolux [ DL:1 kB UL:0,0 kB ]");
-    Set("SOM1", 0U);
-    Scan({1024, 0});
-    EXPECT_EQ(machine.notification_area.hint, "Korvane Tremolux ");
+    EXPECT_EQ(UpdatesOf({5000, 5000}), 0);
+    EXPECT_EQ(Bar(14, kRed), 0);
+    Set("IconType", 1);
+    Scan({10, 0});
+    EXPECT_EQ(Bar(14, kRed), 5);
+    EXPECT_EQ(Bar(13, kRed), 0) << "the history stood still meanwhile";
+
+    UsePictures(Pictures({1, 2, 0x333333, 4}));
+    Set("IconType", 0);
+    Scan({10, 0});
+    EXPECT_EQ(At(3, 3), 0x333333U) << "the pictures are loaded when they are first wanted";
   });
 }
 
 TEST_F(Tray, ClicksShowAndHideTheMeterAndOpenTheMenu) {
   Run([&] {
+    const auto& meter = Widget("T_frmBrisanto");
     machine.notification_area.Click();
-    EXPECT_FALSE(Widget("T_frmBrisanto").visible);
-    EXPECT_FALSE(App().ShowMainForm);
+    EXPECT_FALSE(meter.visible || App().ShowMainForm);
     Scan({100, 0});
-    EXPECT_FALSE(Widget("T_frmBrisanto").visible);
+    EXPECT_FALSE(meter.visible);
     machine.notification_area.Click();
-    EXPECT_TRUE(Widget("T_frmBrisanto").visible);
-    EXPECT_EQ(Widget("T_frmBrisanto").shown_with, platform::Activation::kLeaveFocus);
-    machine.windowing.DoubleClick("_tlkInterMeter");
-    EXPECT_FALSE(Widget("T_frmBrisanto").visible);
-    machine.menus.WillChoose("Show / Hide Graph");
-    machine.notification_area.RightClick({900, 700});
+    EXPECT_TRUE(meter.visible && App().ShowMainForm);
+    EXPECT_EQ(meter.shown_with, platform::Activation::kLeaveFocus);
+    for (const char* name : {"_tlkInterMeter", "_tlkDLULMeter"}) {
+      User().DoubleClick(name);
+      EXPECT_FALSE(meter.visible) << name;
+      ChooseInTray("Show / Hide Graph");
+      EXPECT_TRUE(meter.visible);
+    }
     EXPECT_EQ(machine.menus.last_at, (platform::Point{900, 700}));
-    EXPECT_TRUE(Widget("T_frmBrisanto").visible);
   });
-}
-
-TEST(DecodeBitmap, ReadsPalettesAndRowsFromTheTop) {
-  std::string bytes = "BM";
-  Append(bytes, 0, 8);
-  Append(bytes, 54 + 16 * 4, 4);
-  Append(bytes, 40, 4);
-  Append(bytes, 3, 4);
-  Append(bytes, static_cast<std::uint32_t>(-2), 4);  // the first row is the upper one
-  Append(bytes, 1, 2);
-  Append(bytes, 4, 2);
-  Append(bytes, 0, 24);
-  for (std::uint32_t i = 0; i < 16; ++i) Append(bytes, i << 16U, 4);  // red i, in the file's order
-  bytes += std::string("\x12\x30\x00\x00\x45\x60\x00\x00", 8);
-  const auto picture = DecodeBitmap(bytes);
-  ASSERT_TRUE(picture.has_value());
-  EXPECT_EQ(picture->At({0, 0}), 1U);
-  EXPECT_EQ(picture->At({2, 0}), 3U);
-  EXPECT_EQ(picture->At({1, 1}), 5U);
-}
-
-TEST(DecodeBitmap, ReadsColoursOfEveryWidth) {
-  struct Row {
-    const char* why;
-    std::uint32_t header;
-    std::uint32_t bits;
-    std::vector<std::uint32_t> masks;  // red, green, blue; without them the usual ones
-    std::uint32_t pixel;
-    std::optional<Colour> colour;
-  };
-  const std::vector<std::uint32_t> k565{0xF800, 0x7E0, 0x1F};
-  const std::vector<std::uint32_t> kRgb{0xFF0000, 0xFF00, 0xFF};
-  const Row rows[] = {
-      {"16 bits", 40, 16, {}, 0x7C10, 0x8400FF},
-      {"24 bits", 40, 24, {}, 0x112233, 0x332211},
-      {"32 bits", 40, 32, {}, 0xAA112233, 0x332211},
-      {"16 bits with masks", 40, 16, k565, 0x07FF, 0xFFFF00},
-      {"32 bits with masks", 40, 32, kRgb, 0xAA112233, 0x332211},
-      {"of version 4", 108, 32, kRgb, 0xAA112233, 0x332211},
-      {"of version 5, in another order", 124, 32, {0xFF, 0xFF00, 0xFF0000}, 0x112233, 0x112233},
-      {"ten bits a colour", 124, 32, {0x3FF00000, 0xFFC00, 0x3FF}, 0x3FF00001, 0x0000FF},
-      {"without green", 40, 32, {0xFF0000, 0, 0xFF}, 0x112233, 0x330011},
-      {"24 bits have no masks", 40, 24, kRgb, 0x112233, std::nullopt},
-  };
-  for (const Row& row : rows) {
-    SCOPED_TRACE(row.why);
-    std::string header;
-    Append(header, row.header, 4);
-    Append(header, 1, 4);
-    Append(header, 1, 4);
-    Append(header, 1, 2);
-    Append(header, row.bits, 2);
-    Append(header, row.masks.empty() ? 0 : 3, 4);
-    header.resize(40);
-    for (const std::uint32_t mask : row.masks) Append(header, mask, 4);
-    header.resize(std::max<std::size_t>(header.size(), row.header));
-    std::string bytes = "BM";
-    Append(bytes, 0, 8);
-    Append(bytes, static_cast<std::uint32_t>(14 + header.size()), 4);
-    bytes += header;
-    Append(bytes, row.pixel, 4);
-    const auto picture = DecodeBitmap(bytes);
-    ASSERT_EQ(picture.has_value(), row.colour.has_value());
-    if (!picture) continue;
-    EXPECT_EQ(picture->At({0, 0}), row.colour);
-  }
 }
 
 }  // namespace
