@@ -48,6 +48,10 @@ TEST_F(Leaving, AsksWhatThereIsToAskWhicheverWayTheUserGoes) {
     At(kSecurityForm, Press("CancelButton"));  // it is still there
   };
   const Act no = Press("btnNo");
+  const Act enter = [&] {
+    User().PressTab(kAreYouSureForm, true);  // away from the button
+    User().PressEnter(kAreYouSureForm);
+  };
   struct Row {
     const char* why;
     bool lock, ask;
@@ -57,13 +61,12 @@ TEST_F(Leaving, AsksWhatThereIsToAskWhicheverWayTheUserGoes) {
   const Row rows[] = {
       {"nothing to ask", false, false, nothing, nothing, true},
       {"Yes", false, true, nothing, Press("btnYes"), true},
-      {"Enter is Yes", false, true, nothing, [&] { User().PressEnter(kAreYouSureForm); }, true},
+      {"Enter is Yes", false, true, nothing, enter, true},
       {"No", false, true, nothing, no, false},
       {"Esc is No", false, true, nothing, [&] { User().PressEsc(kAreYouSureForm); }, false},
       {"the password is enough", true, false, password, nothing, true},
       {"a wrong one is not", true, true, wrong, nothing, false},
-      {"password, then Enter", true, true, password, [&] { User().PressEnter(kAreYouSureForm); },
-       true},
+      {"password, then Enter", true, true, password, enter, true},
       {"password, then No", true, true, password, no, false},
   };
   const std::pair<const char*, Act> ways[] = {

@@ -48,7 +48,7 @@ TEST_F(Reading, ShowsWhatIsStoredAndChangesNoStoredValue) {
       {"SpeedLimit", Number(999999999), "CustomScale", "7999999992"},
       {"Win2kTransparentRatio", Number(4000), "Win2kTransTrack", "255"},
       {"Win2kTransparentRatio", Number(4000), "lblWin2kTransTrack", "&Opacity: 100 %"},
-      {"Win2kTransparentRatio", Number(128), "lblWin2kTransTrack", "&Opacity: 50 %"},
+      {"Win2kTransparentRatio", Number(4), "lblWin2kTransTrack", "&Opacity: 2 %"},
       {"AvarageTime", Number(4000), "lblAvarageTime", "4000"},
       {"AvarageTime", Number(4001), "AvarageTrackBar", "60"},
       {"MoreThan", Number(0), "MoreThan", "0"},

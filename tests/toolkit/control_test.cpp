@@ -43,12 +43,15 @@ TEST_F(Controls, AlignedOnesFillTheFormAroundHiddenSiblings) {
 }
 
 TEST_F(Controls, AreLaidOutInDesignPixelsAtTheResolutionOfTheirForm) {
+  Panel panel(form, "panel");
+  panel.SetFont({"Verdana", 20, false});
+  EXPECT_EQ(Label(panel, "inner").Font(), panel.Font()) << "that of its parent";
   Label label(form, "label");
   label.SetBounds({10, 20, 100, 15});
-  label.SetFont({"Tahoma", 11, false});
+  label.SetFont({"Tahoma", 11, true});
   User().ChangeDpi("form", 144, {0, 0, 450, 450});
   EXPECT_EQ(Widget("label").bounds, (Rect{15, 30, 150, 23}));
-  EXPECT_EQ(Widget("label").font.height, 17);
+  EXPECT_EQ(Widget("label").font, (platform::FontSpec{"Tahoma", 17, true}));
   EXPECT_EQ(form.ClientPixels(), (platform::Size{450, 450}));
   for (const int dpi : {96, 120, 144, 192, 288}) {
     for (int pixels = -300; pixels <= 300; ++pixels) {
