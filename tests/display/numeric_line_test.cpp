@@ -80,7 +80,11 @@ TEST_F(NumericLine, TheAverageChangesEverySixthScanAndLeavesThatScanOut) {
     Scan({1024, 2048});
     Scan({});
     EXPECT_EQ(Line(), "[ Average DL:1 kB UL:2 kB ]") << "another period starts it anew";
+    Set("SOM2", 0);
+    Scan({});
+    EXPECT_EQ(Line(), "Korvane Tremolux");
   });
+  Set("SOM2", 1);
   for (const std::uint32_t period : {0U, 0xFFFFFFFFU}) {
     Set("AvarageTime", period);
     Run([&] {

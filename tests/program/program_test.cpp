@@ -12,21 +12,24 @@ class Program : public test::Meter {
     const char* name;
     const char* what;
     std::function<void()> open;
+    std::string place = "";  // the key that keeps where it stands; empty where none does
     bool modal = true;
   };
   const std::vector<Window> kWindows = {
       {"T_frmAbout", "about", [this] { ChooseInTray("About Korvane Tremolux"); }},
       {"T_frmAddTitles", "titles",
-       [this] { App().Guard([this] { Meter::Window().EditTitles(); }); }},
+       [this] { App().Guard([this] { Meter::Window().EditTitles(); }); }, "AddTitles"},
       {"T_frmAreYouSure", "question", [this] { ChooseInTray("Exit"); }},
       {"T_frmSecurity", "prompt", [this] { ChooseInTray("Settings..."); }},
-      {"T_frmSpecificConnInfo", "adapter", [this] { ChooseInTray("Ethernet"); }},
+      {"T_frmSpecificConnInfo", "adapter", [this] { ChooseInTray("Ethernet"); },
+       "SpecificConnInfo"},
       {"T_frmBandWidthAlert", "alert",
        [this] {
          Scan({2048, 0});
        }},
-      {"T_frmConnInfo", "machine", [this] { ChooseInTray("DL-UL Statistics"); }, false},
-      {"T_frmPreferences", "preferences", [this] { ChooseInTray("Settings..."); }, false},
+      {"T_frmConnInfo", "machine", [this] { ChooseInTray("DL-UL Statistics"); }, "ConnInfo", false},
+      {"T_frmPreferences", "preferences", [this] { ChooseInTray("Settings..."); }, "Settings",
+       false},
   };
 
   // Stores what makes the program open the window, and nothing that opens others.
@@ -52,6 +55,7 @@ TEST_F(Program, EachWindowIsLaidOutAboveTheMeterIsRaisedByTheMenuAndCloses) {
     SCOPED_TRACE(window.what);
     Prepare(window);
     Run([&] {
+      int left = 0;
       const std::vector<std::function<void()>> ways = {[&] { User().ClickCloseBox(window.name); },
                                                        [&] { User().PressEsc(window.name); }};
       for (const auto& close : ways) {
@@ -71,6 +75,13 @@ TEST_F(Program, EachWindowIsLaidOutAboveTheMeterIsRaisedByTheMenuAndCloses) {
           for (const char* other :
                {"About Korvane Tremolux", "Ethernet", "DL-UL Statistics", "Settings..."}) {
             if (window.modal) raises(other, [&] { ChooseInTray(other); });
+          }
+          if (!window.place.empty()) {
+            EXPECT_EQ(Widget(window.name).bounds.left == 40, left == 40) << "where it was";
+            User().Drag(window.name, {left = 40, 50});
+            EXPECT_EQ(machine.registry.Dword(
+                          "Software\\BrisantoNET\\Settings\\" + window.place + "Screen", "Left"),
+                      40U);
           }
           close();
         });

@@ -248,6 +248,11 @@ TEST_F(SavedPlacement, APlaceOnAMissingMonitorIsKeptAndComesBackWithIt) {
   DisplayChanges();
   EXPECT_EQ(run.At(), (Rect{10, 20, 274, 135})) << "that is where the user has it";
   EXPECT_EQ(Stored(), run.At());
+  Store(2000, 300, 274, 135);
+  machine.screen.monitors.pop_back();
+  Program last(machine);
+  Place({700, 300, 274, 135});
+  EXPECT_EQ(Stored().left, 700) << "no monitor came or went";
 }
 
 // The first monitor is 1280 x 1024, its work area 984 high; the second one has twice the dpi.
