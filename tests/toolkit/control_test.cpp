@@ -1,12 +1,10 @@
-// What all controls have: place, resolution, menu, hint.
+// What all controls have: place, resolution, hint.
 #include "toolkit/controls/control.h"
 
 #include "tests/toolkit/form_fixture.h"
-#include "toolkit/controls/colour_panel.h"
 #include "toolkit/controls/label.h"
 #include "toolkit/controls/panel.h"
 #include "toolkit/design_pixels.h"
-#include "toolkit/menus/popup_menu.h"
 
 namespace toolkit {
 namespace {
@@ -58,34 +56,6 @@ TEST_F(Controls, AreLaidOutInDesignPixelsAtTheResolutionOfTheirForm) {
       ASSERT_EQ(UnscaleFrom(dpi, ScaleTo(dpi, pixels)), pixels) << dpi;
     }
   }
-}
-
-TEST_F(Controls, APopupMenuServesTheControlsThatHaveNone) {
-  Panel panel(form, "panel");
-  Label label(panel, "label");
-  ImageList images;
-  PopupMenu menu(app, images);
-  menu.Items.Add("Exit");
-  form.SetPopupMenu(&menu);
-  form.Show();
-  User().RightClick("label", {1, 2});
-  EXPECT_EQ(machine.menus.opened, 1);
-  label.SetEnabled(false);
-  User().RightClick("label", {1, 2});
-  EXPECT_EQ(machine.menus.opened, 1);
-}
-
-TEST_F(Controls, AColourPanelShowsItsColourAndCanBeClicked) {
-  ColourPanel panel(form, "panel");
-  panel.SetBounds({0, 0, 40, 20});
-  panel.SetColour(platform::colour::kLime);
-  form.Show();
-  int clicks = 0;
-  panel.OnClick = [&] { ++clicks; };
-  User().Press("panel");
-  EXPECT_EQ(clicks, 1);
-  EXPECT_EQ(User().TabOrder("form"), Names{"panel"});
-  EXPECT_EQ(Widget("panel").Paint(machine.screen)->Pixel({20, 10}), platform::colour::kLime);
 }
 
 TEST_F(Controls, HintsComeAfterThePauseStayForTheirTimeAndGoWithTheirControl) {

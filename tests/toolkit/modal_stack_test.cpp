@@ -6,7 +6,6 @@
 
 #include "tests/toolkit/form_fixture.h"
 #include "toolkit/controls/button.h"
-#include "toolkit/timer.h"
 
 namespace toolkit {
 namespace {
@@ -124,32 +123,6 @@ TEST_F(Modals, ADialogOfTheSystemDisablesEveryFormAndWaitsWhileAnotherIsOpen) {
   EXPECT_TRUE(ran) << "ended with the program";
   EXPECT_EQ(AskForFile(), std::nullopt);
   EXPECT_FALSE(ran) << "none begins after its end";
-}
-
-TEST_F(Modals, KeepTimersGoingAndEndThoseOfTheirForm) {
-  struct Ticking : Form {
-    explicit Ticking(Application& app) : Form(app, Params("ticking")) { timer.SetEnabled(true); }
-    int ticks = 0;
-    Timer timer{App(), 500, [this] { ++ticks; }};
-  };
-  int scans = 0;
-  Timer scan(app, 1000, [&] {
-    ++scans;
-    throw std::runtime_error("broken");
-  });
-  scan.SetEnabled(true);
-  {
-    Ticking ticking(app);
-    Then([&] {
-      machine.timers.Advance(3000);
-      ticking.EndModal(ModalResult::kOk);
-    });
-    EXPECT_EQ(app.Modals().Show(ticking), ModalResult::kOk);
-    EXPECT_EQ(ticking.ticks, 6);
-  }
-  EXPECT_EQ(scans, 3);
-  EXPECT_EQ(errors, Names(3, "broken")) << "an exception ends its handler alone";
-  EXPECT_EQ(machine.timers.Running(), 1);
 }
 
 }  // namespace

@@ -23,30 +23,6 @@ class Menu : public FormTest {
   std::string done;
 };
 
-TEST_F(Menu, RunsTheHandlerOfTheChosenItemAtAnyDepth) {
-  menu.Items.Add("First").OnClick = [&] { done += "first "; };
-  MenuItem& sub = menu.Items.Add("Sub");
-  sub.Add("Inner").OnClick = [&] { done += "inner "; };
-  MenuItem& off = sub.Add("Off");
-  off.Enabled = false;
-  off.OnClick = [&] { done += "off "; };
-  Choose("First");
-  Choose("Inner");
-  Choose("Off");
-  EXPECT_EQ(done, "first inner ");
-}
-
-TEST_F(Menu, ARadioItemTakesTheCheckFromItsSiblingsOnly) {
-  MenuItem& a = menu.Items.Add("a");
-  MenuItem& b = menu.Items.Add("b");
-  MenuItem& box = menu.Items.Add("box");
-  a.RadioItem = b.RadioItem = true;
-  box.SetChecked(true);
-  a.SetChecked(true);
-  b.SetChecked(true);
-  EXPECT_TRUE(!a.Checked() && b.Checked() && box.Checked());
-}
-
 TEST_F(Menu, AnItemMayGoWhileTheMenuIsOpenOrWhenItIsChosen) {
   MenuItem& adapters = menu.Items.Add("Adapters");
   adapters.Add("eth0").OnClick = [&] { done = "it was gone"; };
@@ -62,20 +38,6 @@ TEST_F(Menu, AnItemMayGoWhileTheMenuIsOpenOrWhenItIsChosen) {
   EXPECT_EQ(done, "");
   Choose("eth1");
   EXPECT_EQ(done, "a name that lives on the heap");
-}
-
-TEST_F(Menu, AllThatWaitsForItsEndRunsInsteadOfTheChoice) {
-  menu.Items.Add("First").OnClick = [&] { done += "choice "; };
-  Open([&](const auto&, auto&) {
-    menu.CloseThen([&] { done += "alert "; });
-    menu.CloseThen([&] { done += "exit "; });
-    EXPECT_EQ(done, "");
-    EXPECT_TRUE(machine.menus.cancelled);
-    return 1;
-  });
-  EXPECT_EQ(done, "alert exit ");
-  menu.CloseThen([&] { done += "closed"; });
-  EXPECT_EQ(done, "alert exit closed");
 }
 
 TEST_F(Menu, ALongNameIsCutAndTheHintOfAnItemShowsWhileItIsHighlighted) {
