@@ -131,9 +131,8 @@ TEST_F(GraphPicture, IsDrawnPixelByPixel) {
 }
 
 TEST_F(GraphPicture, DownloadAndUploadAreBothSeenWhateverTheirSizes) {
-  for (const test::Traffic traffic :
-       {test::Traffic{1000, 1000}, {1000, 1}, {1, 1000}, {500, 1000}, {1, 1}}) {
-    for (const std::uint32_t width : {1U, 2U, 3U, 8U}) {
+  for (const test::Traffic traffic : {test::Traffic{1000, 1000}, {1000, 1}, {1, 1000}, {1, 1}}) {
+    for (const std::uint32_t width : {1U, 2U, 3U}) {
       Set("PulseWidth", width);
       Run([&] {
         Scan(traffic);
@@ -202,17 +201,18 @@ TEST_F(GraphPicture, GridLinesOfOddSpacingAreLeftOutAndOfOddStylesAreSolid) {
 }
 
 TEST_F(GraphPicture, OddStoredValuesAreDrawnAsTheNearestThatCanBe) {
-  for (const char* name : {"PulseWidth", "PulseSpace", "BorderWidth", "BevelWidth", "BevelInner",
-                           "GraphScaleType", "SpeedLimit"}) {
-    for (const std::uint32_t value : {0U, 1U, 99U, 4000U, 0x7FFFFFFFU, 0x80000000U, 0xFFFFFFFFU}) {
-      Set(name, value);
-      Run([&] {
+  Run([&] {
+    for (const char* name : {"PulseWidth", "PulseSpace", "BorderWidth", "BevelWidth", "BevelInner",
+                             "GraphScaleType", "SpeedLimit"}) {
+      for (const std::int64_t value : {0LL, 99LL, 4000LL, 0x7FFFFFFFLL, 0x80000000LL, -1LL}) {
+        Set(name, value);
+        Window().ApplyDisplaySettings();
         Scan({1024, 512});
         EXPECT_EQ(Graph()->Extent(), Widget("_tlkInterMeter").ClientSize());
-      });
+      }
+      machine.registry.Remove(test::kSettingsKey, name);
     }
-    machine.registry.Remove(test::kSettingsKey, name);
-  }
+  });
   EXPECT_EQ(ErrorLog(), "");
 }
 

@@ -37,17 +37,14 @@ class Options : public test::Meter {
   }
   // What the user sees of the meter, part by part.
   Values Look() {
-    const auto picture = [](const platform::memory::Raster* raster) {
-      std::string text;
-      for (const platform::Colour c : raster ? Pixels(*raster) : std::vector<platform::Colour>()) {
-        text += std::to_string(c) + ",";
-      }
-      return text;
+    const auto picture = [](const platform::memory::Raster& raster) {
+      const auto pixels = Pixels(raster);
+      return std::string(pixels.begin(), pixels.end());  // the lowest byte tells the colours apart
     };
     const display::GraphLook& look = Parts().graph.Look();
     const auto& line = Widget("_tlkDLULMeter");
-    return {{"graph", picture(Graph().get())},
-            {"tray", picture(machine.notification_area.Picture())},
+    return {{"graph", picture(*Graph())},
+            {"tray", picture(*machine.notification_area.Picture())},
             {"line", Line()},
             {"ink", std::to_string(line.text_colour)},
             {"paper", std::to_string(line.background)},
