@@ -184,7 +184,13 @@ TEST_F(Options, WorkedOnceStoreTheirValueAndShowInTheMeter) {
            {Press("Post0"), "WindowTitle=0", ""}});
     Check("Other",
           {{Slide("Win2kTransTrack", 100), "Win2kTransparentRatio=100", "alpha=100"},
+           {[&] { User().PointAt("_tlkInterMeter"); }, "", "alpha=255"},
+           {Press("AutoTransparentONOFF"), "AutoTransparentONOFF=0", "alpha=100"},
+           {Press("AutoTransparentONOFF"), "AutoTransparentONOFF=1", "alpha=255"},
+           {Slide("Win2kTransTrack", 101), "Win2kTransparentRatio=101", ""},
+           {[&] { User().PointAway(); }, "", "alpha=101"},
            {Press("AutoTransparentONOFF"), "AutoTransparentONOFF=0", ""},
+           {Press("AutoTransparentONOFF"), "AutoTransparentONOFF=1", ""},
            {Press("TransparentFade"), "TransparentFade=1", ""},
            {Press("AskOnExit"), "AskOnExit=0", ""},
            {Press("DLSwitchScr"), "DLSwitchScr=1", ""},

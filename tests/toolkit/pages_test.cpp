@@ -76,6 +76,7 @@ TEST_F(Pages, WhatIsSetOnAHiddenOneIsThereWhenItIsShown) {
   Label label(page, "label");
   int fired = 0;
   box.OnClick = list.OnChange = tree.OnChange = bar.OnChange = [&] { ++fired; };
+  notebook.SetBounds({0, 0, 300, 300});
   group.SetBounds({10, 10, 200, 60});
   edit.SetMaxLength(6);
   edit.SetEnabled(false);
@@ -115,6 +116,10 @@ TEST_F(Pages, WhatIsSetOnAHiddenOneIsThereWhenItIsShown) {
   EXPECT_TRUE(Widget("push").is_default && !Widget("push").visible);
   EXPECT_EQ(Widget("label").text_colour, platform::colour::kBlue);
   EXPECT_EQ(User().TabOrder("form"), (Names{"box", "memo", "list", "bar", "tree", "spin"}));
+  User().ChangeDpi("form", 192, {0, 0, 700, 700});
+  EXPECT_EQ(Widget("notebook").bounds, (platform::Rect{0, 0, 600, 600}));
+  EXPECT_EQ(Widget("seen").bounds, Widget("page").bounds);
+  EXPECT_EQ(Widget("group").bounds, (platform::Rect{20, 20, 400, 120}));
 }
 
 TEST_F(Pages, TheLayoutNamesWhatLeavesItsParentOrCoversAnother) {

@@ -197,6 +197,8 @@ TEST_F(SavedPlacement, WhatCannotBeUsedIsBroughtIntoViewOrLeftOut) {
       {"a size below zero", 40, 50, -300, 135, {40, 50, 274, 135}},
       {"a size that no window has", 40, 50, 32768, 100, {40, 50, 274, 135}},
       {"of another resolution", 10, 20, 300, 150, {10, 20, 150, 75}, 192},
+      {"of the lowest", 10, 20, 300, 150, {10, 20, 600, 300}, 48},
+      {"of the highest", 10, 20, 300, 150, {10, 20, 30, 15}, 960},
       {"of none", 10, 20, 300, 150, {10, 20, 300, 150}, 47},
       {"nor such a one", 10, 20, 300, 150, {10, 20, 300, 150}, 961},
   };
