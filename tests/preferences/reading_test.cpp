@@ -42,6 +42,7 @@ TEST_F(Reading, ShowsWhatIsStoredAndChangesNoStoredValue) {
       {"AlertsMoreThan", Number(3), "AlertsMoreThan", "#-1 ", "#0 Kilobytes"},
       {"MoreAction", Number(99), "ActionComboBox", "#-1 "},
       {"LessOrMore", Number(99), "LessOrMore", "#1 When more than"},
+      {"cmbVLineStyle", Number(4), "cmbVLineStyle", "#4 Dash Dot Dot"},
       // Numbers beyond a range.
       {"PulseWidth", Number(0), "PulseWidth", "0"},
       {"BevelWidth", Number(0xFFFFFFFB), "BevelWidth", "-5"},

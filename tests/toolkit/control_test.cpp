@@ -75,8 +75,14 @@ TEST_F(Controls, HintsComeAfterThePauseStayForTheirTimeAndGoWithTheirControl) {
     EXPECT_FALSE(app.Hints().Showing());
     User().PointAway();
     User().PointAt("label");
+    app.Hints().ShowBeside("of a menu", {10, 10, 50, 20}, 96, false);
     machine.timers.Advance(200);
-    EXPECT_TRUE(app.Hints().Showing());
+    label.SetHint("four");
+    EXPECT_EQ(Widget("TremoluxHint").text, "of a menu");
+    User().PointAway();
+    User().PointAt("label");
+    machine.timers.Advance(200);
+    EXPECT_EQ(Widget("TremoluxHint").text, "four");
   }
   EXPECT_FALSE(app.Hints().Showing());
 }
