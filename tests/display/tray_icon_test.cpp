@@ -1,10 +1,7 @@
-#include "display/tray/tray_icon.h"
-
 #include "tests/meter.h"
 
 namespace {
 
-using display::TrayHistory;
 using platform::Colour;
 
 constexpr Colour kRed = 0x0000FF;
@@ -49,49 +46,6 @@ std::string Pictures(std::vector<Colour> colours, int times = 1) {
   return BitmapOf(columns, 16 * times);
 }
 
-TEST(TrayHistory, LevelsFallWithTheBandsOfTheMaximumInSight) {
-  struct Row {
-    const char* why;
-    std::int64_t amount;
-    int level;
-  };
-  static constexpr Row kRows[] = {
-      {"the maximum itself", 6000, 1},
-      {"half", 3000, 1},
-      {"below half", 2999, 2},
-      {"a third", 2000, 2},
-      {"below a third", 1999, 3},
-      {"a quarter", 1500, 3},
-      {"below a quarter", 1499, 4},
-      {"a fifth", 1200, 4},
-      {"below a fifth", 1199, 5},
-      {"one byte", 1, 5},
-      {"nothing", 0, 0},
-      {"less than nothing", -5, 0},
-  };
-  for (const Row& row : kRows) {
-    SCOPED_TRACE(row.why);
-    TrayHistory dl(1);
-    TrayHistory ul(9);
-    for (TrayHistory* history : {&dl, &ul}) {
-      history->Push(6000);
-      history->Push(row.amount);
-    }
-    EXPECT_EQ(dl.Level(1), row.level);
-    EXPECT_EQ(ul.Level(1), row.level == 0 ? 0 : row.level + 8);
-  }
-}
-
-TEST(TrayHistory, OneBurstDoesNotFlattenTheIconForTheDay) {
-  TrayHistory history(1);
-  history.Push(1000000);
-  for (int i = 0; i < 13; ++i) history.Push(10);
-  EXPECT_EQ(history.Level(14), 1);
-  EXPECT_EQ(history.Level(1), 5);
-  history.Push(10);  // the burst is in slot 15 now: kept, not drawn
-  EXPECT_EQ(history.Level(1), 1);
-}
-
 class Tray : public test::Meter {
  protected:
   Colour At(int x, int y) {
@@ -120,33 +74,56 @@ class Tray : public test::Meter {
   }
 };
 
-TEST_F(Tray, TheHistogramIsFramedAndItsBarsMoveToTheLeft) {
+TEST_F(Tray, TheHistogramIsDrawnPixelByPixel) {
   Run([&] {
-    EXPECT_EQ(At(0, 0), 0U);
-    EXPECT_EQ(At(15, 5), 0x808080U);
-    EXPECT_EQ(At(5, 15), 0x808080U);
-    EXPECT_EQ(At(5, 7), 0U);
-    EXPECT_EQ(At(5, 8), 0x808080U);
-    EXPECT_EQ(At(14, 6), kWhite);
-    Scan({5000, 800});
-    EXPECT_EQ(Bar(14, kRed), 5);
-    EXPECT_EQ(Bar(14, kBlue), 5);
-    EXPECT_EQ(At(14, 6), kRed);
-    EXPECT_EQ(At(14, 1), kWhite) << "the end point of a line is not painted";
-    EXPECT_EQ(At(14, 14), kBlue);
-    machine.interface_table.AddRow(platform::memory::MakeRow("Another"));
-    for (int column = 13; column >= 1; --column) {
-      Scan({});
-      EXPECT_EQ(Bar(column, kRed), 5);
-      EXPECT_EQ(Bar(column + 1, kRed), 0);
-    }
-    Scan({});
     EXPECT_EQ(Bars(), 0);
-    Scan({5000, 800});
+    // The highest, and both sides of a half, a third, a quarter and a fifth of it.
+    for (const std::uint32_t amount :
+         {6000, 3000, 2999, 2000, 1999, 1500, 1499, 1200, 1199, 1, 0}) {
+      Scan({amount, amount});
+    }
+    machine.interface_table.AddRow(platform::memory::MakeRow("Another"));
+    Scan({});
+    std::string drawn = "\n";
+    for (int y = 0; y < 16; ++y) {
+      for (int x = 0; x < 16; ++x) {
+        const Colour colour = At(x, y);
+        drawn += colour == kRed     ? 'd'
+                 : colour == kBlue  ? 'u'
+                 : colour == kWhite ? '.'
+                 : colour == 0      ? '#'
+                                    : '+';
+      }
+      drawn += "\n";
+    }
+    EXPECT_EQ(drawn, R"(
+###############+
+#..............+
+#..dd..........+
+#..dddd........+
+#..dddddd......+
+#..dddddddd....+
+#..dddddddddd..+
+###############+
+++++++++++++++++
+#..............+
+#..uu..........+
+#..uuuu........+
+#..uuuuuu......+
+#..uuuuuuuu....+
+#..uuuuuuuuuu..+
+++++++++++++++++
+)");
+    Scan({});
+    Scan({});
+    EXPECT_EQ(Bar(1, kRed) + Bar(1, kBlue), 10);
+    Scan({1, 0});
+    EXPECT_EQ(Bar(14, kRed), 1);
+    EXPECT_EQ(Bar(2, kRed), 5) << "the highest is out of sight, and forgotten";
     Choose("Clear Graph");
     EXPECT_EQ(Bars(), 0);
     Scan({1, 0});
-    EXPECT_EQ(Bar(14, kRed), 5) << "the burst before is forgotten";
+    EXPECT_EQ(Bar(14, kRed), 5);
   });
   EXPECT_FALSE(machine.notification_area.Present()) << "the icon goes with the program";
 }

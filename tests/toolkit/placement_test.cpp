@@ -67,6 +67,17 @@ TEST(Placement, BringsWindowsBackOntoTheNearestMonitor) {
   EXPECT_EQ(Centred({1500, 900}, kScreen), (Rect{0, 0, 1500, 900}));
 }
 
+TEST(Placement, ScrollsNoFurtherThanNeeded) {
+  const platform::Scroll scroll{1000, 300, 200, 16};
+  struct Row {
+    int top, bottom, position;
+  };
+  for (const Row& row :
+       {Row{200, 500, 200}, {150, 180, 150}, {490, 510, 210}, {450, 900, 200}, {550, 900, 550}}) {
+    EXPECT_EQ(ScrolledToShow(scroll, row.top, row.bottom), row.position) << row.top;
+  }
+}
+
 TEST_F(FormTest, AWindowStandsInTheMiddleAndIsScrolledWhereItIsHigherThanTheScreen) {
   machine.screen.monitors = {{{0, 0, 1000, 800}, {0, 0, 1000, 760}, 96},
                              {{1000, 0, 1000, 400}, {1000, 0, 1000, 360}, 96}};
