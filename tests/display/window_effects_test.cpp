@@ -204,6 +204,11 @@ TEST_F(Effects, TheStoredTransparencyComesBackAndIsNotToggledByANewAdapter) {
     Set("WindowMode", 0);
     Window().ApplyDisplaySettings();
     EXPECT_TRUE(TheMeter().shape);
+    Leave();
+    Set("Transparent2k", kOff);  // by another program
+    machine.interface_table.RemoveRow(1);
+    Scan({});
+    EXPECT_EQ(TheMeter().alpha, 255);
   });
 }
 
