@@ -5,7 +5,6 @@ namespace {
 
 using platform::Key;
 using platform::memory::RegistryValue;
-using Strings = std::vector<std::string>;
 
 class Options : public test::Meter {
  protected:
@@ -88,20 +87,6 @@ class Options : public test::Meter {
       Then([this, path] { machine.system_dialogs.Choose(std::string(path)); });
       User().Press(button);
     };
-  }
-  // A tick of an adapter in the menu.
-  Act Source(const char* adapter) {
-    return [this, adapter] {
-      machine.menus.user = [this, adapter](const auto& entries, auto&) {
-        machine.menus.user = nullptr;
-        return platform::memory::Menus::Find(entries[2].children, adapter)->id;
-      };
-      User().RightClick("T_frmBrisanto");
-    };
-  }
-  bool TickedInMenu(const char* adapter) {
-    Choose("");
-    return platform::memory::Menus::Find(machine.menus.last[2].children, adapter)->checked;
   }
   std::string FolderOfDialog() { return machine.system_dialogs.file_requests.back().folder; }
 };
@@ -276,45 +261,6 @@ TEST_F(Options, OfTheAlertsWorkedOnceStoreTheirValue) {
     EXPECT_TRUE(timer.Enabled());
     User().Press("NotificationsCheckBox");
     EXPECT_FALSE(timer.Enabled()) << "at once";
-  });
-}
-
-TEST_F(Options, AnAdapterIsTickedUnderItsNameAndTheMenuFollows) {
-  machine.interface_table.AddRow(platform::memory::MakeRow("Radio X", {1, 2, 3}, 900, 54000));
-  machine.interface_table.AddRow(platform::memory::MakeRow("MS TCP Loopback interface"));
-  RunOpen([&] {
-    ChoosePage("Interfaces");
-    auto& list = Widget("NIMListBox");
-    const auto ticked = [&](int row, const char* adapter) {
-      EXPECT_EQ(list.row_checks[static_cast<std::size_t>(row)], TickedInMenu(adapter));
-      return TickedInMenu(adapter);
-    };
-    EXPECT_EQ(list.items, (Strings{"Ethernet", "Radio X"}));
-    EXPECT_TRUE(Widget("chkSelectALL").checked);
-    EXPECT_EQ(list.index, 0) << "the data are of the first one until another is chosen";
-    EXPECT_EQ(Widget("lblMTUValue").text, "1500");
-    const auto tick = [&] { User().Tick("NIMListBox", 1); };
-    Check("Interfaces",
-          {{Select("NIMListBox", 1), "", "",
-            [&] {
-              return Widget("lblMacAddressValue").text == "01-02-03" &&
-                     Widget("lblSpeedValue").text == "54000" && Widget("lblMTUValue").text == "900";
-            }},
-           {tick, "radio x=0", "",
-            [&] { return !ticked(1, "Radio X") && !Widget("chkSelectALL").checked; }},
-           {Press("chkSelectALL"), "radio x=1", "", [&] { return ticked(1, "Radio X"); }},
-           {Press("chkSelectALL"), "ethernet=0 radio x=0", "",
-            [&] { return !ticked(0, "Ethernet") && !ticked(1, "Radio X"); }},
-           {Source("Ethernet"), "ethernet=1", "", [&] { return ticked(0, "Ethernet"); }}});
-    // The chosen one stays chosen when one before it goes, and its data go with it.
-    machine.interface_table.RemoveRow(0);
-    machine.timers.Advance(1000);
-    EXPECT_EQ(list.items, Strings{"Radio X"});
-    EXPECT_EQ(list.index, 0);
-    machine.interface_table.RemoveRow(0);
-    machine.timers.Advance(1000);
-    EXPECT_TRUE(list.items.empty() && Widget("lblMTUValue").text.empty());
-    Check("Interfaces", {{Press("chkSelectALL"), "", ""}});
   });
 }
 

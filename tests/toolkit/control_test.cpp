@@ -60,6 +60,7 @@ TEST_F(Controls, AreLaidOutInDesignPixelsAtTheResolutionOfTheirForm) {
 
 TEST_F(Controls, HintsComeAfterThePauseStayForTheirTimeAndGoWithTheirControl) {
   app.Hints().Pause = 200;
+  app.Hints().Colour = platform::colour::kLime;
   app.Hints().HidePause = 1000;
   {
     Label label(form, "label");
@@ -68,7 +69,10 @@ TEST_F(Controls, HintsComeAfterThePauseStayForTheirTimeAndGoWithTheirControl) {
     machine.timers.Advance(199);
     EXPECT_FALSE(app.Hints().Showing());
     machine.timers.Advance(1);
-    EXPECT_EQ(Widget("TremoluxHint").Paint(machine.screen)->Texts().at(1).text, "two");
+    const auto picture = Widget("TremoluxHint").Paint(machine.screen);
+    EXPECT_EQ(picture->Texts().at(1).text, "two");
+    EXPECT_EQ(picture->Pixel({0, 0}), machine.screen.Resolve(platform::colour::kWindowFrame));
+    EXPECT_EQ(picture->Pixel({1, 1}), platform::colour::kLime);
     label.SetHint("three");
     EXPECT_EQ(Widget("TremoluxHint").text, "three");
     machine.timers.Advance(1000);

@@ -86,6 +86,7 @@ TEST_F(Pages, WhatIsSetOnAHiddenOneIsThereWhenItIsShown) {
   const std::vector<platform::TreeItem> items = {{"root", 0}, {"leaf", 1}};
   tree.SetItems(items);
   tree.SetItemIndex(1);
+  bar.SetPosition(20);
   bar.SetRange(1, 9, 2);
   spin.SetBounds({10, 80, 80, 22});
   push.SetDefault(true);
@@ -108,7 +109,8 @@ TEST_F(Pages, WhatIsSetOnAHiddenOneIsThereWhenItIsShown) {
   EXPECT_EQ(Widget("edit").background, platform::colour::kWindow);
   EXPECT_EQ(Widget("list").background, platform::colour::kWindow);
   EXPECT_TRUE(Widget("memo").read_only);
-  EXPECT_TRUE(Widget("bar").lowest == 1 && Widget("bar").highest == 9 && Widget("bar").page == 2);
+  EXPECT_TRUE(Widget("bar").lowest == 1 && Widget("bar").position == 9 &&
+              Widget("bar").highest == 9 && Widget("bar").page == 2);
   EXPECT_TRUE(Widget("progress").position == 20 && Widget("progress").highest == 50);
   EXPECT_EQ(Widget("tree").levels, (std::vector<int>{0, 1}));
   EXPECT_EQ(Widget("tree").index, 1);

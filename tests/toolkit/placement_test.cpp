@@ -1,9 +1,8 @@
-// Where windows stand: rules, what a form does with them, what is stored, what docks.
+// Where windows stand: rules, what a form does with them, what is stored.
 #include "toolkit/forms/placement.h"
 
 #include "tests/toolkit/form_fixture.h"
 #include "toolkit/controls/button.h"
-#include "toolkit/forms/docking_magnet.h"
 #include "toolkit/forms/placement_saver.h"
 
 namespace toolkit {
@@ -255,48 +254,6 @@ TEST_F(SavedPlacement, APlaceOnAMissingMonitorIsKeptAndComesBackWithIt) {
   Program last(machine);
   Place({700, 300, 274, 135});
   EXPECT_EQ(Stored().left, 700) << "no monitor came or went";
-}
-
-// The first monitor is 1280 x 1024, its work area 984 high; the second one has twice the dpi.
-TEST_F(FormTest, AllFourEdgesOfTheWorkAreaPullAndLetGo) {
-  machine.screen.monitors.push_back({{1280, 0, 1920, 1080}, {1280, 0, 1920, 1040}, 192});
-  Form docked(app, {"docked", "", platform::Frame::kSizeableTool, true});
-  DockingMagnet magnet(docked);
-  struct Row {
-    const char* why;
-    Point to, at;
-  };
-  static constexpr Row kRows[] = {
-      {"far from everything", {500, 400}, {500, 400}},
-      {"left, just within reach", {15, 400}, {0, 400}},
-      {"left, just out of reach", {16, 400}, {16, 400}},
-      {"pushed over the left edge, held", {-30, 400}, {0, 400}},
-      {"pushed on, free", {-31, 400}, {-31, 400}},
-      {"right", {1280 - 274 - 15, 400}, {1280 - 274, 400}},
-      {"right, out of reach", {1280 - 274 - 16, 400}, {1280 - 274 - 16, 400}},
-      {"right, pushed on", {1280 - 274 + 31, 400}, {1280 - 274 + 31, 400}},
-      {"top", {500, 15}, {500, 0}},
-      {"top, held", {500, -30}, {500, 0}},
-      {"the task bar is the lower edge", {500, 984 - 135 - 15}, {500, 984 - 135}},
-      {"below the task bar's edge, held", {500, 984 - 135 + 30}, {500, 984 - 135}},
-      {"onto the task bar", {500, 984 - 135 + 31}, {500, 984 - 135 + 31}},
-      {"a corner pulls both ways", {10, 980 - 135}, {0, 984 - 135}},
-      {"twice the reach at twice the dpi", {1280 + 30, 400}, {1280, 400}},
-      {"its other corner", {3200 - 274 - 20, 1040 - 135 - 20}, {3200 - 274, 1040 - 135}},
-      {"still on the first one", {1280 - 274 + 10, 400}, {1280 - 274, 400}},
-  };
-  for (const Row& row : kRows) {
-    docked.SetWindowBounds({500, 400, 274, 135});
-    User().Drag("docked", row.to);
-    EXPECT_EQ(docked.WindowBounds(), (Rect{row.at.x, row.at.y, 274, 135})) << row.why;
-  }
-  docked.SetWindowBounds({5, 5, 274, 135});
-  EXPECT_EQ(docked.WindowBounds().left, 5) << "what the code places stays where it is";
-  magnet.Active = false;
-  User().Drag("docked", {6, 6});
-  EXPECT_EQ(docked.WindowBounds().left, 6);
-  EXPECT_EQ(Docked({-20, 10, 2000, 2000}, {0, 0, 1280, 984}, 15, 30), (Rect{0, 0, 2000, 2000}))
-      << "larger than the work area";
 }
 
 }  // namespace
