@@ -147,10 +147,21 @@ TEST_F(GraphPicture, DownloadAndUploadAreBothSeenWhateverTheirSizes) {
 TEST_F(GraphPicture, TheScaleComesDownWhenThePeakHasLeftThePicture) {
   Set("ScaleShow", 1);
   const auto highest = [&] { return Graph()->Texts().front().text; };
+  const auto scale = [&] {
+    std::string texts;
+    const auto picture = Graph();
+    for (const auto& drawn : picture->Texts()) {
+      texts += drawn.text + " at";
+      for (const int side : {drawn.box.left, drawn.box.top, drawn.box.width, drawn.box.height})
+        texts += " " + std::to_string(side);
+      texts += ", ";
+    }
+    return texts;
+  };
   Run(
       [&] {
         Scan({100 * 1024, 0});
-        EXPECT_EQ(highest(), "100 kB");
+        EXPECT_EQ(scale(), "100 kB at 4 1 35 9, 0 kB at 4 123 35 9, 50 kB at 4 62 35 9, ");
         for (int i = 0; i < 30; ++i) Scan({1024, 0});
         EXPECT_EQ(highest(), "100 kB");
         for (int i = 0; i < 80; ++i) Scan({1024, 0});
@@ -158,6 +169,10 @@ TEST_F(GraphPicture, TheScaleComesDownWhenThePeakHasLeftThePicture) {
         Scan({3U << 30U, 0});
         EXPECT_EQ(highest(), "2 GB")
             << "more than an input holds is the largest, not less than nothing";
+        Window().SetWindowBounds({0, 0, 150, 47});
+        EXPECT_EQ(scale(), "2 GB at 4 1 35 9, 0 kB at 4 35 35 9, 1 GB at 4 18 35 9, ");
+        Window().SetWindowBounds({0, 0, 150, 25});
+        EXPECT_EQ(scale(), "2 GB at 4 1 35 9, 0 kB at 4 13 35 9, ");
       });
 }
 
