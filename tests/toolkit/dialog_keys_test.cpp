@@ -114,6 +114,20 @@ TEST_F(DialogKeysTest, ArrowsChooseAmongRadioButtonsAndALetterReachesWhatIsMarke
   EXPECT_EQ(pressed, (Names{"ok", "other"})) << "the next one behind the keyboard";
 }
 
+TEST_F(DialogKeysTest, WhatTheFormHasNoUseForIsLeftToTheSystem) {
+  using Kind = platform::DialogKey::Kind;
+  const auto taken = [this](Kind kind, const char* letter = "") {
+    return Widget("form").top_events->OnDialogKey({kind, false, letter});
+  };
+  EXPECT_FALSE(taken(Kind::kControlTab)) << "there are no tabs";
+  EXPECT_FALSE(taken(Kind::kArrow)) << "the keyboard is in an edit";
+  EXPECT_FALSE(taken(Kind::kLetter, "q"));
+  EXPECT_FALSE(taken(Kind::kLetter));
+  EXPECT_TRUE(taken(Kind::kLetter, "d") && taken(Kind::kTab) && taken(Kind::kEnter));
+  b.SetFocus();
+  EXPECT_TRUE(taken(Kind::kArrow) && taken(Kind::kEscape));
+}
+
 TEST_F(DialogKeysTest, WhatIsHiddenOrDisabledPassesTheKeyboardOn) {
   box.SetFocus();
   panel.SetVisible(false);
