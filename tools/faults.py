@@ -33,9 +33,11 @@ EXCLUDED_LINES = re.compile(
     r"constexpr (int|platform::Rect|platform::Size|FieldColumn) k|\.(Label|Field)\(|\{\w+, \{|kMargin|kRow|SetBounds"
     r"|\.reserve\(|^\s*(//|#|case |default:|namespace|using|template|struct|class|enum)"
     r"|static_assert|assign\(|NOLINT"
-    # Columns of a page; bounds that only have to be far enough away; a triangle that is higher at any resolution;
-    # a picture that is enlarged to its own size; a form, which lies on nothing that would hide it.
-    r"|\.Top\(|open_left|kTitlesRemembered|kLongestPosted|kLongestHistory|kWidestDrawn|max\(Scale\(3\), 1\)|<= kTrayPictureSize\)"
+    # Columns of a page; bounds that only have to be far enough away; a triangle that is higher at
+    # any resolution; a picture that is enlarged to its own size; a form, which lies on nothing that
+    # would hide it.
+    r"|\.Top\(|open_left|kTitlesRemembered|kLongestPosted|kLongestHistory|kWidestDrawn"
+    r"|max\(Scale\(3\), 1\)|<= kTrayPictureSize\)"
     r"|visible_ = false;  // forms")
 
 

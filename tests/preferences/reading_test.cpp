@@ -221,6 +221,10 @@ TEST_F(Reading, AnotherLanguageCountsAtOnceInAllWindows) {
     User().Choose("cmbLanguage", 1);
     EXPECT_EQ(Widget("T_frmPreferences").text, "Sails") << "chosen again, the edited file is read";
     EXPECT_EQ(Line(), "[ Average DL:1 kB UL:2 kB ][ Max DL:1 kB Max UL:2 kB ]");
+    Set("SOM2", 0);
+    Scan({1024, 2048});
+    User().Choose("cmbLanguage", 1);
+    EXPECT_EQ(Line() + ErrorLog(), "[ Max DL:1 kB Max UL:2 kB ]");
     Close();
     machine.files.PutBesideProgram("Languages\\Aaa.lng", "");  // came while they were closed
     OpenPreferences();
