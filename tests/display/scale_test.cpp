@@ -37,6 +37,7 @@ TEST(GraphScale, EdgesAreRoundAndTheLowerLeavesZeroOnlyForASteadyLoad) {
       {"four fifths", {1000 * kK, 800 * kK}, kBytes, 0, kK * kK},
       {"just above them", {1000 * kK, 801 * kK}, kBytes, 200 * kK, kK * kK},
       {"one way idle", {587 * kK, 0}, kBytes, 0, kK * kK},
+      {"half of it is a unit and more", {3 * kK, 3 * kK}, kBytes, kK, 5 * kK},
       {"less than the unit", {900, 900}, kBytes, 0, kK},
       {"between two units", {2040 * kK, 2020 * kK}, kBytes, 500 * kK, 2 * kK * kK},
   };
