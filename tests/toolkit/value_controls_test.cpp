@@ -31,7 +31,9 @@ TEST_F(ValueControls, FireWhenTheValueChangesWhoeverChangedIt) {
   SpinEdit spin(form, "spin");
   list.SetItems(kItems);
   combo.SetItems(kItems);
+  group.SetHint("hint");
   group.SetItems(kItems);
+  EXPECT_EQ(group.Children().at(1)->Hint(), "hint");
   const std::vector<platform::TreeItem> branches = {{"a", 0}, {"b", 1}, {"c", 0}};
   tree.SetItems(branches);
   form.Show();
