@@ -68,10 +68,11 @@ TEST_F(NumericLine, TheAverageChangesEverySixthScanAndLeavesThatScanOut) {
     }
     Scan({900000, 900000});
     EXPECT_EQ(Line(), "[ Average DL:3 kB UL:1 kB ]");
+    for (int i = 0; i < 6; ++i) Scan({2048, 0});
+    EXPECT_EQ(Line(), "[ Average DL:2 kB UL:0,0 kB ]");
     for (int i = 0; i < 3; ++i) Scan({2048, 0});
     Choose("Clear Graph");  // zeroes the sums, but not the counter
     for (int i = 0; i < 2; ++i) Scan({5120, 1024});
-    EXPECT_EQ(Line(), "[ Average DL:3 kB UL:1 kB ]");
     Scan({});
     EXPECT_EQ(Line(), "[ Average DL:2 kB UL:0,3 kB ]");
     Scan({9000, 9000});
@@ -147,6 +148,13 @@ TEST_F(NumericLine, IsBrokenWhereItIsHighEnoughAndElseToldByTheHint) {
       EXPECT_EQ(joined, Line());
       EXPECT_EQ(picture->Texts().size(), window_mode == 1 ? 3U : 1U);
       EXPECT_EQ(App().Hints().Showing(), window_mode == 2);
+      const int height = picture->Texts().front().box.height;
+      for (const int missing : {0, 1}) {
+        if (window_mode == 2) break;
+        Window().SetWindowBounds({0, 0, 274, 4 + 3 * height - missing});
+        EXPECT_EQ(Widget("_tlkDLULMeter").Paint(machine.screen)->Texts().size(),
+                  missing == 0 ? 3U : 1U);
+      }
       if (window_mode == 2) {
         EXPECT_EQ(Widget("TremoluxHint").text, Line());
       }

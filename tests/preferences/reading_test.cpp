@@ -195,12 +195,15 @@ TEST_F(Reading, AnotherLanguageCountsAtOnceInAllWindows) {
                                  "[MainForm]\nS1=Booty\nS2=Peak\n_tlkInterMeter=Chart\n"
                                  "mnuAlwaysTopOn=Aloft\nTransparent1Hint=Spyglass\n"
                                  "[SettingsForm]\nTitle=Rigging\nLanguageName=Arrr\n"
-                                 "chkShowHints=Parrot\nTreeItem0=Captain\n");
+                                 "chkShowHints=Parrot\nTreeItem0=Captain\n"
+                                 "lblWin2kTransTrack=Sight\n");
   Set("SOM3", 1);
   Set("AvarageTime", 1);
   RunOpen([&] {
     EXPECT_EQ(Widget("cmbLanguage").items, (Strings{"English", "Arrr"}));
+    SeeEveryPage();
     User().Choose("cmbLanguage", 1);
+    EXPECT_EQ(Widget("lblWin2kTransTrack").text, "Sight 75 %");
     EXPECT_EQ(StoredText("Language"), "Pirate");
     EXPECT_EQ(Line(), "[ Booty DL:0,0 kB UL:0,0 kB ][ Peak DL:0,0 kB Max UL:0,0 kB ]");
     EXPECT_EQ(Entry("Graph Transparency Options").hint, "Spyglass");
