@@ -111,6 +111,7 @@ TEST_F(Pages, WhatIsSetOnAHiddenOneIsThereWhenItIsShown) {
   EXPECT_TRUE(Widget("memo").read_only);
   EXPECT_TRUE(Widget("bar").lowest == 1 && Widget("bar").position == 9 &&
               Widget("bar").highest == 9 && Widget("bar").page == 2);
+  EXPECT_EQ(bar.Position(), 9);
   EXPECT_TRUE(Widget("progress").position == 20 && Widget("progress").highest == 50);
   EXPECT_EQ(Widget("tree").levels, (std::vector<int>{0, 1}));
   EXPECT_EQ(Widget("tree").index, 1);
