@@ -79,6 +79,10 @@ TEST_F(Controls, HintsComeAfterThePauseStayForTheirTimeAndGoWithTheirControl) {
     EXPECT_FALSE(app.Hints().Showing());
     User().PointAway();
     User().PointAt("label");
+    User().PointAway();
+    machine.timers.Advance(200);
+    EXPECT_FALSE(app.Hints().Showing()) << "left before it came";
+    User().PointAt("label");
     app.Hints().ShowBeside("of a menu", {10, 10, 50, 20}, 96, false);
     machine.timers.Advance(200);
     label.SetHint("four");
