@@ -32,34 +32,33 @@ std::vector<std::unique_ptr<Page>> MakePages(toolkit::Notebook& notebook, Contex
 }
 
 struct PageTreeItem {
-  int number;  // identifies the item, wherever it stands
-  int level;   // 0 at the root
+  int level;  // 0 at the root
   language::TextEntry text;
   std::string_view page;  // empty for a heading, which leads nowhere
 };
 
 // The items stand in the order of the expanded tree.
 constexpr PageTreeItem kTree[] = {
-    {0, 0, text::TreeItem0, "General"},
-    {4, 0, text::TreeItem4, ""},
-    {1, 1, text::TreeItem1, "GraphColors"},
-    {15, 1, text::TreeItem15, "GraphGrids"},
-    {2, 1, text::TreeItem2, "GraphOthers"},
-    {9, 0, text::TreeItem9, ""},
-    {3, 1, text::TreeItem3, "TextColors"},
-    {11, 1, text::TreeItem11, "TextOther"},
-    {14, 0, text::TreeItem14, ""},
-    {5, 1, text::TreeItem5, "Notification"},
-    {13, 1, text::TreeItem13, "BandwidthAlert"},
-    {6, 0, text::TreeItem6, "Interfaces"},
-    {7, 0, text::TreeItem7, "Admin"},
-    {8, 0, text::TreeItem8, "Other"},
+    {0, text::TreeItem0, "General"},
+    {0, text::TreeItem4, ""},
+    {1, text::TreeItem1, "GraphColors"},
+    {1, text::TreeItem15, "GraphGrids"},
+    {1, text::TreeItem2, "GraphOthers"},
+    {0, text::TreeItem9, ""},
+    {1, text::TreeItem3, "TextColors"},
+    {1, text::TreeItem11, "TextOther"},
+    {0, text::TreeItem14, ""},
+    {1, text::TreeItem5, "Notification"},
+    {1, text::TreeItem13, "BandwidthAlert"},
+    {0, text::TreeItem6, "Interfaces"},
+    {0, text::TreeItem7, "Admin"},
+    {0, text::TreeItem8, "Other"},
     // These items are kept although they show nothing: two have an empty page, one a page that does
     // not exist.
-    {10, 0, text::TreeItem10, "SpeedUp"},
-    {16, 0, text::TreeItem16, "BrisantoScript"},
-    {17, 0, text::TreeItem17, "SpeedUp"},
-    {12, 0, text::TreeItem12, "ResetSettings"},
+    {0, text::TreeItem10, "SpeedUp"},
+    {0, text::TreeItem16, "BrisantoScript"},
+    {0, text::TreeItem17, "SpeedUp"},
+    {0, text::TreeItem12, "ResetSettings"},
 };
 
 ReadStep Next(ReadStep step) { return static_cast<ReadStep>(static_cast<int>(step) + 1); }

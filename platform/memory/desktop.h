@@ -29,6 +29,8 @@ class Desktop {
 
   // Whether the system has layered windows.
   bool layered_windows = true;
+  // The name of the window or control that the system refuses to make.
+  std::string refused;
 
   // The widget that has the keyboard; null for none.
   [[nodiscard]] WidgetState* Focused() const { return focused_; }

@@ -1,6 +1,7 @@
 #include "platform/memory/peers.h"
 
 #include <algorithm>
+#include <stdexcept>
 #include <utility>
 
 namespace platform::memory {
@@ -28,6 +29,7 @@ void SetFrame(WidgetState& state) {
 Peer::Peer(Desktop& desktop, WidgetState::Kind kind, std::string_view name, WidgetState* parent,
            WidgetEvents& events)
     : desktop_(desktop) {
+  if (!name.empty() && name == desktop.refused) throw std::runtime_error("refused");
   state_.kind = kind;
   state_.name = name;
   state_.parent = parent;

@@ -1,7 +1,6 @@
 #include "platform/memory/screen.h"
 
 #include <algorithm>
-#include <array>
 #include <cstdint>
 
 namespace platform::memory {
@@ -33,13 +32,9 @@ Monitor Screen::MonitorOf(const Rect& area) {
 }
 
 Colour Screen::Resolve(Colour colour) {
-  static constexpr std::array<Colour, 25> kScheme = {
-      0xC8D0D4, 0xA56E3A, 0x6A240A, 0x808080, 0xC8D0D4, 0xFFFFFF, 0x000000, 0x000000, 0x000000,
-      0xFFFFFF, 0xC8D0D4, 0xC8D0D4, 0x808080, 0x6A240A, 0xFFFFFF, 0xC8D0D4, 0x808080, 0x808080,
-      0x000000, 0xC8D0D4, 0xFFFFFF, 0x404040, 0xC8D0D4, 0x000000, 0xE1FFFF};
   if (!IsSystemColour(colour)) return colour & 0xFFFFFFU;
   const std::uint32_t index = colour & 0xFFU;
-  return index < kScheme.size() ? kScheme[index] : colour::kBlack;
+  return index < scheme.size() ? scheme[index] : colour::kBlack;
 }
 
 }  // namespace platform::memory

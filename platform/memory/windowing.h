@@ -114,6 +114,8 @@ class Windowing final : public platform::Windowing {
 
   // Whether the system has layered windows.
   bool& layered_windows = desktop_.layered_windows;
+  // The name of the window or control that the system refuses to make, with an exception.
+  std::string& refused = desktop_.refused;
   std::string application_title;
   bool taskbar_button = true;
 

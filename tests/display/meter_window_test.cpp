@@ -1,89 +1,73 @@
-#include <gtest/gtest.h>
-
-#include <string>
-#include <vector>
-
-#include "tests/display/meter.h"
+// The window of the meter, its modes and its menu.
+#include "tests/meter.h"
 
 namespace {
 
+using platform::Rect;
 using platform::memory::MakeRow;
-using test::MeterTest;
 
-class Meter : public MeterTest {};
+constexpr const char* kMeter = "T_frmBrisanto";
 
-TEST_F(Meter, StartsAsABareTopmostToolWindowWithoutTakingTheFocus) {
+class MeterWindow : public test::Meter {
+ protected:
+  Rect At() { return Widget(kMeter).bounds; }
+};
+
+TEST_F(MeterWindow, StartsAsABareTopmostToolWindowAndIsSizedWithinItsLimits) {
   Run([&] {
-    const platform::memory::WidgetState& window = Widget("T_frmBrisanto");
+    const auto& window = Widget(kMeter);
     EXPECT_TRUE(window.params.bare_popup);
     EXPECT_EQ(window.params.frame, platform::Frame::kSizeableTool);
-    EXPECT_EQ(window.bounds, (platform::Rect{761, 128, 274, 135}));
     EXPECT_EQ(window.text, "Korvane Tremolux");
-    EXPECT_TRUE(window.visible);
-    EXPECT_TRUE(window.topmost);
+    EXPECT_TRUE(window.visible && window.topmost);
     EXPECT_EQ(window.shown_with, platform::Activation::kLeaveFocus);
-    EXPECT_FALSE(machine.windowing.taskbar_button);
-    EXPECT_EQ(machine.windowing.application_title, "Korvane Tremolux");
-  });
-  EXPECT_FALSE(machine.windowing.Exists("T_frmBrisanto"));
-  EXPECT_EQ(machine.timers.Running(), 0);
-}
-
-TEST_F(Meter, CannotBeSizedBeyondItsLimits) {
-  Run([&] {
-    machine.windowing.Place("T_frmBrisanto", {0, 0, 10, 10});
-    EXPECT_EQ(Widget("T_frmBrisanto").bounds, (platform::Rect{0, 0, 150, 25}));
-    machine.windowing.Place("T_frmBrisanto", {0, 0, 1000, 1000});
-    EXPECT_EQ(Widget("T_frmBrisanto").bounds, (platform::Rect{0, 0, 350, 200}));
-  });
-}
-
-TEST_F(Meter, KeepsItsLookOnAMonitorOfAnotherResolution) {
-  Run([&] {
-    machine.windowing.ChangeDpi("T_frmBrisanto", 192, {761, 128, 548, 270});
-    EXPECT_EQ(Widget("T_frmBrisanto").bounds, (platform::Rect{761, 128, 548, 270}));
-    machine.windowing.ChangeDpi("T_frmBrisanto", 96, {761, 128, 274, 135});
-    EXPECT_EQ(Widget("T_frmBrisanto").bounds, (platform::Rect{761, 128, 274, 135}));
-  });
-}
-
-TEST_F(Meter, TheFontOfTheLineFollowsTheWidth) {
-  Run([&] {
+    EXPECT_FALSE(User().taskbar_button);
+    EXPECT_EQ(At(), (Rect{761, 128, 274, 135}));
+    User().Place(kMeter, {0, 0, 10, 10});
+    EXPECT_EQ(At(), (Rect{0, 0, 150, 25}));
+    User().Place(kMeter, {0, 0, 1000, 1000});
+    EXPECT_EQ(At(), (Rect{0, 0, 350, 200}));
+    for (const int times : {2, 1}) {
+      User().ChangeDpi(kMeter, 96 * times, {761, 128, 274 * times, 135 * times});
+      EXPECT_EQ(At(), (Rect{761, 128, 274 * times, 135 * times})) << "its limits grow with it";
+    }
     Window().Window().SetSizeLimits({}, {});  // the narrow widths are those of other resolutions
     struct Row {
-      int width;
-      int points;
+      int width, points;
     };
     for (const Row& row : {Row{125, 6}, Row{126, 7}, Row{175, 7}, Row{176, 8}}) {
-      SCOPED_TRACE(row.width);
       Window().SetWindowBounds({0, 0, row.width, 100});
-      EXPECT_EQ(Widget("_tlkDLULMeter").font.height, (row.points * 96 + 36) / 72);
+      EXPECT_EQ(Widget("_tlkDLULMeter").font.height, (row.points * 96 + 36) / 72) << row.width;
     }
+    for (const char* name : {"_tlkInterMeter", "_tlkDLULMeter"}) {
+      User().MoveMouse(name, {5, 5}, false);
+      User().MoveMouse(name, {6, 5}, true);
+    }
+    EXPECT_EQ(window.drags, 2);
   });
 }
 
-TEST_F(Meter, SwitchesBetweenItsThreeModesAndStartsInTheStoredOne) {
+TEST_F(MeterWindow, SwitchesBetweenItsThreeModesAndStartsInTheStoredOne) {
   struct Row {
     const char* choice;
     std::uint32_t stored;
-    bool graph;
-    bool line;
-    bool may_be_transparent;
+    bool graph, line;
   };
-  static constexpr Row kRows[] = {{"Graphic", 0, true, false, true},
-                                  {"Numeric", 1, false, true, false},
-                                  {"Graph&&Numeric", 2, true, true, true}};
   const auto expect = [&](const Row& row) {
     EXPECT_EQ(Widget("_tlkInterMeter").visible, row.graph);
     EXPECT_EQ(Widget("pnlContain").visible, row.line);
-    EXPECT_TRUE(Entry(row.choice).checked);
-    EXPECT_TRUE(Entry(row.choice).radio);
-    EXPECT_EQ(Entry("Custom Transparency").enabled, row.may_be_transparent);
-    const platform::Size client = Widget("T_frmBrisanto").ClientSize();
-    const int line_height = row.graph ? 17 : client.height;
-    EXPECT_EQ(Widget("pnlContain").bounds.height, row.line ? line_height : 17);
+    for (const char* mode : {"Graphic", "Numeric", "Graph&&Numeric"}) {
+      EXPECT_EQ(Entry(mode).checked, mode == std::string(row.choice)) << mode;
+    }
+    EXPECT_EQ(Entry("Custom Transparency").enabled, row.graph);
+    const int line_height = row.graph ? 17 : Widget(kMeter).ClientSize().height;
+    if (row.line) {
+      EXPECT_EQ(Widget("pnlContain").bounds.height, line_height);
+    }
   };
-  for (const Row& row : kRows) {
+  constexpr Row kNumeric{"Numeric", 1, false, true};
+  for (const Row& row :
+       {kNumeric, Row{"Graphic", 0, true, false}, kNumeric, Row{"Graph&&Numeric", 2, true, true}}) {
     SCOPED_TRACE(row.choice);
     Run([&] {
       Choose(row.choice);
@@ -94,165 +78,178 @@ TEST_F(Meter, SwitchesBetweenItsThreeModesAndStartsInTheStoredOne) {
   }
   Set("WindowMode", 3);
   Run([&] {
-    EXPECT_TRUE(Entry("Graph&&Numeric").checked) << "a mode that does not exist changes nothing";
-    EXPECT_TRUE(Widget("_tlkInterMeter").visible);
-    EXPECT_EQ(Stored("WindowMode"), 3U);
+    expect({"Graph&&Numeric", 3, true, true});
+    EXPECT_EQ(Stored("WindowMode"), 3U) << "a mode that does not exist changes nothing";
   });
 }
 
-TEST_F(Meter, AlwaysOnTopIsToggledStoredAndComesBackAfterAFullScreenProgram) {
+TEST_F(MeterWindow, AlwaysOnTopIsToggledStoredAndComesBackAfterAFullScreenProgram) {
   Run([&] {
-    Widget("T_frmBrisanto").topmost = false;
-    Widget("T_frmBrisanto").top_events->OnDisplayChange();
-    EXPECT_TRUE(Widget("T_frmBrisanto").topmost);
-    Widget("T_frmBrisanto").topmost = false;
-    Scan({});
-    EXPECT_TRUE(Widget("T_frmBrisanto").topmost);
     Choose("DL-UL Statistics");
-    EXPECT_TRUE(Widget("T_frmConnInfo").topmost) << "or else the meter would cover it";
-
+    const auto& other = Widget("T_frmConnInfo");
+    auto& meter = Widget(kMeter);
+    meter.topmost = false;
+    meter.top_events->OnDisplayChange();
+    EXPECT_TRUE(meter.topmost);
+    meter.topmost = false;
+    Scan({});
+    EXPECT_TRUE(meter.topmost && other.topmost);
     Choose("Always on Top");
-    EXPECT_FALSE(Widget("T_frmBrisanto").topmost || Widget("T_frmConnInfo").topmost);
+    EXPECT_FALSE(meter.topmost || other.topmost);
     EXPECT_EQ(Stored("AlwaysTopOn"), 0U);
     Scan({});
-    EXPECT_FALSE(Widget("T_frmBrisanto").topmost);
+    EXPECT_FALSE(meter.topmost);
   });
   Run([&] {
-    EXPECT_FALSE(Entry("Always on Top").checked);
+    EXPECT_FALSE(Entry("Always on Top").checked || Widget(kMeter).topmost);
+    Choose("DL-UL Statistics");
+    EXPECT_FALSE(Widget("T_frmConnInfo").topmost);
+    User().Press("Button2");
     Choose("Always on Top");
     Choose("Show / Hide Graph");
-    machine.menus.WillChoose("DL-UL Statistics");
-    machine.notification_area.RightClick({900, 700});
+    ChooseInTray("DL-UL Statistics");
     EXPECT_TRUE(Widget("T_frmConnInfo").topmost) << "the meter would cover it when it comes back";
   });
 }
 
-TEST_F(Meter, IsDraggedByGraphAndLine) {
-  Run([&] {
-    for (const char* name : {"_tlkInterMeter", "_tlkDLULMeter"}) {
-      machine.windowing.MoveMouse(name, {5, 5}, false);
-      machine.windowing.MoveMouse(name, {6, 5}, true);
+// Line by line: [tick or dot] text, shortcut, {picture}, (disabled) and hint.
+std::string Described(const std::vector<platform::MenuEntry>& entries, const std::string& margin) {
+  std::string text;
+  for (const platform::MenuEntry& entry : entries) {
+    text += margin;
+    if (entry.separator) {
+      text += "---\n";
+      continue;
     }
-    EXPECT_EQ(Widget("T_frmBrisanto").drags, 2);
-  });
+    if (entry.checked) text += entry.radio ? "o " : "x ";
+    text += entry.text;
+    if (!entry.shortcut.empty()) text += " [" + entry.shortcut + "]";
+    if (entry.keys.virtual_key != 0)
+      text += std::string(" <") + static_cast<char>(entry.keys.virtual_key) + ">";
+    if (entry.image >= 0) text += " {" + std::to_string(entry.image) + "}";
+    if (!entry.enabled) text += " (off)";
+    if (!entry.hint.empty()) text += " \"" + entry.hint + "\"";
+    text += "\n" + Described(entry.children, margin + "  ");
+  }
+  return text;
 }
 
-TEST_F(Meter, TheMenuHasItsItemsInTheirOrder) {
+TEST_F(MeterWindow, TheMenuIsAsItIs) {
+  machine.interface_table.AddRow(MakeRow("Fish & Chips"));
+  Set("ethernet", 0);
   Run([&] {
     Choose("");
-    const auto texts = [](const std::vector<platform::MenuEntry>& entries) {
-      std::string joined;
-      for (const platform::MenuEntry& entry : entries) {
-        joined += entry.separator ? "-" : entry.text;
-        joined += '/';
-      }
-      return joined;
-    };
-    const std::vector<platform::MenuEntry>& menu = machine.menus.last;
-    EXPECT_EQ(texts(menu),
-              "DL-UL Statistics/Connection Statistics/Connection Sources/-/Graph Options/"
-              "Settings.../-/Help/-/Exit/");
-    EXPECT_EQ(texts(menu[4].children),
-              "Always on Top/Show / Hide Graph/-/Graphic/Numeric/Graph&&Numeric/-/Clear Graph/"
-              "Graph Transparency Options/");
-    const platform::MenuEntry transparency = menu[4].children.back();
-    EXPECT_EQ(transparency.hint, "ShortCut [ Ctrl+Alt+S ]");
-    EXPECT_EQ(transparency.children[0].text, "Windows XP Style");
-    EXPECT_EQ(transparency.children[0].shortcut, "Ctrl+Alt+D");
-    EXPECT_EQ(transparency.children[1].shortcut, "Ctrl+Alt+F");
+    EXPECT_EQ("\n" + Described(machine.menus.last, ""), R"(
+DL-UL Statistics {0}
+Connection Statistics {2}
+  Ethernet {2}
+  Fish && Chips {2}
+Connection Sources {3}
+  Ethernet
+  x Fish && Chips
+---
+Graph Options {1}
+  x Always on Top
+  Show / Hide Graph
+  ---
+  Graphic
+  Numeric
+  o Graph&&Numeric
+  ---
+  Clear Graph
+  Graph Transparency Options "ShortCut [ Ctrl+Alt+S ]"
+    Windows XP Style [Ctrl+Alt+D] <D>
+    Custom Transparency [Ctrl+Alt+F] <F>
+Settings... {4}
+---
+Help {5}
+  Help Contents
+  About Korvane Tremolux
+---
+Exit {6}
+)");
   });
 }
 
-TEST_F(Meter, AdaptersThatComeAreListedAndCountedWithoutASpike) {
+TEST_F(MeterWindow, AdaptersThatComeAreListedAndCountedWithoutASpike) {
   Run([&] {
     Scan({500, 100});
     platform::InterfaceRow row = MakeRow("Fish & Chips");
     row.dwInOctets = 4000000000U;
     machine.interface_table.AddRow(row);
-    Set("SOM1", 1);
     Scan({700, 200});
-    Choose("");
-    const std::vector<platform::MenuEntry>& sources = machine.menus.last[2].children;
-    ASSERT_EQ(sources.size(), 2U);
-    EXPECT_EQ(sources[1].text, "Fish && Chips");
-    EXPECT_TRUE(sources[1].checked);
+    EXPECT_TRUE(Entry("Connection Sources").children.at(1).checked);
     EXPECT_EQ(Window().Traffic().RunTotalDL, 500) << "the counters begin anew with this scan";
     Scan({300, 100});
     EXPECT_EQ(Window().Traffic().RunTotalDL, 800);
     EXPECT_EQ(Stored("ExecuteTime"), 2U);
-  });
-}
-
-TEST_F(Meter, AnAdapterThatIsUntickedNoLongerCounts) {
-  Run([&] {
-    machine.menus.user = [&](const std::vector<platform::MenuEntry>& menu, platform::MenuPainter&) {
-      return menu[2].children[0].id;
-    };
-    machine.windowing.RightClick("_tlkDLULMeter");
+    machine.interface_table.rows[0].dwInOctets = 5;  // its driver began anew
+    Widget(kMeter).top_events->OnResume();
+    Scan({100, 50});
+    EXPECT_EQ(Window().Traffic().RunTotalDL, 900);
+    machine.menus.user = [&](const auto& menu, auto&) { return menu[2].children[0].id; };
+    User().RightClick("_tlkDLULMeter");
+    machine.menus.user = nullptr;
     EXPECT_EQ(Stored("ethernet"), 0U);
     Scan({500, 100});
-    EXPECT_EQ(Window().Traffic().RunTotalDL, 0);
+    EXPECT_EQ(Window().Traffic().RunTotalDL, 900) << "one that is unticked counts no longer";
   });
 }
 
-TEST_F(Meter, ABytesCountedAtTheWakeUpAreNoTraffic) {
+TEST_F(MeterWindow, TheWindowsOfTheStatisticsStayRightBesideEachOther) {
+  machine.interface_table.AddRow(MakeRow("Fish & Chips"));
   Run([&] {
-    machine.interface_table.rows[0].dwInOctets = 5;  // the driver began anew
-    Widget("T_frmBrisanto").top_events->OnResume();
-    Scan({100, 50});
-    EXPECT_EQ(Window().Traffic().RunTotalDL, 100);
-  });
-}
-
-TEST_F(Meter, ThePasswordIsAskedForWheneverThePreferencesAreWanted) {
-  Set("zdP1", 1);
-  Set("zdP", "Secret");
-  Run([&] {
-    platform::TopWindowParams params;
-    params.name = "T_frmPreferences";
-    toolkit::Form preferences(App(), params);
-    int opened = 0;
-    Window().SetPreferences([&](std::string_view) {
-      ++opened;
-      preferences.Show();
+    const std::function<std::string(toolkit::Control&)> total = [&](toolkit::Control& root) {
+      std::string text = root.Name() == "lblInfoTotalDL" ? root.Caption() : "";
+      for (toolkit::Control* child : root.Children()) text += total(*child);
+      return text;
+    };
+    Scan({});  // both adapters get their values
+    Choose("DL-UL Statistics");
+    Then([&] {
+      EXPECT_EQ(Widget("T_frmSpecificConnInfo").text, "Fish & Chips");
+      EXPECT_FALSE(Widget("T_frmConnInfo").enabled);
+      machine.interface_table.AddTraffic(1, 4096, 10);
+      Scan({1024, 10});
+      EXPECT_EQ(total(*Find("T_frmSpecificConnInfo")), "4");
+      EXPECT_EQ(total(*Find("T_frmConnInfo")), "5");
+      // The adapter goes; what it has moved stays to be seen.
+      machine.interface_table.rows.pop_back();
+      Scan({});
+      EXPECT_EQ(total(*Find("T_frmSpecificConnInfo")), "4");
+      App().Terminate();
     });
-    const auto refuse = [&] { machine.windowing.Press("CancelButton"); };
-    machine.message_loop.Then(refuse);
-    Choose("Settings...");
-    EXPECT_EQ(opened, 0);
-    for (const int times : {1, 2}) {
-      machine.message_loop.Then([&] { machine.windowing.Type("PassEdit", "Secret"); });
-      Choose("Settings...");
-      EXPECT_EQ(opened, times) << "open already, they are raised";
-      machine.message_loop.Then(refuse);
-      Choose("Settings...");
-      EXPECT_EQ(opened, times);
-    }
-    preferences.Hide();
-    machine.message_loop.Then(refuse);
-    Choose("Settings...");
-    EXPECT_EQ(opened, 2);
+    Choose("Fish && Chips");
   });
-  EXPECT_EQ(machine.message_loop.starved, 0);
 }
 
-TEST_F(Meter, AFailedStartIsLoggedAndMadeGoodByTheNextScan) {
-  for (int call = 1;; ++call) {
-    SCOPED_TRACE(call);
-    platform::memory::Machine fresh;
-    fresh.interface_table.AddRow(MakeRow("Ethernet"));
-    fresh.notebook.FailCall(call);
-    toolkit::Application app(fresh.Platform());
-    display::T_frmBrisanto window(app);
-    const bool failed = !fresh.notebook.FailurePending();
-    fresh.notebook.FailCall(0);
-    fresh.timers.Advance(1000);
-    fresh.interface_table.AddTraffic(0, 300, 200);
-    fresh.timers.Advance(1000);
-    ASSERT_EQ(window.Traffic().RunTotalDL, 300);
-    ASSERT_TRUE(fresh.windowing.Find("T_frmBrisanto").visible);
-    if (!failed) break;
-  }
+TEST_F(MeterWindow, OtherColoursOfTheSystemShowAtOnce) {
+  Run([&] {
+    constexpr platform::Colour kOther = 0x123456;
+    const auto shows = [&] {
+      const auto pixels = Pixels(*Graph());
+      return std::count(pixels.begin(), pixels.end(), kOther) > 1000;
+    };
+    EXPECT_FALSE(shows());
+    machine.screen.scheme[15] = kOther;  // that of buttons
+    User().ChangeSettings();
+    EXPECT_TRUE(shows());
+  });
+}
+
+TEST_F(MeterWindow, HelpOpensThatOfTheLanguageOrElseTheEnglishOne) {
+  machine.files.PutBesideProgram("Help\\index.html", "<html>");
+  machine.files.PutBesideProgram("Help\\German\\index.html", "<html>");
+  Run([&] {
+    for (const char* language : {"", "German", "Own"}) {
+      Set("Language", std::string(language));
+      Choose("Help Contents");
+    }
+  });
+  ASSERT_EQ(machine.shell.opened.size(), 3U);
+  EXPECT_TRUE(machine.shell.opened[0].ends_with("\\Help\\index.html"));
+  EXPECT_TRUE(machine.shell.opened[1].ends_with("\\Help\\German\\index.html"));
+  EXPECT_TRUE(machine.shell.opened[2].ends_with("\\Help\\index.html"));
 }
 
 }  // namespace

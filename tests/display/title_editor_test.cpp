@@ -1,73 +1,62 @@
-#include <gtest/gtest.h>
-
-#include <functional>
-#include <string>
-#include <vector>
-
+// The list of titles, and its editor.
 #include "display/titles/unit_AddTitlesForm.h"
-#include "tests/display/meter.h"
-#include "toolkit/controls/layout.h"
+#include "tests/meter.h"
 
 namespace {
 
 using display::kAddTitlesForm;
+using platform::WindowId;
 using Lines = std::vector<std::string>;
 
 constexpr std::string_view kFile = "WindowTitles.tit";
-constexpr std::string_view kPlacementKey = "\\Software\\BrisantoNET\\Settings\\AddTitlesScreen";
+const std::string kIdle = "|[ DL:0,0 kB UL:0,0 kB ]";
 
-class TitleEditor : public test::MeterTest {
+class TitleEditor : public test::Meter {
  protected:
+  TitleEditor() { Set("SOM2", 0), Set("SOM1", 1), Set("WindowTitle", 2); }
+
+  std::string& Title(WindowId window) { return machine.other_windows.Find(window).title; }
   void Put(std::string_view bytes) { machine.files.PutBesideProgram(kFile, bytes); }
   std::string File() { return machine.files.BytesBesideProgram(kFile).value_or("(missing)"); }
   Lines& Shown() { return Widget("WindowTitlesListbox").items; }
 
   // Opens the editor; `user` is what happens while it is open.
   void Edit(std::function<void()> user) {
-    machine.message_loop.Then(std::move(user));
+    Then(std::move(user));
     Window().EditTitles();
-    EXPECT_FALSE(machine.windowing.Exists(kAddTitlesForm));
-    EXPECT_EQ(machine.message_loop.starved, 0);
+    EXPECT_FALSE(User().Exists(kAddTitlesForm));
   }
   void Add(std::string_view title) {
-    machine.windowing.Type("AddNew", title);
-    machine.windowing.Press("btnAdd");
+    User().Type("AddNew", title);
+    User().Press("btnAdd");
   }
-  void Ok() { machine.windowing.Press("OkBtn"); }
+
+  const std::string path = machine.files.ProgramFolder() + std::string(kFile);
 };
 
 TEST_F(TitleEditor, KeepsWhatWasEditedWhicheverWayItCloses) {
-  struct Row {
-    const char* why;
-    std::function<void()> close;
-  };
-  const Row rows[] = {
-      {"OK", [&] { Ok(); }},
-      {"Esc", [&] { machine.windowing.PressEsc(kAddTitlesForm); }},
-      {"the close box", [&] { machine.windowing.ClickCloseBox(kAddTitlesForm); }},
-      {"the program ends", [&] { App().Terminate(); }},
+  const std::pair<const char*, std::function<void()>> rows[] = {
+      {"OK", [&] { User().Press("OkBtn"); }},
+      {"Esc", [&] { User().PressEsc(kAddTitlesForm); }},
       {"the session ends",
        [&] {
-         machine.windowing.EndSession();
+         User().EndSession();
          EXPECT_EQ(File(), "old\r\nnew\r\n") << "the process may be gone now";
        }},
   };
-  Set("WindowTitle", 2);
-  for (const Row& row : rows) {
-    SCOPED_TRACE(row.why);
+  for (const auto& [why, close] : rows) {
+    SCOPED_TRACE(why);
     Put("old\r\n");
-    const platform::WindowId window = machine.other_windows.Add("A new one");
+    const WindowId window = machine.other_windows.Add("A new one");
     Run([&] {
       Edit([&] {
         Add("new");
         EXPECT_EQ(File(), "old\r\n") << "not before it closes";
-        row.close();
+        close();
       });
       EXPECT_EQ(File(), "old\r\nnew\r\n");
       Scan({});
-      if (!App().Terminated()) {
-        EXPECT_EQ(machine.other_windows.Find(window).title.substr(0, 10), "A new one|");
-      }
+      EXPECT_EQ(Title(window), App().Terminated() ? "A new one" : "A new one" + kIdle);
     });
     machine.other_windows.Remove(window);
   }
@@ -77,37 +66,38 @@ TEST_F(TitleEditor, AddsWhatIsTypedAndRemovesWhatIsSelected) {
   Put("one\r\ntwo\r\n");
   Run([&] {
     Edit([&] {
+      const auto remove = [&] { User().Press("btnRemove"); };
+      const auto select = [&](int row) { User().Choose("WindowTitlesListbox", row); };
+      const auto press_delete = [&] {
+        User().PressKey("WindowTitlesListbox", platform::Key::kDelete);
+      };
       EXPECT_EQ(Widget("WindowTitlesListbox").index, 0) << "the first line is selected";
-      machine.windowing.Press("btnAdd");
+      User().Press("btnAdd");
       EXPECT_EQ(Shown(), (Lines{"one", "two"})) << "nothing was typed";
-      machine.windowing.Type("AddNew", "Ж|é 漢");
-      machine.windowing.PressEnter(kAddTitlesForm);
+      User().Type("AddNew", "Ж|é 漢");
+      User().PressEnter(kAddTitlesForm);
       EXPECT_EQ(Shown(), (Lines{"one", "two", "Ж|é 漢"}));
       EXPECT_EQ(Widget("AddNew").text, "");
-      EXPECT_EQ(machine.windowing.Focused(), "AddNew");
-
-      machine.windowing.Press("btnRemove");
+      EXPECT_EQ(User().Focused(), "AddNew");
+      remove();
+      remove();  // nothing is selected
       EXPECT_EQ(Shown(), (Lines{"two", "Ж|é 漢"}));
-      machine.windowing.Press("btnRemove");
-      EXPECT_EQ(Shown(), (Lines{"two", "Ж|é 漢"})) << "nothing is selected";
-      machine.windowing.Choose("WindowTitlesListbox", 1);
-      machine.windowing.Press("btnRemove");
-      EXPECT_EQ(Shown(), (Lines{"two"}));
       Add("x");
       Add("y");
-      machine.windowing.Choose("WindowTitlesListbox", 1);
-      machine.windowing.PressKey("WindowTitlesListbox", platform::Key::kDelete);
-      machine.windowing.PressKey("WindowTitlesListbox", platform::Key::kDelete);
-      EXPECT_EQ(Shown(), (Lines{"two"}));
+      select(1);
+      press_delete();  // the next one has come in its place
+      press_delete();
+      press_delete();
+      EXPECT_EQ(Shown(), Lines{"two"});
+      EXPECT_EQ(Widget("WindowTitlesListbox").index, 0);
       Add("two");
-      Ok();
+      User().Press("OkBtn");
     });
     EXPECT_EQ(File(), "two\r\ntwo\r\n");
   });
 }
 
 TEST_F(TitleEditor, KeepsWhatItDoesNotShowAndSaysSo) {
-  const std::string path = machine.files.ProgramFolder() + std::string(kFile);
   const auto lines = [](int count, const std::string& end) {
     std::string text;
     for (int line = 0; line < count; ++line) text += "title " + std::to_string(line) + end;
@@ -135,8 +125,7 @@ TEST_F(TitleEditor, KeepsWhatItDoesNotShowAndSaysSo) {
       {"held by another program", "x\n", hold, "x\n", unreadable},
       {"over 16 MiB", huge, {}, huge, unreadable},
       {"one below the most", lines(9999, "\n"), {}, lines(9999, "\r\n") + "new\r\n", ""},
-      {"the most: nothing is added", lines(10000, "\n"), {}, lines(10000, "\r\n"), too_many},
-      {"more: they stay",
+      {"more than the most: nothing is added, and they stay",
        lines(10000, "\n") + "a\n\nb",
        {},
        lines(10000, "\r\n") + "a\n\nb",
@@ -150,8 +139,10 @@ TEST_F(TitleEditor, KeepsWhatItDoesNotShowAndSaysSo) {
     Run([&] {
       Edit([&] {
         EXPECT_EQ(Widget("Note").text, row.note);
+        EXPECT_EQ(Widget("btnAdd").enabled, row.note.empty());
+        EXPECT_EQ(Widget("btnRemove").enabled, row.note != unreadable);
         if (Widget("btnAdd").enabled) Add("new");
-        Ok();
+        User().Press("OkBtn");
       });
       EXPECT_EQ(machine.notification_area.balloons.size(), row.balloons);
     });
@@ -159,44 +150,21 @@ TEST_F(TitleEditor, KeepsWhatItDoesNotShowAndSaysSo) {
     machine.files.SetWritable(path, true);
     EXPECT_TRUE(File() == row.after) << File().substr(0, 100);
   }
-  EXPECT_FALSE(machine.files.BytesBesideProgram("err.log"));
-}
-
-TEST_F(TitleEditor, AMissingFileIsAnEmptyListAndAListThatCannotBeStoredIsUsed) {
+  // A list that cannot be stored is used all the same.
+  machine.files.Remove(path);
   machine.files.SetWritable(machine.files.ProgramFolder(), false);
-  Set("WindowTitle", 2);
-  const platform::WindowId window = machine.other_windows.Add("Notes");
+  const WindowId window = machine.other_windows.Add("Notes");
   Run([&] {
     Edit([&] {
       EXPECT_TRUE(Shown().empty());
       EXPECT_EQ(Widget("WindowTitlesListbox").index, -1);
-      EXPECT_EQ(Widget("Note").text, "");
       Add("NOTE");
-      Ok();
+      User().Press("OkBtn");
     });
-    EXPECT_EQ(File(), "(missing)");
     Scan({});
-    EXPECT_EQ(machine.other_windows.Find(window).title.substr(0, 6), "Notes|");
+    EXPECT_EQ(Title(window), "Notes" + kIdle);
   });
-}
-
-TEST_F(TitleEditor, ComesBackWhereItWasAndOnlyOnce) {
-  Run([&] {
-    Edit([&] {
-      EXPECT_EQ(toolkit::LayoutFaults(*App().Modals().Top()), Lines());
-      EXPECT_EQ(Widget(kAddTitlesForm).params.frame, platform::Frame::kTool);
-      Window().EditTitles();
-      EXPECT_EQ(Widget(kAddTitlesForm).raised, 1);
-      machine.windowing.Drag(kAddTitlesForm, {40, 50});
-      Ok();
-    });
-    EXPECT_EQ(machine.registry.Dword(kPlacementKey, "Left"), 40U);
-    Edit([&] {
-      EXPECT_EQ(Widget(kAddTitlesForm).bounds.left, 40);
-      EXPECT_EQ(Widget(kAddTitlesForm).bounds.top, 50);
-      Ok();
-    });
-  });
+  EXPECT_EQ(File() + ErrorLog(), "(missing)");
 }
 
 }  // namespace

@@ -38,13 +38,11 @@ std::string ReadFile(std::string_view path) {
   return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
 }
 
-bool FileExists(std::string_view path) { return fs::is_regular_file(kRoot / path); }
-
 std::vector<Source> AllSources() {
   std::vector<Source> sources;
-  for (const char* folder : {"platform", "toolkit", "settings", "engine", "display", "alerts",
-                             "stats", "tests", "bench"}) {
-    if (!fs::is_directory(kRoot / folder)) continue;
+  for (const char* folder :
+       {"platform", "toolkit", "settings", "language", "engine", "quantity", "alerts", "stats",
+        "display", "preferences", "program", "tests", "bench"}) {
     for (const fs::directory_entry& entry : fs::recursive_directory_iterator(kRoot / folder)) {
       const fs::path& path = entry.path();
       if (!entry.is_regular_file()) continue;
@@ -53,8 +51,6 @@ std::vector<Source> AllSources() {
       sources.push_back({name, ReadFile(name)});
     }
   }
-  std::sort(sources.begin(), sources.end(),
-            [](const Source& a, const Source& b) { return a.path < b.path; });
   return sources;
 }
 

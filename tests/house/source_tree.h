@@ -17,15 +17,13 @@ struct Source {
   std::string path;  // from the root, with "/"
   std::string text;
 
-  [[nodiscard]] bool IsHeader() const { return path.ends_with(".h"); }
   [[nodiscard]] std::vector<Include> Includes() const;
 };
 
 // The bytes of a file, by its path from the root; empty when it is missing.
 [[nodiscard]] std::string ReadFile(std::string_view path);
-[[nodiscard]] bool FileExists(std::string_view path);
 
-// Every .h and .cpp file of the project's folders, sorted by path. Folders of builds are left out.
+// Every .h and .cpp file of the project's folders. Folders of builds are left out.
 [[nodiscard]] std::vector<Source> AllSources();
 
 }  // namespace house

@@ -1,19 +1,20 @@
-#include <gtest/gtest.h>
+// The window of the preferences: its pages, and the reset.
+#include <cstring>
+#include <set>
 
-#include <algorithm>
-#include <fstream>
-#include <functional>
-#include <iterator>
-#include <string>
-#include <vector>
-
-#include "tests/preferences/preferences_world.h"
+#include "settings/schema.h"
+#include "tests/meter.h"
 #include "toolkit/controls/layout.h"
+#include "toolkit/controls/spin_edit.h"
 
 namespace {
 
-class Preferences : public test::PreferencesTest {
+using platform::memory::RegistryValue;
+
+class Preferences : public test::Meter {
  protected:
+  static constexpr const char* kForm = "T_frmPreferences";
+
   std::string Page() {
     for (const char* page : {"General", "GraphColors", "GraphGrids", "GraphOthers", "TextColors",
                              "TextOther", "SpeedUp", "Admin", "Interfaces", "BandwidthAlert",
@@ -22,43 +23,69 @@ class Preferences : public test::PreferencesTest {
     }
     return "";
   }
+  // Gives every stored value another one than its default.
+  void UpsetAll() {
+    using settings::ValueType;
+    for (const settings::SchemaRow& row : settings::Schema()) {
+      if (row.name == "zdP1") continue;
+      RegistryValue value = RegistryValue::Dword(77);
+      if (row.type == ValueType::kColour) value = RegistryValue::Text("$00123456");
+      if (row.type == ValueType::kText) value = RegistryValue::Text("upset");
+      if (row.type == ValueType::kCounter) value = RegistryValue::Text("77");
+      if (row.type == ValueType::kDate) {
+        value = RegistryValue::Binary(std::vector<std::byte>(8, std::byte{1}));
+      }
+      machine.registry.Set(test::kSettingsKey, row.name, value);
+    }
+  }
+  void Reset(std::initializer_list<const char*> boxes) {
+    for (const char* box : boxes) User().Press(box);
+    User().Press("btnResetSettings");
+  }
+  void Wait(int ms) { machine.timers.Advance(ms); }
 };
 
-TEST_F(Preferences, EachItemOfTheTreeLeadsToItsPage) {
+TEST_F(Preferences, EachItemOfTheTreeLeadsToItsPageWhichStaysWhileTheyAreClosed) {
   struct Row {
     const char* item;
-    const char* page;
-    const char* why;
+    int level;
+    const char* page;  // a heading, or an item without a page, leaves the one before
   };
   static constexpr Row kRows[] = {
-      {"Graph Colors", "GraphColors", ""},
-      {"Graph", "GraphColors", "a heading leaves the page"},
-      {"Graph Grids", "GraphGrids", ""},
-      {"Graph Other", "GraphOthers", ""},
-      {"Numeric", "GraphOthers", "a heading"},
-      {"Numeric Colors", "TextColors", ""},
-      {"Numeric Other", "TextOther", ""},
-      {"Alerts", "TextOther", "a heading"},
-      {"Notifications", "Notification", ""},
-      {"Bandwidth Alerts", "BandwidthAlert", ""},
-      {"Interfaces", "Interfaces", ""},
-      {"Admin", "Admin", ""},
-      {"Speed Up", "SpeedUp", ""},
-      {"Other", "Other", ""},
-      {"Brisanto Script", "Other", "there is no such page"},
-      {"Reset Settings", "ResetSettings", ""},
-      {"General", "General", ""},
+      {"General", 0, "General"},
+      {"Graph", 0, "General"},
+      {"Graph Colors", 1, "GraphColors"},
+      {"Graph Grids", 1, "GraphGrids"},
+      {"Graph Other", 1, "GraphOthers"},
+      {"Numeric", 0, "GraphOthers"},
+      {"Numeric Colors", 1, "TextColors"},
+      {"Numeric Other", 1, "TextOther"},
+      {"Alerts", 0, "TextOther"},
+      {"Notifications", 1, "Notification"},
+      {"Bandwidth Alerts", 1, "BandwidthAlert"},
+      {"Interfaces", 0, "Interfaces"},
+      {"Admin", 0, "Admin"},
+      {"Other", 0, "Other"},
+      {"Speed Up", 0, "SpeedUp"},
+      {"Brisanto Script", 0, "SpeedUp"},
+      {"Speed Up", 0, "SpeedUp"},
+      {"Reset Settings", 0, "ResetSettings"},
   };
   RunOpen([&] {
-    EXPECT_EQ(Page(), "General");
-    for (const Row& row : kRows) {
-      SCOPED_TRACE(std::string(row.item) + " " + row.why);
-      ChoosePage(row.item);
-      EXPECT_EQ(Page(), row.page);
+    EXPECT_EQ(User().Focused(), "TreeItems");
+    for (std::size_t i = 0; i < std::size(kRows); ++i) {
+      SCOPED_TRACE(kRows[i].item);
+      User().Choose("TreeItems", static_cast<int>(i));
+      EXPECT_EQ(Page(), kRows[i].page);
+      EXPECT_EQ(Widget("TreeItems").items.at(i), kRows[i].item);
+      EXPECT_EQ(Widget("TreeItems").levels.at(i), kRows[i].level);
     }
-    // The second of two items of that name.
-    User().Choose("TreeItems", 16);
-    EXPECT_EQ(Page(), "SpeedUp");
+    const auto* form = &Widget(kForm);
+    User().Press("btnClose");
+    EXPECT_FALSE(form->visible);
+    OpenPreferences();
+    EXPECT_EQ(&Widget(kForm), form) << "another one was made";
+    EXPECT_EQ(Page(), "ResetSettings");
     Choose("DL-UL Statistics");
     User().Choose("PageControl1", 4);
     User().Press("Label1");
@@ -66,116 +93,156 @@ TEST_F(Preferences, EachItemOfTheTreeLeadsToItsPage) {
   });
 }
 
-TEST_F(Preferences, CloseEscAndTheCloseBoxOnlyHideIt) {
-  RunOpen([&] {
-    EXPECT_EQ(User().Focused(), "TreeItems");
-    ChoosePage("Other");
-    const platform::memory::WidgetState* form = &Widget(kForm);
-    for (const auto& hide : std::initializer_list<std::function<void()>>{
-             [&] { Close(); }, [&] { User().PressEsc(kForm); },
-             [&] { User().ClickCloseBox(kForm); }}) {
-      hide();
-      EXPECT_FALSE(Widget(kForm).visible);
-      Open();
-      EXPECT_TRUE(Widget(kForm).visible);
-      EXPECT_EQ(&Widget(kForm), form) << "another one was made";
-      EXPECT_EQ(Page(), "Other") << "the page that was left";
-    }
-    const int raised = Widget(kForm).raised;
-    Open();
-    EXPECT_EQ(Widget(kForm).raised, raised + 1);
-  });
-}
-
-TEST_F(Preferences, TheStoredValuesAreReadInOneOrder) {
-  const std::vector<std::string> order = {
-      "BevelInner",   "vGridVisible",        "FormMagnet",     "GraphColor_Download",
-      "IconType",     "BevelWidth",          "GraphScaleType", "SpeedLimit",
-      "TrayIconFile", "GraphColor_Font",     "FontNameIndex",  "SOM1",
-      "SOM3",         "ScaleUnit",           "zdP1",           "WindowTitle",
-      "AskOnExit",    "TransparentFade",     "TickerActive",   "BAAlerts",
-      "LessByteWere", "NotificationsActive", "DLSwitchScr"};
-  RunOpen([&] {
-    Close();
-    std::vector<std::string> read;
-    machine.notebook.on_registry_read = [&](std::string_view name) { read.emplace_back(name); };
-    Open();
-    machine.notebook.on_registry_read = nullptr;
-    EXPECT_EQ(InOrder(read, order), order);
-    // The style of lines that are not shown, and the rule that is not chosen.
-    EXPECT_EQ(InOrder(read, {"cmbHLineStyle", "MoreByteWere"}), std::vector<std::string>());
-  });
-}
-
-TEST_F(Preferences, EveryControlHasAHintAndANumberSaysItsRange) {
-  RunOpen([&] {
-    const std::function<void(toolkit::Control&)> check = [&](toolkit::Control& control) {
-      for (toolkit::Control* child : control.Children()) check(*child);
-      using Kind = platform::memory::WidgetState::Kind;
-      if (!User().Exists(control.Name())) return;
-      const auto& widget = Widget(control.Name());
-      const bool is_worked =
-          widget.kind == Kind::kEdit || widget.kind == Kind::kList ||
-          widget.kind == Kind::kTrackBar ||
-          (widget.kind == Kind::kButton && !widget.IsButton(platform::ButtonKind::kGroup));
-      if (!is_worked) return;
-      EXPECT_NE(control.Hint(), "") << control.Name();
-      const auto* spin = dynamic_cast<const toolkit::SpinEdit*>(&control);
-      if (spin == nullptr || spin->Name() == "spnKeyLedsLimit") return;  // that one has no bounds
-      EXPECT_NE(control.Hint().find(std::to_string(spin->Highest())), std::string::npos)
-          << control.Name();
-    };
-    for (toolkit::Form* form : App().Forms()) {
-      if (form->Name() == kForm) check(*form);
-    }
-  });
-}
-
-TEST_F(Preferences, ItsPlaceIsKept) {
-  constexpr std::string_view kPlace = "Software\\BrisantoNET\\Settings\\SettingsScreen";
-  RunOpen([&] {
-    User().Drag(kForm, {33, 44});
-    EXPECT_EQ(machine.registry.Dword(kPlace, "Left"), 33U);
-  });
-  RunOpen([&] {
-    EXPECT_EQ(Widget(kForm).bounds.left, 33);
-    EXPECT_EQ(Widget(kForm).bounds.top, 44);
-  });
-}
-
-TEST_F(Preferences, LockedTheyOpenOnlyWithThePassword) {
-  Set("zdP1", 1);
-  Set("zdP", "secret");
-  Run([&] {
-    machine.message_loop.Then([&] { User().Press("CancelButton"); });
-    Open();
-    EXPECT_FALSE(User().Exists(kForm));
-    machine.message_loop.Then([&] { User().Type("PassEdit", "secret"); });
-    Open();
-    EXPECT_TRUE(Widget(kForm).visible);
-  });
-}
-
-TEST_F(Preferences, EveryPageIsLaidOutInEveryLanguage) {
-  for (const char* language : {"German", "French", "Spanish", "Turkish", "Japanese"}) {
-    std::ifstream file(std::string(SOURCE_FOLDER "/assets/Languages/") + language + ".lng",
-                       std::ios::binary);
-    machine.files.PutBesideProgram(
-        std::string("Languages\\") + language + ".lng",
-        std::string(std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()));
+TEST_F(Preferences, EveryPageIsLaidOutInEveryLanguageAndEveryControlHasAHint) {
+  for (const std::string language : {"German", "French", "Spanish", "Turkish", "Japanese"}) {
+    const std::string name = "Languages/" + language + ".lng";
+    machine.files.PutBesideProgram("Languages\\" + language + ".lng",
+                                   test::ReadFile(SOURCE_FOLDER "/assets/" + name));
   }
+  std::string told;
+  const std::function<void(toolkit::Control&)> check = [&](toolkit::Control& control) {
+    for (toolkit::Control* child : control.Children()) check(*child);
+    if (!User().Exists(control.Name())) return;
+    using Kind = platform::memory::WidgetState::Kind;
+    const auto& widget = Widget(control.Name());
+    if (widget.kind == Kind::kText && widget.text.empty())
+      told += control.Name() + " says nothing\n";
+    if (widget.kind == Kind::kText || widget.kind == Kind::kSurface ||
+        widget.IsButton(platform::ButtonKind::kGroup))
+      return;
+    if (control.Hint().empty() && control.Role() != toolkit::KeyRole::kNone)
+      told += control.Name() + " has no hint\n";
+    const auto* spin = dynamic_cast<const toolkit::SpinEdit*>(&control);
+    if (spin == nullptr) return;
+    told += spin->Name() + " " + std::to_string(spin->Lowest()) + ".." +
+            std::to_string(spin->Highest()) + "/" + std::to_string(spin->StepSize()) + "\n";
+  };
   RunOpen([&] {
+    SeeEveryPage();
     ASSERT_EQ(Widget("cmbLanguage").items.size(), 6U);
     for (int i = 0; i < 6; ++i) {
       SCOPED_TRACE(Widget("cmbLanguage").items[static_cast<std::size_t>(i)]);
       User().Choose("cmbLanguage", i);
-      for (toolkit::Form* form : App().Forms()) {
-        if (form->Name() == kForm) {
-          EXPECT_EQ(toolkit::LayoutFaults(*form), std::vector<std::string>());
-        }
-      }
+      EXPECT_EQ(toolkit::LayoutFaults(*Find(kForm)), std::vector<std::string>());
     }
+    check(*Find(kForm));
+    EXPECT_EQ("\n" + told, R"(
+TreeItems has no hint
+vLineSpace 0..1000/1
+hLineSpace 0..1000/1
+BevelWidth 0..20/1
+BorderWidth 0..20/1
+PulseSpace 0..50/1
+PulseWidth 1..50/1
+CustomScale 1024..2100000000/1024
+MoreThan 1..2100000000/1
+BytesSpin 0..2100000000/1000
+BytesSec 1..86400/1
+TickerSpin 1000..10000000/1000
+spnKeyLedsLimit -2147483648..2147483647/1000
+)");
   });
+}
+
+// Which value is of which group is written in docs/settings.md.
+TEST_F(Preferences, EachGroupOfTheResetWritesItsValuesAndNoOthers) {
+  struct Row {
+    const char* box;
+    const char* of_them;
+    std::size_t values;
+  };
+  static constexpr Row kRows[] = {
+      {"R1", "FormMagnet", 6},  {"R2", "IconType", 11},    {"R3", "vLineSpace", 8},
+      {"R4", "BevelInner", 9},  {"R5", "FontName", 3},     {"R6", "SOM1", 9},
+      {"R7", "BAAction", 12},   {"R8", "LessNotSecs", 20}, {"R9", "AskOnExit", 4},
+      {"R10", "CurrentDay", 6}, {"R11", "CurrentWeek", 6}, {"R12", "CurrentMonth", 6},
+  };
+  RunOpen(
+      [&] {
+        for (const Row& row : kRows) {
+          SCOPED_TRACE(row.box);
+          UpsetAll();
+          std::set<std::string> written;
+          machine.notebook.on_registry_write = [&](std::string_view name) {
+            written.emplace(name);
+          };
+          Reset({row.box});
+          machine.notebook.on_registry_write = nullptr;
+          EXPECT_EQ(written.size(), row.values);
+          EXPECT_TRUE(written.contains(row.of_them));
+          Wait(600);
+          EXPECT_FALSE(Widget(row.box).checked);
+        }
+      },
+      "Reset Settings");
+}
+
+TEST_F(Preferences, TheResetWritesDefaultsOfItsOwnAndTheMeterTakesThem) {
+  RunOpen(
+      [&] {
+        machine.clock.SetNow(platform::EncodeDateTime(2024, 12, 29, 20, 0, 0));
+        Parts().SpeedCap = 4711;
+        Parts().graph.Set(&display::GraphLook::SpeedLimit, std::int64_t{4711});
+        UpsetAll();
+        User().Press("SelectAll");
+        User().Press("R12");
+        EXPECT_FALSE(Widget("SelectAll").checked) << "not all are";
+        EXPECT_TRUE(Widget("R11").checked);
+        Reset({"R12"});
+        EXPECT_TRUE(Widget("SelectAll").checked);
+        EXPECT_EQ(Stored("AlertsMoreThan"), 1U);
+        EXPECT_EQ(Stored("MoreThan"), 10U);
+        EXPECT_EQ(StoredText("MorePlayWavFile"), "");
+        EXPECT_EQ(StoredText("LessPlayWavFile"), machine.files.ProgramFolder() + "Warning.wav");
+        EXPECT_EQ(StoredText("GraphColor_Background"), "clBtnFace");
+        EXPECT_EQ(Stored("GraphScaleType"), 77U) << "the scale is in no group";
+        EXPECT_EQ(Parts().SpeedCap, 4711);
+        EXPECT_EQ(Parts().graph.Look().SpeedLimit, 4711);
+        const auto day = machine.registry.Binary(test::kSettingsKey, "CurrentDay");
+        double date = 0;
+        ASSERT_TRUE(day && day->size() == sizeof date);
+        std::memcpy(&date, day->data(), sizeof date);
+        EXPECT_EQ(date, platform::EncodeDate(2024, 12, 29));
+        EXPECT_EQ(Stored("CurrentWeek"), 52U) << "a Sunday, in the evening too";
+        EXPECT_EQ(Stored("CurrentMonth"), 12U);
+        EXPECT_EQ(StoredText("CurrentWeekMaxUL"), "0");
+        SeeEveryPage();
+        EXPECT_EQ(Widget("AvarageTrackBar").position, 5);
+        EXPECT_EQ(Widget("FontChoose").text, "Tahoma");
+        EXPECT_EQ(Widget("UploadColor").background, 0xFF0000U);
+        EXPECT_EQ(Parts().graph.Look().OutColor, 0xFF0000U);
+        EXPECT_EQ(Line(), "[ Average DL:0,0 kB  UL:0,0 kB ]") << "two blanks";
+      },
+      "Reset Settings");
+}
+
+TEST_F(Preferences, TheProgressOfTheResetLetsTheWindowBeUsedAndClosed) {
+  RunOpen(
+      [&] {
+        const auto at = [&] { return Widget("ResetSettingPrg").position; };
+        const Values before = AllValues();
+        Reset({});
+        EXPECT_EQ(ChangesSince(before), "") << "no group was chosen";
+        EXPECT_FALSE(Widget("btnResetSettings").enabled);
+        Wait(5);
+        EXPECT_EQ(at(), 1);
+        Wait(245);
+        EXPECT_EQ(at(), 50);
+        User().Press("R3");
+        User().Press("btnClose");
+        OpenPreferences();
+        EXPECT_EQ(at(), 50);
+        User().Press("btnClose");
+        Wait(250);
+        EXPECT_EQ(at(), 100);
+        Wait(5);
+        OpenPreferences();
+        EXPECT_EQ(at(), 0);
+        EXPECT_TRUE(Widget("btnResetSettings").enabled);
+        EXPECT_FALSE(Widget("R3").checked);
+        Reset({});  // and the end of the program comes in the middle of it
+      },
+      "Reset Settings");
 }
 
 }  // namespace

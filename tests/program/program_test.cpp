@@ -1,37 +1,186 @@
+// The program as a whole: its start, its windows one by one, and what holds for all of them.
 #include "program/program.h"
 
-#include <gtest/gtest.h>
-
-#include "platform/memory/machine.h"
-#include "settings/store.h"
+#include "tests/meter.h"
+#include "toolkit/controls/layout.h"
 
 namespace {
 
-namespace setting = settings::setting;
+class Program : public test::Meter {
+ protected:
+  struct Window {
+    const char* name;
+    const char* what;
+    std::function<void()> open;
+    std::string place = "";  // the key that keeps where it stands; empty where none does
+    bool modal = true;
+  };
+  const std::vector<Window> kWindows = {
+      {"T_frmAbout", "about", [this] { ChooseInTray("About Korvane Tremolux"); }},
+      {"T_frmAddTitles", "titles",
+       [this] { App().Guard([this] { Meter::Window().EditTitles(); }); }, "AddTitles"},
+      {"T_frmAreYouSure", "question", [this] { ChooseInTray("Exit"); }},
+      {"T_frmSecurity", "prompt", [this] { ChooseInTray("Settings..."); }},
+      {"T_frmSpecificConnInfo", "adapter", [this] { ChooseInTray("Ethernet"); },
+       "SpecificConnInfo"},
+      {"T_frmBandWidthAlert", "alert",
+       [this] {
+         Scan({2048, 0});
+       }},
+      {"T_frmConnInfo", "machine", [this] { ChooseInTray("DL-UL Statistics"); }, "ConnInfo", false},
+      {"T_frmPreferences", "preferences", [this] { ChooseInTray("Settings..."); }, "Settings",
+       false},
+  };
 
-TEST(Program, AFreshRunIsUncappedAndBeginsAtZero) {
-  platform::memory::Machine machine;
-  settings::Store store{machine.registry, machine.files};
-  store.Write(setting::GraphScaleType, 1);  // which the window's initialisation takes as a cap
-  machine.clock.SetNow(platform::EncodeDateTime(2024, 5, 15, 18, 0, 0));
-  program::Program program(machine.Platform());
-  const engine::TrafficState& traffic = program.Meter().Traffic();
-  EXPECT_EQ(traffic.SpeedCap, 0);
-  EXPECT_EQ(traffic.RunStartDate, platform::EncodeDate(2024, 5, 15));
-  EXPECT_EQ(traffic.RunStartTime, 0.75);
-  EXPECT_EQ(machine.windowing.application_title, "Korvane Tremolux");
-  EXPECT_EQ(store.ReadWith(setting::TickerBytes, 9), 1000) << "also what nobody has read";
-  EXPECT_EQ(store.ReadWith(setting::CurrentWeek, 9), 20) << "as the window has set it";
+  // Stores what makes the program open the window, and nothing that opens others.
+  void Prepare(const Window& window) {
+    const auto is = [&window](std::string_view name) { return window.name == name ? 1 : 0; };
+    Set("zdP1", is("T_frmSecurity"));
+    for (const char* name : {"BAAlerts", "MoreThan", "baDownload", "BAAction"}) {
+      Set(name, is("T_frmBandWidthAlert"));
+    }
+    Set("BAShow", 0);
+  }
+  // Opens the window; `user` is what happens while it is open.
+  void While(const Window& window, std::function<void()> user) {
+    if (window.modal) Then(user);
+    window.open();
+    if (!window.modal) user();
+  }
+  [[nodiscard]] bool Shown(const char* name) { return User().Exists(name) && Widget(name).visible; }
+};
+
+TEST_F(Program, EachWindowIsLaidOutAboveTheMeterIsRaisedByTheMenuAndCloses) {
+  for (const Window& window : kWindows) {
+    SCOPED_TRACE(window.what);
+    Prepare(window);
+    Run([&] {
+      int left = 0;
+      const std::vector<std::function<void()>> ways = {[&] { User().ClickCloseBox(window.name); },
+                                                       [&] { User().PressEsc(window.name); }};
+      for (const auto& close : ways) {
+        While(window, [&] {
+          ASSERT_TRUE(Shown(window.name));
+          if (User().Exists("btnDetails")) User().Press("btnDetails");
+          EXPECT_EQ(toolkit::LayoutFaults(*Find(window.name)), std::vector<std::string>());
+          EXPECT_FALSE(Widget(window.name).text.empty());
+          EXPECT_TRUE(Widget(window.name).topmost) << "or else the meter would cover it";
+          EXPECT_EQ(Widget("T_frmBrisanto").enabled, !window.modal);
+          const auto raises = [&](const char* why, const std::function<void()>& act) {
+            Widget(window.name).raised = 0;
+            act();
+            EXPECT_EQ(Widget(window.name).raised, 1) << why;
+          };
+          if (!window.modal) raises("again", window.open);
+          for (const char* other :
+               {"About Korvane Tremolux", "Ethernet", "DL-UL Statistics", "Settings..."}) {
+            if (window.modal) raises(other, [&] { ChooseInTray(other); });
+          }
+          if (!window.place.empty()) {
+            EXPECT_EQ(Widget(window.name).bounds.left == 40, left == 40) << "where it was";
+            User().Drag(window.name, {left = 40, 50});
+            EXPECT_EQ(machine.registry.Dword(
+                          "Software\\BrisantoNET\\Settings\\" + window.place + "Screen", "Left"),
+                      40U);
+          }
+          close();
+        });
+        EXPECT_FALSE(Shown(window.name));
+        EXPECT_TRUE(App().Modals().Empty() && Widget("T_frmBrisanto").enabled);
+        EXPECT_FALSE(App().Terminated());
+        Set("BAShow", 0);
+      }
+    });
+    EXPECT_EQ(ErrorLog(), "");
+  }
 }
 
-TEST(Program, ASecondCopyEndsWithoutASign) {
-  platform::memory::Machine machine;
+TEST_F(Program, AWindowThatTheSystemRefusesIsLoggedAndOpensTheNextTime) {
+  for (const Window& window : kWindows) {
+    SCOPED_TRACE(window.what);
+    Prepare(window);
+    Run([&] {
+      User().refused = window.name;
+      window.open();
+      const bool has_told = window.name == std::string("T_frmBandWidthAlert");  // by a balloon
+      EXPECT_EQ(ErrorLog().empty(), has_told);
+      EXPECT_TRUE(App().Modals().Empty() && Widget("T_frmBrisanto").enabled);
+      EXPECT_FALSE(App().Terminated());
+      User().refused.clear();
+      Set("BAShow", 0);
+      While(window, [&] {
+        EXPECT_TRUE(Shown(window.name));
+        User().ClickCloseBox(window.name);
+      });
+    });
+    machine.files.Remove(machine.files.ProgramFolder() + "err.log");
+  }
+}
+
+TEST_F(Program, LockedThePreferencesOpenOnlyWithThePassword) {
+  Set("zdP1", 1);
+  Set("zdP", "Secret");
+  Run([&] {
+    const auto open = [&](const char* password) {
+      Then([this, password] {
+        User().Type("PassEdit", password);
+        if (password != std::string("Secret")) User().Press("CancelButton");
+      });
+      OpenPreferences();
+      return Shown("T_frmPreferences");
+    };
+    EXPECT_FALSE(open("secret"));
+    EXPECT_TRUE(open("Secret"));
+    const int raised = Widget("T_frmPreferences").raised;
+    EXPECT_TRUE(open("secret"));
+    EXPECT_EQ(Widget("T_frmPreferences").raised, raised) << "asked for while they are open, too";
+    User().Press("btnClose");
+    EXPECT_FALSE(open("secret"));
+  });
+}
+
+TEST_F(Program, AFreshRunIsUncappedAndBeginsAtZero) {
+  Set("GraphScaleType", 1);  // which the window's initialisation takes as a cap
+  machine.clock.SetNow(platform::EncodeDateTime(2024, 5, 15, 18, 0, 0));
+  Run([&] {
+    const engine::TrafficState& traffic = Meter::Window().Traffic();
+    EXPECT_EQ(traffic.SpeedCap, 0);
+    EXPECT_EQ(traffic.RunStartDate, platform::EncodeDate(2024, 5, 15));
+    EXPECT_EQ(traffic.RunStartTime, 0.75);
+    EXPECT_EQ(machine.windowing.application_title, "Korvane Tremolux");
+    EXPECT_EQ(Stored("TickerBytes"), 1000U) << "also what nobody has read";
+    EXPECT_EQ(Stored("CurrentWeek"), 20U) << "as the window has set it";
+  });
+  EXPECT_FALSE(User().Exists("T_frmBrisanto"));
+  EXPECT_EQ(machine.timers.Running(), 0);
+}
+
+TEST_F(Program, ASecondCopyEndsWithoutASign) {
   int runs = 0;
   const auto run = [&runs] { return ++runs; };
   EXPECT_EQ(program::RunOnce(machine.single_instance, run), 1);
   EXPECT_TRUE(machine.single_instance.Taken("Korvane Tremolux"));
   EXPECT_EQ(program::RunOnce(machine.single_instance, run), 0);
   EXPECT_EQ(runs, 1);
+}
+
+TEST_F(Program, AFailedStartIsLoggedAndMadeGoodByTheNextScan) {
+  for (int call = 1;; ++call) {
+    SCOPED_TRACE(call);
+    platform::memory::Machine fresh;
+    fresh.interface_table.AddRow(platform::memory::MakeRow("Ethernet"));
+    fresh.notebook.FailCall(call);
+    toolkit::Application app(fresh.Platform());
+    display::T_frmBrisanto window(app);
+    const bool failed = !fresh.notebook.FailurePending();
+    fresh.notebook.FailCall(0);
+    fresh.timers.Advance(1000);
+    fresh.interface_table.AddTraffic(0, 300, 200);
+    fresh.timers.Advance(1000);
+    ASSERT_EQ(window.Traffic().RunTotalDL, 300);
+    ASSERT_TRUE(fresh.windowing.Find("T_frmBrisanto").visible);
+    if (!failed) break;
+  }
 }
 
 }  // namespace

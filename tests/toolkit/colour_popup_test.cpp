@@ -1,11 +1,9 @@
 #include "toolkit/colour_popup.h"
 
-#include <functional>
-#include <vector>
+#include <optional>
 
 #include "tests/toolkit/form_fixture.h"
 #include "toolkit/controls/buttons.h"
-#include "toolkit/open_dialog.h"
 
 namespace toolkit {
 namespace {
@@ -25,12 +23,9 @@ class ColourPopupTest : public FormTest {
     for (const auto& doing : doings) machine.message_loop.Then(doing);
     return ChooseColour(panel, {"Download", "&More", "OK", "Cancel"}, present);
   }
-  void Keys(const std::vector<Key>& keys) {
-    for (const Key key : keys) User().PressKey("palette", key);
-  }
   // The middle of a cell.
   platform::Point Cell(int column, int row) {
-    const platform::Size size = Peer("palette").ClientSize();
+    const platform::Size size = Widget("palette").ClientSize();
     return {size.width * (2 * column + 1) / 16, size.height * (2 * row + 1) / 12};
   }
 
@@ -44,70 +39,42 @@ TEST_F(ColourPopupTest, GivesWhatTheUserConfirmsAndNothingElse) {
     std::vector<std::function<void()>> doings;
     std::optional<Colour> chosen;
   };
+  using platform::colour::kRed;
+  using platform::colour::kWhite;
+  const auto keys = [this](const std::vector<Key>& keys) {
+    return [this, keys] {
+      for (const Key key : keys) User().PressKey("palette", key);
+    };
+  };
+  const auto press = [this](const char* name) { return [this, name] { User().Press(name); }; };
   const auto enter = [this] { User().PressEnter("ColourPopup"); };
-  const auto ok = [this] { User().Press("btnColorOk"); };
+  const auto ok = press("btnColorOk");
+  const auto click = [this] {
+    User().PressMouse("palette", Cell(1, 2));
+    User().ReleaseMouse("palette", Cell(1, 2));
+  };
+  const auto twice = [this] { User().DoubleClick("palette", Cell(7, 5)); };
+  const auto more = press("btnMoreColors");
+  const auto mix = [this] { machine.system_dialogs.Choose(Colour{0x123456}); };
+  const auto cancel = [this] { machine.system_dialogs.Cancel(); };
   const std::vector<Row> rows = {
-      {"arrows from the present one, Enter",
-       platform::colour::kRed,
-       {[&] {
-          Keys({Key::kRight, Key::kUp});
-        },
-        enter},
-       0x40A0FF},
-      {"not over the edges",
-       platform::colour::kWhite,
-       {[&] {
-          Keys({Key::kLeft, Key::kUp});
-        },
-        enter},
-       platform::colour::kWhite},
-      {"a colour that is not in the field: the first one",
-       0x010203,
-       {[&] { Keys({Key::kDown}); }, ok},
-       platform::colour::kWhite},
-      {"the mouse, then the button",
-       0x010203,
-       {[&] { User().PressMouse("palette", Cell(1, 2)); },
-        [&] { User().ReleaseMouse("palette", Cell(1, 2)); }, ok},
-       platform::colour::kRed},
-      {"a click alone does not confirm",
-       0x010203,
-       {[&] { User().Press("palette"); }, [&] { User().ClickCloseBox("ColourPopup"); }},
-       std::nullopt},
-      {"a double click does",
-       0x010203,
-       {[&] { User().DoubleClick("palette", Cell(7, 5)); }},
-       0x400040},
-      {"Esc",
-       platform::colour::kRed,
-       {[&] { Keys({Key::kRight}); }, [&] { User().PressEsc("ColourPopup"); }},
-       std::nullopt},
-      {"the button for it",
-       platform::colour::kRed,
-       {[&] { User().Press("btnColorCancel"); }},
-       std::nullopt},
-      {"a system colour that nobody touched",
-       platform::colour::kButtonFace,
-       {ok},
-       platform::colour::kButtonFace},
-      {"mixed in the system's dialog",
-       platform::colour::kRed,
-       {[&] { User().Press("btnMoreColors"); },
-        [&] { machine.system_dialogs.Choose(Colour{0x123456}); }},
-       0x123456},
-      {"not mixed there: the popup stays",
-       platform::colour::kRed,
-       {[&] { User().Press("btnMoreColors"); }, [&] { machine.system_dialogs.Cancel(); }, ok},
-       platform::colour::kRed},
-      {"the program ends under both",
-       platform::colour::kRed,
-       {[&] { User().Press("btnMoreColors"); }, [&] { app.Terminate(); }},
-       std::nullopt},
+      {"arrows from the present one", kRed, {keys({Key::kRight, Key::kUp}), enter}, 0x40A0FF},
+      {"not over the edges", kWhite, {keys({Key::kLeft, Key::kUp}), enter}, kWhite},
+      {"one that is not in the field: the first", 0x010203, {keys({Key::kDown}), ok}, kWhite},
+      {"the mouse, then the button", 0x010203, {click, ok}, kRed},
+      {"a click alone", 0x010203, {click, [&] { User().ClickCloseBox("ColourPopup"); }}, {}},
+      {"a double click", 0x010203, {twice}, 0x400040},
+      {"Esc", kRed, {keys({Key::kRight}), [&] { User().PressEsc("ColourPopup"); }}, {}},
+      {"the button for it", kRed, {press("btnColorCancel")}, {}},
+      {"nobody touched it", platform::colour::kButtonFace, {ok}, platform::colour::kButtonFace},
+      {"mixed in the system's dialog", kRed, {more, mix}, 0x123456},
+      {"not mixed there: the popup stays", kRed, {more, cancel, ok}, kRed},
+      {"the program ends under both", kRed, {more, [&] { app.Terminate(); }}, {}},
   };
   for (const Row& row : rows) {
     SCOPED_TRACE(row.why);
     EXPECT_EQ(Ask(row.present, row.doings), row.chosen);
-    EXPECT_TRUE(Peer("form").enabled);
+    EXPECT_TRUE(Widget("form").enabled);
     EXPECT_FALSE(User().Exists("ColourPopup"));
   }
   EXPECT_EQ(machine.message_loop.starved, 0);
@@ -125,27 +92,14 @@ TEST_F(ColourPopupTest, StandsBelowItsPanelAndWithinTheScreen) {
     SCOPED_TRACE(row.why);
     form.SetWindowBounds({row.form.x, row.form.y, 320, 340});
     Ask(0, {[&] {
-          const platform::Rect place = Peer("ColourPopup").bounds;
-          const platform::Point anchor = Peer("panel").ToScreen({0, 0});
+          const platform::Rect place = Widget("ColourPopup").bounds;
+          const platform::Point anchor = Widget("panel").ToScreen({0, 0});
           EXPECT_TRUE(place.left >= work.left && place.Right() <= work.Right());
           EXPECT_TRUE(place.top >= anchor.y + 20 || place.Bottom() <= anchor.y);
-          EXPECT_EQ(Peer("ColourPopup").text, "Download");
+          EXPECT_EQ(Widget("ColourPopup").text, "Download");
           User().PressEsc("ColourPopup");
         }});
   }
-}
-
-TEST_F(ColourPopupTest, OfTheOpenDialogTheMasksStandBehindTheNames) {
-  OpenDialog dialog;
-  dialog.Title = "Choose a Sound";
-  dialog.Kinds = {{"Sounds", "*.wav"}, {"All files", "*.*"}};
-  dialog.InitialFolder = "C:\\Icons\\";
-  machine.message_loop.Then([&] { machine.system_dialogs.Choose("C:\\x.wav"); });
-  EXPECT_EQ(dialog.Execute(form), "C:\\x.wav");
-  const platform::OpenFileRequest& request = machine.system_dialogs.file_requests.at(0);
-  EXPECT_EQ(request.kinds[0].name, "Sounds (*.wav)");
-  EXPECT_EQ(request.kinds[1].mask, "*.*");
-  EXPECT_EQ(request.folder, "C:\\Icons\\");
 }
 
 }  // namespace

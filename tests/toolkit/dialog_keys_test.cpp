@@ -3,163 +3,139 @@
 #include "toolkit/controls/buttons.h"
 #include "toolkit/controls/edit.h"
 #include "toolkit/controls/label.h"
-#include "toolkit/controls/pages.h"
 #include "toolkit/controls/panel.h"
 
 namespace toolkit {
 namespace {
 
+// One form with all that keys reach, in the order of creation; what lies on the panel was made
+// last.
 class DialogKeysTest : public FormTest {
  protected:
+  DialogKeysTest() {
+    label.SetCaption("Fish && &Dish");
+    plain.SetCaption("R&D network");
+    box.SetCaption("Show &hints");
+    ok.SetCaption("&Copy");
+    other.SetCaption("Re&cover");
+    off.SetEnabled(false);
+    hidden.SetVisible(false);
+    b.SetChecked(true);
+    edit.SetText("old");
+    memo.SetText("old");
+    ok.SetDefault(true);
+    for (Control* control : std::initializer_list<Control*>{&ok, &other, &painted, &off, &a, &b}) {
+      control->OnClick = [this, control] { pressed.push_back(control->Name()); };
+    }
+    form.Show();
+  }
   // The names of the controls that have the keyboard after each of so many Tabs.
-  std::vector<std::string> Tabs(int count, bool backwards) {
-    std::vector<std::string> names;
+  Names Tabs(int count, bool backwards = false) {
+    Names names;
     for (; count > 0; --count) {
       User().PressTab("form", backwards);
       names.push_back(User().Focused());
     }
     return names;
   }
+  // Which push buttons look as if Enter pressed them.
+  Names Default() {
+    Names names;
+    for (const char* name : {"ok", "other"}) {
+      if (Widget(name).is_default) names.emplace_back(name);
+    }
+    return names;
+  }
+  Names EnterAt(Control& control) {
+    control.SetFocus();
+    pressed.clear();
+    User().PressEnter("form");
+    EXPECT_TRUE(control.Focused()) << "the keyboard stays where it is";
+    return pressed;
+  }
+
+  Names pressed;
+  Label plain{form, "plain"}, label{form, "label", kCaptionText};
+  Edit edit{form, "edit"};
+  Panel panel{form, "panel"};
+  Button off{form, "off"}, other{form, "other"};
+  RadioButton a{form, "a"}, b{form, "b"}, c{form, "c"};
+  Memo memo{form, "memo"};
+  RadioButton apart{form, "apart"};
+  ColourPanel painted{form, "painted"};
+  CheckBox box{panel, "box"};
+  Button hidden{panel, "hidden"}, ok{panel, "ok"};
 };
 
-using Names = std::vector<std::string>;
-
 TEST_F(DialogKeysTest, TabGoesThroughTheControlsInOrderOfCreation) {
-  Label label(form, "label");
-  Edit first(form, "first");
-  Panel panel(form, "panel");
-  Button off(form, "off");
-  RadioButton unchosen(form, "unchosen"), chosen(form, "chosen");
-  Button last(form, "last");
-  // Made last, but they lie on the panel.
-  CheckBox inner(panel, "inner");
-  Button hidden(panel, "hidden");
-  off.SetEnabled(false);
-  hidden.SetVisible(false);
-  chosen.SetChecked(true);
-  form.Show();
-  EXPECT_EQ(User().Focused(), "first") << "a form begins in its first control";
-  EXPECT_EQ(Tabs(4, false), (Names{"inner", "chosen", "last", "first"}));
-  EXPECT_EQ(Tabs(3, true), (Names{"last", "chosen", "inner"}));
+  EXPECT_EQ(User().Focused(), "edit") << "a form begins in its first control";
+  EXPECT_EQ(Tabs(7), (Names{"box", "ok", "other", "b", "memo", "apart", "painted"}));
+  EXPECT_EQ(Tabs(1), Names{"edit"});
+  User().Type("edit", "n");
+  EXPECT_EQ(edit.Text(), "n") << "Tab selects the text that it comes to";
+  EXPECT_EQ(Tabs(3, true), (Names{"painted", "apart", "memo"}));
+  User().Type("memo", "!");
+  EXPECT_EQ(memo.Text(), "old!") << "but not of several lines";
+  EXPECT_EQ(Tabs(4, true), (Names{"b", "other", "ok", "box"}));
   EXPECT_TRUE(panel.Focused()) << "it lies on it";
 }
 
-TEST_F(DialogKeysTest, TabSelectsTheTextThatItComesTo) {
-  Button first(form, "first");
-  Edit edit(form, "edit");
-  Memo memo(form, "memo");
-  edit.SetText("old");
-  form.Show();
-  User().PressTab("form");
-  User().Type("edit", "n");
-  EXPECT_EQ(edit.Text(), "n");
-  memo.SetText("old");
-  User().PressTab("form");
-  User().Type("memo", "!");
-  EXPECT_EQ(memo.Text(), "old!");
-}
-
 TEST_F(DialogKeysTest, EnterPressesTheDefaultButtonUnlessAnotherHasTheKeyboard) {
-  Edit edit(form, "edit");
-  Panel panel(form, "panel");
-  Button ok(panel, "ok"), other(form, "other");
-  ColourPanel painted(form, "painted");
-  std::vector<std::string> pressed;
-  ok.OnClick = [&] { pressed.emplace_back("ok"); };
-  other.OnClick = [&] { pressed.emplace_back("other"); };
-  painted.OnClick = [&] { pressed.emplace_back("painted"); };
-  ok.SetDefault(true);
-  form.Show();
-  const auto look = [this] { return std::pair(Peer("ok").is_default, Peer("other").is_default); };
-  EXPECT_EQ(look(), std::pair(true, false));
-  User().PressEnter("form");
-  EXPECT_EQ(pressed, Names{"ok"}) << "though it lies on a panel";
-  EXPECT_TRUE(edit.Focused()) << "the keyboard stays where it is";
-  other.SetFocus();
-  EXPECT_EQ(look(), std::pair(false, true));
-  User().PressEnter("form");
-  painted.SetFocus();
-  EXPECT_EQ(look(), std::pair(false, false));
-  User().PressEnter("form");
-  EXPECT_EQ(pressed, (Names{"ok", "other", "painted"})) << "they had the keyboard";
-  edit.SetFocus();
-  EXPECT_EQ(look(), std::pair(true, false));
+  EXPECT_EQ(EnterAt(edit), Names{"ok"}) << "though it lies on a panel";
+  EXPECT_EQ(Default(), Names{"ok"});
+  EXPECT_EQ(EnterAt(other), Names{"other"});
+  EXPECT_EQ(Default(), Names{"other"});
+  EXPECT_EQ(EnterAt(painted), Names{"painted"});
+  EXPECT_EQ(Default(), Names());
   ok.SetEnabled(false);
-  User().PressEnter("form");
-  EXPECT_EQ(pressed.size(), 3U) << "it is disabled";
+  EXPECT_EQ(EnterAt(edit), Names());
 }
 
-TEST_F(DialogKeysTest, CtrlTabGoesThroughTheTabsFromAnywhere) {
-  Edit edit(form, "edit");
-  PageControl pages(form, "pages");
-  TabSheet a(pages, "a"), b(pages, "b"), c(pages, "c");
-  form.Show();
-  std::vector<int> chosen;
-  pages.OnChange = [&] { chosen.push_back(pages.ActivePageIndex()); };
-  for (const bool backwards : {false, false, false, true, true}) {
-    User().PressCtrlTab("form", backwards);
-  }
-  EXPECT_EQ(chosen, (std::vector<int>{1, 2, 0, 2, 1}));
-  EXPECT_EQ(Peer("pages").index, 1);
-  EXPECT_TRUE(edit.Focused());
-}
-
-TEST_F(DialogKeysTest, ArrowsChooseAmongRadioButtons) {
-  RadioButton a(form, "a"), off(form, "off"), c(form, "c");
-  Button after(form, "after");
-  RadioButton apart(form, "apart");
-  int clicks = 0;
-  c.OnClick = [&] { ++clicks; };
-  off.SetEnabled(false);
-  a.SetChecked(true);
-  form.Show();
+TEST_F(DialogKeysTest, ArrowsChooseAmongRadioButtonsAndALetterReachesWhatIsMarked) {
+  b.SetFocus();
+  a.SetEnabled(false);
   User().PressArrow("form");
-  EXPECT_TRUE(!a.Checked() && c.Checked() && c.Focused());
-  EXPECT_EQ(clicks, 1);
+  EXPECT_TRUE(!b.Checked() && c.Checked() && c.Focused());
   User().PressArrow("form");
-  EXPECT_TRUE(a.Checked() && a.Focused()) << "around the end";
+  EXPECT_TRUE(b.Checked() && b.Focused()) << "around the end, but not to the disabled one";
   User().PressArrow("form", true);
   EXPECT_TRUE(c.Checked() && !apart.Checked());
-  EXPECT_EQ(clicks, 2);
-}
-
-TEST_F(DialogKeysTest, ALetterReachesTheControlThatIsMarked) {
-  Label plain(form, "plain"), label(form, "label", kCaptionText);
-  Edit edit(form, "edit");
-  CheckBox box(form, "box");
-  Button push(form, "push"), second(form, "second");
-  int presses = 0, second_presses = 0;
-  push.OnClick = [&] { ++presses; };
-  second.OnClick = [&] { ++second_presses; };
-  plain.SetCaption("R&D network");
-  label.SetCaption("Fish && &Dish");
-  box.SetCaption("Show &hints");
-  push.SetCaption("&Copy");
-  second.SetCaption("Re&cover");
-  form.Show();
-  box.SetFocus();
+  EXPECT_EQ(pressed, Names{"b"});
   User().PressAlt("form", 'd');
   EXPECT_TRUE(edit.Focused()) << "the control behind the label";
   User().PressAlt("form", 'H');
   EXPECT_TRUE(box.Checked() && box.Focused());
+  pressed.clear();
   User().PressAlt("form", 'c');
   User().PressAlt("form", 'c');
-  EXPECT_EQ(presses, 1);
-  EXPECT_EQ(second_presses, 1) << "the next one behind the keyboard";
+  EXPECT_EQ(pressed, (Names{"ok", "other"})) << "the next one behind the keyboard";
+}
+
+TEST_F(DialogKeysTest, WhatTheFormHasNoUseForIsLeftToTheSystem) {
+  using Kind = platform::DialogKey::Kind;
+  const auto taken = [this](Kind kind, const char* letter = "") {
+    return Widget("form").top_events->OnDialogKey({kind, false, letter});
+  };
+  EXPECT_FALSE(taken(Kind::kControlTab)) << "there are no tabs";
+  EXPECT_FALSE(taken(Kind::kArrow)) << "the keyboard is in an edit";
+  EXPECT_FALSE(taken(Kind::kLetter, "q"));
+  EXPECT_FALSE(taken(Kind::kLetter));
+  EXPECT_TRUE(taken(Kind::kLetter, "d") && taken(Kind::kTab) && taken(Kind::kEnter));
+  b.SetFocus();
+  EXPECT_TRUE(taken(Kind::kArrow) && taken(Kind::kEscape));
 }
 
 TEST_F(DialogKeysTest, WhatIsHiddenOrDisabledPassesTheKeyboardOn) {
-  Edit first(form, "first");
-  Panel panel(form, "panel");
-  Edit inner(panel, "inner"), last(form, "last");
-  form.Show();
-  inner.SetFocus();
+  box.SetFocus();
   panel.SetVisible(false);
-  EXPECT_TRUE(last.Focused());
-  last.SetEnabled(false);
-  EXPECT_TRUE(first.Focused()) << "around the end";
-  inner.SetFocus();
-  EXPECT_TRUE(first.Focused()) << "what is hidden cannot have it";
+  EXPECT_TRUE(other.Focused());
+  other.SetEnabled(false);
+  EXPECT_TRUE(b.Focused());
+  painted.SetFocus();
+  painted.SetEnabled(false);
+  EXPECT_TRUE(edit.Focused()) << "around the end";
+  box.SetFocus();
+  EXPECT_TRUE(edit.Focused()) << "what is hidden cannot have it";
 }
 
 }  // namespace

@@ -1,10 +1,6 @@
 #include "toolkit/forms/docking_magnet.h"
 
-#include <gtest/gtest.h>
-
-#include "platform/memory/machine.h"
-#include "toolkit/application.h"
-#include "toolkit/forms/form.h"
+#include "tests/toolkit/form_fixture.h"
 
 namespace toolkit {
 namespace {
@@ -12,26 +8,11 @@ namespace {
 using platform::Point;
 using platform::Rect;
 
-class Docking : public testing::Test {
- protected:
-  Docking() { form.SetWindowBounds({500, 400, 274, 135}); }
-
-  Point DraggedTo(Point to) {
-    machine.windowing.Drag("form", to);
-    const Rect bounds = form.WindowBounds();
-    EXPECT_EQ(bounds.width, 274);
-    EXPECT_EQ(bounds.height, 135);
-    return {bounds.left, bounds.top};
-  }
-
-  platform::memory::Machine machine;
-  Application app{machine.Platform()};
-  Form form{app, {"form", "", platform::Frame::kSizeableTool, true}};
-  DockingMagnet magnet{form};
-};
-
-// The first monitor is 1280 x 1024, its work area 984 high.
-TEST_F(Docking, AllFourEdgesOfTheWorkAreaPullAndLetGo) {
+// The first monitor is 1280 x 1024, its work area 984 high; the second one has twice the dpi.
+TEST_F(FormTest, AllFourEdgesOfTheWorkAreaPullAndLetGo) {
+  machine.screen.monitors.push_back({{1280, 0, 1920, 1080}, {1280, 0, 1920, 1040}, 192});
+  Form docked(app, {"docked", "", platform::Frame::kSizeableTool, true});
+  DockingMagnet magnet(docked);
   struct Row {
     const char* why;
     Point to, at;
@@ -51,33 +32,22 @@ TEST_F(Docking, AllFourEdgesOfTheWorkAreaPullAndLetGo) {
       {"below the task bar's edge, held", {500, 984 - 135 + 30}, {500, 984 - 135}},
       {"onto the task bar", {500, 984 - 135 + 31}, {500, 984 - 135 + 31}},
       {"a corner pulls both ways", {10, 980 - 135}, {0, 984 - 135}},
+      {"twice the reach at twice the dpi", {1280 + 30, 400}, {1280, 400}},
+      {"its other corner", {3200 - 274 - 20, 1040 - 135 - 20}, {3200 - 274, 1040 - 135}},
+      {"still on the first one", {1280 - 274 + 10, 400}, {1280 - 274, 400}},
   };
   for (const Row& row : kRows) {
-    SCOPED_TRACE(row.why);
-    EXPECT_EQ(DraggedTo(row.to), row.at);
+    docked.SetWindowBounds({500, 400, 274, 135});
+    User().Drag("docked", row.to);
+    EXPECT_EQ(docked.WindowBounds(), (Rect{row.at.x, row.at.y, 274, 135})) << row.why;
   }
-}
-
-TEST_F(Docking, TheMonitorThatTheFormIsOnPullsWithItsOwnResolution) {
-  machine.screen.monitors.push_back({{1280, 0, 1920, 1080}, {1280, 0, 1920, 1040}, 192});
-  EXPECT_EQ(DraggedTo({1280 + 30, 400}), (Point{1280, 400})) << "twice the reach at twice the dpi";
-  EXPECT_EQ(DraggedTo({3200 - 274 - 20, 1040 - 135 - 20}), (Point{3200 - 274, 1040 - 135}));
-  EXPECT_EQ(DraggedTo({1280 - 274 + 10, 400}), (Point{1280 - 274, 400}))
-      << "still on the first one, whose right edge is between the two";
-}
-
-TEST_F(Docking, SwitchedOffItPullsNothing) {
+  docked.SetWindowBounds({5, 5, 274, 135});
+  EXPECT_EQ(docked.WindowBounds().left, 5) << "what the code places stays where it is";
   magnet.Active = false;
-  EXPECT_EQ(DraggedTo({5, 5}), (Point{5, 5}));
-}
-
-TEST_F(Docking, WhatTheCodePlacesStaysWhereItIs) {
-  form.SetWindowBounds({5, 5, 274, 135});
-  EXPECT_EQ(form.WindowBounds(), (Rect{5, 5, 274, 135}));
-}
-
-TEST_F(Docking, AFormLargerThanTheWorkAreaIsHeldAtItsUpperLeftCorner) {
-  EXPECT_EQ(Docked({-20, 10, 2000, 2000}, {0, 0, 1280, 984}, 15, 30), (Rect{0, 0, 2000, 2000}));
+  User().Drag("docked", {6, 6});
+  EXPECT_EQ(docked.WindowBounds().left, 6);
+  EXPECT_EQ(Docked({-20, 10, 2000, 2000}, {0, 0, 1280, 984}, 15, 30), (Rect{0, 0, 2000, 2000}))
+      << "larger than the work area";
 }
 
 }  // namespace

@@ -1,34 +1,32 @@
-// A form over a machine in memory, for the tests of the controls on it.
+// A form over a machine in memory.
 #pragma once
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <string>
+#include <utility>
+#include <vector>
 
-#include "platform/memory/machine.h"
-#include "toolkit/application.h"
+#include "tests/world.h"
 #include "toolkit/forms/form.h"
 
 namespace toolkit {
 
-class FormTest : public testing::Test {
+using Names = std::vector<std::string>;
+
+class FormTest : public testing::Test, protected test::World {
  protected:
   FormTest() { form.SetClientSize({300, 300}); }
 
   static platform::TopWindowParams Params(const char* name = "form") {
-    platform::TopWindowParams params;
-    params.name = name;
-    params.frame = platform::Frame::kDialog;
-    return params;
+    return {name, "", platform::Frame::kDialog, false};
   }
 
   platform::memory::Windowing& User() { return machine.windowing; }
-  platform::memory::WidgetState& Peer(std::string_view name) {
-    return machine.windowing.Find(name);
-  }
+  // What happens next while a message loop runs.
+  void Then(std::function<void()> step) { machine.message_loop.Then(std::move(step)); }
 
-  platform::memory::Machine machine;
-  Application app{machine.Platform()};
   Form form{app, Params()};
 };
 

@@ -1,15 +1,16 @@
+// Where windows stand: rules, what a form does with them, what is stored.
 #include "toolkit/forms/placement.h"
 
-#include <gtest/gtest.h>
-
-#include "platform/memory/screen.h"
 #include "tests/toolkit/form_fixture.h"
 #include "toolkit/controls/buttons.h"
+#include "toolkit/forms/placement_saver.h"
 
 namespace toolkit {
 namespace {
 
+using platform::Point;
 using platform::Rect;
+using platform::memory::RegistryValue;
 
 const platform::Monitor kScreen{{0, 0, 1366, 768}, {0, 0, 1366, 728}, 96};
 const platform::Monitor kFine{{0, 0, 1366, 768}, {0, 0, 1366, 728}, 192};
@@ -48,8 +49,7 @@ TEST(Placement, BringsWindowsBackOntoTheNearestMonitor) {
                      {{1000, 0, 1000, 800}, {1000, 40, 1000, 760}, 96}};
   struct Row {
     const char* why;
-    Rect from;
-    Rect to;
+    Rect from, to;
   };
   static constexpr Row kRows[] = {
       {"inside", {10, 10, 100, 50}, {10, 10, 100, 50}},
@@ -60,52 +60,201 @@ TEST(Placement, BringsWindowsBackOntoTheNearestMonitor) {
       {"across two monitors, mostly the second", {960, 0, 100, 50}, {1000, 40, 100, 50}},
   };
   for (const Row& row : kRows) {
-    SCOPED_TRACE(row.why);
-    EXPECT_EQ(BroughtIntoView(row.from, screen), row.to);
+    EXPECT_EQ(BroughtIntoView(row.from, screen), row.to) << row.why;
   }
-}
-
-TEST(Placement, CentringKeepsTheUpperLeftCornerInTheWorkArea) {
   EXPECT_EQ(Centred({400, 300}, kScreen), (Rect{483, 214, 400, 300}));
   EXPECT_EQ(Centred({1500, 900}, kScreen), (Rect{0, 0, 1500, 900}));
 }
 
 TEST(Placement, ScrollsNoFurtherThanNeeded) {
   const platform::Scroll scroll{1000, 300, 200, 16};
-  EXPECT_EQ(ScrolledToShow(scroll, 200, 500), 200) << "all of it is seen";
-  EXPECT_EQ(ScrolledToShow(scroll, 150, 180), 150);
-  EXPECT_EQ(ScrolledToShow(scroll, 490, 510), 210);
-  EXPECT_EQ(ScrolledToShow(scroll, 450, 900), 200) << "a part of what is higher";
-  EXPECT_EQ(ScrolledToShow(scroll, 550, 900), 550);
+  struct Row {
+    int top, bottom, position;
+  };
+  for (const Row& row :
+       {Row{200, 500, 200}, {150, 180, 150}, {490, 510, 210}, {450, 900, 200}, {550, 900, 550}}) {
+    EXPECT_EQ(ScrolledToShow(scroll, row.top, row.bottom), row.position) << row.top;
+  }
 }
 
-TEST_F(FormTest, HigherThanTheScreenItIsScrolled) {
-  machine.screen.monitors = {{{0, 0, 600, 400}, {0, 0, 600, 360}, 96}};
-  Button upper(form, "upper");
-  Button lower(form, "lower");
+TEST_F(FormTest, AWindowStandsInTheMiddleAndIsScrolledWhereItIsHigherThanTheScreen) {
+  machine.screen.monitors = {{{0, 0, 1000, 800}, {0, 0, 1000, 760}, 96},
+                             {{1000, 0, 1000, 400}, {1000, 0, 1000, 360}, 96}};
+  Form dialog(app, Params("dialog"), &form);
+  Button upper(dialog, "upper"), lower(dialog, "lower");
   upper.SetBounds({10, 10, 80, 20});
   lower.SetBounds({10, 470, 80, 20});
-  form.SetClientSize({300, 500});
-  form.CentreOnScreen();
-  const auto& peer = machine.windowing.Find("form");
-  EXPECT_EQ(peer.bounds.top, 0);
-  EXPECT_EQ(peer.bounds.height, 360);
-  const int page = peer.ClientSize().height;
-  EXPECT_EQ(peer.scroll, (platform::Scroll{500, page, 0, 16}));
-  EXPECT_EQ(peer.ClientSize().width, 300) << "the bar takes nothing from the controls";
+  dialog.SetClientSize({294, 500});  // the frame takes 6 by 25
+  dialog.CentreOnScreen();
+  EXPECT_EQ(dialog.WindowBounds(), (Rect{350, 117, 300, 525})) << "on its owner's monitor";
+  form.SetWindowBounds({1500, 10, 306, 325});
+  dialog.CentreOnScreen();
+  EXPECT_EQ(dialog.WindowBounds(), (Rect{1341, 0, 317, 360}));
+  const auto& peer = Widget("dialog");
+  EXPECT_EQ(peer.scroll, (platform::Scroll{500, 335, 0, 16}));
+  EXPECT_EQ(peer.ClientSize(), (platform::Size{294, 335})) << "beside the bar";
 
-  form.Show();
-  machine.windowing.PressTab("form");
-  EXPECT_EQ(machine.windowing.Find("lower").bounds.Bottom(), page) << "the keyboard is seen";
+  dialog.Show();
+  User().PressTab("dialog");
+  EXPECT_EQ(Widget("lower").bounds.Bottom(), 335) << "the keyboard is seen";
   peer.top_events->OnScroll(5000);
-  EXPECT_EQ(machine.windowing.Find("upper").bounds.top, 10 - (500 - page)) << "not beyond its end";
+  EXPECT_EQ(Widget("upper").bounds.top, 10 - (500 - 335)) << "not beyond its end";
   lower.SetBounds({10, 460, 80, 20});
-  EXPECT_EQ(machine.windowing.Find("lower").bounds.Bottom(), page - 20);
+  EXPECT_EQ(Widget("lower").bounds.Bottom(), 335 - 20);
 
-  machine.screen.monitors = {{{0, 0, 1280, 1024}, {0, 0, 1280, 984}, 96}};
+  machine.screen.monitors[1].work_area.height = 700;
   peer.top_events->OnDisplayChange();
-  EXPECT_EQ(peer.ClientSize(), (platform::Size{300, 500}));
-  EXPECT_EQ(machine.windowing.Find("upper").bounds.top, 10);
+  EXPECT_EQ(peer.ClientSize(), (platform::Size{294, 500}));
+  EXPECT_EQ(Widget("upper").bounds.top, 10);
+  dialog.SetWindowBounds({1500, 300, 300, 525});
+  dialog.SetClientSize({294, 600});
+  EXPECT_EQ(dialog.WindowBounds(), (Rect{1500, 75, 300, 625})) << "what grows stays in sight";
+  User().ChangeDpi("dialog", 144, {1000, 0, 450, 300});
+  EXPECT_EQ(dialog.ClientPixels(), (platform::Size{441, 675}));
+}
+
+constexpr std::string_view kKey = "\\Software\\Maker\\Screen";
+constexpr Rect kDesign{100, 100, 274, 135};
+const platform::Monitor kSecond{{1280, 0, 1920, 1080}, {1280, 0, 1920, 1040}, 96};
+
+// One run of a program with a form that the user places.
+struct Program {
+  explicit Program(platform::memory::Machine& machine,
+                   PlacementSaver::Restores what = PlacementSaver::Restores::kPlaceAndSize)
+      : app(machine.Platform()),
+        form(app, {"placed", "", platform::Frame::kSizeableTool, true}),
+        saver(form, kKey, what) {
+    form.SetWindowBounds(kDesign);
+    saver.Restore();
+  }
+  [[nodiscard]] Rect At() const { return form.WindowBounds(); }
+  Application app;
+  Form form;
+  PlacementSaver saver;
+};
+
+class SavedPlacement : public testing::Test, protected test::Computer {
+ protected:
+  void Store(std::int64_t left, std::int64_t top, std::int64_t width, std::int64_t height) {
+    const std::pair<const char*, std::int64_t> values[] = {
+        {"Left", left}, {"Top", top}, {"Width", width}, {"Height", height}};
+    for (const auto& [name, value] : values) {
+      machine.registry.Set(kKey, name, RegistryValue::Dword(static_cast<std::uint32_t>(value)));
+    }
+  }
+  Rect Stored() {
+    const auto read = [this](const char* name) {
+      return static_cast<int>(machine.registry.Dword(kKey, name).value_or(0xDEAD));
+    };
+    return {read("Left"), read("Top"), read("Width"), read("Height")};
+  }
+  void Drag(Point to) { machine.windowing.Drag("placed", to); }
+  void Place(const Rect& bounds) { machine.windowing.Place("placed", bounds); }
+  void DisplayChanges() { Widget("placed").top_events->OnDisplayChange(); }
+};
+
+TEST_F(SavedPlacement, EveryMoveIsStoredOnceAndComesBackInTheNextRun) {
+  {
+    Program run(machine);
+    EXPECT_EQ(run.At(), kDesign) << "nothing is stored yet";
+    run.form.SetWindowBounds({200, 300, 274, 135});
+    EXPECT_EQ(Stored(), (Rect{200, 300, 274, 135}));
+    Place({-20, 50, 300, 150});
+    EXPECT_EQ(Stored(), (Rect{-20, 50, 300, 150}));
+    machine.notebook.Restart();
+    Drag({1270, 400});
+    EXPECT_EQ(run.At(), (Rect{1280 - 300, 400, 300, 150})) << "out of sight it comes into view";
+    EXPECT_EQ(Stored(), run.At());
+    EXPECT_EQ(machine.notebook.registry.round_trips, 1);
+    Place({3, -140, 300, 150});
+    run.form.Show();
+    EXPECT_EQ(run.At(), (Rect{3, 0, 300, 150}));
+    Drag({-20, 50});
+  }
+  Program run(machine);
+  EXPECT_EQ(run.At(), (Rect{-20, 50, 300, 150})) << "most of it is in sight";
+  run.form.Show();
+  Widget("placed").dragging = true;
+  Place({200, 300, 274, 135});
+  EXPECT_EQ(Stored().left, -20) << "the user may still move it on";
+  machine.windowing.ClickCloseBox("placed");
+  EXPECT_EQ(Stored(), (Rect{200, 300, 274, 135})) << "closed while it is held";
+  machine.registry.RemoveKey(kKey);
+  Widget("placed").top_events->OnEndSession();
+  EXPECT_EQ(Stored(), (Rect{200, 300, 274, 135}));
+  Names reported;
+  run.app.SetExceptionHandler([&](std::string_view message) { reported.emplace_back(message); });
+  for (int call = 1; call <= 6; ++call) {
+    machine.notebook.FailCall(call);
+    run.form.SetWindowBounds({call, call, 274, 135});
+  }
+  EXPECT_EQ(reported, Names()) << "a registry that refuses";
+}
+
+TEST_F(SavedPlacement, WhatCannotBeUsedIsBroughtIntoViewOrLeftOut) {
+  struct Row {
+    const char* why;
+    std::int64_t left, top, width, height;
+    Rect placed;
+    std::uint32_t dpi = 96;
+  };
+  static constexpr Row kRows[] = {
+      {"far away", 90000, -90000, 274, 135, {1280 - 274, 0, 274, 135}},
+      {"as far as a number goes", 2147483647, -2147483648LL, 274, 135, {1280 - 274, 0, 274, 135}},
+      {"a strip too small to take hold of", 1270, 400, 274, 135, {1280 - 274, 400, 274, 135}},
+      {"no size", 40, 50, 0, 0, {40, 50, 274, 135}},
+      {"no height", 40, 50, 300, 0, {40, 50, 274, 135}},
+      {"a size below zero", 40, 50, -300, 135, {40, 50, 274, 135}},
+      {"a size that no window has", 40, 50, 32768, 100, {40, 50, 274, 135}},
+      {"of another resolution", 10, 20, 300, 150, {10, 20, 150, 75}, 192},
+      {"of the lowest", 10, 20, 300, 150, {10, 20, 600, 300}, 48},
+      {"of the highest", 10, 20, 300, 150, {10, 20, 30, 15}, 960},
+      {"of none", 10, 20, 300, 150, {10, 20, 300, 150}, 47},
+      {"nor such a one", 10, 20, 300, 150, {10, 20, 300, 150}, 961},
+  };
+  for (const Row& row : kRows) {
+    SCOPED_TRACE(row.why);
+    Store(row.left, row.top, row.width, row.height);
+    machine.registry.Set(kKey, "Dpi", RegistryValue::Dword(row.dpi));
+    EXPECT_EQ(Program(machine).At(), row.placed);
+  }
+  Store(10, 20, 500, 600);
+  EXPECT_EQ(Program(machine, PlacementSaver::Restores::kPlace).At(), (Rect{10, 20, 274, 135}))
+      << "a form of a fixed size";
+  machine.registry.RemoveKey(kKey);
+  machine.registry.Set(kKey, "Left", RegistryValue::Text("12"));
+  EXPECT_EQ(Program(machine).At(), kDesign) << "texts are no numbers";
+}
+
+TEST_F(SavedPlacement, APlaceOnAMissingMonitorIsKeptAndComesBackWithIt) {
+  Store(2000, 300, 274, 135);
+  { EXPECT_EQ(Program(machine).At(), (Rect{1280 - 274, 300, 274, 135})); }
+  EXPECT_EQ(Stored(), (Rect{2000, 300, 274, 135})) << "to bring it into view is no wish";
+  {
+    Program moved(machine);
+    Place({700, 300, 274, 135});
+    EXPECT_EQ(Stored().left, 700) << "no monitor came or went";
+  }
+  Store(2000, 300, 274, 135);
+  Program run(machine);
+  machine.screen.monitors.push_back(kSecond);
+  DisplayChanges();
+  EXPECT_EQ(run.At(), (Rect{2000, 300, 274, 135}));
+  machine.screen.monitors.pop_back();
+  Place({700, 300, 274, 135});  // by the system, before the change is announced
+  EXPECT_EQ(Stored(), (Rect{2000, 300, 274, 135}));
+  DisplayChanges();
+  EXPECT_EQ(run.At(), (Rect{1280 - 274, 300, 274, 135}));
+  machine.screen.monitors.push_back(kSecond);
+  DisplayChanges();
+  EXPECT_EQ(run.At(), (Rect{2000, 300, 274, 135}));
+  machine.screen.monitors.pop_back();
+  DisplayChanges();
+  Drag({10, 20});
+  machine.screen.monitors.push_back(kSecond);
+  DisplayChanges();
+  EXPECT_EQ(run.At(), (Rect{10, 20, 274, 135})) << "that is where the user has it";
+  EXPECT_EQ(Stored(), run.At());
 }
 
 }  // namespace

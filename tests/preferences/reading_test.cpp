@@ -1,0 +1,286 @@
+// What the preferences show of what is stored, and the languages, lock and titles on their pages.
+#include "tests/meter.h"
+
+namespace {
+
+using platform::memory::RegistryValue;
+using Strings = std::vector<std::string>;
+
+class Reading : public test::Meter {
+ protected:
+  void Close() { User().Press("btnClose"); }
+  static RegistryValue Number(std::uint32_t number) { return RegistryValue::Dword(number); }
+  static RegistryValue Text(std::string_view text) { return RegistryValue::Text(text); }
+  // What a control shows: its text, the row of a list, the place of a slider, a tick, a colour.
+  std::string Shown(const char* name) {
+    using Kind = platform::memory::WidgetState::Kind;
+    const auto& widget = Widget(name);
+    if (widget.kind == Kind::kList) return "#" + std::to_string(widget.index) + " " + widget.text;
+    if (widget.kind == Kind::kTrackBar) return std::to_string(widget.position);
+    if (widget.IsButton(platform::ButtonKind::kPainted)) return std::to_string(widget.background);
+    if (widget.kind == Kind::kButton) return widget.checked ? "on" : "off";
+    return widget.text;
+  }
+};
+
+TEST_F(Reading, ShowsWhatIsStoredAndChangesNoStoredValue) {
+  const std::string long_path = "C:\\" + std::string(397, 'x');
+  const std::string long_text(300, 'm');
+  struct Row {
+    const char* name;
+    RegistryValue value;
+    const char* control;
+    std::string shows;
+    std::string keeps = "";  // what it showed before, where that is not `shows`
+  };
+  const Row rows[] = {
+      // Rows that the list does not have.
+      {"GraphScaleType", Number(99), "ScaleCombo", "#-1 ", "#0 Auto Scale"},
+      {"BevelInner", Number(99), "BevelInner", "#-1 ", "#1 None"},
+      {"cmbVLineStyle", Number(5), "cmbVLineStyle", "#2 Dots"},
+      {"BAAction", Number(99), "BaAction", "#-1 ", "#0 No action"},
+      {"AlertsMoreThan", Number(3), "AlertsMoreThan", "#-1 ", "#0 Kilobytes"},
+      {"MoreAction", Number(99), "ActionComboBox", "#-1 "},
+      {"LessOrMore", Number(99), "LessOrMore", "#1 When more than"},
+      {"cmbVLineStyle", Number(4), "cmbVLineStyle", "#4 Dash Dot Dot"},
+      // Numbers beyond a range.
+      {"PulseWidth", Number(0), "PulseWidth", "0"},
+      {"BevelWidth", Number(0xFFFFFFFB), "BevelWidth", "-5"},
+      {"SpeedLimit", Number(999999999), "CustomScale", "7999999992"},
+      {"Win2kTransparentRatio", Number(4000), "Win2kTransTrack", "255"},
+      {"Win2kTransparentRatio", Number(4000), "lblWin2kTransTrack", "&Opacity: 100 %"},
+      {"Win2kTransparentRatio", Number(4), "lblWin2kTransTrack", "&Opacity: 2 %"},
+      {"AvarageTime", Number(4000), "lblAvarageTime", "4000"},
+      {"AvarageTime", Number(4001), "AvarageTrackBar", "60"},
+      {"MoreThan", Number(0), "MoreThan", "0"},
+      {"TickerBytes", Number(5), "TickerSpin", "5"},
+      {"FormMagnet", Number(0), "chkScreenDocking", "off"},
+      {"CopyIP", Number(5), "chkCopyIP", "on"},
+      // Texts that name something.
+      {"GraphColor_Upload", Text("$ff"), "UploadColor", "255"},
+      {"FontName", Text("COURIER new"), "FontChoose", "#1 Courier New"},
+      {"FontName", Text("No Such Font"), "FontChoose", "#4 No Such Font"},
+      {"Language", Text("gone"), "cmbLanguage", "#0 English"},
+      {"BaPlayFile", Text(long_path), "BaPlayFile", long_path},
+      {"MoreDisplayMessage", Text(long_text), "DisplayMessage", long_text},
+  };
+  // What is planted together: a name that comes again is of the next round.
+  std::map<std::string, int> rounds;
+  std::map<int, std::vector<const Row*>> planted;
+  for (const Row& row : rows) planted[rounds[row.name]++].push_back(&row);
+  for (const auto& [round, together] : planted) {
+    for (const bool opened_before : {false, true}) {
+      SCOPED_TRACE(opened_before ? "opened before" : "opened for the first time");
+      const auto plant = [&] {
+        for (const Row* row : together) {
+          machine.registry.Set(test::kSettingsKey, row->name, row->value);
+        }
+      };
+      if (!opened_before) plant();
+      Run([&] {
+        if (opened_before) OpenPreferences(), Close();
+        plant();
+        const Values before = AllValues();
+        OpenPreferences();
+        SeeEveryPage();
+        for (const Row* row : together) {
+          EXPECT_EQ(Shown(row->control),
+                    opened_before && !row->keeps.empty() ? row->keeps : row->shows)
+              << row->name << " in " << row->control;
+        }
+        EXPECT_EQ(ChangesSince(before), "");
+      });
+      for (const Row* row : together) machine.registry.Remove(test::kSettingsKey, row->name);
+    }
+  }
+}
+
+TEST_F(Reading, AMessageTakesSoManyCharactersAndTheOtherRuleItsOwnAction) {
+  Set("LessAction", 1);
+  Set("MoreAction", 99);
+  RunOpen(
+      [&] {
+        Widget("DisplayMessage").all_selected = true;
+        User().Type("DisplayMessage", std::string(255, 'z'));
+        EXPECT_EQ(StoredText("LessDisplayMessage"), std::string(254, 'z'));
+        User().Choose("LessOrMore", 1);
+        EXPECT_EQ(Widget("ActionComboBox").index, -1) << "no such row; the other's goes";
+        EXPECT_FALSE(Widget("DisplayMessage").visible);
+        EXPECT_EQ(Stored("MoreAction"), 99U);
+      },
+      "Notifications");
+}
+
+TEST_F(Reading, TheStyleOfGridLinesIsReadWithTheLinesWhichAreShownAtOnce) {
+  Set("Transparent", 1);
+  Set("hLineSpace", 40);
+  RunOpen(
+      [&] {
+        Close();
+        Set("hGridVisible", 0);
+        Set("cmbHLineStyle", 0);
+        OpenPreferences();
+        EXPECT_EQ(Widget("cmbHLineStyle").index, 2);
+        const auto in_shape = [&] {
+          const auto& shape = *Widget("T_frmBrisanto").shape;
+          return std::any_of(shape.begin(), shape.end(), [](const platform::Rect& part) {
+            return part.Contains({41, 41});
+          });
+        };
+        for (const bool shown : {true, false}) {
+          EXPECT_NE(in_shape(), shown);
+          User().Press("hGridsVisibleCheckBox");
+          EXPECT_EQ(in_shape(), shown) << "of the see-through meter";
+        }
+        EXPECT_EQ(Widget("cmbHLineStyle").index, 0);
+        EXPECT_EQ(Stored("cmbHLineStyle"), 0U);
+      },
+      "Graph Grids");
+}
+
+TEST_F(Reading, AutostartFollowsItsBoxAlsoWhenTheBoxFollowsTheStore) {
+  constexpr std::string_view kRun = "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Run";
+  machine.registry.Set(kRun, "other", Text("other.exe"));
+  RunOpen([&] {
+    User().Press("chkLoadOnWindows");
+    EXPECT_EQ(machine.registry.Text(kRun, "BrisantoXP"), machine.files.ProgramPath());
+    Close();
+    Set("AutoStart", 0);
+    OpenPreferences();
+    EXPECT_EQ(machine.registry.Values(kRun), Strings{"other"});
+    EXPECT_EQ(Stored("AutoStart"), 0U);
+  });
+}
+
+TEST_F(Reading, TheButtonsOfTheTitleModesCountFromTheNextScanAndTakeNothingAway) {
+  const platform::WindowId notes = machine.other_windows.Add("Notes");
+  const platform::WindowId mail = machine.other_windows.Add("Mail");
+  machine.other_windows.foreground = mail;
+  machine.files.PutBesideProgram("WindowTitles.tit", "note\n");
+  const auto posted = [&] {
+    std::string both;
+    for (const platform::WindowId window : {notes, mail}) {
+      const std::string& title = machine.other_windows.Find(window).title;
+      both += title.find('|') != std::string::npos ? "*" : "-";
+    }
+    return both;
+  };
+  RunOpen(
+      [&] {
+        const auto scan_in = [&](const char* mode) {
+          User().Press(mode);
+          Scan({});
+          return posted();
+        };
+        EXPECT_EQ(scan_in("Post2"), "*-") << "listed";
+        EXPECT_EQ(scan_in("Post3"), "-*") << "in front";
+        EXPECT_EQ(scan_in("Post1"), "**") << "all";
+        EXPECT_EQ(scan_in("Post0"), "**") << "off: what is there stays";
+        User().Press("Post2");
+        ChoosePage("Reset Settings");
+        User().Press("R6");
+        User().Press("btnResetSettings");
+        Scan({});
+        EXPECT_EQ(posted(), "**");
+        ChoosePage("Numeric Other");
+        Then([&] { User().Press("OkBtn"); });
+        User().Press("DefineButton");
+      },
+      "Numeric Other");
+  EXPECT_EQ(posted(), "--");
+}
+
+TEST_F(Reading, AnotherLanguageCountsAtOnceInAllWindows) {
+  machine.files.PutBesideProgram("Languages\\Pirate.lng",
+                                 "[MainForm]\nS1=Booty\nS2=Peak\n_tlkInterMeter=Chart\n"
+                                 "mnuAlwaysTopOn=Aloft\nTransparent1Hint=Spyglass\n"
+                                 "[SettingsForm]\nTitle=Rigging\nLanguageName=Arrr\n"
+                                 "chkShowHints=Parrot\nTreeItem0=Captain\n"
+                                 "lblWin2kTransTrack=Sight\n");
+  Set("SOM3", 1);
+  Set("AvarageTime", 1);
+  RunOpen([&] {
+    EXPECT_EQ(Widget("cmbLanguage").items, (Strings{"English", "Arrr"}));
+    SeeEveryPage();
+    User().Choose("cmbLanguage", 1);
+    EXPECT_EQ(Widget("lblWin2kTransTrack").text, "Sight 75 %");
+    EXPECT_EQ(StoredText("Language"), "Pirate");
+    EXPECT_EQ(Line(), "[ Booty DL:0,0 kB UL:0,0 kB ][ Peak DL:0,0 kB Max UL:0,0 kB ]");
+    EXPECT_EQ(Entry("Graph Transparency Options").hint, "Spyglass");
+    EXPECT_TRUE(Entry("Aloft").checked);
+    EXPECT_EQ(Widget("_tlkInterMeter").text, "Chart");
+    EXPECT_EQ(Widget("T_frmPreferences").text, "Rigging");
+    EXPECT_EQ(Widget("chkShowHints").text, "Parrot");
+    EXPECT_EQ(Widget("TreeItems").items[0], "Captain");
+    EXPECT_EQ(Widget("TreeItems").index, 0);
+    Scan({1024, 2048});
+    Scan({1024, 2048});
+    EXPECT_EQ(Line(), "[ Booty DL:1 kB UL:2 kB ][ Max DL:1 kB Max UL:2 kB ]") << "a scan knows Max";
+    const int loads = machine.files.loads;
+    Scan({});
+    EXPECT_EQ(machine.files.loads, loads) << "a scan reads no language file";
+    machine.files.PutBesideProgram("Languages\\Pirate.lng",
+                                   "[SettingsForm]\nTitle=Sails\nLanguageName=Arrr\n");
+    User().Choose("cmbLanguage", 1);
+    EXPECT_EQ(Widget("T_frmPreferences").text, "Sails") << "chosen again, the edited file is read";
+    EXPECT_EQ(Line(), "[ Average DL:1 kB UL:2 kB ][ Max DL:1 kB Max UL:2 kB ]");
+    Set("SOM2", 0);
+    Scan({1024, 2048});
+    User().Choose("cmbLanguage", 1);
+    EXPECT_EQ(Line() + ErrorLog(), "[ Max DL:1 kB Max UL:2 kB ]");
+    Close();
+    machine.files.PutBesideProgram("Languages\\Aaa.lng", "");  // came while they were closed
+    OpenPreferences();
+    EXPECT_EQ(Widget("cmbLanguage").items, (Strings{"English", "Aaa", "Arrr"}));
+    EXPECT_EQ(Widget("cmbLanguage").text, "Arrr");
+  });
+}
+
+TEST_F(Reading, TheLockIsPutOnWithTwoEqualPasswordsAndTakenOffWithOne) {
+  const std::string long_one(200, '\x7E');
+  RunOpen(
+      [&] {
+        // What the page says after a try, and whether the lock is on.
+        const auto state = [&] {
+          EXPECT_EQ(Widget("AdminVerifyPass").visible, Widget("LockBtn").text == "Lock");
+          return Widget("CaseSensitive").text + (Stored("zdP1") == 1 ? " on" : " off");
+        };
+        const auto lock = [&](std::string_view one, std::string_view two) {
+          User().Type("AdminPassword", one);
+          User().Type("AdminVerifyPass", two);
+          User().Press("LockBtn");
+          EXPECT_EQ(Widget("AdminPassword").text + Widget("AdminVerifyPass").text, "");
+          return state();
+        };
+        const auto open = [&](std::string_view password) {
+          Widget("AdminPassword").all_selected = true;
+          User().Type("AdminPassword", password);
+          User().PressEnter("T_frmPreferences");
+          return state();
+        };
+        const std::string again = "Enter your password again off";
+        const std::string locked = "Brisanto Locked Now! on";
+        const std::string opened = "Warning: Case Sensitive off";
+        EXPECT_EQ(lock("a", "b"), again);
+        EXPECT_EQ(User().Focused(), "AdminPassword");
+        EXPECT_EQ(lock("", ""), again);
+        EXPECT_EQ(machine.sound.beeps, 2);
+        for (const std::string& password :
+             {std::string("Secret"), long_one, std::string("\xD0\xBF\xD0\xB0")}) {
+          EXPECT_EQ(lock(password, password), locked);
+          EXPECT_EQ(StoredText("zdP"), password);
+          EXPECT_EQ(open("secret"), locked);
+          EXPECT_EQ(open(password), opened);
+          EXPECT_EQ(StoredText("zdP"), password) << "it stays";
+        }
+        lock("x", "x");
+        machine.registry.Remove(test::kSettingsKey, "zdP");
+        EXPECT_EQ(open(""), locked);
+        EXPECT_EQ(open("Quillmoth"), opened) << "the page alone knows another one";
+        Set("zdP1", 1);  // by another program while a mismatch is typed
+        EXPECT_EQ(lock("x", "y"), again);
+      },
+      "Admin");
+}
+
+}  // namespace
