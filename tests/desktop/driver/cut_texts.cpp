@@ -6,7 +6,6 @@
 namespace desktop {
 namespace {
 
-using platform::windows::FromWide;
 using platform::windows::ToWide;
 
 struct Room {
@@ -84,19 +83,6 @@ BOOL CALLBACK CheckChild(HWND control, LPARAM measure) {
 }
 
 }  // namespace
-
-std::vector<std::string> OfferedLanguages() {
-  std::vector<std::string> names;
-  WIN32_FIND_DATAW file{};
-  const HANDLE search = ::FindFirstFileW(L"Languages\\*.lng", &file);
-  if (search == INVALID_HANDLE_VALUE) return names;
-  do {
-    const std::string name = FromWide(file.cFileName);
-    names.push_back(name.substr(0, name.rfind('.')));
-  } while (::FindNextFileW(search, &file));
-  ::FindClose(search);
-  return names;
-}
 
 std::string CutTexts(HWND window, LONG font_height) {
   Measure measure(font_height);

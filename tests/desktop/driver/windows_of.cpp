@@ -24,12 +24,6 @@ std::vector<HWND> Tops(DWORD process) {
   return search.found;
 }
 
-bool HasClass(HWND window, std::wstring_view name) {
-  wchar_t window_class[256] = {};
-  ::GetClassNameW(window, window_class, 256);
-  return name == window_class;
-}
-
 struct ControlSearch {
   const wchar_t* name;
   HWND found = nullptr;
@@ -62,6 +56,19 @@ HWND FindControl(HWND top, const wchar_t* name) {
   ControlSearch search{name};
   ::EnumChildWindows(top, &LookForControl, reinterpret_cast<LPARAM>(&search));
   return search.found;
+}
+
+GUITHREADINFO GuiOf(HWND window) {
+  GUITHREADINFO info{};
+  info.cbSize = sizeof(info);
+  ::GetGUIThreadInfo(::GetWindowThreadProcessId(window, nullptr), &info);
+  return info;
+}
+
+bool HasClass(HWND window, std::wstring_view name) {
+  wchar_t window_class[256] = {};
+  ::GetClassNameW(window, window_class, 256);
+  return name == window_class;
 }
 
 std::string TextOf(HWND window) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "tests/desktop/driver/win.h"
@@ -15,6 +16,9 @@ namespace desktop {
 // The control that has published this name, somewhere inside `top`; null when there is none.
 [[nodiscard]] HWND FindControl(HWND top, const wchar_t* name);
 
+// What the thread of a window does: moving, in a menu, where the keyboard is.
+[[nodiscard]] GUITHREADINFO GuiOf(HWND window);
+[[nodiscard]] bool HasClass(HWND window, std::wstring_view name);
 [[nodiscard]] std::string TextOf(HWND window);
 [[nodiscard]] RECT AreaOf(HWND window);  // on the screen
 [[nodiscard]] POINT MiddleOf(const RECT& area);
