@@ -19,6 +19,9 @@ TEST_F(Languages, CutNoText) {
     ChoosePage(preferences, static_cast<PageRow>(row));
   }
   ChoosePage(preferences, PageRow::kGeneral);
+  for (const HWND window : {statistics, preferences}) {
+    ASSERT_NE(CutTexts(window, meter.Scaled(33)), "") << "letters three times as large do not fit";
+  }
   const HWND choice = FindControl(preferences, L"cmbLanguage");
   const auto count = ::SendMessageW(choice, CB_GETCOUNT, 0, 0);
   EXPECT_GE(count, 6);

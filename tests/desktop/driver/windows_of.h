@@ -13,6 +13,8 @@ namespace desktop {
 [[nodiscard]] HWND FindTop(DWORD process, const wchar_t* window_class);
 // All visible top windows of a process, uppermost first.
 [[nodiscard]] std::vector<HWND> VisibleTops(DWORD process);
+// All controls inside `top`, hidden ones too.
+[[nodiscard]] std::vector<HWND> ControlsIn(HWND top);
 // The control that has published this name, somewhere inside `top`; null when there is none.
 [[nodiscard]] HWND FindControl(HWND top, const wchar_t* name);
 
