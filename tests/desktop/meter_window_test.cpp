@@ -79,6 +79,9 @@ TEST_F(MeterWindow, IsSizedWithinItsLimitsDraggedDockedAndFoundAgain) {
   Await("the edge", [&] { return AreaOf(meter->window()).left == work.left; });
   EXPECT_EQ(AreaOf(meter->window()).top, area.top);
   area = AreaOf(meter->window());
+  Store("AskOnExit", 0U);
+  meter->Choose({"Exit"});
+  EXPECT_EQ(meter->program().AwaitEnd(), 0U);
   meter = &Start();
   const RECT again = AreaOf(meter->window());
   EXPECT_NE(::EqualRect(&again, &area), FALSE) << "its place is kept";
@@ -95,21 +98,23 @@ TEST_F(MeterWindow, LooksAsTheMenuSaysAlsoAfterARestart) {
   meter->Choose({"Graph Options", "Graph Transparency Options", "Windows XP Style"});
   for (const int alpha : {190, 100}) {
     SCOPED_TRACE(alpha == 190 ? "at once" : "after a restart");
-    AwaitShown(*meter, false, true);
-    Await("the meter among the other windows", [&] { return !meter->OnTop(); });
-    OpenMenu menu = meter->Menu();
-    EXPECT_TRUE(menu.Find({"Graph Options", "Numeric"}).checked);
-    EXPECT_FALSE(menu.Find({"Graph Options", "Graph&&Numeric"}).checked);
-    menu.Leave();
     MoveMouse({5, 900});
     AwaitAlpha(*meter, alpha);
-    Store("Win2kTransparentRatio", 100U);
-    if (alpha == 190) meter = &Start();
+    AwaitShown(*meter, false, true);
+    Await("the meter among the other windows", [&] { return !meter->OnTop(); });
+    if (alpha == 190) {
+      Store("Win2kTransparentRatio", 100U);
+      meter = &Start();
+    }
   }
   constexpr LONG_PTR kBits = 0x888880;  // with that of a topmost window, which it is not now
   EXPECT_EQ(::GetWindowLongPtrW(meter->window(), GWL_EXSTYLE) & kBits, kBits);
   MoveMouse(meter->Inside());
   AwaitAlpha(*meter, 255);
+  OpenMenu menu = meter->Menu();
+  EXPECT_TRUE(menu.Find({"Graph Options", "Numeric"}).checked);
+  EXPECT_FALSE(menu.Find({"Graph Options", "Graph&&Numeric"}).checked);
+  menu.Leave();
   MoveMouse({5, 900});
   AwaitAlpha(*meter, 100);
 
