@@ -224,7 +224,8 @@ TEST_F(TopWindow, HangsOnThePointerWhereTheButtonWentDownHoweverLongTheFirstMove
 
   ::SetCursorPos(520, 430);
   EXPECT_EQ(BeginAndEndDrag(), (Rect{400, 300, 274, 135})) << "that press is over";
-  for (const UINT end : {WM_LBUTTONUP, WM_MOUSEMOVE}) {
+  static constexpr UINT kEnds[] = {WM_LBUTTONUP, WM_MOUSEMOVE};
+  for (const UINT end : kEnds) {
     ::SendMessageW(Surface(), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(19, 29));
     ::SendMessageW(Surface(), end, 0, MAKELPARAM(19, 29));
     EXPECT_EQ(BeginAndEndDrag(), (Rect{400, 300, 274, 135})) << "it was let go in between";

@@ -6,8 +6,8 @@
 // Behind the system's own header, which they need.
 #include <objidl.h>
 // It uses these two without saying whose they are.
-using std::max;
-using std::min;
+using std::max;  // NOLINT(misc-unused-using-decls)
+using std::min;  // NOLINT(misc-unused-using-decls)
 #include <gdiplus.h>
 
 #include "platform/windows/drawing/dib.h"
