@@ -12,13 +12,12 @@ if(CMAKE_CROSSCOMPILING)
                        FIXTURES_REQUIRED "wine;wine_desktop" ENVIRONMENT "${WINE_ENVIRONMENT}")
 endif()
 
-set(run_desktop_tests desktop_tests --gtest_brief=1)
 if(CMAKE_CROSSCOMPILING AND PYTHON)
   # Adapters of the tests' own need a network of their own, and Wine all in it.
-  set(run_desktop_tests
-      ${PYTHON} ${CMAKE_SOURCE_DIR}/tests/desktop/line/network_line.py --optional sh -c
-      "'${WINESERVER}' --kill; '${WINE}' '$<TARGET_FILE:desktop_tests>' --gtest_brief=1; result=$?; \
-'${WINESERVER}' --kill; exit $result")
+  add_test(NAME desktop_tests
+           COMMAND ${PYTHON} ${CMAKE_SOURCE_DIR}/tests/desktop/line/network_line.py --optional sh -c
+                   "'${WINESERVER}' --kill; '${WINE}' '$<TARGET_FILE:desktop_tests>' \
+--gtest_brief=1; result=$?; '${WINESERVER}' --kill; exit $result")
 
   # The installer makes a Wine of its own, and tests the release that `release` has made.
   add_test(NAME installer_test COMMAND ${PYTHON} ${CMAKE_SOURCE_DIR}/tests/release/installer_test.py
@@ -28,10 +27,12 @@ if(CMAKE_CROSSCOMPILING AND PYTHON)
     PROPERTIES RUN_SERIAL ON TIMEOUT 300
                ENVIRONMENT "WINEPREFIX=${CMAKE_BINARY_DIR}/wine-installer;WINEDEBUG=-all;\
 LC_ALL=C.UTF-8;WINEDLLOVERRIDES=mscoree=\\;mshtml=\\;winemenubuilder.exe=")
-elseif(CMAKE_CROSSCOMPILING)
-  message(WARNING "without python3 the tests of the installer and of traffic do not run")
+else()
+  if(CMAKE_CROSSCOMPILING)
+    message(WARNING "without python3 the tests of the installer and of traffic do not run")
+  endif()
+  add_test(NAME desktop_tests COMMAND desktop_tests --gtest_brief=1)
 endif()
-add_test(NAME desktop_tests COMMAND ${run_desktop_tests})
 set_tests_properties(desktop_tests PROPERTIES WORKING_DIRECTORY ${TESTED_FOLDER} RUN_SERIAL ON
                                               TIMEOUT 600 FIXTURES_REQUIRED program_folder)
 if(CMAKE_CROSSCOMPILING)
