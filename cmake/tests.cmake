@@ -48,18 +48,12 @@ function(read_headers_once target)
   endif()
 endfunction()
 
-# test_program(<name> <folders> [<libraries>...]): one executable of all tests of the folders (a
+# test_executable(<name> <folders> [<libraries>...]): one executable of all tests of the folders (a
 # list), so that every test file runs by being there.
-function(test_program name folders)
+function(test_executable name folders)
   list(TRANSFORM folders APPEND "/*.cpp")
   list(TRANSFORM folders PREPEND "${CMAKE_SOURCE_DIR}/")
   file(GLOB sources CONFIGURE_DEPENDS ${folders})
-  # The contract tests run against the system that the build is for.
-  if(WIN32)
-    list(FILTER sources EXCLUDE REGEX "_memory\\.cpp$")
-  else()
-    list(FILTER sources EXCLUDE REGEX "_windows\\.cpp$")
-  endif()
   if(NOT sources)
     return()
   endif()
@@ -74,12 +68,12 @@ function(test_program name folders)
     endif()
   endforeach()
   read_headers_once(${name})
+endfunction()
+
+# test_program(<name> <folders> [<libraries>...]): such an executable, which runs as a test.
+function(test_program name folders)
+  test_executable(${name} "${folders}" ${ARGN})
   add_test(NAME ${name} COMMAND ${name} --gtest_brief=1)
-  if(CMAKE_CROSSCOMPILING)
-    # Alone: there is one desktop, one clipboard and one registry.
-    set_tests_properties(${name} PROPERTIES RUN_SERIAL ON FIXTURES_REQUIRED wine)
-    set_property(TEST ${name} APPEND PROPERTY ENVIRONMENT "${WINE_ENVIRONMENT}")
-  endif()
 endfunction()
 
 # hook_module(<name> <folder>): a library that a hook of the tests brings into the program.
@@ -91,15 +85,18 @@ function(hook_module name folder)
 endfunction()
 
 if(WIN32)
-  test_program(contract_tests_windows tests/contract windows)
+  # The user's hands, for whatever is tested on a desktop.
+  floor(desktop_driver tests/desktop/driver windows)
+  target_link_libraries(desktop_driver PUBLIC gdiplus)
+
+  # The contract tests run against the system that the build is for.
+  test_program(contract_tests_windows "tests/contract;tests/contract/windows" desktop_driver)
   # With the program's manifest it gets the controls that the program has.
   target_sources(contract_tests_windows PRIVATE ${RESOURCES})
 
   # The desktop tests drive the real program from outside.
-  floor(desktop_driver tests/desktop/driver windows)
-  target_link_libraries(desktop_driver PUBLIC gdiplus)
   hook_module(menu_spy tests/desktop/spy)
-  test_program(desktop_tests tests/desktop desktop_driver)
+  test_executable(desktop_tests tests/desktop desktop_driver)
   include(cmake/desktop_tests.cmake)
 
   # Not a test: takes the pictures of the documentation.

@@ -101,7 +101,7 @@ class ScanCounter {
  public:
   ScanCounter() { desktop::Remove(desktop::kSettingsKey, kValue); }
   void Look() {
-    if (!desktop::Stored(desktop::kSettingsKey, kValue)) return;
+    if (!desktop::IsStored(desktop::kSettingsKey, kValue)) return;
     ++scans;
     desktop::Remove(desktop::kSettingsKey, kValue);
   }

@@ -1,7 +1,9 @@
 // Hot keys that tests press and that other programs may have taken.
 #pragma once
 
+#include <algorithm>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "platform/hot_keys.h"
@@ -11,25 +13,50 @@ namespace platform::memory {
 class HotKeys final : public platform::HotKeys {
  public:
   [[nodiscard]] std::unique_ptr<HotKey> Register(std::string_view name, const KeyCombination& keys,
-                                                 std::function<void()> pressed) override;
+                                                 std::function<void()> pressed) override {
+    const auto taken_here = [&](const Entry* entry) {
+      return entry->keys == keys || entry->name == name;
+    };
+    if (std::find(taken.begin(), taken.end(), keys) != taken.end() ||
+        std::any_of(entries_.begin(), entries_.end(), taken_here)) {
+      return nullptr;
+    }
+    return std::make_unique<Entry>(entries_, name, keys, std::move(pressed));
+  }
 
   // Acts as the user who presses the combination. Returns false when no hot key is registered for
   // it.
-  bool Press(const KeyCombination& keys);
+  bool Press(const KeyCombination& keys) {
+    const auto found = std::find_if(entries_.begin(), entries_.end(),
+                                    [&](const Entry* entry) { return entry->keys == keys; });
+    if (found == entries_.end()) return false;
+    const std::function<void()> pressed = (*found)->pressed;  // it may destroy its hot key
+    pressed();
+    return true;
+  }
   [[nodiscard]] std::size_t Registered() const { return entries_.size(); }
 
   // The combinations that other programs have taken.
   std::vector<KeyCombination> taken;
 
  private:
-  struct Entry {
+  struct Entry final : HotKey {
+    Entry(std::vector<Entry*>& all, std::string_view its_name, const KeyCombination& its_keys,
+          std::function<void()> handler)
+        : entries(all), name(its_name), keys(its_keys), pressed(std::move(handler)) {
+      entries.push_back(this);
+    }
+    ~Entry() override { std::erase(entries, this); }
+    Entry(const Entry&) = delete;
+    Entry& operator=(const Entry&) = delete;
+
+    std::vector<Entry*>& entries;
     std::string name;
     KeyCombination keys;
     std::function<void()> pressed;
   };
-  class Handle;
 
-  std::vector<std::shared_ptr<Entry>> entries_;
+  std::vector<Entry*> entries_;
 };
 
 }  // namespace platform::memory

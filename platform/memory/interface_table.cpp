@@ -34,9 +34,9 @@ InterfaceRow MakeRow(std::string_view description, std::initializer_list<std::ui
 std::uint32_t InterfaceTable::Read(std::span<std::byte> buffer, std::uint32_t& size) {
   ++reads;
   if (notebook_.Fails()) return kGeneralFailure;
-  const auto failure = std::find_if(failures_.begin(), failures_.end(),
-                                    [this](const Failure& f) { return f.read == reads; });
-  if (failure != failures_.end()) return failure->code;
+  if (const auto failure = failures_.find(reads); failure != failures_.end()) {
+    return failure->second;
+  }
 
   const std::size_t needed = kInterfaceTableHead + rows.size() * sizeof(InterfaceRow);
   size = static_cast<std::uint32_t>(needed);
@@ -91,7 +91,5 @@ void InterfaceTable::AddTraffic(std::size_t position, std::uint32_t received, st
   if (row.dwInOctets < received) wrapped_[row.dwIndex].in += kWrap;
   if (row.dwOutOctets < sent) wrapped_[row.dwIndex].out += kWrap;
 }
-
-void InterfaceTable::FailRead(int n, std::uint32_t code) { failures_.push_back({reads + n, code}); }
 
 }  // namespace platform::memory

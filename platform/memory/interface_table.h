@@ -48,7 +48,7 @@ class InterfaceTable : public platform::InterfaceTable {
   void HideOctets(std::uint32_t index) { hidden_.insert(index); }
 
   // Makes the n-th Read from now (1 is the next) return `code` and do nothing.
-  void FailRead(int n, std::uint32_t code);
+  void FailRead(int n, std::uint32_t code) { failures_[reads + n] = code; }
   // Runs `change` once, between the next Read that reports a buffer that is too small and the Read
   // after it: the table may grow, shrink or become empty between asking for the size and reading.
   void AfterNextSizeRead(std::function<void()> change) { after_size_read_ = std::move(change); }
@@ -59,18 +59,13 @@ class InterfaceTable : public platform::InterfaceTable {
   int octet_questions = 0;
 
  private:
-  struct Failure {
-    int read;  // value of `reads` at which the failure happens
-    std::uint32_t code;
-  };
-
   [[nodiscard]] const InterfaceRow* RowOf(std::uint32_t index) const;
 
   Notebook& notebook_;
   std::map<std::uint32_t, LongOctets> wrapped_;  // what the counters of a row lost, by dwIndex
   std::set<std::uint32_t> filters_;
   std::set<std::uint32_t> hidden_;
-  std::vector<Failure> failures_;
+  std::map<int, std::uint32_t> failures_;  // by the value of `reads` at which they happen
   std::function<void()> after_size_read_;
   std::uint32_t last_index_ = 0;
 };

@@ -5,21 +5,15 @@
 namespace platform::memory {
 
 bool MessageLoop::RunUntil(const std::function<bool()>& done) {
-  ++depth_;
-  bool ended_by_done = false;
   while (!quit_) {
-    if (done()) {
-      ended_by_done = true;
-      break;
-    }
+    if (done()) return true;
     if (steps_.empty()) {
       ++starved;
-      break;
+      return false;
     }
     RunStep();
   }
-  --depth_;
-  return ended_by_done;
+  return false;
 }
 
 bool MessageLoop::ProcessPending() {

@@ -26,7 +26,6 @@ class MessageLoop final : public platform::MessageLoop {
   void Restart() { quit_ = false; }
 
   [[nodiscard]] bool HasQuit() const { return quit_; }
-  [[nodiscard]] int Depth() const { return depth_; }
 
   bool steps_when_pending = false;
   int starved = 0;
@@ -36,7 +35,6 @@ class MessageLoop final : public platform::MessageLoop {
 
   std::deque<std::function<void()>> steps_;
   bool quit_ = false;
-  int depth_ = 0;
 };
 
 }  // namespace platform::memory

@@ -31,7 +31,6 @@ class NotificationArea::Icon final : public TrayIcon {
     return SetPicture(picture);
   }
   void SetHint(std::string_view hint) override {
-    ++area_.hint_updates;
     area_.hint = CutCharacters(hint, kHintCharacters);
   }
   void ShowBalloon(std::string_view title, std::string_view text, BalloonIcon icon,

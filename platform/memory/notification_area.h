@@ -38,7 +38,6 @@ class NotificationArea final : public platform::NotificationArea {
   std::string hint;
   std::vector<Balloon> balloons;
   int picture_updates = 0;
-  int hint_updates = 0;
   int picture_size = 16;
   bool busy = false;  // the shell takes no picture
 

@@ -5,26 +5,6 @@
 #include <utility>
 
 namespace platform::memory {
-namespace {
-
-// What a sunken frame takes on each side.
-void Sink(WidgetState& state, int width) {
-  state.client_origin = {width, width};
-  state.frame = {2 * width, 2 * width};
-}
-
-// One pixel around a bare window; a border and a small caption on the others.
-void SetFrame(WidgetState& state) {
-  if (state.params.frame == Frame::kHint) return;
-  if (state.params.bare_popup) {
-    Sink(state, 1);
-  } else {
-    state.client_origin = {3, 22};
-    state.frame = {6, 25};
-  }
-}
-
-}  // namespace
 
 Peer::Peer(Desktop& desktop, WidgetState::Kind kind, std::string_view name, WidgetState* parent,
            WidgetEvents& events)
@@ -37,86 +17,12 @@ Peer::Peer(Desktop& desktop, WidgetState::Kind kind, std::string_view name, Widg
   desktop_.Add(state_);
 }
 
-void Peer::SetText(std::string_view text) {
-  if (state_.text == text) return;
-  state_.text = text;
-  ++state_.text_changes;
-}
-
-void Peer::SetBounds(const Rect& bounds) {
-  const Size before = ClientSize();
-  state_.bounds = bounds;
-  if (ClientSize() != before) state_.events->OnResize(ClientSize());
-}
-
-void Peer::SetVisible(bool visible) {
-  if (!visible && state_.kind == WidgetState::Kind::kTopWindow && HasFocus()) {
-    desktop_.MoveFocus(nullptr);
-  }
-  state_.visible = visible;
-}
-
-void Peer::SetEnabled(bool enabled) { state_.enabled = enabled; }
-
-void Peer::SetColours(Colour text, Colour background) {
-  state_.text_colour = text;
-  state_.background = background;
-}
-
-void Peer::Focus() {
-  if (state_.Reachable()) desktop_.MoveFocus(&state_);
-}
-
-bool Peer::HasFocus() const {
-  return desktop_.Focused() != nullptr && desktop_.Focused()->IsIn(state_);
-}
-
-TextPeer::TextPeer(Desktop& desktop, std::string_view name, const TextStyle& style,
-                   WidgetState& parent, WidgetEvents& events)
-    : PeerOf(desktop, WidgetState::Kind::kText, name, &parent, events) {
-  state_.text_style = style;
-  if (style.border == Border::kSunken) Sink(state_, 1);
-}
-
-ButtonPeer::ButtonPeer(Desktop& desktop, std::string_view name, ButtonKind kind,
-                       WidgetState& parent, WidgetEvents& events)
-    : PeerOf(desktop, WidgetState::Kind::kButton, name, &parent, events) {
-  state_.button = kind;
-}
-
-EditPeer::EditPeer(Desktop& desktop, std::string_view name, const EditStyle& style,
-                   WidgetState& parent, WidgetEvents& events)
-    : PeerOf(desktop, WidgetState::Kind::kEdit, name, &parent, events) {
-  state_.edit = style;
-  if (style.border == Border::kSunken) Sink(state_, 2);
-}
-
-void EditPeer::SetText(std::string_view text) {
-  state_.all_selected = false;
-  PeerOf::SetText(text);
-}
-
-ListPeer::ListPeer(Desktop& desktop, std::string_view name, ListKind kind, WidgetState& parent,
-                   WidgetEvents& events)
-    : PeerOf(desktop, WidgetState::Kind::kList, name, &parent, events) {
-  state_.list = kind;
-}
-
 void ListPeer::Replace(int first, int removed, std::span<const std::string> added) {
   const auto rows = state_.items.begin() + first;
   state_.items.insert(state_.items.erase(rows, rows + removed), added.begin(), added.end());
   const auto checks = state_.row_checks.begin() + first;
   state_.row_checks.insert(state_.row_checks.erase(checks, checks + removed), added.size(), false);
   state_.Select(-1);
-}
-
-void ListPeer::SetChecked(int row, bool checked) {
-  state_.row_checks.at(static_cast<std::size_t>(row)) = checked;
-}
-
-bool ListPeer::Checked(int row) const {
-  const auto at = static_cast<std::size_t>(row);
-  return row >= 0 && at < state_.row_checks.size() && state_.row_checks[at];
 }
 
 void TreePeer::SetItems(std::span<const TreeItem> items) {
@@ -143,26 +49,6 @@ Rect TabsPeer::PageArea() const {
           std::max(0, size.height - kTabHeight - 2 * kEdge)};
 }
 
-void TrackBarPeer::SetRange(int lowest, int highest, int page) {
-  state_.lowest = lowest;
-  state_.highest = std::max(lowest, highest);
-  state_.page = page;
-  SetPosition(state_.position);
-}
-
-void TrackBarPeer::SetPosition(int position) {
-  state_.position = std::clamp(position, state_.lowest, state_.highest);
-}
-
-void ProgressBarPeer::SetRange(int lowest, int highest) {
-  state_.lowest = lowest;
-  state_.highest = std::max(lowest, highest);
-}
-
-void ProgressBarPeer::SetPosition(int position) {
-  state_.position = std::clamp(position, state_.lowest, state_.highest);
-}
-
 TopWindowPeer::TopWindowPeer(Desktop& desktop, const TopWindowParams& params, WidgetState* owner,
                              TopWindowEvents& events)
     : PeerOf(desktop, WidgetState::Kind::kTopWindow, params.name, nullptr, events) {
@@ -172,7 +58,10 @@ TopWindowPeer::TopWindowPeer(Desktop& desktop, const TopWindowParams& params, Wi
   state_.window = this;
   state_.owner = owner;
   state_.dpi = desktop.TheScreen().Monitors().front().dpi;
-  SetFrame(state_);
+  if (params.frame == Frame::kHint) return;
+  // One pixel around a bare window; a border and a small caption on the others.
+  state_.client_origin = params.bare_popup ? Point{1, 1} : Point{3, 22};
+  state_.frame = params.bare_popup ? Size{2, 2} : Size{6, 25};
 }
 
 void TopWindowPeer::SetBounds(const Rect& bounds) {
@@ -186,19 +75,22 @@ void TopWindowPeer::SetBounds(const Rect& bounds) {
   state_.top_events->OnPlaced();
 }
 
+void TopWindowPeer::SetVisible(bool visible) {
+  if (!visible && HasFocus()) desktop_.MoveFocus(nullptr);
+  PeerOf::SetVisible(visible);
+}
+
 void TopWindowPeer::Focus() {
-  if (Desktop::TakesDialogKeys(state_)) {
-    if (!HasFocus()) state_.top_events->OnFocusWanted();
-  } else {
+  if (!Desktop::TakesDialogKeys(state_)) {
     PeerOf::Focus();
+  } else if (!HasFocus()) {
+    state_.top_events->OnFocusWanted();
   }
 }
 
 void TopWindowPeer::Show(Activation activation) {
-  const bool appears = !state_.visible;
   state_.shown_with = activation;
-  state_.visible = true;
-  if (appears && activation == Activation::kActivate) Focus();
+  if (!std::exchange(state_.visible, true) && activation == Activation::kActivate) Focus();
 }
 
 void TopWindowPeer::SetSizeLimits(Size smallest, Size largest) {
@@ -212,16 +104,9 @@ void TopWindowPeer::SetAlpha(std::uint8_t alpha) {
   state_.alphas.push_back(alpha);
 }
 
-void TopWindowPeer::SetShape(std::span<const Rect> parts) {
-  std::vector<Rect> shape(parts.begin(), parts.end());
+void TopWindowPeer::Shape(std::optional<std::vector<Rect>> shape) {
   if (state_.shape == shape) return;
   state_.shape = std::move(shape);
-  ++state_.shape_changes;
-}
-
-void TopWindowPeer::ResetShape() {
-  if (!state_.shape) return;
-  state_.shape.reset();
   ++state_.shape_changes;
 }
 

@@ -16,23 +16,6 @@ class Peer {
   Peer(const Peer&) = delete;
   Peer& operator=(const Peer&) = delete;
 
-  // As Widget says.
-  void SetText(std::string_view text);
-  [[nodiscard]] std::string Text() const { return state_.text; }
-  void SetBounds(const Rect& bounds);
-  [[nodiscard]] Rect Bounds() const { return state_.bounds; }
-  [[nodiscard]] Size ClientSize() const { return state_.ClientSize(); }
-  void SetVisible(bool visible);
-  [[nodiscard]] bool Visible() const { return state_.visible; }
-  void SetEnabled(bool enabled);
-  [[nodiscard]] bool Enabled() const { return state_.enabled; }
-  void SetFont(const FontStyle& font) { state_.font = font; }
-  void SetColours(Colour text, Colour background);
-  void Focus();
-  [[nodiscard]] bool HasFocus() const;
-  void Invalidate() { ++state_.invalidated; }
-  [[nodiscard]] Point ToScreen(Point client) const { return state_.ToScreen(client); }
-
   [[nodiscard]] WidgetState& State() { return state_; }
   // Of a widget that this folder made.
   [[nodiscard]] static WidgetState& StateOf(Widget& widget) {
@@ -40,46 +23,48 @@ class Peer {
   }
 
  protected:
+  [[nodiscard]] bool KeyboardIsIn() const {
+    return desktop_.Focused() != nullptr && desktop_.Focused()->IsIn(state_);
+  }
+
   Desktop& desktop_;
   WidgetState state_;
 };
 
-// Implements `Interface`, which is Widget or extends it, over a Peer.
+// Implements `Interface`, which is Widget or extends it.
 template <class Interface>
 class PeerOf : public Interface, public Peer {
  public:
-  void SetText(std::string_view text) override { Peer::SetText(text); }
-  [[nodiscard]] std::string Text() const override { return Peer::Text(); }
-  void SetBounds(const Rect& bounds) override { Peer::SetBounds(bounds); }
-  [[nodiscard]] Rect Bounds() const override { return Peer::Bounds(); }
-  [[nodiscard]] Size ClientSize() const override { return Peer::ClientSize(); }
-  void SetVisible(bool visible) override { Peer::SetVisible(visible); }
-  [[nodiscard]] bool Visible() const override { return Peer::Visible(); }
-  void SetEnabled(bool enabled) override { Peer::SetEnabled(enabled); }
-  [[nodiscard]] bool Enabled() const override { return Peer::Enabled(); }
-  void SetFont(const FontStyle& font) override { Peer::SetFont(font); }
-  void SetColours(Colour text, Colour background) override { Peer::SetColours(text, background); }
-  void Focus() override { Peer::Focus(); }
-  [[nodiscard]] bool HasFocus() const override { return Peer::HasFocus(); }
-  void Invalidate() override { Peer::Invalidate(); }
-  [[nodiscard]] Point ToScreen(Point client) const override { return Peer::ToScreen(client); }
-
   using Peer::Peer;
+
+  void SetText(std::string_view text) override { state_.SetText(text); }
+  [[nodiscard]] std::string Text() const override { return state_.text; }
+  void SetBounds(const Rect& bounds) override { state_.SetBounds(bounds); }
+  [[nodiscard]] Rect Bounds() const override { return state_.bounds; }
+  [[nodiscard]] Size ClientSize() const override { return state_.ClientSize(); }
+  void SetVisible(bool visible) override { state_.visible = visible; }
+  [[nodiscard]] bool Visible() const override { return state_.visible; }
+  void SetEnabled(bool enabled) override { state_.enabled = enabled; }
+  [[nodiscard]] bool Enabled() const override { return state_.enabled; }
+  void SetFont(const FontStyle& font) override { state_.font = font; }
+  void SetColours(Colour text, Colour background) override {
+    state_.text_colour = text;
+    state_.background = background;
+  }
+  void Focus() override {
+    if (state_.Reachable()) desktop_.MoveFocus(&state_);
+  }
+  [[nodiscard]] bool HasFocus() const override { return KeyboardIsIn(); }
+  void Invalidate() override { ++state_.invalidated; }
+  [[nodiscard]] Point ToScreen(Point client) const override { return state_.ToScreen(client); }
 };
 
-// Surfaces.
+// Surfaces and texts.
 using WidgetPeer = PeerOf<Widget>;
-
-class TextPeer final : public PeerOf<Widget> {
- public:
-  TextPeer(Desktop& desktop, std::string_view name, const TextStyle& style, WidgetState& parent,
-           WidgetEvents& events);
-};
 
 class ButtonPeer final : public PeerOf<Button> {
  public:
-  ButtonPeer(Desktop& desktop, std::string_view name, ButtonKind kind, WidgetState& parent,
-             WidgetEvents& events);
+  using PeerOf::PeerOf;
   void SetChecked(bool checked) override { state_.checked = checked; }
   [[nodiscard]] bool Checked() const override { return state_.checked; }
   void SetDefault(bool is_default) override { state_.is_default = is_default; }
@@ -88,63 +73,70 @@ class ButtonPeer final : public PeerOf<Button> {
 
 class EditPeer final : public PeerOf<Edit> {
  public:
-  EditPeer(Desktop& desktop, std::string_view name, const EditStyle& style, WidgetState& parent,
-           WidgetEvents& events);
-  void SetText(std::string_view text) override;
+  using PeerOf::PeerOf;
+  void SetText(std::string_view text) override {
+    state_.all_selected = false;
+    PeerOf::SetText(text);
+  }
   void SetMaxLength(int characters) override { state_.max_length = characters; }
   void SetReadOnly(bool read_only) override { state_.read_only = read_only; }
   void SelectAll() override { state_.all_selected = true; }
 };
 
-class ListPeer final : public PeerOf<ItemList> {
+// What has rows, of which one is chosen.
+template <class Interface>
+class ChoicePeer : public PeerOf<Interface> {
  public:
-  ListPeer(Desktop& desktop, std::string_view name, ListKind kind, WidgetState& parent,
-           WidgetEvents& events);
-  void Replace(int first, int removed, std::span<const std::string> added) override;
-  [[nodiscard]] int Count() const override { return static_cast<int>(state_.items.size()); }
-  void SetIndex(int index) override { state_.Select(index); }
-  [[nodiscard]] int Index() const override { return state_.index; }
-  void SetChecked(int row, bool checked) override;
-  [[nodiscard]] bool Checked(int row) const override;
+  using PeerOf<Interface>::PeerOf;
+  void SetIndex(int index) override { this->state_.Select(index); }
+  [[nodiscard]] int Index() const override { return this->state_.index; }
 };
 
-class TreePeer final : public PeerOf<Tree> {
+class ListPeer final : public ChoicePeer<ItemList> {
  public:
-  TreePeer(Desktop& desktop, std::string_view name, WidgetState& parent, WidgetEvents& events)
-      : PeerOf(desktop, WidgetState::Kind::kTree, name, &parent, events) {}
+  using ChoicePeer::ChoicePeer;
+  void Replace(int first, int removed, std::span<const std::string> added) override;
+  [[nodiscard]] int Count() const override { return static_cast<int>(state_.items.size()); }
+  void SetChecked(int row, bool checked) override {
+    state_.row_checks.at(static_cast<std::size_t>(row)) = checked;
+  }
+  [[nodiscard]] bool Checked(int row) const override {
+    return row >= 0 && row < Count() && state_.row_checks[static_cast<std::size_t>(row)];
+  }
+};
+
+class TreePeer final : public ChoicePeer<Tree> {
+ public:
+  using ChoicePeer::ChoicePeer;
   void SetItems(std::span<const TreeItem> items) override;
-  void SetIndex(int index) override { state_.Select(index); }
-  [[nodiscard]] int Index() const override { return state_.index; }
   void ExpandAll() override {}
 };
 
-class TabsPeer final : public PeerOf<Tabs> {
+class TabsPeer final : public ChoicePeer<Tabs> {
  public:
-  TabsPeer(Desktop& desktop, std::string_view name, WidgetState& parent, WidgetEvents& events)
-      : PeerOf(desktop, WidgetState::Kind::kTabs, name, &parent, events) {}
+  using ChoicePeer::ChoicePeer;
   void SetItems(std::span<const std::string> captions) override;
-  void SetIndex(int index) override { state_.Select(index); }
-  [[nodiscard]] int Index() const override { return state_.index; }
   [[nodiscard]] Rect PageArea() const override;
   [[nodiscard]] Colour PageColour() const override { return colour::kButtonFace; }
 };
 
 class TrackBarPeer final : public PeerOf<TrackBar> {
  public:
-  TrackBarPeer(Desktop& desktop, std::string_view name, WidgetState& parent, WidgetEvents& events)
-      : PeerOf(desktop, WidgetState::Kind::kTrackBar, name, &parent, events) {}
-  void SetRange(int lowest, int highest, int page) override;
-  void SetPosition(int position) override;
+  using PeerOf::PeerOf;
+  void SetRange(int lowest, int highest, int page) override {
+    state_.page = page;
+    state_.SetRange(lowest, highest);
+    SetPosition(state_.position);
+  }
+  void SetPosition(int position) override { state_.SetPosition(position); }
   [[nodiscard]] int Position() const override { return state_.position; }
 };
 
 class ProgressBarPeer final : public PeerOf<ProgressBar> {
  public:
-  ProgressBarPeer(Desktop& desktop, std::string_view name, WidgetState& parent,
-                  WidgetEvents& events)
-      : PeerOf(desktop, WidgetState::Kind::kProgressBar, name, &parent, events) {}
-  void SetRange(int lowest, int highest) override;
-  void SetPosition(int position) override;
+  using PeerOf::PeerOf;
+  void SetRange(int lowest, int highest) override { state_.SetRange(lowest, highest); }
+  void SetPosition(int position) override { state_.SetPosition(position); }
 };
 
 class TopWindowPeer final : public PeerOf<TopWindow> {
@@ -152,6 +144,7 @@ class TopWindowPeer final : public PeerOf<TopWindow> {
   TopWindowPeer(Desktop& desktop, const TopWindowParams& params, WidgetState* owner,
                 TopWindowEvents& events);
   void SetBounds(const Rect& bounds) override;
+  void SetVisible(bool visible) override;
   void Focus() override;
   void Show(Activation activation) override;
   void SetTopmost(bool topmost) override { state_.topmost = topmost; }
@@ -162,12 +155,15 @@ class TopWindowPeer final : public PeerOf<TopWindow> {
   void BeginDrag() override { ++state_.drags; }
   [[nodiscard]] bool Dragging() const override { return state_.dragging; }
   void SetAlpha(std::uint8_t alpha) override;
-  void SetShape(std::span<const Rect> parts) override;
-  void ResetShape() override;
+  void SetShape(std::span<const Rect> parts) override { Shape({{parts.begin(), parts.end()}}); }
+  void ResetShape() override { Shape(std::nullopt); }
   [[nodiscard]] bool UnderPointer() const override { return desktop_.UnderPointer(state_); }
   void ShowKeyMarks() override {}
   void Raise() override { ++state_.raised; }
   [[nodiscard]] int Dpi() const override { return state_.dpi; }
+
+ private:
+  void Shape(std::optional<std::vector<Rect>> shape);
 };
 
 }  // namespace platform::memory

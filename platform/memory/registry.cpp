@@ -1,6 +1,5 @@
 #include "platform/memory/registry.h"
 
-#include <algorithm>
 #include <stdexcept>
 #include <utility>
 
@@ -10,25 +9,20 @@
 namespace platform::memory {
 namespace {
 
-// The system's limits, in UTF-16 units.
-constexpr std::size_t kLongestKeyName = 255;
-constexpr std::size_t kLongestValueName = 16383;
+constexpr std::size_t kLongestKeyName = 255;  // UTF-16 units
 
-std::vector<std::string> Split(std::string_view path) {
-  std::vector<std::string> names;
-  while (!path.empty()) {
-    const std::size_t end = std::min(path.find('\\'), path.size());
-    if (end > 0) names.emplace_back(path.substr(0, end));
-    path.remove_prefix(std::min(end + 1, path.size()));
-  }
-  return names;
+std::string_view Stripped(std::string_view path) {
+  while (path.starts_with('\\')) path.remove_prefix(1);
+  while (path.ends_with('\\')) path.remove_suffix(1);
+  return path;
 }
 
 // Returns one form for all spellings of a path.
-std::string Normal(std::string_view path) {
-  std::string normal;
-  for (const std::string& name : Split(path)) normal += '\\' + FoldCase(name);
-  return normal;
+std::string Normal(std::string_view path) { return FoldCase(Stripped(path)); }
+
+// Returns whether a path is one of the keys on the way to another, or that one.
+bool LeadsTo(const std::string& path, const std::string& other) {
+  return other.starts_with(path) && (other.size() == path.size() || other[path.size()] == '\\');
 }
 
 }  // namespace
@@ -74,34 +68,27 @@ std::optional<std::string> RegistryValue::AsText() const {
 }
 
 std::optional<std::vector<std::byte>> RegistryValue::AsBinary() const {
-  if (type != ValueType::kBinary) return std::nullopt;
-  return data;
+  return type == ValueType::kBinary ? std::optional(data) : std::nullopt;
 }
 
-// Maps are keyed by the folded name; the name as it was first written stands inside.
 struct Registry::Key {
   struct Named {
-    std::string name;
+    std::string name;  // as it was first written
     RegistryValue value;
   };
 
-  std::string name;
-  std::map<std::string, std::shared_ptr<Key>, std::less<>> keys;
-  std::map<std::string, Named, std::less<>> values;
+  std::string path;                                       // as it was first written
+  std::map<std::string, Named, std::less<>> values = {};  // by the folded name
   bool removed = false;
 
-  [[nodiscard]] const RegistryValue* Value(std::string_view value_name) const {
-    const auto found = values.find(FoldCase(value_name));
+  [[nodiscard]] const RegistryValue* Value(std::string_view name) const {
+    const auto found = values.find(FoldCase(name));
     return found == values.end() ? nullptr : &found->second.value;
   }
-  void Set(std::string_view value_name, RegistryValue value) {
-    const auto [place, is_new] = values.try_emplace(FoldCase(value_name));
-    if (is_new) place->second.name = value_name;
+  void Set(std::string_view name, RegistryValue value) {
+    const auto [place, is_new] = values.try_emplace(FoldCase(name));
+    if (is_new) place->second.name = name;
     place->second.value = std::move(value);
-  }
-  void MarkRemoved() {
-    removed = true;
-    for (const auto& [folded, key] : keys) key->MarkRemoved();
   }
 };
 
@@ -112,18 +99,15 @@ class Registry::OpenKey : public RegistryKey {
 
   std::optional<std::uint32_t> ReadDword(std::string_view name) override {
     ++notebook_.registry.dword_reads;
-    const RegistryValue* value = Read(name);
-    return value == nullptr ? std::nullopt : value->AsDword();
+    return Read(name).AsDword();
   }
   std::optional<std::string> ReadText(std::string_view name) override {
     ++notebook_.registry.text_reads;
-    const RegistryValue* value = Read(name);
-    return value == nullptr ? std::nullopt : value->AsText();
+    return Read(name).AsText();
   }
   std::optional<std::vector<std::byte>> ReadBinary(std::string_view name) override {
     ++notebook_.registry.binary_reads;
-    const RegistryValue* value = Read(name);
-    return value == nullptr ? std::nullopt : value->AsBinary();
+    return Read(name).AsBinary();
   }
 
   void WriteDword(std::string_view name, std::uint32_t value) override {
@@ -146,18 +130,16 @@ class Registry::OpenKey : public RegistryKey {
   }
 
  private:
-  const RegistryValue* Read(std::string_view name) {
+  // Of no type where nothing is read.
+  RegistryValue Read(std::string_view name) {
     if (notebook_.on_registry_read) notebook_.on_registry_read(name);
-    if (notebook_.Fails() || key_->removed) return nullptr;
-    return key_->Value(name);
+    const RegistryValue* value = notebook_.Fails() || key_->removed ? nullptr : key_->Value(name);
+    return value == nullptr ? RegistryValue() : *value;
   }
   void Write(std::string_view name, RegistryValue value) {
     if (notebook_.on_registry_write) notebook_.on_registry_write(name);
     if (notebook_.Fails() || !writable_) throw std::runtime_error("RegSetValueEx: error 5");
     if (key_->removed) throw std::runtime_error("RegSetValueEx: error 1018");
-    if (ToUtf16(name).size() > kLongestValueName) {
-      throw std::runtime_error("RegSetValueEx: error 87");
-    }
     key_->Set(name, std::move(value));
   }
 
@@ -166,49 +148,43 @@ class Registry::OpenKey : public RegistryKey {
   const bool writable_;
 };
 
-Registry::Registry(Notebook& notebook) : notebook_(notebook), root_(std::make_shared<Key>()) {}
+Registry::Registry(Notebook& notebook) : notebook_(notebook) {}
 Registry::~Registry() = default;
 
 std::unique_ptr<RegistryKey> Registry::Open(std::string_view path, KeyAccess access) {
   ++notebook_.registry.round_trips;
-  if (notebook_.Fails() || denied_.contains(Normal(path))) return nullptr;
-  if (access != KeyAccess::kReadOnly && unwritable_.contains(Normal(path))) return nullptr;
-  for (const std::string& name : Split(path)) {
-    if (ToUtf16(name).size() > kLongestKeyName) return nullptr;
-  }
+  const std::string normal = Normal(path);
+  if (notebook_.Fails() || denied_.contains(normal)) return nullptr;
+  if (access != KeyAccess::kReadOnly && unwritable_.contains(normal)) return nullptr;
+  if (ToUtf16(normal.substr(normal.rfind('\\') + 1)).size() > kLongestKeyName) return nullptr;
   std::shared_ptr<Key> key = access == KeyAccess::kCreate ? Make(path) : Find(path);
   return key == nullptr ? nullptr : std::make_unique<OpenKey>(notebook_, std::move(key), access);
 }
 
 std::shared_ptr<Registry::Key> Registry::Find(std::string_view path) const {
-  std::shared_ptr<Key> key = root_;
-  for (const std::string& name : Split(path)) {
-    const auto found = key->keys.find(FoldCase(name));
-    if (found == key->keys.end()) return nullptr;
-    key = found->second;
-  }
-  return key;
+  const auto found = keys_.find(Normal(path));
+  return found == keys_.end() ? nullptr : found->second;
 }
 
 std::shared_ptr<Registry::Key> Registry::Make(std::string_view path) {
-  std::shared_ptr<Key> key = root_;
-  for (const std::string& name : Split(path)) {
-    std::shared_ptr<Key>& next = key->keys[FoldCase(name)];
-    if (next == nullptr) {
-      next = std::make_shared<Key>();
-      next->name = name;
-    }
-    key = next;
+  path = Stripped(path);
+  for (std::size_t end = path.find('\\');; end = path.find('\\', end + 1)) {
+    std::shared_ptr<Key>& key = keys_[FoldCase(path.substr(0, end))];
+    if (key == nullptr) key = std::make_shared<Key>(Key{.path = std::string(path.substr(0, end))});
+    if (end == std::string_view::npos) return key;
   }
-  return key;
 }
 
 bool Registry::Exists(std::string_view path) const { return Find(path) != nullptr; }
 
 std::vector<std::string> Registry::Keys(std::string_view path) const {
+  const std::string inside = Normal(path) + '\\';
   std::vector<std::string> names;
-  if (const std::shared_ptr<Key> key = Find(path)) {
-    for (const auto& [folded, child] : key->keys) names.push_back(child->name);
+  for (const auto& [normal, key] : keys_) {
+    if (!normal.starts_with(inside) || normal.find('\\', inside.size()) != std::string::npos) {
+      continue;
+    }
+    names.push_back(key->path.substr(inside.size()));
   }
   return names;
 }
@@ -227,31 +203,6 @@ std::optional<RegistryValue> Registry::Raw(std::string_view path, std::string_vi
   return value == nullptr ? std::nullopt : std::optional(*value);
 }
 
-bool Registry::Exists(std::string_view path, std::string_view name) const {
-  return Raw(path, name).has_value();
-}
-
-std::optional<ValueType> Registry::TypeOf(std::string_view path, std::string_view name) const {
-  const std::optional<RegistryValue> value = Raw(path, name);
-  return value ? std::optional(value->type) : std::nullopt;
-}
-
-std::optional<std::uint32_t> Registry::Dword(std::string_view path, std::string_view name) const {
-  const std::optional<RegistryValue> value = Raw(path, name);
-  return value ? value->AsDword() : std::nullopt;
-}
-
-std::optional<std::string> Registry::Text(std::string_view path, std::string_view name) const {
-  const std::optional<RegistryValue> value = Raw(path, name);
-  return value ? value->AsText() : std::nullopt;
-}
-
-std::optional<std::vector<std::byte>> Registry::Binary(std::string_view path,
-                                                       std::string_view name) const {
-  const std::optional<RegistryValue> value = Raw(path, name);
-  return value ? value->AsBinary() : std::nullopt;
-}
-
 void Registry::Set(std::string_view path, std::string_view name, RegistryValue value) {
   Make(path)->Set(name, std::move(value));
 }
@@ -261,13 +212,11 @@ void Registry::Remove(std::string_view path, std::string_view name) {
 }
 
 void Registry::RemoveKey(std::string_view path) {
-  const std::shared_ptr<Key> key = Find(path);
-  if (key == nullptr || key == root_) return;
-  key->MarkRemoved();
-  while (!path.empty() && path.back() == '\\') path.remove_suffix(1);
-  const std::size_t cut = path.rfind('\\');
-  const std::string_view above = cut == std::string_view::npos ? "" : path.substr(0, cut);
-  Find(above)->keys.erase(FoldCase(key->name));
+  std::erase_if(keys_, [normal = Normal(path)](const auto& entry) {
+    const bool removed = LeadsTo(normal, entry.first);
+    if (removed) entry.second->removed = true;
+    return removed;
+  });
 }
 
 void Registry::Deny(std::string_view path) { denied_.insert(Normal(path)); }

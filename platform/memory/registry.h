@@ -58,13 +58,27 @@ class Registry : public platform::Registry {
 
   [[nodiscard]] std::optional<RegistryValue> Raw(std::string_view path,
                                                  std::string_view name) const;
-  [[nodiscard]] bool Exists(std::string_view path, std::string_view name) const;
-  [[nodiscard]] std::optional<ValueType> TypeOf(std::string_view path, std::string_view name) const;
+  [[nodiscard]] bool Exists(std::string_view path, std::string_view name) const {
+    return Raw(path, name).has_value();
+  }
+  [[nodiscard]] std::optional<ValueType> TypeOf(std::string_view path,
+                                                std::string_view name) const {
+    const std::optional<RegistryValue> value = Raw(path, name);
+    return value ? std::optional(value->type) : std::nullopt;
+  }
+  // As a typed read gives it.
   [[nodiscard]] std::optional<std::uint32_t> Dword(std::string_view path,
-                                                   std::string_view name) const;
-  [[nodiscard]] std::optional<std::string> Text(std::string_view path, std::string_view name) const;
+                                                   std::string_view name) const {
+    return Raw(path, name).value_or(RegistryValue()).AsDword();
+  }
+  [[nodiscard]] std::optional<std::string> Text(std::string_view path,
+                                                std::string_view name) const {
+    return Raw(path, name).value_or(RegistryValue()).AsText();
+  }
   [[nodiscard]] std::optional<std::vector<std::byte>> Binary(std::string_view path,
-                                                             std::string_view name) const;
+                                                             std::string_view name) const {
+    return Raw(path, name).value_or(RegistryValue()).AsBinary();
+  }
 
   // Writes a value of any type, with the keys above it, as another program might.
   void Set(std::string_view path, std::string_view name, RegistryValue value);
@@ -84,7 +98,7 @@ class Registry : public platform::Registry {
   std::shared_ptr<Key> Make(std::string_view path);
 
   Notebook& notebook_;
-  std::shared_ptr<Key> root_;
+  std::map<std::string, std::shared_ptr<Key>> keys_;  // by the folded path
   std::set<std::string> denied_;
   std::set<std::string> unwritable_;
 };

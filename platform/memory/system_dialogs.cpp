@@ -18,7 +18,6 @@ std::optional<std::string> SystemDialogs::OpenFile(const OpenFileRequest& reques
 }
 
 std::optional<Colour> SystemDialogs::ChooseColour(Colour present, TopWindow& owner) {
-  colour_requests.push_back(present);
   Dialog dialog;
   dialog.present = present;
   Run(dialog, owner);

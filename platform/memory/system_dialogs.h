@@ -33,9 +33,8 @@ class SystemDialogs final : public platform::SystemDialogs {
   [[nodiscard]] bool Open() const { return !open_.empty(); }
   [[nodiscard]] bool Enabled() const { return enabled_; }
 
-  // The requests so far.
+  // The requests for files so far.
   std::vector<OpenFileRequest> file_requests;
-  std::vector<Colour> colour_requests;
 
  private:
   using Answer = std::variant<std::monostate, std::string, Colour>;

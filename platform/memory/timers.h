@@ -13,8 +13,7 @@ namespace platform::memory {
 
 class Timers final : public platform::Timers {
  public:
-  explicit Timers(Clock& clock);
-  ~Timers() override;
+  explicit Timers(Clock& clock) : clock_(clock) {}
 
   [[nodiscard]] std::unique_ptr<Timer> Start(int milliseconds, std::function<void()> tick) override;
 
@@ -22,21 +21,18 @@ class Timers final : public platform::Timers {
   void Advance(std::int64_t milliseconds);
   // Lets time pass without a tick, as when the thread was busy. A timer that fell due ticks once at
   // the next Advance.
-  void Stall(std::int64_t milliseconds);
+  void Stall(std::int64_t milliseconds) { clock_.Advance(milliseconds); }
 
-  [[nodiscard]] int Running() const;
-  // The number of calls of Start so far, and the interval of the last one in milliseconds.
+  [[nodiscard]] int Running() const { return static_cast<int>(entries_->size()); }
+  // The number of calls of Start so far.
   int started = 0;
-  int last_interval = 0;
 
  private:
   struct Entry;
-  class Handle;
-
-  std::shared_ptr<Entry> NextDue(std::int64_t until) const;
 
   Clock& clock_;
-  std::vector<std::weak_ptr<Entry>> entries_;
+  // Shared with the entries, which may outlive this.
+  std::shared_ptr<std::vector<Entry*>> entries_ = std::make_shared<std::vector<Entry*>>();
 };
 
 }  // namespace platform::memory

@@ -97,6 +97,25 @@ struct WidgetState {
   [[nodiscard]] Size ClientSize() const {
     return {std::max(0, bounds.width - frame.width), std::max(0, bounds.height - frame.height)};
   }
+  void SetText(std::string_view new_text) {
+    if (text != new_text) ++text_changes;
+    text = new_text;
+  }
+  void SetBounds(const Rect& to) {
+    const Size before = ClientSize();
+    bounds = to;
+    if (ClientSize() != before) events->OnResize(ClientSize());
+  }
+  // Sets what a sunken frame takes on each side.
+  void Sink(int width) {
+    client_origin = {width, width};
+    frame = {2 * width, 2 * width};
+  }
+  void SetRange(int low, int high) {
+    lowest = low;
+    highest = std::max(low, high);
+  }
+  void SetPosition(int at) { position = std::clamp(at, lowest, highest); }
   // Returns the place on the screen of a point of the client area.
   [[nodiscard]] Point ToScreen(Point client) const;
   // Returns whether the widget and all its parents are visible.

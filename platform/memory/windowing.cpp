@@ -3,61 +3,7 @@
 #include <algorithm>
 #include <stdexcept>
 
-#include "platform/memory/peers.h"
-
 namespace platform::memory {
-
-std::unique_ptr<TopWindow> Windowing::CreateTopWindow(const TopWindowParams& params,
-                                                      TopWindow* owner, TopWindowEvents& events) {
-  return std::make_unique<TopWindowPeer>(desktop_, params, owner ? &Peer::StateOf(*owner) : nullptr,
-                                         events);
-}
-
-std::unique_ptr<Widget> Windowing::CreateSurface(Widget& parent, std::string_view name,
-                                                 WidgetEvents& events) {
-  return std::make_unique<WidgetPeer>(desktop_, WidgetState::Kind::kSurface, name,
-                                      &Peer::StateOf(parent), events);
-}
-
-std::unique_ptr<Widget> Windowing::CreateText(Widget& parent, std::string_view name,
-                                              const TextStyle& style, WidgetEvents& events) {
-  return std::make_unique<TextPeer>(desktop_, name, style, Peer::StateOf(parent), events);
-}
-
-std::unique_ptr<Button> Windowing::CreateButton(Widget& parent, std::string_view name,
-                                                ButtonKind kind, WidgetEvents& events) {
-  return std::make_unique<ButtonPeer>(desktop_, name, kind, Peer::StateOf(parent), events);
-}
-
-std::unique_ptr<Edit> Windowing::CreateEdit(Widget& parent, std::string_view name,
-                                            const EditStyle& style, WidgetEvents& events) {
-  return std::make_unique<EditPeer>(desktop_, name, style, Peer::StateOf(parent), events);
-}
-
-std::unique_ptr<ItemList> Windowing::CreateList(Widget& parent, std::string_view name,
-                                                ListKind kind, WidgetEvents& events) {
-  return std::make_unique<ListPeer>(desktop_, name, kind, Peer::StateOf(parent), events);
-}
-
-std::unique_ptr<Tree> Windowing::CreateTree(Widget& parent, std::string_view name,
-                                            WidgetEvents& events) {
-  return std::make_unique<TreePeer>(desktop_, name, Peer::StateOf(parent), events);
-}
-
-std::unique_ptr<Tabs> Windowing::CreateTabs(Widget& parent, std::string_view name,
-                                            WidgetEvents& events) {
-  return std::make_unique<TabsPeer>(desktop_, name, Peer::StateOf(parent), events);
-}
-
-std::unique_ptr<TrackBar> Windowing::CreateTrackBar(Widget& parent, std::string_view name,
-                                                    WidgetEvents& events) {
-  return std::make_unique<TrackBarPeer>(desktop_, name, Peer::StateOf(parent), events);
-}
-
-std::unique_ptr<ProgressBar> Windowing::CreateProgressBar(Widget& parent, std::string_view name,
-                                                          WidgetEvents& events) {
-  return std::make_unique<ProgressBarPeer>(desktop_, name, Peer::StateOf(parent), events);
-}
 
 WidgetState& Windowing::Find(std::string_view name) {
   for (WidgetState* state : desktop_.Widgets()) {
@@ -75,7 +21,7 @@ bool Windowing::Exists(std::string_view name) const {
 std::vector<const WidgetState*> Windowing::TopWindows() const {
   std::vector<const WidgetState*> top;
   for (const WidgetState* state : desktop_.Widgets()) {
-    if (state->kind == WidgetState::Kind::kTopWindow) top.push_back(state);
+    if (state->kind == Kind::kTopWindow) top.push_back(state);
   }
   return top;
 }

@@ -6,8 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/memory/desktop.h"
-#include "platform/memory/widget_state.h"
+#include "platform/memory/peers.h"
 #include "platform/other_windows.h"
 #include "platform/windowing.h"
 
@@ -23,29 +22,60 @@ class Windowing final : public platform::Windowing {
   void HideTaskbarButton() override { taskbar_button = false; }
   [[nodiscard]] std::unique_ptr<TopWindow> CreateTopWindow(const TopWindowParams& params,
                                                            TopWindow* owner,
-                                                           TopWindowEvents& events) override;
+                                                           TopWindowEvents& events) override {
+    return std::make_unique<TopWindowPeer>(desktop_, params,
+                                           owner ? &Peer::StateOf(*owner) : nullptr, events);
+  }
   [[nodiscard]] std::unique_ptr<Widget> CreateSurface(Widget& parent, std::string_view name,
-                                                      WidgetEvents& events) override;
+                                                      WidgetEvents& events) override {
+    return Make<WidgetPeer>(Kind::kSurface, parent, name, events);
+  }
   [[nodiscard]] std::unique_ptr<Widget> CreateText(Widget& parent, std::string_view name,
                                                    const TextStyle& style,
-                                                   WidgetEvents& events) override;
+                                                   WidgetEvents& events) override {
+    auto text = Make<WidgetPeer>(Kind::kText, parent, name, events);
+    text->State().text_style = style;
+    if (style.border == Border::kSunken) text->State().Sink(1);
+    return text;
+  }
   [[nodiscard]] std::unique_ptr<Button> CreateButton(Widget& parent, std::string_view name,
                                                      ButtonKind kind,
-                                                     WidgetEvents& events) override;
+                                                     WidgetEvents& events) override {
+    auto button = Make<ButtonPeer>(Kind::kButton, parent, name, events);
+    button->State().button = kind;
+    return button;
+  }
   [[nodiscard]] std::unique_ptr<Edit> CreateEdit(Widget& parent, std::string_view name,
                                                  const EditStyle& style,
-                                                 WidgetEvents& events) override;
+                                                 WidgetEvents& events) override {
+    auto edit = Make<EditPeer>(Kind::kEdit, parent, name, events);
+    edit->State().edit = style;
+    if (style.border == Border::kSunken) edit->State().Sink(2);
+    return edit;
+  }
   [[nodiscard]] std::unique_ptr<ItemList> CreateList(Widget& parent, std::string_view name,
-                                                     ListKind kind, WidgetEvents& events) override;
+                                                     ListKind kind, WidgetEvents& events) override {
+    auto list = Make<ListPeer>(Kind::kList, parent, name, events);
+    list->State().list = kind;
+    return list;
+  }
   [[nodiscard]] std::unique_ptr<Tree> CreateTree(Widget& parent, std::string_view name,
-                                                 WidgetEvents& events) override;
+                                                 WidgetEvents& events) override {
+    return Make<TreePeer>(Kind::kTree, parent, name, events);
+  }
   [[nodiscard]] std::unique_ptr<Tabs> CreateTabs(Widget& parent, std::string_view name,
-                                                 WidgetEvents& events) override;
+                                                 WidgetEvents& events) override {
+    return Make<TabsPeer>(Kind::kTabs, parent, name, events);
+  }
   [[nodiscard]] std::unique_ptr<TrackBar> CreateTrackBar(Widget& parent, std::string_view name,
-                                                         WidgetEvents& events) override;
+                                                         WidgetEvents& events) override {
+    return Make<TrackBarPeer>(Kind::kTrackBar, parent, name, events);
+  }
   [[nodiscard]] std::unique_ptr<ProgressBar> CreateProgressBar(Widget& parent,
                                                                std::string_view name,
-                                                               WidgetEvents& events) override;
+                                                               WidgetEvents& events) override {
+    return Make<ProgressBarPeer>(Kind::kProgressBar, parent, name, events);
+  }
 
   // The control with this name, in any window; throws std::out_of_range when there is none.
   [[nodiscard]] WidgetState& Find(std::string_view name);
@@ -102,7 +132,6 @@ class Windowing final : public platform::Windowing {
   // The system's doings.
   void ChangeDpi(std::string_view window, int dpi, const Rect& bounds);
   // For all windows.
-  void ChangeDisplay();
   void ChangeSettings();
   void Resume();
   void EndSession();
@@ -120,9 +149,16 @@ class Windowing final : public platform::Windowing {
   bool taskbar_button = true;
 
  private:
+  using Kind = WidgetState::Kind;
+
+  template <class PeerKind>
+  std::unique_ptr<PeerKind> Make(Kind kind, Widget& parent, std::string_view name,
+                                 WidgetEvents& events) {
+    return std::make_unique<PeerKind>(desktop_, kind, name, &Peer::StateOf(parent), events);
+  }
   // The control, when the user can reach it and it is of this kind; else null.
   [[nodiscard]] WidgetState* Reach(std::string_view name);
-  [[nodiscard]] WidgetState* Reach(std::string_view name, WidgetState::Kind kind);
+  [[nodiscard]] WidgetState* Reach(std::string_view name, Kind kind);
   [[nodiscard]] WidgetState* ReachDialog(std::string_view window);
   void EnterLetter(WidgetState& edit, std::string_view letter);
   // Tells the window of a key; true when it is done with.

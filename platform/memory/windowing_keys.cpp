@@ -7,8 +7,6 @@
 namespace platform::memory {
 namespace {
 
-using Kind = WidgetState::Kind;
-
 std::size_t Characters(const std::string& text) {
   return static_cast<std::size_t>(
       std::count_if(text.begin(), text.end(), [](char c) { return (c & 0xC0) != 0x80; }));

@@ -11,7 +11,7 @@ WidgetState* Windowing::Reach(std::string_view name) {
   return state.Reachable() ? &state : nullptr;
 }
 
-WidgetState* Windowing::Reach(std::string_view name, WidgetState::Kind kind) {
+WidgetState* Windowing::Reach(std::string_view name, Kind kind) {
   if (Find(name).kind != kind) throw std::logic_error(std::string(name) + " is of another kind");
   return Reach(name);
 }
@@ -49,7 +49,7 @@ void Windowing::ReleaseMouse(std::string_view name, Point at, MouseButton button
   if (state == nullptr) return;
   state->events->OnMouseUp({at, button, false});
   if (button != MouseButton::kRight || !desktop_.Alive(state)) return;
-  if (state->kind != WidgetState::Kind::kEdit) state->events->OnContextMenu(state->ToScreen(at));
+  if (state->kind != Kind::kEdit) state->events->OnContextMenu(state->ToScreen(at));
 }
 
 void Windowing::DoubleClick(std::string_view name, Point at) {
@@ -64,7 +64,6 @@ void Windowing::RightClick(std::string_view name, Point at) {
 }
 
 void Windowing::Press(std::string_view name) {
-  using Kind = WidgetState::Kind;
   const Kind kind = Find(name).kind;
   if (kind != Kind::kButton && kind != Kind::kText && kind != Kind::kSurface) {
     throw std::logic_error(std::string(name) + " has no click");
@@ -77,7 +76,6 @@ void Windowing::Press(std::string_view name) {
 }
 
 void Windowing::Choose(std::string_view name, int index) {
-  using Kind = WidgetState::Kind;
   const Kind kind = Find(name).kind;
   if (kind != Kind::kList && kind != Kind::kTree && kind != Kind::kTabs) {
     throw std::logic_error(std::string(name) + " is no list");
@@ -95,7 +93,7 @@ void Windowing::Choose(std::string_view name, int index) {
 }
 
 void Windowing::Tick(std::string_view name, int row) {
-  WidgetState* state = Reach(name, WidgetState::Kind::kList);
+  WidgetState* state = Reach(name, Kind::kList);
   if (state == nullptr) return;
   if (state->list != ListKind::kCheckBox) {
     throw std::logic_error(std::string(name) + " has no boxes");
@@ -106,7 +104,7 @@ void Windowing::Tick(std::string_view name, int row) {
 }
 
 void Windowing::Drag(std::string_view name, int position) {
-  WidgetState* state = Reach(name, WidgetState::Kind::kTrackBar);
+  WidgetState* state = Reach(name, Kind::kTrackBar);
   if (state == nullptr) return;
   const int placed = std::clamp(position, state->lowest, state->highest);
   if (placed == state->position) return;
@@ -129,7 +127,7 @@ void Windowing::Place(std::string_view window, const Rect& bounds) {
 }
 
 void Windowing::ClickCloseBox(std::string_view window) {
-  if (WidgetState* state = Reach(window, WidgetState::Kind::kTopWindow)) {
+  if (WidgetState* state = Reach(window, Kind::kTopWindow)) {
     state->top_events->OnClose();
   }
 }
@@ -145,10 +143,6 @@ void Windowing::ForAllWindows(const std::function<void(TopWindowEvents&)>& repor
   for (WidgetState* state : widgets) {
     if (desktop_.Alive(state) && state->top_events != nullptr) report(*state->top_events);
   }
-}
-
-void Windowing::ChangeDisplay() {
-  ForAllWindows([](TopWindowEvents& events) { events.OnDisplayChange(); });
 }
 
 void Windowing::ChangeSettings() {

@@ -1,34 +1,8 @@
-// The meter window as the desktop sees it.
+// The meter window as the desktop sees it: where it stands, and how it looks.
 #include "tests/desktop/program_test.h"
-// Behind the system's own header, which it needs.
-#include <shellapi.h>
 
 namespace desktop {
 namespace {
-
-// Another program's window, in which the user works.
-class OtherWindow {
- public:
-  OtherWindow() {
-    window_ = ::CreateWindowExW(0, L"STATIC", L"work", WS_POPUP | WS_VISIBLE | SS_NOTIFY, 20, 20,
-                                300, 200, nullptr, nullptr, nullptr, nullptr);
-    Click({100, 100});
-    Await("the other window to have the foreground", [this] { return HasFocus(); });
-  }
-  ~OtherWindow() { ::DestroyWindow(window_); }
-  OtherWindow(const OtherWindow&) = delete;
-  OtherWindow& operator=(const OtherWindow&) = delete;
-
-  [[nodiscard]] bool HasFocus() const {
-    // A STATIC does not take the foreground with a click by itself.
-    if (::GetForegroundWindow() != window_) ::SetForegroundWindow(window_);
-    return ::GetForegroundWindow() == window_;
-  }
-  [[nodiscard]] HWND window() const { return window_; }
-
- private:
-  HWND window_;
-};
 
 class MeterWindow : public ProgramTest {
  protected:
@@ -40,144 +14,122 @@ class MeterWindow : public ProgramTest {
       return area.left == left && area.top == top;
     });
   }
+  static void ExpectSize(const Meter& meter, SIZE expected) {
+    const RECT area = AreaOf(meter.window());
+    // Wine stops the mouse one pixel earlier.
+    EXPECT_NEAR(WidthOf(area), meter.Scaled(expected.cx), 1);
+    EXPECT_NEAR(HeightOf(area), meter.Scaled(expected.cy), 1);
+  }
+
+  // What the meter shows: graph, numeric line.
+  static void AwaitShown(const Meter& meter, bool graph, bool line) {
+    Await("the mode", [&] {
+      return (::IsWindowVisible(meter.graph()) != FALSE) == graph &&
+             (::IsWindowVisible(meter.line()) != FALSE) == line;
+    });
+    const LONG height = HeightOf(AreaOf(meter.window())) - 2;  // of what lies in the frame
+    const LONG panel = graph ? meter.Scaled(17) : height;
+    Await("each in its room", [&] {
+      return (!line || HeightOf(AreaOf(meter.panel())) == panel) &&
+             (!graph || HeightOf(AreaOf(meter.graph())) == height - (line ? panel : 0));
+    });
+  }
+  // -1: not a layered window.
+  static int AlphaOf(const Meter& meter) {
+    BYTE alpha = 0;
+    DWORD flags = 0;
+    return ::GetLayeredWindowAttributes(meter.window(), nullptr, &alpha, &flags) ? alpha : -1;
+  }
+  static void AwaitAlpha(const Meter& meter, int alpha) {
+    Await("the opacity " + std::to_string(alpha), [&] { return AlphaOf(meter) == alpha; });
+  }
+  static bool HasShape(const Meter& meter) {
+    const HRGN region = ::CreateRectRgn(0, 0, 0, 0);
+    const int kind = ::GetWindowRgn(meter.window(), region);
+    ::DeleteObject(region);
+    return kind == COMPLEXREGION;
+  }
 };
 
-TEST_F(MeterWindow, IsASmallWindowWithAThinFrameAndNoTaskbarButton) {
-  Meter& meter = Start();
-  const auto style = static_cast<DWORD>(::GetWindowLongPtrW(meter.window(), GWL_STYLE));
-  EXPECT_NE(style & WS_POPUP, 0U);
-  EXPECT_EQ(style & WS_DLGFRAME, 0U);
-  EXPECT_NE(style & WS_THICKFRAME, 0U) << "it can be sized";
-  EXPECT_EQ(style & (WS_VSCROLL | WS_HSCROLL), 0U);
-  EXPECT_NE(::GetWindowLongPtrW(meter.window(), GWL_EXSTYLE) & WS_EX_TOOLWINDOW, 0);
-  const HWND application = ::GetWindow(meter.window(), GW_OWNER);
-  ASSERT_NE(application, nullptr);
-  EXPECT_EQ(TextOf(application), "Korvane Tremolux");
-  EXPECT_NE(::GetWindowLongPtrW(application, GWL_EXSTYLE) & WS_EX_TOOLWINDOW, 0);
-  EXPECT_EQ(::IsWindowVisible(application), FALSE);
+TEST_F(MeterWindow, IsSizedWithinItsLimitsDraggedDockedAndFoundAgain) {
+  Meter* meter = &Start();
+  PlaceAt(*meter, 300, 300);
+  RECT area = AreaOf(meter->window());
+  Drag(meter->window(), {area.right - 2, area.bottom - 2}, {area.left + 10, area.top + 5});
+  ExpectSize(*meter, {150, 25});
+  area = AreaOf(meter->window());
+  Drag(meter->window(), {area.right - 2, area.bottom - 2}, {area.right + 600, area.bottom + 500});
+  ExpectSize(*meter, {350, 200});
 
-  EXPECT_EQ(TextOf(meter.window()), "Korvane Tremolux");
-  const RECT area = AreaOf(meter.window());
-  EXPECT_EQ(WidthOf(area), meter.Scaled(274));
-  EXPECT_EQ(HeightOf(area), meter.Scaled(135));
-}
-
-TEST_F(MeterWindow, StaysOnTopAsTheMenuSays) {
-  Meter& meter = Start();
-  EXPECT_TRUE(meter.OnTop());
-  meter.Choose({"Graph Options", "Always on Top"});
-  Await("the meter among the other windows", [&] { return !meter.OnTop(); });
-  EXPECT_EQ(Setting("AlwaysTopOn"), 0U);
-
-  Meter& again = Start();
-  EXPECT_FALSE(again.OnTop()) << "the choice survives the program";
-  again.Choose({"Graph Options", "Always on Top"});
-  Await("the meter on top", [&] { return again.OnTop(); });
-  EXPECT_EQ(Setting("AlwaysTopOn"), 1U);
-}
-
-TEST_F(MeterWindow, ComesBackOnTopAfterAnotherProgramTookThatAway) {
-  Meter& meter = Start();
-  ::SetWindowPos(meter.window(), HWND_NOTOPMOST, 0, 0, 0, 0,
-                 SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
-  Await("the meter on top", [&] { return meter.OnTop(); });
-}
-
-TEST_F(MeterWindow, KeepsToItsSizeLimits) {
-  Meter& meter = Start();
-  struct Row {
-    const char* why;
-    SIZE wanted;
-    SIZE expected;
-  };
-  static constexpr Row kRows[] = {
-      {"too small both ways", {50, 10}, {150, 25}}, {"too large both ways", {900, 700}, {350, 200}},
-      {"too wide", {351, 100}, {350, 100}},         {"too low", {200, 24}, {200, 25}},
-      {"within", {222, 111}, {222, 111}},
-  };
-  for (const Row& row : kRows) {
-    SCOPED_TRACE(row.why);
-    ::SetWindowPos(meter.window(), nullptr, 0, 0, meter.Scaled(row.wanted.cx),
-                   meter.Scaled(row.wanted.cy), SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
-    const RECT area = AreaOf(meter.window());
-    EXPECT_EQ(WidthOf(area), meter.Scaled(row.expected.cx));
-    EXPECT_EQ(HeightOf(area), meter.Scaled(row.expected.cy));
-  }
-}
-
-TEST_F(MeterWindow, IsSizedByItsEdgesAndStopsAtTheLimits) {
-  Meter& meter = Start();
-  PlaceAt(meter, 300, 300);
-  RECT area = AreaOf(meter.window());
-  Drag(meter.window(), {area.right - 2, area.bottom - 2}, {area.left + 10, area.top + 5});
-  area = AreaOf(meter.window());
-  EXPECT_EQ(WidthOf(area), meter.Scaled(150));
-  EXPECT_EQ(HeightOf(area), meter.Scaled(25));
-  Drag(meter.window(), {area.right - 2, area.bottom - 2}, {area.right + 600, area.bottom + 500});
-  area = AreaOf(meter.window());
-  // Wine stops the mouse one pixel earlier.
-  EXPECT_NEAR(WidthOf(area), meter.Scaled(350), 1);
-  EXPECT_NEAR(HeightOf(area), meter.Scaled(200), 1);
-  EXPECT_LE(WidthOf(area), meter.Scaled(350));
-  EXPECT_LE(HeightOf(area), meter.Scaled(200));
-}
-
-TEST_F(MeterWindow, IsDraggedByGraphAndLine) {
-  Meter& meter = Start();
-  for (const HWND handle : {meter.graph(), meter.line()}) {
-    PlaceAt(meter, 400, 300);
+  for (const HWND handle : {meter->graph(), meter->line()}) {
+    PlaceAt(*meter, 400, 300);
     const POINT from = MiddleOf(AreaOf(handle));
-    Drag(meter.window(), from, {from.x + 120, from.y + 70});
-    const RECT area = AreaOf(meter.window());
+    Drag(meter->window(), from, {from.x + 120, from.y + 70});
+    area = AreaOf(meter->window());
     // The system begins with the first step, or takes that as the beginning.
     EXPECT_NEAR(area.left, 520, 2);
     EXPECT_NEAR(area.top, 370, 2);
-    EXPECT_EQ(WidthOf(area), meter.Scaled(274)) << "it was sized instead";
+    ExpectSize(*meter, {350, 200});
   }
-}
 
-TEST_F(MeterWindow, NeverTakesTheFocusWhenItAppears) {
-  const OtherWindow work;
-  Meter& meter = Start();
-  AwaitScans();
-  EXPECT_EQ(::GetForegroundWindow(), work.window()) << "at the start";
-  for (const bool visible : {false, true}) {
-    ::PostMessageW(meter.tray(), WM_APP + 1, 0, MAKELPARAM(NIN_SELECT, 1));
-    Await("the meter to come or go", [&] { return meter.Visible() == visible; });
-  }
-  AwaitScans();
-  EXPECT_EQ(::GetForegroundWindow(), work.window()) << "when it comes back";
-}
-
-TEST_F(MeterWindow, ADoubleClickHidesItAndTheTrayIconBringsItBack) {
-  Meter& meter = Start();
-  AwaitScans();  // the icon comes a moment after the window
-  for (const HWND place : {meter.graph(), meter.line()}) {
-    DoubleClick(MiddleOf(AreaOf(place)));
-    Await("the meter to go", [&] { return !meter.Visible(); });
-    Click(MiddleOf(meter.TrayArea()));
-    Await("the meter to come back", [&] { return meter.Visible(); });
-  }
-  Click(MiddleOf(meter.TrayArea()));
-  Await("the meter to go", [&] { return !meter.Visible(); });
-}
-
-TEST_F(MeterWindow, ScansGoOnWhileItIsHidden) {
-  Meter& meter = Start();
-  meter.Choose({"Graph Options", "Show / Hide Graph"});
-  Await("the meter to go", [&] { return !meter.Visible(); });
-  AwaitScans(2);
-  EXPECT_FALSE(meter.Visible());
-}
-
-TEST_F(MeterWindow, ExitEndsTheProgram) {
+  RECT work{};
+  ::SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
+  const POINT from = MiddleOf(AreaOf(meter->graph()));
+  Drag(meter->window(), from, {from.x - area.left + work.left + 8, from.y});
+  Await("the edge", [&] { return AreaOf(meter->window()).left == work.left; });
+  EXPECT_EQ(AreaOf(meter->window()).top, area.top);
+  area = AreaOf(meter->window());
   Store("AskOnExit", 0U);
-  Meter& meter = Start();
-  const HWND tray = meter.tray();
-  meter.Choose({"Exit"});
-  EXPECT_EQ(meter.program().AwaitEnd(), 0U);
-  EXPECT_EQ(::IsWindow(tray), FALSE);
-  EXPECT_FALSE(ProgramRuns());
+  meter->Choose({"Exit"});
+  EXPECT_EQ(meter->program().AwaitEnd(), 0U);
+  meter = &Start();
+  const RECT again = AreaOf(meter->window());
+  EXPECT_NE(::EqualRect(&again, &area), FALSE) << "its place is kept";
+}
+
+TEST_F(MeterWindow, LooksAsTheMenuSaysAlsoAfterARestart) {
+  MoveMouse({5, 900});
+  Meter* meter = &Start();
+  EXPECT_TRUE(meter->OnTop());
+  EXPECT_EQ(AlphaOf(*meter), -1) << "a fresh meter is opaque";
+  AwaitShown(*meter, true, true);
+  meter->Choose({"Graph Options", "Numeric"});
+  meter->Choose({"Graph Options", "Always on Top"});
+  meter->Choose({"Graph Options", "Graph Transparency Options", "Windows XP Style"});
+  for (const int alpha : {190, 100}) {
+    SCOPED_TRACE(alpha == 190 ? "at once" : "after a restart");
+    MoveMouse({5, 900});
+    AwaitAlpha(*meter, alpha);
+    AwaitShown(*meter, false, true);
+    Await("the meter among the other windows", [&] { return !meter->OnTop(); });
+    if (alpha == 190) {
+      Store("Win2kTransparentRatio", 100U);
+      meter = &Start();
+    }
+  }
+  constexpr LONG_PTR kBits = 0x888880;  // with that of a topmost window, which it is not now
+  EXPECT_EQ(::GetWindowLongPtrW(meter->window(), GWL_EXSTYLE) & kBits, kBits);
+  MoveMouse(meter->Inside());
+  AwaitAlpha(*meter, 255);
+  OpenMenu menu = meter->Menu();
+  EXPECT_TRUE(menu.Find({"Graph Options", "Numeric"}).checked);
+  EXPECT_FALSE(menu.Find({"Graph Options", "Graph&&Numeric"}).checked);
+  menu.Leave();
+  MoveMouse({5, 900});
+  AwaitAlpha(*meter, 100);
+
+  meter->Choose({"Graph Options", "Always on Top"});
+  Await("the meter on top", [&] { return meter->OnTop(); });
+  ::SetWindowPos(meter->window(), HWND_NOTOPMOST, 0, 0, 0, 0,
+                 SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+  Await("the meter on top, which another program took away", [&] { return meter->OnTop(); });
+
+  meter->Choose({"Graph Options", "Graphic"});
+  AwaitShown(*meter, true, false);
+  meter->Choose({"Graph Options", "Graph Transparency Options", "Custom Transparency"});
+  Await("the shape", [&] { return HasShape(*meter); });
+  meter = &Start();
+  Await("the shape after a restart", [&] { return HasShape(*meter); });
 }
 
 }  // namespace

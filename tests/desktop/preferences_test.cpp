@@ -3,7 +3,6 @@
 
 #include <algorithm>
 
-#include "tests/desktop/driver/cut_texts.h"
 #include "tests/desktop/driver/screen.h"
 #include "tests/desktop/program_test.h"
 
@@ -21,31 +20,20 @@ class Preferences : public ProgramTest {
   }
   static void AwaitFocus(HWND window, const wchar_t* control) {
     Await("the keyboard in the control", [&] {
-      GUITHREADINFO info{};
-      info.cbSize = sizeof(info);
-      ::GetGUIThreadInfo(::GetWindowThreadProcessId(window, nullptr), &info);
-      return info.hwndFocus != nullptr && info.hwndFocus == FindControl(window, control);
+      const HWND focus = GuiOf(window).hwndFocus;
+      return focus != nullptr && focus == FindControl(window, control);
     });
   }
-  static void AwaitHidden(HWND window) {
-    Await("the window to go", [window] { return ::IsWindowVisible(window) == FALSE; });
+  static LRESULT Ticked(HWND window, const wchar_t* control) {
+    return ::SendMessageW(FindControl(window, control), BM_GETCHECK, 0, 0);
   }
-  static bool Shown(HWND window, const wchar_t* control) {
-    return ::IsWindowVisible(FindControl(window, control)) != FALSE;
-  }
-  static void AwaitStored(const std::string& name, const std::string& value) {
-    Await(name + " = " + value, [&] {
-      const auto stored = Stored(kSettingsKey, name);
-      return stored && stored->Description() == value;
-    });
-  }
-  static int ShownPixels(HWND window, std::uint32_t colour) {
+  static int ShownPixels(HWND window, unsigned long colour) {
     const Picture picture = TakePicture(AreaOf(window));
     return static_cast<int>(std::count(picture.pixels.begin(), picture.pixels.end(), colour));
   }
 };
 
-TEST_F(Preferences, EachKindOfControlWritesAndTheMeterFollows) {
+TEST_F(Preferences, EachKindOfControlWritesTheMeterFollowsAndAResetUndoesIt) {
   Meter& meter = Start();
   const HWND window = Open(meter);
   EXPECT_EQ(TextOf(window), "Settings");
@@ -71,11 +59,10 @@ TEST_F(Preferences, EachKindOfControlWritesAndTheMeterFollows) {
     background = SettingText("GraphColor_Background");
     return background.starts_with('$');
   });
-  const unsigned long bgr = std::stoul(background.substr(1), nullptr, 16);
-  const auto rgb = static_cast<std::uint32_t>((bgr & 0xFFU) << 16U | (bgr & 0xFF00U) | bgr >> 16U);
+  const unsigned long colour = std::stoul(background.substr(1), nullptr, 16);
   const RECT graph = AreaOf(meter.graph());
   Await("the graph in that colour",
-        [&] { return ShownPixels(meter.graph(), rgb) > WidthOf(graph) * HeightOf(graph) / 2; });
+        [&] { return ShownPixels(meter.graph(), colour) > WidthOf(graph) * HeightOf(graph) / 2; });
 
   ChoosePage(window, PageRow::kGraphOther);
   ClickOn(window, L"PulseWidth");
@@ -99,6 +86,17 @@ TEST_F(Preferences, EachKindOfControlWritesAndTheMeterFollows) {
   Await("the shorter line", [&] { return meter.LineText().find("Average") == std::string::npos; });
   ClickOn(window, L"Post3");
   AwaitStored("WindowTitle", "dword 3");
+
+  ChoosePage(window, PageRow::kResetSettings);
+  ClickOn(window, L"R1");
+  ClickOn(window, L"btnResetSettings");
+  PressKey(VK_ESCAPE);
+  AwaitGone(window);
+  AwaitStored("CopyIP", "dword 0");
+  EXPECT_EQ(Setting("PulseWidth"), 50U) << "of another group";
+  Open(meter);
+  Await("the end of the reset, which went on without the window",
+        [&] { return ::IsWindowEnabled(FindControl(window, L"btnResetSettings")) != FALSE; });
 }
 
 TEST_F(Preferences, CloseByEachWayAndShowWhatAnotherProgramHasStoredMeanwhile) {
@@ -112,32 +110,32 @@ TEST_F(Preferences, CloseByEachWayAndShowWhatAnotherProgramHasStoredMeanwhile) {
       {"Esc", [](HWND) { PressKey(VK_ESCAPE); }},
       {"the close box", [](HWND w) { ::PostMessageW(w, WM_SYSCOMMAND, SC_CLOSE, 0); }},
   };
-  std::uint32_t stored = 0;
-  RECT place{};
+  LONG left = 100;
   for (const Way& way : ways) {
     SCOPED_TRACE(way.name);
-    Store("CopyIP", stored);
+    const bool odd = left % 100 != 0;
+    Store("CopyIP", odd ? 1U : 0U);
     const HWND window = Open(meter);
-    EXPECT_EQ(::SendMessageW(FindControl(window, L"chkCopyIP"), BM_GETCHECK, 0, 0),
-              static_cast<LRESULT>(stored));
-    stored = 1 - stored;
-    if (WidthOf(place) > 0) {
-      EXPECT_EQ(AreaOf(window).left, place.left) << "where it was";
+    EXPECT_EQ(Ticked(window, L"chkCopyIP"), odd ? 1 : 0);
+    if (left > 100) {
+      EXPECT_EQ(AreaOf(window).left, left) << "where it was";
     }
-    ::SetWindowPos(window, nullptr, 100 + static_cast<int>(stored) * 50, 120, 0, 0,
-                   SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
-    place = AreaOf(window);
+    left += 50;
+    ::SetWindowPos(window, nullptr, left, 120, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
     way.take(window);
-    AwaitHidden(window);
+    AwaitGone(window);
   }
   EXPECT_TRUE(meter.program().Running());
 }
 
-TEST_F(Preferences, OnceLockedOpenWithThePasswordOnly) {
+TEST_F(Preferences, OnceLockedTheyAndTheExitWantThePassword) {
   Meter& meter = Start();
   HWND window = Open(meter);
   ChoosePage(window, PageRow::kAdmin);
   ClickOn(window, L"AdminPassword");
+  EXPECT_EQ(static_cast<wchar_t>(
+                ::SendMessageW(FindControl(window, L"AdminPassword"), EM_GETPASSWORDCHAR, 0, 0)),
+            L'x');
   Type("abc1");
   PressKey(VK_TAB);
   Type("abc2");
@@ -153,58 +151,36 @@ TEST_F(Preferences, OnceLockedOpenWithThePasswordOnly) {
   AwaitStored("zdP1", "dword 1");
   EXPECT_EQ(SettingText("zdP"), "abc1");
   EXPECT_EQ(TextOf(FindControl(window, L"LockBtn")), "Open");
-  EXPECT_FALSE(Shown(window, L"AdminVerifyPass"));
   const auto refuse = [&] {
     meter.Choose({"Settings..."});
-    const HWND asking = meter.AwaitForm(kPrompt);
+    const HWND prompt = meter.AwaitForm(kPrompt);
     PressKey(VK_ESCAPE);
-    Await("the prompt to go", [asking] { return ::IsWindow(asking) == FALSE; });
+    AwaitGone(prompt);
   };
   refuse();
   EXPECT_NE(::IsWindowVisible(window), FALSE) << "they stay open";
   ClickOn(window, L"btnClose");
-  AwaitHidden(window);
+  AwaitGone(window);
   refuse();
   EXPECT_EQ(::IsWindowVisible(window), FALSE);
   meter.Choose({"Settings..."});
-  const HWND prompt = meter.AwaitForm(kPrompt);
+  meter.AwaitForm(kPrompt);
   Type("abc1");
   window = meter.AwaitForm(kPreferences);
-  EXPECT_EQ(::IsWindow(prompt), FALSE);
-}
 
-TEST_F(Preferences, AResetWritesItsGroupAndGoesOnWhenTheWindowIsClosed) {
-  Store("CopyIP", 1U);
-  Store("PulseWidth", 9U);
-  Meter& meter = Start();
-  const HWND window = Open(meter);
-  ChoosePage(window, PageRow::kResetSettings);
-  ClickOn(window, L"R1");
-  ClickOn(window, L"btnResetSettings");
+  ::PostMessageW(meter.window(), WM_CLOSE, 0, 0);
+  HWND prompt = meter.AwaitForm(kPrompt);
+  Type("abc2");
+  PressKey(VK_RETURN);
   PressKey(VK_ESCAPE);
-  AwaitHidden(window);
-  AwaitStored("CopyIP", "dword 0");
-  EXPECT_EQ(Setting("PulseWidth"), 9U) << "of another group";
-  Open(meter);
-  Await("the end of the reset",
-        [&] { return ::IsWindowEnabled(FindControl(window, L"btnResetSettings")) != FALSE; });
-}
-
-TEST_F(Preferences, CutNoTextInAnyLanguage) {
-  for (const std::string& language : OfferedLanguages()) {
-    SCOPED_TRACE(language);
-    Store("Language", language);
-    Meter& meter = Start();
-    OpenMenu menu = meter.Menu();
-    // The one that opens a window, as its dots say, and has no submenu.
-    for (const MenuItem& item : menu.Items()) {
-      if (item.text.ends_with("...") && item.submenu == nullptr) {
-        menu.Choose({item.text});
-        break;
-      }
-    }
-    EXPECT_EQ(CutTexts(meter.AwaitForm(kPreferences), meter.Scaled(11)), "");
-  }
+  AwaitGone(prompt);
+  EXPECT_TRUE(meter.program().Running());
+  ::PostMessageW(meter.window(), WM_CLOSE, 0, 0);
+  prompt = meter.AwaitForm(kPrompt);
+  Type("abc1");
+  meter.AwaitForm(L"T_frmAreYouSure");
+  PressKey(VK_RETURN);
+  EXPECT_EQ(meter.program().AwaitEnd(), 0U);
 }
 
 }  // namespace

@@ -62,9 +62,18 @@ Meter& ProgramTest::Start() {
   return *meter_;
 }
 
-void ProgramTest::CountOnly(const std::string& adapter) {
-  for (const AdapterRow& row : ReadAdapters()) Store(row.name, row.name == adapter ? 1U : 0U);
+void ProgramTest::CountNothing() {
+  for (const AdapterRow& row : ReadAdapters()) Store(row.name, 0U);
   Store("ExecuteTime", 1U);  // else the first start lets all of them count
+}
+
+void ProgramTest::AwaitGone(HWND window) {
+  Await("a window to go", [window] { return ::IsWindowVisible(window) == FALSE; });
+}
+
+void ProgramTest::AwaitStored(std::string_view name, std::string_view value) {
+  Await(std::string(name) + " = " + std::string(value),
+        [=] { return Stored(kSettingsKey, name) == value; });
 }
 
 }  // namespace desktop

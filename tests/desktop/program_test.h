@@ -5,6 +5,7 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "tests/desktop/driver/input.h"
@@ -28,9 +29,12 @@ class ProgramTest : public testing::Test {
   Meter& Start();
   void Stop() { meter_.reset(); }
 
-  // Lets only the adapter of this name count, so that what the machine does besides is not
-  // measured. Before the start.
-  static void CountOnly(const std::string& adapter);
+  // Lets no adapter count that is there, so that what the machine does is not measured. Before the
+  // start.
+  static void CountNothing();
+
+  static void AwaitGone(HWND window);
+  static void AwaitStored(std::string_view name, std::string_view value);
 
  private:
   std::unique_ptr<Meter> meter_;

@@ -2,6 +2,7 @@
 #include <vector>
 
 #include "tests/desktop/driver/registry.h"
+#include "tools/screenshots/collage.h"
 #include "tools/screenshots/shots.h"
 
 namespace desktop {
@@ -39,7 +40,7 @@ void MenuOfTheMeter(Scene& scene) {
 // The icon shows the last 14 seconds.
 void Histogram(Scene& scene) {
   AwaitScans(15);
-  scene.Save("tray-histogram", TakePicture(scene.meter().TrayArea()).Enlarged(8));
+  scene.Save("tray-histogram", Enlarged(TakePicture(scene.meter().TrayArea()), 8));
 }
 
 // Shows the four pictures: idle, upload, download and both.
@@ -51,7 +52,7 @@ void ActivityPictures(Scene& scene) {
     AwaitScans(4);
     pictures.push_back(TakePicture(scene.meter().TrayArea()));
   }
-  scene.Save("tray-pictures", Beside(pictures).Enlarged(8));
+  scene.Save("tray-pictures", Enlarged(Beside(pictures), 8));
   scene.Restart([] { Store("IconType", 1U); });
 }
 

@@ -9,6 +9,7 @@
 #include "platform/windows/wide_text.h"
 #include "tests/desktop/driver/input.h"
 #include "tests/desktop/driver/registry.h"
+#include "tests/desktop/driver/traffic.h"
 #include "tests/desktop/driver/wait.h"
 #include "tests/desktop/driver/windows_of.h"
 

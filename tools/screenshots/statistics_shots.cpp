@@ -4,6 +4,7 @@
 #include "platform/text.h"
 #include "tests/desktop/driver/registry.h"
 #include "tests/desktop/driver/windows_of.h"
+#include "tools/screenshots/collage.h"
 #include "tools/screenshots/shots.h"
 // This header must follow the system's own header, which it needs.
 #include <commctrl.h>

@@ -44,8 +44,7 @@ void Waves::Move(int received, int sent) {
     loopback_.Send(1, received);
     return;
   }
-  if (flow != Flow::kUpload) line_.Receive(kCard, received);
-  if (flow != Flow::kDownload) line_.Send(kCard, sent);
+  line_.Move(kCard, flow == Flow::kUpload ? 0 : received, flow == Flow::kDownload ? 0 : sent);
 }
 
 }  // namespace desktop

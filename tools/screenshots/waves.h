@@ -6,7 +6,7 @@
 #include <thread>
 
 #include "tests/desktop/driver/network_line.h"
-#include "tests/desktop/driver/traffic.h"
+#include "tools/screenshots/loopback.h"
 
 namespace desktop {
 

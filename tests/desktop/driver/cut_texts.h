@@ -2,14 +2,10 @@
 #pragma once
 
 #include <string>
-#include <vector>
 
 #include "tests/desktop/driver/win.h"
 
 namespace desktop {
-
-// The names of the language files beside the program.
-[[nodiscard]] std::vector<std::string> OfferedLanguages();
 
 // The texts of buttons, boxes and labels of a window, hidden ones too, that need more room than
 // their control has; in one text, empty when there are none. `font_height` is that of the window's

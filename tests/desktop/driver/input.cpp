@@ -24,6 +24,15 @@ INPUT MouseInput(POINT at, DWORD buttons) {
   return input;
 }
 
+INPUT KeyInput(WORD key, WORD scan_code, DWORD flags) {
+  INPUT input{};
+  input.type = INPUT_KEYBOARD;
+  input.ki.wVk = key;
+  input.ki.wScan = scan_code;
+  input.ki.dwFlags = flags;
+  return input;
+}
+
 void Send(std::vector<INPUT> inputs) {
   const auto count = static_cast<UINT>(inputs.size());
   if (::SendInput(count, inputs.data(), sizeof(INPUT)) != count) {
@@ -35,14 +44,6 @@ void Mouse(POINT at, std::initializer_list<DWORD> buttons) {
   std::vector<INPUT> inputs;
   for (const DWORD button : buttons) inputs.push_back(MouseInput(at, button));
   Send(inputs);
-}
-
-// The window of the thread of `window` that is being moved or sized; null when none is.
-HWND MovingWindow(HWND window) {
-  GUITHREADINFO info{};
-  info.cbSize = sizeof(info);
-  ::GetGUIThreadInfo(::GetWindowThreadProcessId(window, nullptr), &info);
-  return info.hwndMoveSize;
 }
 
 // Moves the pointer, and waits until the window that follows it rests: a button that comes up
@@ -82,19 +83,29 @@ void DoubleClick(POINT at) {
 
 void RightClick(POINT at) { Mouse(at, {0, MOUSEEVENTF_RIGHTDOWN, MOUSEEVENTF_RIGHTUP}); }
 
-void PressKey(WORD key) {
-  INPUT down{};
-  down.type = INPUT_KEYBOARD;
-  down.ki.wVk = key;
-  INPUT up = down;
-  up.ki.dwFlags = KEYEVENTF_KEYUP;
-  Send({down, up});
+void Wheel(POINT at, int notches) {
+  INPUT input = MouseInput(at, MOUSEEVENTF_WHEEL);
+  input.mi.mouseData = static_cast<DWORD>(notches * WHEEL_DELTA);
+  Send({input});
+}
+
+void PressKey(int key) { PressKeys({key}); }
+
+void PressKeys(std::initializer_list<int> keys) {
+  std::vector<INPUT> inputs;
+  for (const DWORD flags : {DWORD{0}, DWORD{KEYEVENTF_KEYUP}}) {
+    for (const int key : keys) inputs.push_back(KeyInput(static_cast<WORD>(key), 0, flags));
+  }
+  Send(inputs);
 }
 
 void Type(std::string_view text) {
-  for (const char letter : text) {
-    PressKey(static_cast<WORD>(letter >= 'a' ? letter - 'a' + 'A' : letter));
+  std::vector<INPUT> inputs;
+  for (const wchar_t unit : platform::windows::ToWide(text)) {
+    inputs.push_back(KeyInput(0, unit, KEYEVENTF_UNICODE));
+    inputs.push_back(KeyInput(0, unit, KEYEVENTF_UNICODE | KEYEVENTF_KEYUP));
   }
+  Send(inputs);
 }
 
 void Drag(HWND window, POINT from, POINT to) {
@@ -104,7 +115,7 @@ void Drag(HWND window, POINT from, POINT to) {
   // would be taken as one.
   const LONG step = to.x >= from.x ? 1 : -1;
   MoveMouse({from.x + step, from.y});
-  if (!Comes([window] { return MovingWindow(window) != nullptr; })) {
+  if (!Comes([window] { return GuiOf(window).hwndMoveSize != nullptr; })) {
     ReleaseLeft(from);
     platform::windows::ThrowSystemError("no move began at the mouse, GetGUIThreadInfo",
                                         ::GetLastError());
@@ -112,7 +123,7 @@ void Drag(HWND window, POINT from, POINT to) {
   Pull(window, {(from.x + to.x) / 2, (from.y + to.y) / 2});
   Pull(window, to);
   ReleaseLeft(to);
-  Await("the end of the move", [window] { return MovingWindow(window) == nullptr; });
+  Await("the end of the move", [window] { return GuiOf(window).hwndMoveSize == nullptr; });
 }
 
 }  // namespace desktop

@@ -1,6 +1,7 @@
 // The user's hands: mouse and keyboard, as the system takes them from the devices.
 #pragma once
 
+#include <initializer_list>
 #include <string_view>
 
 #include "tests/desktop/driver/win.h"
@@ -17,8 +18,12 @@ void Click(POINT at);
 void ClickOn(HWND top, const wchar_t* control);
 void DoubleClick(POINT at);
 void RightClick(POINT at);
-void PressKey(WORD key);
-// Small letters and digits.
+void Wheel(POINT at, int notches);
+// Keys are the system's virtual ones.
+void PressKey(int key);
+// One after the other, and all up again.
+void PressKeys(std::initializer_list<int> keys);
+// Letters of any script.
 void Type(std::string_view text);
 
 // Takes a window by `from`, moves the pointer to `to` and lets go; for what follows the mouse as

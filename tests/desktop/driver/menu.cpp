@@ -22,9 +22,7 @@ using platform::windows::ThrowSystemError;
 std::vector<HWND> MenuWindows(DWORD process) {
   std::vector<HWND> menus;
   for (const HWND window : VisibleTops(process)) {
-    wchar_t window_class[64] = {};
-    ::GetClassNameW(window, window_class, 64);
-    if (std::wstring_view(window_class) == L"#32768") menus.push_back(window);
+    if (HasClass(window, L"#32768")) menus.push_back(window);
   }
   return menus;
 }
@@ -106,7 +104,11 @@ class OpenMenu::Spy {
 };
 
 OpenMenu::OpenMenu(DWORD process) : process_(process) {
-  Await("a menu", [process] { return Any(process); });
+  Await("a menu", [process] {
+    const std::vector<HWND> menus = MenuWindows(process);
+    // Before its loop has begun, a click elsewhere would be lost to it.
+    return !menus.empty() && GuiOf(menus.front()).hwndMenuOwner != nullptr;
+  });
   root_ = MenuWindows(process).front();
   spy_ = std::make_unique<Spy>(root_);
 }

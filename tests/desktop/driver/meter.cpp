@@ -80,7 +80,7 @@ void AwaitScans(int scans) {
   // Each scan writes this value once, whatever its traffic.
   for (int scan = 0; scan < scans; ++scan) {
     Remove(kSettingsKey, "InfoMaxDL");
-    Await("a scan", [] { return Stored(kSettingsKey, "InfoMaxDL").has_value(); });
+    Await("a scan", [] { return IsStored(kSettingsKey, "InfoMaxDL"); });
   }
 }
 

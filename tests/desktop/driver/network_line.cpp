@@ -28,8 +28,8 @@ NetworkLine::~NetworkLine() {
   ::WSACleanup();
 }
 
-void NetworkLine::Move(std::string_view word, std::string_view adapter, int bytes) {
-  Ask(std::string(word) + " " + std::string(adapter) + " " + std::to_string(bytes));
+void NetworkLine::Move(std::string_view adapter, int received, int sent) {
+  Ask("move " + std::string(adapter) + " " + std::to_string(received) + " " + std::to_string(sent));
 }
 
 void NetworkLine::Ask(const std::string& request) {

@@ -23,12 +23,11 @@ class NetworkLine {
   // All return when it has happened, and throw std::runtime_error when it cannot.
   void Add(std::string_view adapter) { Ask("add " + std::string(adapter)); }
   void Remove(std::string_view adapter) { Ask("remove " + std::string(adapter)); }
-  // So many bytes, as the system counts them; at least 28, the heads of one packet.
-  void Receive(std::string_view adapter, int bytes) { Move("receive", adapter, bytes); }
-  void Send(std::string_view adapter, int bytes) { Move("send", adapter, bytes); }
+  // So many bytes come in and go out at once, as the system counts them: none, or at least 28, the
+  // heads of one packet.
+  void Move(std::string_view adapter, int received, int sent);
 
  private:
-  void Move(std::string_view word, std::string_view adapter, int bytes);
   void Ask(const std::string& request);
 
   SOCKET socket_ = INVALID_SOCKET;

@@ -1,8 +1,6 @@
 // Keeps what the user's copy of the program has stored safe from tests.
 #pragma once
 
-#include "tests/desktop/driver/registry.h"
-
 namespace desktop {
 
 // Puts everything that the program stores aside while this lives, and back at the end. If a run of

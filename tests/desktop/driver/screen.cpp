@@ -2,13 +2,15 @@
 
 #include <algorithm>
 #include <memory>
+#include <span>
 // Behind the system's own header, which they need.
 #include <objidl.h>
 // It uses these two without saying whose they are.
-using std::max;
-using std::min;
+using std::max;  // NOLINT(misc-unused-using-decls)
+using std::min;  // NOLINT(misc-unused-using-decls)
 #include <gdiplus.h>
 
+#include "platform/windows/drawing/gdi.h"
 #include "platform/windows/system_error.h"
 #include "tests/desktop/driver/windows_of.h"
 
@@ -16,28 +18,6 @@ namespace desktop {
 namespace {
 
 using platform::windows::ThrowSystemError;
-
-struct ScreenDc {
-  ScreenDc() : dc(::GetDC(nullptr)), memory(::CreateCompatibleDC(dc)) {}
-  ~ScreenDc() {
-    ::DeleteDC(memory);
-    ::ReleaseDC(nullptr, dc);
-  }
-  ScreenDc(const ScreenDc&) = delete;
-  ScreenDc& operator=(const ScreenDc&) = delete;
-  HDC dc;
-  HDC memory;
-};
-
-BITMAPINFO TopDown(int width, int height) {
-  BITMAPINFO info{};
-  info.bmiHeader.biSize = sizeof(info.bmiHeader);
-  info.bmiHeader.biWidth = width;
-  info.bmiHeader.biHeight = -height;
-  info.bmiHeader.biPlanes = 1;
-  info.bmiHeader.biBitCount = 32;
-  return info;
-}
 
 class GdiPlus {
  public:
@@ -58,47 +38,19 @@ constexpr CLSID kPngEncoder = {
 
 }  // namespace
 
-Picture Picture::Enlarged(int factor) const {
-  Picture large{width * factor, height * factor, {}};
-  large.pixels.reserve(pixels.size() * static_cast<std::size_t>(factor * factor));
-  for (int y = 0; y < large.height; ++y) {
-    for (int x = 0; x < large.width; ++x) large.pixels.push_back(At(x / factor, y / factor));
-  }
-  return large;
-}
-
-Picture Beside(const std::vector<Picture>& pictures) {
-  Picture wide{0, pictures.at(0).height, {}};
-  for (const Picture& picture : pictures) wide.width += picture.width;
-  for (int y = 0; y < wide.height; ++y) {
-    for (const Picture& picture : pictures) {
-      for (int x = 0; x < picture.width; ++x) wide.pixels.push_back(picture.At(x, y));
-    }
-  }
-  return wide;
-}
-
 Picture TakePicture(const RECT& area) {
   Picture picture{static_cast<int>(WidthOf(area)), static_cast<int>(HeightOf(area)), {}};
-  const ScreenDc screen;
-  const BITMAPINFO info = TopDown(picture.width, picture.height);
-  void* bits = nullptr;
-  const HBITMAP bitmap =
-      ::CreateDIBSection(screen.memory, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
-  if (bitmap == nullptr) ThrowSystemError("CreateDIBSection", ::GetLastError());
-  const HGDIOBJ before = ::SelectObject(screen.memory, bitmap);
-  const BOOL copied = ::BitBlt(screen.memory, 0, 0, picture.width, picture.height, screen.dc,
-                               area.left, area.top, SRCCOPY);
-  const DWORD error = ::GetLastError();
-  ::GdiFlush();
-  const auto* pixels = static_cast<const std::uint32_t*>(bits);
-  const auto count =
-      static_cast<std::size_t>(picture.width) * static_cast<std::size_t>(picture.height);
-  std::transform(pixels, pixels + count, std::back_inserter(picture.pixels),
-                 [](std::uint32_t pixel) { return pixel & 0xFFFFFFU; });
-  ::SelectObject(screen.memory, before);
-  ::DeleteObject(bitmap);
-  if (copied == FALSE) ThrowSystemError("BitBlt of the screen", error);
+  const auto copy = platform::windows::Dib::Make({picture.width, picture.height});
+  const platform::windows::WindowDc screen;
+  if (copy == nullptr || ::BitBlt(copy->dc(), 0, 0, picture.width, picture.height, screen.get(),
+                                  area.left, area.top, SRCCOPY) == FALSE) {
+    ThrowSystemError("BitBlt of the screen", ::GetLastError());
+  }
+  const auto width = static_cast<std::size_t>(picture.width);
+  picture.pixels.resize(width * static_cast<std::size_t>(picture.height));
+  for (int y = 0; y < picture.height; ++y) {
+    copy->ReadRow(y, std::span(picture.pixels).subspan(width * static_cast<std::size_t>(y), width));
+  }
   return picture;
 }
 
@@ -108,7 +60,10 @@ Picture TakePictureOfScreen() {
 
 void SavePng(const Picture& picture, const std::wstring& path) {
   const GdiPlus library;
-  std::vector<std::uint32_t> pixels = picture.pixels;
+  std::vector<Gdiplus::ARGB> pixels;
+  for (const platform::Colour colour : picture.pixels) {
+    pixels.push_back((colour & 0xFFU) << 16U | (colour & 0xFF00U) | colour >> 16U);
+  }
   Gdiplus::Bitmap bitmap(picture.width, picture.height, picture.width * 4, PixelFormat32bppRGB,
                          reinterpret_cast<BYTE*>(pixels.data()));
   // Without the fourth byte, which would be written as transparency.

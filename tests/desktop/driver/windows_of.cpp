@@ -5,40 +5,20 @@
 namespace desktop {
 namespace {
 
-struct TopSearch {
-  DWORD process;
-  std::vector<HWND> found;
-};
-
-BOOL CALLBACK CollectTop(HWND window, LPARAM search_pointer) {
-  auto& search = *reinterpret_cast<TopSearch*>(search_pointer);
-  DWORD process = 0;
-  ::GetWindowThreadProcessId(window, &process);
-  if (process == search.process) search.found.push_back(window);
+BOOL CALLBACK Collect(HWND window, LPARAM found) {
+  reinterpret_cast<std::vector<HWND>*>(found)->push_back(window);
   return TRUE;
 }
 
 std::vector<HWND> Tops(DWORD process) {
-  TopSearch search{process, {}};
-  ::EnumWindows(&CollectTop, reinterpret_cast<LPARAM>(&search));
-  return search.found;
-}
-
-bool HasClass(HWND window, std::wstring_view name) {
-  wchar_t window_class[256] = {};
-  ::GetClassNameW(window, window_class, 256);
-  return name == window_class;
-}
-
-struct ControlSearch {
-  const wchar_t* name;
-  HWND found = nullptr;
-};
-
-BOOL CALLBACK LookForControl(HWND window, LPARAM search_pointer) {
-  auto& search = *reinterpret_cast<ControlSearch*>(search_pointer);
-  if (::GetPropW(window, search.name) != nullptr) search.found = window;
-  return search.found == nullptr;
+  std::vector<HWND> tops;
+  ::EnumWindows(&Collect, reinterpret_cast<LPARAM>(&tops));
+  std::erase_if(tops, [process](HWND window) {
+    DWORD owner = 0;
+    ::GetWindowThreadProcessId(window, &owner);
+    return owner != process;
+  });
+  return tops;
 }
 
 }  // namespace
@@ -51,17 +31,35 @@ HWND FindTop(DWORD process, const wchar_t* window_class) {
 }
 
 std::vector<HWND> VisibleTops(DWORD process) {
-  std::vector<HWND> visible;
-  for (const HWND window : Tops(process)) {
-    if (::IsWindowVisible(window) != FALSE) visible.push_back(window);
-  }
+  std::vector<HWND> visible = Tops(process);
+  std::erase_if(visible, [](HWND window) { return ::IsWindowVisible(window) == FALSE; });
   return visible;
 }
 
+std::vector<HWND> ControlsIn(HWND top) {
+  std::vector<HWND> controls;
+  ::EnumChildWindows(top, &Collect, reinterpret_cast<LPARAM>(&controls));
+  return controls;
+}
+
 HWND FindControl(HWND top, const wchar_t* name) {
-  ControlSearch search{name};
-  ::EnumChildWindows(top, &LookForControl, reinterpret_cast<LPARAM>(&search));
-  return search.found;
+  for (const HWND control : ControlsIn(top)) {
+    if (::GetPropW(control, name) != nullptr) return control;
+  }
+  return nullptr;
+}
+
+GUITHREADINFO GuiOf(HWND window) {
+  GUITHREADINFO info{};
+  info.cbSize = sizeof(info);
+  ::GetGUIThreadInfo(::GetWindowThreadProcessId(window, nullptr), &info);
+  return info;
+}
+
+bool HasClass(HWND window, std::wstring_view name) {
+  wchar_t window_class[256] = {};
+  ::GetClassNameW(window, window_class, 256);
+  return name == window_class;
 }
 
 std::string TextOf(HWND window) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "tests/desktop/driver/win.h"
@@ -12,9 +13,14 @@ namespace desktop {
 [[nodiscard]] HWND FindTop(DWORD process, const wchar_t* window_class);
 // All visible top windows of a process, uppermost first.
 [[nodiscard]] std::vector<HWND> VisibleTops(DWORD process);
+// All controls inside `top`, hidden ones too.
+[[nodiscard]] std::vector<HWND> ControlsIn(HWND top);
 // The control that has published this name, somewhere inside `top`; null when there is none.
 [[nodiscard]] HWND FindControl(HWND top, const wchar_t* name);
 
+// What the thread of a window does: moving, in a menu, where the keyboard is.
+[[nodiscard]] GUITHREADINFO GuiOf(HWND window);
+[[nodiscard]] bool HasClass(HWND window, std::wstring_view name);
 [[nodiscard]] std::string TextOf(HWND window);
 [[nodiscard]] RECT AreaOf(HWND window);  // on the screen
 [[nodiscard]] POINT MiddleOf(const RECT& area);

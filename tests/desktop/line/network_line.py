@@ -9,8 +9,7 @@ number is in the environment variable TREMOLUX_TEST_LINE:
 
     add NAME          an adapter appears
     remove NAME       and goes
-    receive NAME N    so many bytes come in, in one packet or more
-    send NAME N       so many bytes go out
+    move NAME IN OUT  so many bytes come in and so many go out, in one packet or more
 
 Each is answered with "ok" when it has happened, or with what went wrong. It takes Linux, and the
 rights to make a network: without them the result is 77, or with --optional the command runs without
@@ -105,6 +104,8 @@ class Adapter:
 
 def packets(size):
     """Sizes of packets that are so much together; none is smaller than its head."""
+    if size == 0:
+        return
     while size > LARGEST_PACKET:
         part = min(LARGEST_PACKET, size - IP_HEAD - UDP_HEAD)
         yield part
@@ -128,13 +129,16 @@ class Line(socketserver.StreamRequestHandler):
         for name in list(self.adapters):
             self.adapters.pop(name).close()
 
-    def perform(self, word, name, size="0"):
+    def perform(self, word, name, received="0", sent="0"):
         if word == "add":
             self.adapters[name] = Adapter(name, len(self.adapters))
         elif word == "remove":
             self.adapters.pop(name).close()
+        elif word == "move":
+            self.adapters[name].receive(int(received))
+            self.adapters[name].send(int(sent))
         else:
-            {"receive": Adapter.receive, "send": Adapter.send}[word](self.adapters[name], int(size))
+            raise ValueError(word)
 
 
 def main():

@@ -1,0 +1,96 @@
+#include "tests/contract/world.h"
+
+#include <utility>
+
+#include "platform/windows/system_error.h"
+#include "platform/windows/system_handles.h"
+#include "platform/windows/wide_text.h"
+#include "tests/desktop/driver/wait.h"
+
+namespace contract {
+namespace {
+
+using platform::windows::FromWide;
+using platform::windows::ThrowSystemError;
+using platform::windows::ToWide;
+
+// The system itself refuses a path that begins with a backslash.
+std::wstring KeyPath(std::string_view path) {
+  return ToWide(path.substr(path.starts_with('\\') ? 1 : 0));
+}
+
+}  // namespace
+
+World::~World() {
+  if (!scratch_.empty()) std::filesystem::remove_all(scratch_);
+}
+
+void World::SetRawValue(std::string_view path, std::string_view name, const RawValue& value) {
+  const LSTATUS result =
+      ::RegSetKeyValueW(HKEY_CURRENT_USER, KeyPath(path).c_str(), ToWide(name).c_str(), value.type,
+                        value.data.data(), static_cast<DWORD>(value.data.size()));
+  if (result != ERROR_SUCCESS) ThrowSystemError("RegSetKeyValue", static_cast<DWORD>(result));
+}
+
+std::optional<RawValue> World::RawValueOf(std::string_view path, std::string_view name) {
+  RawValue value{0, std::string(65536, '\0')};
+  HKEY key = nullptr;
+  if (::RegOpenKeyExW(HKEY_CURRENT_USER, KeyPath(path).c_str(), 0, KEY_READ, &key) !=
+      ERROR_SUCCESS) {
+    return std::nullopt;
+  }
+  auto size = static_cast<DWORD>(value.data.size());
+  DWORD type = 0;
+  const LSTATUS result = ::RegQueryValueExW(key, ToWide(name).c_str(), nullptr, &type,
+                                            reinterpret_cast<BYTE*>(value.data.data()), &size);
+  ::RegCloseKey(key);
+  if (result != ERROR_SUCCESS) return std::nullopt;
+  value.type = type;
+  value.data.resize(size);
+  return value;
+}
+
+void World::RemoveKey(std::string_view path) {
+  ::RegDeleteTreeW(HKEY_CURRENT_USER, KeyPath(path).c_str());
+}
+
+std::string World::ScratchFolder() {
+  if (scratch_.empty()) {
+    scratch_ = std::filesystem::temp_directory_path() /
+               ("tremolux_contract_" + std::to_string(::GetCurrentProcessId()) + "_" +
+                std::to_string(::GetTickCount64()));
+    std::filesystem::create_directory(scratch_);
+  }
+  return FromWide(scratch_.wstring()) + '\\';
+}
+
+void World::MakeFolder(std::string_view path) { std::filesystem::create_directory(ToWide(path)); }
+
+void World::HoldFile(std::string_view path, const std::function<void()>& meanwhile) {
+  const platform::windows::FileHandle file(::CreateFileW(ToWide(path).c_str(), GENERIC_READ, 0,
+                                                         nullptr, OPEN_EXISTING,
+                                                         FILE_ATTRIBUTE_NORMAL, nullptr));
+  if (!file) ThrowSystemError("CreateFile", ::GetLastError());
+  meanwhile();
+}
+
+void World::Later(std::function<void()> step) {
+  steps_.push_back(std::move(step));
+  if (!stepping_) stepping_ = Platform().timers.Start(10, [this] { RunStep(); });
+}
+
+bool World::LetHappen(const std::function<bool()>& condition) {
+  const double deadline = desktop::SteadyMs() + desktop::kAmpleMs;
+  const auto wakes_the_loop = Platform().timers.Start(10, [] {});
+  Platform().message_loop.RunUntil([&] { return condition() || desktop::SteadyMs() > deadline; });
+  return condition();
+}
+
+void World::RunStep() {
+  const std::function<void()> step = std::move(steps_.front());
+  steps_.pop_front();
+  if (steps_.empty()) stepping_.reset();
+  step();
+}
+
+}  // namespace contract

@@ -1,0 +1,46 @@
+// Windows itself, as tests/contract/world.h tells of it.
+#pragma once
+
+#include <deque>
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "platform/windows/machine.h"
+#include "tests/contract/raw_value.h"
+
+namespace contract {
+
+class World {
+ public:
+  World() = default;
+  ~World();
+  World(const World&) = delete;
+  World& operator=(const World&) = delete;
+
+  [[nodiscard]] platform::Platform& Platform() { return machine_.platform(); }
+
+  void SetRawValue(std::string_view path, std::string_view name, const RawValue& value);
+  [[nodiscard]] std::optional<RawValue> RawValueOf(std::string_view path, std::string_view name);
+  void RemoveKey(std::string_view path);
+
+  std::string ScratchFolder();
+  void MakeFolder(std::string_view path);
+  void HoldFile(std::string_view path, const std::function<void()>& meanwhile);
+
+  void Later(std::function<void()> step);
+  [[nodiscard]] bool LetHappen(const std::function<bool()>& condition);
+
+ private:
+  void RunStep();
+
+  platform::windows::Machine machine_;
+  std::filesystem::path scratch_;
+  std::deque<std::function<void()>> steps_;
+  std::unique_ptr<platform::Timer> stepping_;
+};
+
+}  // namespace contract

@@ -1,0 +1,76 @@
+// The menu, the icon in the notification area, and the program in which the user works meanwhile.
+#include "tests/desktop/driver/other_program.h"
+#include "tests/desktop/program_test.h"
+// Behind the system's own header, which it needs.
+#include <shellapi.h>
+
+namespace desktop {
+namespace {
+
+class MenuAndTray : public ProgramTest {
+ protected:
+  static void AwaitVisible(const Meter& meter, bool visible) {
+    Await("the meter to come or go", [&] { return meter.Visible() == visible; });
+  }
+};
+
+TEST_F(MenuAndTray, TheMenuTicksOffAnAdapterAndScansGoOnWhileItIsOpen) {
+  Meter& meter = Start();
+  std::string adapter;
+  {
+    OpenMenu menu = meter.Menu();
+    const std::vector<MenuItem> sources = menu.Items({"Connection Sources"});
+    ASSERT_FALSE(sources.empty());
+    adapter = sources.at(0).text;
+    EXPECT_TRUE(sources.at(0).checked);
+    AwaitScans(2);
+    EXPECT_TRUE(OpenMenu::Any(meter.program().id()));
+    menu.Choose({"Connection Sources", adapter});
+  }
+  Await("the flag", [&] { return Setting(adapter) == 0U; });
+  OpenMenu menu = meter.Menu();
+  EXPECT_FALSE(menu.Find({"Connection Sources", adapter}).checked);
+  menu.Leave();
+}
+
+TEST_F(MenuAndTray, TheMeterComesAndGoesAndLeavesTheKeyboardWhereItIs) {
+  OtherProgram other;
+  const HWND work = other.Open(L"work", {20, 600, 320, 800});
+  Meter& meter = Start();
+  AwaitScans();  // the icon comes a moment after the window
+  EXPECT_EQ(::GetForegroundWindow(), work) << "at the start";
+  for (const bool visible : {false, true}) {
+    ::PostMessageW(meter.tray(), WM_APP + 1, 0, MAKELPARAM(NIN_SELECT, 1));
+    AwaitVisible(meter, visible);
+  }
+  AwaitScans();
+  EXPECT_EQ(::GetForegroundWindow(), work) << "when it comes back";
+
+  RightClick(MiddleOf(meter.TrayArea()));
+  OpenMenu(meter.program().id()).Choose({"Graph Options", "Clear Graph"});
+  EXPECT_TRUE(Comes([work] { return ::GetForegroundWindow() == work; })) << "after a choice";
+
+  for (const HWND place : {meter.graph(), meter.line()}) {
+    DoubleClick(MiddleOf(AreaOf(place)));
+    AwaitVisible(meter, false);
+    Click(MiddleOf(meter.TrayArea()));
+    AwaitVisible(meter, true);
+  }
+  Click(MiddleOf(meter.TrayArea()));
+  AwaitVisible(meter, false);
+  AwaitScans(2);
+  EXPECT_FALSE(meter.Visible()) << "scans go on and leave it hidden";
+
+  RightClick(MiddleOf(meter.TrayArea()));
+  {
+    OpenMenu menu(meter.program().id());
+    EXPECT_EQ(menu.Items().back().text, "Exit");
+  }
+  Click({5, 5});
+  Await("the menu to close", [&] { return !OpenMenu::Any(meter.program().id()); });
+  Click({5, 5});  // a click that ends a menu can lose its release; the next one mends that
+  EXPECT_TRUE(meter.program().Running());
+}
+
+}  // namespace
+}  // namespace desktop
