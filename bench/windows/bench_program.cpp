@@ -131,7 +131,7 @@ void MeasureIdle(int seconds, Report& report) {
   const double meter_ms = CpuMilliseconds(meter.program().process()) - meter_before;
   const double bare_ms = CpuMilliseconds(bare.process()) - bare_before;
   bare.Kill();
-  desktop::RemoveKey(L"Software\\Benched");  // its copy of the program's values
+  desktop::RemoveKey("Software\\Benched");  // its copy of the program's values
 
   report.Section("The idle program for " + std::to_string(seconds) +
                  " s, beside the bare calls of its scans once a second");

@@ -3,6 +3,9 @@
 #include <stdexcept>
 
 #include "platform/windows/services/services.h"
+#include "platform/windows/system_error.h"
+#include "platform/windows/wide.h"
+#include "platform/windows/win32.h"
 
 namespace desktop {
 namespace {
@@ -66,6 +69,14 @@ void StoreText(std::string_view key, std::string_view name, std::string_view tex
 
 void Remove(std::string_view key, std::string_view name) {
   if (const auto opened = Open(key)) opened->Delete(name);
+}
+
+void RemoveKey(std::string_view key) {
+  const LSTATUS result =
+      ::RegDeleteTreeW(HKEY_CURRENT_USER, platform::windows::ToWide(key).c_str());
+  if (result != ERROR_SUCCESS && result != ERROR_FILE_NOT_FOUND) {
+    platform::windows::ThrowSystemError("RegDeleteTree", static_cast<DWORD>(result));
+  }
 }
 
 }  // namespace desktop

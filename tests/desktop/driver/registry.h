@@ -31,5 +31,7 @@ void Store(std::string_view setting, const std::string& text);
 void StoreText(std::string_view key, std::string_view name, std::string_view text);
 // Nothing happens when it is missing.
 void Remove(std::string_view key, std::string_view name);
+// With all that is in it.
+void RemoveKey(std::string_view key);
 
 }  // namespace desktop

@@ -23,13 +23,9 @@ constexpr char kRunAside[] = "Software\\Tremolux set aside by tests\\Run";
 constexpr char kRunValue[] = "BrisantoXP";
 
 void Check(const char* call, LSTATUS result) {
-  if (result != ERROR_SUCCESS && result != ERROR_FILE_NOT_FOUND) {
+  if (result != ERROR_SUCCESS) {
     platform::windows::ThrowSystemError(call, static_cast<DWORD>(result));
   }
-}
-
-void RemoveKey(const char* key) {
-  Check("RegDeleteTree", ::RegDeleteTreeW(HKEY_CURRENT_USER, ToWide(key).c_str()));
 }
 
 // Values and keys; nothing when `from` is missing.
