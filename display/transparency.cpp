@@ -138,7 +138,7 @@ bool Transparency::LetMessagesThrough(std::int64_t due) {
 }
 
 void Transparency::Check() {
-  if (hovered_) PointerChanged();
+  PointerChanged();
   const bool stands = std::exchange(steps_seen_, steps_) == steps_;
   if (stands && fading_ && fade_target_) SetWindowAlpha(*fade_target_);
 }

@@ -45,7 +45,7 @@ class Transparency {
   // and returns when that is done. With "TransparentFade", messages are delivered meanwhile.
   void PointerChanged();
 
-  // Is called once a scan. It notices that the pointer has left when nobody reported it, and ends a
+  // Is called once a scan. It notices where the pointer is when nobody reported it, and ends a
   // fade that made no step since the last scan, because a menu or another window was opened from
   // within it.
   void Check();

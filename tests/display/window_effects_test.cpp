@@ -69,6 +69,12 @@ TEST_F(Effects, WhileThePointerIsOnItTheWindowIsOpaque) {
     TakeAlphas();
     Scan({});
     EXPECT_EQ(TakeAlphas(), Alphas{190}) << "a leave that nobody reported";
+    Window().Show();
+    TakeAlphas();
+    Scan({});
+    EXPECT_EQ(TakeAlphas(), Alphas{255}) << "nor the return after it";
+    Leave();
+    TakeAlphas();
     for (const char* off : {"AutoTransparentONOFF", "Transparent2k"}) {
       Set(off, kOff);
       Enter();
