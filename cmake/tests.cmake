@@ -91,13 +91,13 @@ function(hook_module name folder)
 endfunction()
 
 if(WIN32)
-  test_program(contract_tests_windows tests/contract windows)
+  test_program(contract_tests_windows tests/contract desktop_driver)
   # With the program's manifest it gets the controls that the program has.
   target_sources(contract_tests_windows PRIVATE ${RESOURCES})
 
   # The desktop tests drive the real program from outside.
   floor(desktop_driver tests/desktop/driver windows)
-  target_link_libraries(desktop_driver PUBLIC gdiplus)
+  target_link_libraries(desktop_driver PUBLIC gdiplus oleacc oleaut32 ole32)
   hook_module(menu_spy tests/desktop/spy)
   test_program(desktop_tests tests/desktop desktop_driver)
   include(cmake/desktop_tests.cmake)

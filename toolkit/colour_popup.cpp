@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cstdio>
 #include <functional>
 #include <string>
 
@@ -16,7 +15,7 @@ namespace toolkit {
 namespace {
 
 // A field of colours, one of which is chosen with the mouse or the arrow keys.
-// Its caption is the chosen colour as "#RRGGBB", so that screen readers say it.
+// Its caption is the chosen colour as "#RRGGBB", which screen readers say as its value.
 class ColourPalette : public ButtonControl {
  public:
   static constexpr int kColumns = 8;
@@ -41,6 +40,7 @@ class ColourPalette : public ButtonControl {
   void OnDoubleClick(const platform::MouseEvent& event) override;
   bool OnKey(platform::Key key) override;
   void Clicked() override;
+  [[nodiscard]] platform::Spoken Describe() const override;
 
  private:
   // Returns the cell at a point in real pixels, or -1 when the point is outside all cells.
@@ -73,13 +73,6 @@ constexpr std::array<Colour, kCells> kColours = {
     Rgb(0x402000), Rgb(0x404000), Rgb(0x004000), Rgb(0x004040), Rgb(0x000040), Rgb(0x400040),
 };
 
-std::string NameOf(Colour colour) {
-  std::array<char, 8> text{};
-  std::snprintf(text.data(), text.size(), "#%02X%02X%02X", colour & 0xFF, colour >> 8 & 0xFF,
-                colour >> 16 & 0xFF);
-  return text.data();
-}
-
 ColourPalette::ColourPalette(Control& parent, std::string_view name)
     : ButtonControl(parent, name, platform::ButtonKind::kPainted) {}
 
@@ -96,8 +89,12 @@ void ColourPalette::Choose(platform::Colour colour) {
 void ColourPalette::Show(int cell) {
   cell_ = cell;
   const std::optional<platform::Colour> chosen = Chosen();
-  SetCaption(chosen ? NameOf(*chosen) : std::string());
+  SetCaption(chosen ? ColourName(*chosen) : std::string());
   Invalidate();
+}
+
+platform::Spoken ColourPalette::Describe() const {
+  return {.name = Parent()->ParentForm().Caption(), .value = Caption()};
 }
 
 void ColourPalette::Move(int to) {

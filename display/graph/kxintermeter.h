@@ -6,6 +6,7 @@
 #include <deque>
 #include <functional>
 #include <memory>
+#include <string>
 #include <string_view>
 #include <type_traits>
 
@@ -54,6 +55,9 @@ class TKxInterMeter : public toolkit::Control {
   // After the picture was painted and before it is shown; the handler may draw on it.
   std::function<void(platform::Canvas& canvas)> OnDisplay;
 
+  // Gives what a screen reader says that it shows.
+  std::function<std::string()> OnDescribe;
+
   // The picture as it is shown, composed now when it is old. Null while there is none.
   [[nodiscard]] const platform::Bitmap* Picture();
   // Bevel and border widths on one side, in real pixels.
@@ -64,6 +68,7 @@ class TKxInterMeter : public toolkit::Control {
   void Paint(platform::Canvas& canvas) override;
   void Resized() override { Changed(); }
   void Rescale() override;
+  [[nodiscard]] platform::Spoken Describe() const override;
 
  private:
   // The picture is composed anew once, before it is next shown; until then it is only copied.

@@ -120,6 +120,9 @@ TEST_F(Preferences, EveryControlHasAHintAndANumberSaysItsRange) {
           (widget.kind == Kind::kButton && !widget.IsButton(platform::ButtonKind::kGroup));
       if (!is_worked) return;
       EXPECT_NE(control.Hint(), "") << control.Name();
+      const std::string name = widget.events->Describe().name;
+      EXPECT_NE(name, "") << control.Name();
+      EXPECT_EQ(name.find('&'), std::string::npos) << name;
       const auto* spin = dynamic_cast<const toolkit::SpinEdit*>(&control);
       if (spin == nullptr || spin->Name() == "spnKeyLedsLimit") return;  // that one has no bounds
       EXPECT_NE(control.Hint().find(std::to_string(spin->Highest())), std::string::npos)

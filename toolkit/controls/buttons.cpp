@@ -1,6 +1,8 @@
 #include "toolkit/controls/buttons.h"
 
 #include <algorithm>
+#include <array>
+#include <cstdio>
 
 #include "toolkit/application.h"
 #include "toolkit/forms/form.h"
@@ -31,6 +33,19 @@ void Button::Realised() {
 void Button::Clicked() {
   if (ModalResult != toolkit::ModalResult::kNone) ParentForm().EndModal(ModalResult);
   Fire(OnClick);
+}
+
+std::string ColourName(platform::Colour colour) {
+  std::array<char, 8> text{};
+  std::snprintf(text.data(), text.size(), "#%02X%02X%02X", colour & 0xFF, colour >> 8 & 0xFF,
+                colour >> 16 & 0xFF);
+  return text.data();
+}
+
+platform::Spoken ColourPanel::Describe() const {
+  platform::Spoken spoken = ButtonControl::Describe();
+  spoken.value = ColourName(App().Platform().screen.Resolve(Colour()));
+  return spoken;
 }
 
 void ColourPanel::Paint(platform::Canvas& canvas) {

@@ -48,6 +48,8 @@ class WidgetWindow : public NativeWindow {
   void Invalidate();
   [[nodiscard]] Point ToScreen(Point client) const;
 
+  // What the widget is to a screen reader; nothing before its maker holds it.
+  [[nodiscard]] Spoken Describe() const { return reporting_ ? events_.Describe() : Spoken{}; }
   // Asked for Enter and Esc before anything else happens with them (dialog_keys.h).
   [[nodiscard]] virtual KeyTaker TakerOf(WPARAM /*key*/) { return KeyTaker::kDialog; }
   // A mouse message came to a window inside it, or to itself.
