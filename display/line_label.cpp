@@ -44,7 +44,7 @@ platform::Spoken LineLabel::Describe() const {
 }
 
 const LineLabel::Lines& LineLabel::Broken(platform::Canvas& canvas, platform::Size room) {
-  const platform::FontSpec font = Scale(Font());
+  const platform::FontStyle font = Scale(Font());
   if (!lines_.texts.empty() && lines_.room == room && lines_.font == font) return lines_;
   const platform::Size whole = canvas.TextSize(Caption(), font);
   lines_ = {{Caption()}, whole, room, font};

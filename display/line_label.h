@@ -25,7 +25,7 @@ class LineLabel final : public toolkit::Control {
     std::vector<std::string_view> texts;  // of the caption; empty when it was not measured yet
     platform::Size size;                  // pixels
     platform::Size room;                  // what the label had
-    platform::FontSpec font;
+    platform::FontStyle font;
   };
 
   void Paint(platform::Canvas& canvas) override;

@@ -77,7 +77,7 @@ void ShowHints(Meter m, bool shown) {
 }
 
 void TakeFont(Meter m, const std::string& face) {
-  platform::FontSpec font = m.label.Font();  // its size follows the width of the window
+  platform::FontStyle font = m.label.Font();  // its size follows the width of the window
   font.face = face;
   m.label.SetFont(font);
 }

@@ -31,12 +31,12 @@ class T_frmAreYouSure final : public toolkit::Form {
   settings::Store& store_;
   const language::Language& language_;
 
-  toolkit::Sign Image1;
-  toolkit::Label lblQuestion1;
-  toolkit::Label lblQuestion2;
-  toolkit::CheckBox AskCheck;
-  toolkit::Button btnYes;
-  toolkit::Button btnNo;
+  toolkit::Sign Image1{*this, "Image1", toolkit::Sign::Picture::kQuestion};
+  toolkit::Label lblQuestion1{*this, "lblQuestion1", toolkit::kWrappedText};
+  toolkit::Label lblQuestion2{*this, "lblQuestion2", toolkit::kWrappedText};
+  toolkit::CheckBox AskCheck{*this, "AskCheck"};
+  toolkit::Button btnYes{*this, "btnYes"};
+  toolkit::Button btnNo{*this, "btnNo"};
 };
 
 }  // namespace display

@@ -1,23 +1,11 @@
 #include "preferences/page.h"
 
-#include <string>
 #include <utility>
 
 namespace preferences {
-namespace {
-
-void SayNames(const toolkit::Control& parent, const language::Translation& say) {
-  for (toolkit::Control* control : parent.Children()) {
-    if (const auto* text = FindText(control->Name())) control->SetCaption(say(*text));
-    if (const auto* hint = FindText(control->Name() + "Hint")) control->SetHint(say(*hint));
-    if (!control->IsComposite()) SayNames(*control, say);
-  }
-}
-
-}  // namespace
 
 void Page::Localise(const language::Translation& say) {
-  SayNames(*this, say);
+  language::SayNames(*this, "SettingsForm", say);
   for (const Row::Words& words : says_) words(say);
 }
 

@@ -39,12 +39,12 @@ class T_frmSecurity final : public toolkit::Form {
   Store& store_;
   const language::Language& language_;
 
-  toolkit::Sign Image1;
-  toolkit::Label St1;
-  toolkit::Label St2;
-  toolkit::Label St3;
-  toolkit::PasswordEdit PassEdit;
-  toolkit::Button CancelButton;
+  toolkit::Sign Image1{*this, "Image1", toolkit::Sign::Picture::kLock};
+  toolkit::Label St1{*this, "St1", toolkit::kWrappedText};
+  toolkit::Label St2{*this, "St2", toolkit::kWrappedText};
+  toolkit::Label St3{*this, "St3", toolkit::kCaptionText};
+  toolkit::PasswordEdit PassEdit{*this, "PassEdit"};
+  toolkit::Button CancelButton{*this, "CancelButton"};
 };
 
 // Asks for the administrator's password and returns whether it was given; scans go on meanwhile.

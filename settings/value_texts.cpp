@@ -1,7 +1,6 @@
 #include "settings/value_texts.h"
 
 #include <charconv>
-#include <cstdint>
 
 #include "platform/text.h"
 #include "platform/wrapping.h"

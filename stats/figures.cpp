@@ -1,8 +1,6 @@
 #include "stats/figures.h"
 
 #include <algorithm>
-#include <cstdint>
-#include <optional>
 #include <string>
 
 #include "language/texts.h"

@@ -59,10 +59,10 @@ class T_frmConnInfo final : public StatisticsForm {
 
   HostAddress host_address_;
 
-  toolkit::TabSheet BandwidthTab;
-  toolkit::LinkLabel Label1;
+  toolkit::TabSheet BandwidthTab{PageControl1, "BandwidthTab"};
+  toolkit::LinkLabel Label1{BandwidthTab, "Label1"};
   alerts::BandwidthDetails details_;
-  toolkit::CheckBox ISBAShown;
+  toolkit::CheckBox ISBAShown{BandwidthTab, "ISBAShown"};
 };
 
 }  // namespace stats

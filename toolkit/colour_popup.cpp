@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <functional>
-#include <string>
 
 #include "toolkit/application.h"
 #include "toolkit/controls/buttons.h"

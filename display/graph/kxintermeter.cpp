@@ -14,7 +14,7 @@ constexpr int kScanPeriodMs = 1000;
 constexpr std::size_t kLongestHistory = 4096;
 // Design pixels; beyond it nothing changes any more.
 constexpr int kWidestDrawn = 1000;
-const platform::FontSpec kScaleFont{"Small Fonts", 9, true};
+const platform::FontStyle kScaleFont{"Small Fonts", 9, true};
 
 // More than the 31 bits of an input can hold, 2 GiB a second, arrives as less than nothing.
 std::int32_t Drawn(std::int32_t input) {

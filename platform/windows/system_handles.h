@@ -6,28 +6,20 @@
 
 namespace platform::windows {
 
-struct KernelKind {
-  using Raw = HANDLE;
-  static constexpr Raw None() { return nullptr; }
-  static void Close(Raw handle) { ::CloseHandle(handle); }
-};
-using KernelHandle = Handle<KernelKind>;
+using KernelHandle = Handle<ZeroIsNone<HANDLE, &::CloseHandle>>;
 
-// The "none" of CreateFile is INVALID_HANDLE_VALUE, not null.
-struct FileKind {
+// The kind of the handles of files, which are none when they are INVALID_HANDLE_VALUE.
+template <auto kClose>
+struct InvalidIsNone {
   using Raw = HANDLE;
   static Raw None() { return INVALID_HANDLE_VALUE; }
-  static void Close(Raw handle) { ::CloseHandle(handle); }
+  static void Close(Raw raw) { kClose(raw); }
 };
-using FileHandle = Handle<FileKind>;
+using FileHandle = Handle<InvalidIsNone<&::CloseHandle>>;
+using FindHandle = Handle<InvalidIsNone<&::FindClose>>;
 
 // A library that most runs do not need.
-struct LibraryKind {
-  using Raw = HMODULE;
-  static constexpr Raw None() { return nullptr; }
-  static void Close(Raw module) { ::FreeLibrary(module); }
-};
-using Library = Handle<LibraryKind>;
+using Library = Handle<ZeroIsNone<HMODULE, &::FreeLibrary>>;
 
 // Returns the function of `module` with this name as a `Pointer`, or null when either is missing.
 template <class Pointer>

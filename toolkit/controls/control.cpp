@@ -116,7 +116,7 @@ void Control::SetFontColour(platform::Colour colour) {
   if (Assign(font_colour_, colour)) ApplyColours();
 }
 
-void Control::SetFont(const platform::FontSpec& font) {
+void Control::SetFont(const platform::FontStyle& font) {
   if (Assign(font_, font)) ApplyFont();
 }
 
@@ -155,7 +155,7 @@ int Control::Unscale(int pixels) { return UnscaleFrom(ParentForm().Dpi(), pixels
 platform::Rect Control::Scale(const platform::Rect& design) {
   return {Scale(design.left), Scale(design.top), Scale(design.width), Scale(design.height)};
 }
-platform::FontSpec Control::Scale(const platform::FontSpec& design) {
+platform::FontStyle Control::Scale(const platform::FontStyle& design) {
   return {design.face, Scale(design.height), design.bold};
 }
 

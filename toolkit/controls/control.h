@@ -93,8 +93,8 @@ class Control : protected platform::WidgetEvents {
   [[nodiscard]] platform::Colour FontColour() const { return font_colour_; }
   void SetFontColour(platform::Colour colour);
   // The font; its `height` is in design pixels. A control starts with the font of its parent.
-  [[nodiscard]] const platform::FontSpec& Font() const { return font_; }
-  void SetFont(const platform::FontSpec& font);
+  [[nodiscard]] const platform::FontStyle& Font() const { return font_; }
+  void SetFont(const platform::FontStyle& font);
 
   // The text that the hint window shows while the pointer rests on the control; empty for none.
   [[nodiscard]] const std::string& Hint() const { return hint_; }
@@ -114,7 +114,7 @@ class Control : protected platform::WidgetEvents {
   [[nodiscard]] int Scale(int design_pixels);
   [[nodiscard]] int Unscale(int pixels);
   [[nodiscard]] platform::Rect Scale(const platform::Rect& design);
-  [[nodiscard]] platform::FontSpec Scale(const platform::FontSpec& design);
+  [[nodiscard]] platform::FontStyle Scale(const platform::FontStyle& design);
 
   int Tag = 0;
 
@@ -231,7 +231,7 @@ class Control : protected platform::WidgetEvents {
   bool enabled_ = true;
   platform::Colour colour_ = platform::colour::kButtonFace;
   platform::Colour font_colour_ = platform::colour::kWindowText;
-  platform::FontSpec font_;
+  platform::FontStyle font_;
   std::string hint_;
   PopupMenu* popup_menu_ = nullptr;
   bool children_wait_ = false;

@@ -38,7 +38,7 @@ void LinkLabel::Paint(platform::Canvas& canvas) {
   const platform::Size size = canvas.Extent();
   canvas.Fill(canvas.Area(), Colour());
   const platform::Colour colour = Enabled() ? FontColour() : platform::colour::kGrayText;
-  const platform::FontSpec font = Scale(Font());
+  const platform::FontStyle font = Scale(Font());
   const int left = Scale(kIndent);
   canvas.Text({left, 0, size.width - left, size.height}, Caption(), font, colour,
               platform::TextAlign::kLeft);

@@ -1,6 +1,5 @@
 #include "toolkit/controls/lists.h"
 
-#include <algorithm>
 #include <utility>
 
 #include "toolkit/application.h"

@@ -1,7 +1,6 @@
 #include "platform/windows/drawing/gdi_canvas.h"
 
 #include <algorithm>
-#include <cwchar>
 #include <string>
 #include <utility>
 
@@ -15,7 +14,7 @@ namespace {
 // face uses more, and must not keep them all.
 constexpr std::size_t kKept = 16;
 
-Font Make(const FontSpec& spec) {
+Font Make(const FontStyle& spec) {
   LOGFONTW description{};
   description.lfHeight = -std::max(spec.height, 1);  // negative: without internal leading
   description.lfWeight = spec.bold ? FW_BOLD : FW_NORMAL;
@@ -28,7 +27,7 @@ Font Make(const FontSpec& spec) {
 
 }  // namespace
 
-SharedFont FontCache::Get(const FontSpec& spec) {
+SharedFont FontCache::Get(const FontStyle& spec) {
   const auto found = std::find_if(entries_.begin(), entries_.end(),
                                   [&spec](const Entry& entry) { return entry.spec == spec; });
   if (found != entries_.end()) {
@@ -95,13 +94,13 @@ void GdiCanvas::Line(Point from, Point to, Colour colour, PenStyle style) {
   if (pen) DrawLine(dc_, from, to, pen.get());
 }
 
-void GdiCanvas::Text(const Rect& box, std::string_view text, const FontSpec& font, Colour colour,
+void GdiCanvas::Text(const Rect& box, std::string_view text, const FontStyle& font, Colour colour,
                      TextAlign align) {
   FormattedText(box, text, font, colour,
                 DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | GdiAlign(align));
 }
 
-void GdiCanvas::FormattedText(const Rect& box, std::string_view text, const FontSpec& font,
+void GdiCanvas::FormattedText(const Rect& box, std::string_view text, const FontStyle& font,
                               Colour colour, UINT format) {
   if (box.Empty() || text.empty()) return;
   const SharedFont shared = fonts_.Get(font);
@@ -114,7 +113,7 @@ void GdiCanvas::FormattedText(const Rect& box, std::string_view text, const Font
   ::DrawTextW(dc_, wide.c_str(), static_cast<int>(wide.size()), &area, format);
 }
 
-Size GdiCanvas::TextSize(std::string_view text, const FontSpec& font) {
+Size GdiCanvas::TextSize(std::string_view text, const FontStyle& font) {
   const SharedFont shared = fonts_.Get(font);
   if (!shared) return {};
   const Selection selected(dc_, shared->get());

@@ -17,11 +17,11 @@ class FontCache {
   // Returns the font for `spec`, or the system's nearest one, or null when the system is out of
   // memory. A control that goes on using a font keeps the returned pointer, since the cache drops
   // the font that has not been asked for longest.
-  [[nodiscard]] SharedFont Get(const FontSpec& spec);
+  [[nodiscard]] SharedFont Get(const FontStyle& spec);
 
  private:
   struct Entry {
-    FontSpec spec;
+    FontStyle spec;
     SharedFont font;
   };
 
@@ -39,11 +39,11 @@ class GdiCanvas final : public Canvas {
   [[nodiscard]] Size Extent() const override { return extent_; }
   void Fill(const Rect& area, Colour colour) override;
   void Line(Point from, Point to, Colour colour, PenStyle style) override;
-  void Text(const Rect& box, std::string_view text, const FontSpec& font, Colour colour,
+  void Text(const Rect& box, std::string_view text, const FontStyle& font, Colour colour,
             TextAlign align) override;
-  [[nodiscard]] Size TextSize(std::string_view text, const FontSpec& font) override;
+  [[nodiscard]] Size TextSize(std::string_view text, const FontStyle& font) override;
   // Draws a text like Text, but with the placement and "&" marks that DrawText's `format` asks for.
-  void FormattedText(const Rect& box, std::string_view text, const FontSpec& font, Colour colour,
+  void FormattedText(const Rect& box, std::string_view text, const FontStyle& font, Colour colour,
                      UINT format);
   [[nodiscard]] HDC dc() const { return dc_; }
   // The bitmap must come from this folder's Graphics.

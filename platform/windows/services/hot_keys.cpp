@@ -8,12 +8,7 @@
 namespace platform::windows {
 namespace {
 
-struct GlobalAtomKind {
-  using Raw = ATOM;
-  static constexpr Raw None() { return 0; }
-  static void Close(Raw atom) { ::GlobalDeleteAtom(atom); }
-};
-using GlobalAtom = Handle<GlobalAtomKind>;
+using GlobalAtom = Handle<ZeroIsNone<ATOM, &::GlobalDeleteAtom>>;
 
 class RegisteredHotKey final : public HotKey {
  public:

@@ -40,7 +40,6 @@ class Files : public platform::Files {
  public:
   [[nodiscard]] std::string ProgramPath() override;
   [[nodiscard]] std::string ProgramFolder() override;
-  [[nodiscard]] bool Exists(std::string_view path) override;
   [[nodiscard]] bool Missing(std::string_view path) override;
   [[nodiscard]] std::optional<std::uint64_t> Size(std::string_view path) override;
   [[nodiscard]] std::optional<std::string> Load(std::string_view path, std::size_t limit) override;

@@ -22,14 +22,15 @@ class EditWidget final : public WidgetOf<Edit, NativeControl> {
 
  protected:
   std::optional<LRESULT> Handle(const Message& message) override;
-  // The system's look of an edit that cannot be changed, unless it was given a colour of its own.
+  // Returns the system's colour for an edit that cannot be changed, unless the edit was given a
+  // colour of its own.
   [[nodiscard]] Colour Background() const override;
 
  private:
   void Changed();
-  // What the user may enter of `text`, which has come to be in it.
+  // Cuts `text`, which is in the edit, to what the user may enter, and returns the rest.
   [[nodiscard]] std::wstring CutToLimit(const std::wstring& text);
-  // Whether a control message is kept from the edit.
+  // Returns whether a message about a key is kept from the edit.
   [[nodiscard]] bool Keeps(const Message& message);
   void Turned(const Message& wheel);
 

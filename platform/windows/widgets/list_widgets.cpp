@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "platform/windows/wide_text.h"
-#include "platform/windows/win32.h"
 
 namespace platform::windows {
 namespace {
@@ -92,7 +91,7 @@ void ComboWidget::SetBounds(const Rect& bounds) {
   FitHeight();
 }
 
-void ComboWidget::SetFont(const FontSpec& font) {
+void ComboWidget::SetFont(const FontStyle& font) {
   PlainListWidget::SetFont(font);
   FitHeight();
 }
@@ -142,7 +141,7 @@ void ComboWidget::DrawRow(const DRAWITEMSTRUCT& item) {
   const LRESULT length = Send(CB_GETLBTEXT, item.itemID, reinterpret_cast<LPARAM>(text.data()));
   text.resize(static_cast<std::size_t>(length < 0 ? 0 : length));
   const std::string name = FromWide(text);
-  FontSpec own = font();
+  FontStyle own = font();
   own.face = name;
   if (IsSymbolFont(item.hDC, drawing().fonts.Get(own))) own.face = font().face;
   const Rect inside{area.left + 2, area.top, area.width - 4, area.height};

@@ -52,7 +52,7 @@ class ComboWidget final : public PlainListWidget {
   ComboWidget(const NewWidget& widget, ListKind kind);
 
   void SetBounds(const Rect& bounds) override;
-  void SetFont(const FontSpec& font) override;
+  void SetFont(const FontStyle& font) override;
   // The keys of dialogs close an open list.
   [[nodiscard]] KeyTaker TakerOf(WPARAM key) override;
   std::optional<LRESULT> HandleNotification(const Message& message) override;

@@ -98,7 +98,7 @@ void WidgetWindow::SetEnabled(bool enabled) { ::EnableWindow(hwnd(), enabled); }
 
 bool WidgetWindow::Enabled() const { return ::IsWindowEnabled(hwnd()) != 0; }
 
-void WidgetWindow::SetFont(const FontSpec& font) {
+void WidgetWindow::SetFont(const FontStyle& font) {
   if (native_font_ && font == font_) return;
   font_ = font;
   SharedFont made = drawing_.fonts.Get(font);
@@ -132,7 +132,7 @@ void WidgetWindow::Invalidate() {
 Point WidgetWindow::ToScreen(Point client) const {
   POINT at{client.x, client.y};
   ::ClientToScreen(hwnd(), &at);
-  return {static_cast<int>(at.x), static_cast<int>(at.y)};
+  return FromPoint(at);
 }
 
 void WidgetWindow::MakeControl(const wchar_t* control, const WindowStyle& style,
@@ -206,20 +206,13 @@ std::optional<LRESULT> WidgetWindow::HandleReports(const Message& message) {
     case WM_NCMOUSELEAVE:
       ReportMouse(message);
       return std::nullopt;
-    case WM_MOUSEMOVE:
-    case WM_MOUSELEAVE:
-    case WM_LBUTTONDOWN:
-    case WM_LBUTTONDBLCLK:
-    case WM_LBUTTONUP:
-    case WM_RBUTTONDOWN:
-    case WM_RBUTTONDBLCLK:
-    case WM_MBUTTONDOWN:
-    case WM_MBUTTONDBLCLK:
-    case WM_MBUTTONUP:
+    default:
+      if (message.id != WM_MOUSEMOVE && message.id != WM_MOUSELEAVE &&
+          !IsButtonMessage(message.id)) {
+        return std::nullopt;
+      }
       ReportMouse(message);
       return 0;
-    default:
-      return std::nullopt;
   }
 }
 

@@ -4,7 +4,6 @@
 #include "platform/windows/dpi.h"
 #include "platform/windows/drawing/gdi_canvas.h"
 #include "platform/windows/windows/menu_tree.h"
-#include "platform/windows/windows/native_window.h"
 
 namespace platform::windows {
 namespace {
