@@ -15,9 +15,14 @@ void Page::Read(ReadStep step) {
   }
 }
 
-void Page::Add(ReadStep step, const std::vector<Row>& rows) {
+void Page::Add(ReadStep step, std::span<const Row> rows) {
   for (const Row& row : rows) {
-    if (row.connect) row.connect(context_, row.follows);
+    if (row.event != nullptr) {
+      *row.event = [this, follows = row.follows, take = row.take] {
+        if (follows) follows();
+        take(context_);
+      };
+    }
     if (row.read) Add(step, [this, read = row.read] { read(context_); });
     says_.insert(says_.end(), row.says.begin(), row.says.end());
   }

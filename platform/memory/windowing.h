@@ -99,6 +99,7 @@ class Windowing final : public platform::Windowing {
   void Place(std::string_view window, const Rect& bounds);
   void ClickCloseBox(std::string_view window);
 
+  // The system's doings.
   void ChangeDpi(std::string_view window, int dpi, const Rect& bounds);
   // For all windows.
   void ChangeDisplay();

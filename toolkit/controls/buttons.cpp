@@ -1,8 +1,6 @@
 #include "toolkit/controls/buttons.h"
 
 #include <algorithm>
-#include <array>
-#include <cstdio>
 
 #include "toolkit/application.h"
 #include "toolkit/forms/form.h"
@@ -36,10 +34,10 @@ void Button::Clicked() {
 }
 
 std::string ColourName(platform::Colour colour) {
-  std::array<char, 8> text{};
-  std::snprintf(text.data(), text.size(), "#%02X%02X%02X", colour & 0xFF, colour >> 8 & 0xFF,
-                colour >> 16 & 0xFF);
-  return text.data();
+  constexpr std::string_view kDigits = "0123456789ABCDEF";
+  std::string text = "#";
+  for (const int shift : {4, 0, 12, 8, 20, 16}) text += kDigits[colour >> shift & 15U];
+  return text;
 }
 
 platform::Spoken ColourPanel::Describe() const {
