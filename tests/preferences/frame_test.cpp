@@ -107,8 +107,10 @@ TEST_F(Preferences, TheStoredValuesAreReadInOneOrder) {
   });
 }
 
-TEST_F(Preferences, EveryControlHasAHintAndANumberSaysItsRange) {
+TEST_F(Preferences, EveryControlHasANameAndAHintAndANumberSaysItsRange) {
   RunOpen([&] {
+    const auto items = static_cast<int>(Widget("TreeItems").items.size());
+    for (int item = 0; item < items; ++item) User().Choose("TreeItems", item);
     const std::function<void(toolkit::Control&)> check = [&](toolkit::Control& control) {
       for (toolkit::Control* child : control.Children()) check(*child);
       using Kind = platform::memory::WidgetState::Kind;

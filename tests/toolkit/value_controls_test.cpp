@@ -197,6 +197,7 @@ TEST_F(ValueControls, AScreenReaderHearsANameOfEach) {
   form.SetCaption("Form");
   Label label(form, "label", kCaptionText);
   SpinEdit labelled(form, "labelled");
+  Label unit(form, "unit");
   Edit hinted(form, "hinted");
   Button marked(form, "marked");
   Button sign(form, "sign");
@@ -207,6 +208,7 @@ TEST_F(ValueControls, AScreenReaderHearsANameOfEach) {
   label.SetCaption("&Width:");
   labelled.SetHint("From 1 to 5");
   labelled.SetValue(3);
+  unit.SetCaption("bytes");
   hinted.SetHint("Sound file");
   marked.SetCaption("Save && &close");
   sign.SetCaption("...");

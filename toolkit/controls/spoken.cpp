@@ -31,11 +31,13 @@ std::string SeenCaption(const Control& control) {
   return seen;
 }
 
-// Returns the label that was made right before a control, or null.
+// Returns the label that was made right before a control and leads to it, or null. One without a
+// marked letter, such as a unit, may belong to what stands before it.
 const Label* LabelBefore(const Control& control) {
   const std::vector<Control*>& siblings = control.Parent()->Children();
   const auto at = std::ranges::find(siblings, &control);
-  return at != siblings.begin() ? dynamic_cast<const Label*>(*(at - 1)) : nullptr;
+  const auto* label = at != siblings.begin() ? dynamic_cast<const Label*>(*(at - 1)) : nullptr;
+  return label != nullptr && label->MarksKey() ? label : nullptr;
 }
 
 std::string NameOf(const Control& control) {
