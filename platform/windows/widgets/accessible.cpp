@@ -38,10 +38,10 @@ struct Calls {
 
 // COM serves the calls of other programs while the thread of the user interface waits for messages.
 const Calls* Started() {
-  static const Calls calls;
-  static const bool started =
-      calls.Complete() && SUCCEEDED(calls.start_com(nullptr, COINIT_APARTMENTTHREADED));
-  return started ? &calls : nullptr;
+  static const Calls kCalls;
+  static const bool kStarted =
+      kCalls.Complete() && SUCCEEDED(kCalls.start_com(nullptr, COINIT_APARTMENTTHREADED));
+  return kStarted ? &kCalls : nullptr;
 }
 
 LONG SystemRole(SpokenRole role) {
