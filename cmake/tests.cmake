@@ -87,7 +87,7 @@ endfunction()
 if(WIN32)
   # The user's hands, for whatever is tested on a desktop.
   floor(desktop_driver tests/desktop/driver windows)
-  target_link_libraries(desktop_driver PUBLIC gdiplus)
+  target_link_libraries(desktop_driver PUBLIC gdiplus oleacc oleaut32 ole32)
 
   # The contract tests run against the system that the build is for.
   test_program(contract_tests_windows "tests/contract;tests/contract/windows" desktop_driver)

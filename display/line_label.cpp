@@ -39,6 +39,10 @@ void LineLabel::Refresh() {
   SetHint(Broken(scratch_->GetCanvas(), room).size.width > room.width ? Caption() : "");
 }
 
+platform::Spoken LineLabel::Describe() const {
+  return {.name = Caption(), .role = platform::SpokenRole::kText};
+}
+
 const LineLabel::Lines& LineLabel::Broken(platform::Canvas& canvas, platform::Size room) {
   const platform::FontStyle font = Scale(Font());
   if (!lines_.texts.empty() && lines_.room == room && lines_.font == font) return lines_;

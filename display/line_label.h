@@ -31,6 +31,7 @@ class LineLabel final : public toolkit::Control {
   void Paint(platform::Canvas& canvas) override;
   void CaptionChanged() override { Refresh(); }
   void Resized() override { Refresh(); }
+  [[nodiscard]] platform::Spoken Describe() const override;
   // Returns the lines that the caption is painted in, measured on `canvas` when they are not known.
   const Lines& Broken(platform::Canvas& canvas, platform::Size room);
   [[nodiscard]] int LeftEdge(int width, int room);

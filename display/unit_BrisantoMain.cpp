@@ -103,6 +103,7 @@ void T_frmBrisanto::ConnectHandlers() {
   _tlkInterMeter.OnChange = [this] { transparency_.ApplyShape(); };
   _tlkInterMeter.OnScan = [this] { _tlkInterMeterScan(); };
   _tlkInterMeter.OnDisplay = [this](platform::Canvas& canvas) { _tlkInterMeterDisplay(canvas); };
+  _tlkInterMeter.OnDescribe = [this] { return numeric_line_.Label(); };
   _tlkInterMeter.OnMouseMoved = [this](const auto& event) { _tlkInterMeterMouseMove(event); };
   _tlkDLULMeter.OnMouseMoved = [this](const auto& event) { _tlkDLULMeterMouseMove(event); };
   for (toolkit::Control* control :

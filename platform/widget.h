@@ -22,6 +22,18 @@ struct MouseEvent {
   bool left_down = false;                   // the left button is held
 };
 
+// What a control is to a screen reader, as far as the system does not know it (IAccessible).
+enum class SpokenRole { kAsSystem, kButton, kChart, kLink, kText };
+
+// What a screen reader says of a control. An empty text leaves it to what the system finds.
+struct Spoken {
+  std::string name = {};
+  std::string value = {};
+  std::string description = {};
+  SpokenRole role = SpokenRole::kAsSystem;
+  bool operator==(const Spoken&) const = default;
+};
+
 // The reports of a widget, made on the thread of the user interface. A report says that the user or
 // the system did something; a change by the code is reported only where the comment says so. The
 // handler of a report may destroy the widget that made it.
@@ -64,6 +76,9 @@ class WidgetEvents {
   virtual void OnFocusLost() {}
   // It came to a push button or left it.
   virtual void OnFocusChanged() {}
+
+  // A screen reader asks what the widget is, at any time.
+  [[nodiscard]] virtual Spoken Describe() const { return {}; }
 };
 
 // A native control. Destroying it removes it from the screen. After the window system has destroyed

@@ -60,10 +60,12 @@ class NotificationPage final : public Page {
         {
             {PlayEnabled, Line(kLower.Top(3) + 2), of_rule(&Rule::is_play)},
             {sound_, kSound, of_rule(&Rule::wave)},
-            {BytesSpin, kFields.At(0, kNumberWidth), of_rule(&Rule::bytes), kBytes},
+            {BytesSpin, kFields.At(0, kNumberWidth), of_rule(&Rule::bytes), kBytes,
+             Says{text::lblBytes}},
             {WhenDownload, direction(0), of_rule(&Rule::downloaded)},
             {WhenUpload, direction(1), of_rule(&Rule::uploaded)},
-            {BytesSec, kFields.At(2, kNumberWidth), of_rule(&Rule::seconds), kSeconds},
+            {BytesSec, kFields.At(2, kNumberWidth), of_rule(&Rule::seconds), kSeconds,
+             Says{text::lblSeconds}},
         });
     Add(ReadStep::kNotificationRule,
         action_.Rows(kLower, 5, of_rule(&Rule::action), of_rule(&Rule::message)));
@@ -80,7 +82,7 @@ class NotificationPage final : public Page {
         {
             {grpTicker, {kMargin, top, kWidth, kGroupTop + 2 * kFieldRow + 4}},
             {TickerCheckBox, Line(kGroupTop + 2, kLeftWidth - kMargin), setting::TickerActive},
-            {TickerSpin, kSpin, setting::TickerBytes, kTicker},
+            {TickerSpin, kSpin, setting::TickerBytes, kTicker, Says{text::lblBytes}},
             {lblTickerBytes, kUnit, Says{text::lblBytes}},
             {ticker_sound_, kSound, setting::TickerWav},
         });

@@ -14,7 +14,7 @@ namespace toolkit {
 namespace {
 
 // A field of colours, one of which is chosen with the mouse or the arrow keys.
-// Its caption is the chosen colour as "#RRGGBB", so that screen readers say it.
+// Its caption is the chosen colour as "#RRGGBB", which screen readers say as its value.
 class ColourPalette : public ButtonControl {
  public:
   static constexpr int kColumns = 8;
@@ -39,6 +39,7 @@ class ColourPalette : public ButtonControl {
   void OnDoubleClick(const platform::MouseEvent& event) override;
   bool OnKey(platform::Key key) override;
   void Clicked() override;
+  [[nodiscard]] platform::Spoken Describe() const override;
 
  private:
   // Returns the cell at a point in real pixels, or -1 when the point is outside all cells.
@@ -71,13 +72,6 @@ constexpr std::array<Colour, kCells> kColours = {
     Rgb(0x402000), Rgb(0x404000), Rgb(0x004000), Rgb(0x004040), Rgb(0x000040), Rgb(0x400040),
 };
 
-std::string NameOf(Colour colour) {
-  constexpr std::string_view kDigits = "0123456789ABCDEF";
-  std::string text = "#";
-  for (const int shift : {4, 0, 12, 8, 20, 16}) text += kDigits[colour >> shift & 15U];
-  return text;
-}
-
 ColourPalette::ColourPalette(Control& parent, std::string_view name)
     : ButtonControl(parent, name, platform::ButtonKind::kPainted) {}
 
@@ -94,8 +88,12 @@ void ColourPalette::Choose(platform::Colour colour) {
 void ColourPalette::Show(int cell) {
   cell_ = cell;
   const std::optional<platform::Colour> chosen = Chosen();
-  SetCaption(chosen ? NameOf(*chosen) : std::string());
+  SetCaption(chosen ? ColourName(*chosen) : std::string());
   Invalidate();
+}
+
+platform::Spoken ColourPalette::Describe() const {
+  return {.name = Parent()->ParentForm().Caption(), .value = Caption()};
 }
 
 void ColourPalette::Move(int to) {

@@ -96,4 +96,11 @@ GraphLook TKxInterMeter::PixelLook() {
   return look;
 }
 
+platform::Spoken TKxInterMeter::Describe() const {
+  platform::Spoken spoken = Control::Describe();
+  if (OnDescribe) spoken.value = OnDescribe();
+  spoken.role = platform::SpokenRole::kChart;
+  return spoken;
+}
+
 }  // namespace display

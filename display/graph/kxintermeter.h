@@ -6,6 +6,7 @@
 #include <deque>
 #include <functional>
 #include <memory>
+#include <string>
 #include <string_view>
 #include <type_traits>
 
@@ -55,6 +56,9 @@ class TKxInterMeter : public toolkit::Control {
   // Runs after the picture was painted and before it is shown; the handler may draw on it.
   std::function<void(platform::Canvas& canvas)> OnDisplay;
 
+  // Returns what a screen reader says that the graph shows.
+  std::function<std::string()> OnDescribe;
+
   // Returns the picture as it is shown, composed now when it is old, or null while there is none.
   [[nodiscard]] const platform::Bitmap* Picture();
   // Returns the widths of bevels and border on one side, in real pixels.
@@ -64,6 +68,7 @@ class TKxInterMeter : public toolkit::Control {
   void Paint(platform::Canvas& canvas) override;
   void Resized() override { Changed(); }
   void Rescale() override;
+  [[nodiscard]] platform::Spoken Describe() const override;
 
  private:
   // The picture is composed anew once, before it is next shown; until then it is only copied.

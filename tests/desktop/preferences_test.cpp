@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "tests/desktop/driver/screen.h"
+#include "tests/desktop/driver/screen_reader.h"
 #include "tests/desktop/program_test.h"
 
 namespace desktop {
@@ -181,6 +182,33 @@ TEST_F(Preferences, OnceLockedTheyAndTheExitWantThePassword) {
   meter.AwaitForm(L"T_frmAreYouSure");
   PressKey(VK_RETURN);
   EXPECT_EQ(meter.program().AwaitEnd(), 0U);
+}
+
+TEST_F(Preferences, AScreenReaderHearsANameOfWhateverTheKeyboardReaches) {
+  Meter& meter = Start();
+  const HWND window = Open(meter);
+  const ScreenReader reader;
+  for (int row = 0; row <= static_cast<int>(PageRow::kResetSettings); ++row) {
+    ChoosePage(window, static_cast<PageRow>(row));
+    for (const HWND stop : ScreenReader::Stops(window)) {
+      EXPECT_NE(reader.Hear(stop).name, "") << "row " << row << ", in " << TextOf(stop);
+    }
+  }
+  struct Row {
+    const wchar_t* control;
+    const char* name;
+    const char* value;
+  };
+  for (const Row& row : {Row{L"AvarageTrackBar", "Average time in seconds:", "5"},
+                         Row{L"PulseWidth", "Pulse width:", "3"},
+                         Row{L"FontBackground", "Text Background", "#FFFFFF"}}) {
+    const Heard heard = reader.Hear(FindControl(window, row.control));
+    EXPECT_EQ(heard.name, row.name);
+    EXPECT_EQ(heard.value, row.value) << row.name;
+  }
+  const Heard graph = reader.Hear(FindControl(meter.window(), L"_tlkInterMeter"));
+  EXPECT_EQ(graph.name, "Traffic");
+  EXPECT_TRUE(graph.value.starts_with("[ ")) << graph.value;
 }
 
 }  // namespace

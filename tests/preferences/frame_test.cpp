@@ -112,6 +112,7 @@ TEST_F(Preferences, EveryPageIsLaidOutInEveryLanguageAndEveryControlHasAHint) {
       return;
     if (control.Hint().empty() && control.Role() != toolkit::KeyRole::kNone)
       told += control.Name() + " has no hint\n";
+    if (widget.events->Describe().name.empty()) told += control.Name() + " has no name\n";
     const auto* spin = dynamic_cast<const toolkit::SpinEdit*>(&control);
     if (spin == nullptr) return;
     told += spin->Name() + " " + std::to_string(spin->Lowest()) + ".." +

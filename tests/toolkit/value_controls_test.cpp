@@ -3,6 +3,7 @@
 #include "toolkit/controls/bars.h"
 #include "toolkit/controls/buttons.h"
 #include "toolkit/controls/edit.h"
+#include "toolkit/controls/label.h"
 #include "toolkit/controls/lists.h"
 #include "toolkit/controls/pages.h"
 #include "toolkit/controls/spin_edit.h"
@@ -142,6 +143,52 @@ TEST_F(ValueControls, APressedButtonMayTakeItsFormAway) {
   };
   User().Press("button");
   EXPECT_EQ(dialog, nullptr);
+}
+
+TEST_F(ValueControls, AScreenReaderHearsANameOfEach) {
+  form.SetCaption("Form");
+  Label label(form, "label", kCaptionText);
+  SpinEdit labelled(form, "labelled");
+  Label unit(form, "unit");
+  Edit hinted(form, "hinted");
+  Button marked(form, "marked");
+  Button sign(form, "sign");
+  ColourPanel panel(form, "panel");
+  TrackBar bar(form, "bar");
+  TreeView alone(form, "alone");
+  LinkLabel link(form, "link");
+  label.SetCaption("&Width:");
+  labelled.SetHint("From 1 to 5");
+  labelled.SetValue(3);
+  unit.SetCaption("bytes");
+  hinted.SetHint("Sound file");
+  marked.SetCaption("Save && &close");
+  sign.SetCaption("...");
+  sign.SetHint("Chooses a file");
+  panel.SetCaption("Text");
+  panel.SetColour(0x0102FF);
+  bar.SetPosition(7);
+  link.SetCaption("Help & more");
+  using platform::SpokenRole;
+  struct Row {
+    const char* control;
+    platform::Spoken says;
+  };
+  for (const Row& row : {
+           Row{"labelled", {.name = "Width:", .description = "From 1 to 5"}},
+           Row{"labelledUp", {.name = "+1", .role = SpokenRole::kButton}},
+           Row{"labelledDown", {.name = "-1", .role = SpokenRole::kButton}},
+           Row{"hinted", {.name = "Sound file"}},
+           Row{"marked", {.name = "Save & close"}},
+           Row{"sign", {.name = "Chooses a file"}},
+           Row{"panel", {.name = "Text", .value = "#FF0201"}},
+           Row{"bar", {.name = "Form", .value = "7"}},
+           Row{"alone", {.name = "Form"}},
+           Row{"link", {.name = "Help & more", .role = SpokenRole::kLink}},
+       }) {
+    const platform::Spoken heard = Widget(row.control).events->Describe();
+    EXPECT_EQ(heard, row.says) << row.control << ": " << heard.name;
+  }
 }
 
 }  // namespace

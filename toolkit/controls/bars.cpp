@@ -1,6 +1,7 @@
 #include "toolkit/controls/bars.h"
 
 #include <algorithm>
+#include <string>
 
 #include "toolkit/application.h"
 
@@ -33,6 +34,12 @@ void TrackBar::SetPosition(int position) {
 
 void TrackBar::OnChanged() {
   if (Assign(position_, Peer()->Position())) Fire(OnChange);
+}
+
+platform::Spoken TrackBar::Describe() const {
+  platform::Spoken spoken = ControlOf::Describe();
+  spoken.value = std::to_string(position_);
+  return spoken;
 }
 
 ProgressBar::ProgressBar(Control& parent, std::string_view name) : ControlOf(parent, name) {

@@ -25,6 +25,8 @@ class TrackBar : public ControlOf<platform::TrackBar> {
  protected:
   void OnChanged() override;
   void Realised() override;
+  // The system would say how many per cent of the range the position is.
+  [[nodiscard]] platform::Spoken Describe() const override;
 
  private:
   int lowest_ = 0;

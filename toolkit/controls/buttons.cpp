@@ -33,6 +33,19 @@ void Button::Clicked() {
   Fire(OnClick);
 }
 
+std::string ColourName(platform::Colour colour) {
+  constexpr std::string_view kDigits = "0123456789ABCDEF";
+  std::string text = "#";
+  for (const int shift : {4, 0, 12, 8, 20, 16}) text += kDigits[colour >> shift & 15U];
+  return text;
+}
+
+platform::Spoken ColourPanel::Describe() const {
+  platform::Spoken spoken = ButtonControl::Describe();
+  spoken.value = ColourName(App().Platform().screen.Resolve(Colour()));
+  return spoken;
+}
+
 void ColourPanel::Paint(platform::Canvas& canvas) {
   // The same on all sides: a pale colour would have no edge where the light falls.
   canvas.Fill(canvas.Area(), platform::colour::kButtonShadow);

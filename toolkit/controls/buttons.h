@@ -55,6 +55,9 @@ class Button : public ButtonControl {
   bool default_ = false;
 };
 
+// Returns a colour as "#RRGGBB", as screen readers say it.
+[[nodiscard]] std::string ColourName(platform::Colour colour);
+
 // A button that shows a colour, its background colour, on a sunken face. Its caption is not shown,
 // but screen readers say it, so that the user knows what the colour is for.
 class ColourPanel : public ButtonControl {
@@ -64,6 +67,7 @@ class ColourPanel : public ButtonControl {
 
  protected:
   void Paint(platform::Canvas& canvas) override;
+  [[nodiscard]] platform::Spoken Describe() const override;
 };
 
 // A button that has a mark or not.

@@ -194,6 +194,10 @@ class Control : protected platform::WidgetEvents {
   virtual void EnabledChanged() {}
   virtual void HintChanged() {}
 
+  // Its name is its caption, else the caption of the label that leads to it, else its hint; what
+  // has the keyboard and none of them is called as its form. The hint describes it.
+  [[nodiscard]] platform::Spoken Describe() const override;
+
   // platform::WidgetEvents
   void OnPaint(platform::Canvas& canvas) final;
   void OnMouseMove(const platform::MouseEvent& event) override;

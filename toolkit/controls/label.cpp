@@ -28,6 +28,12 @@ LinkLabel::LinkLabel(Control& parent, std::string_view name)
   SetFontColour(kLinkColour);
 }
 
+platform::Spoken LinkLabel::Describe() const {
+  platform::Spoken spoken = ButtonControl::Describe();
+  spoken.role = platform::SpokenRole::kLink;
+  return spoken;
+}
+
 void LinkLabel::Paint(platform::Canvas& canvas) {
   const platform::Size size = canvas.Extent();
   canvas.Fill(canvas.Area(), Colour());

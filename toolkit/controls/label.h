@@ -31,6 +31,7 @@ class LinkLabel : public ButtonControl {
  protected:
   void Paint(platform::Canvas& canvas) override;
   void CaptionChanged() override { Invalidate(); }
+  [[nodiscard]] platform::Spoken Describe() const override;
 };
 
 }  // namespace toolkit

@@ -121,6 +121,11 @@ class SpinEdit::Arrow final : public Control {
     PaintTriangle(canvas);
   }
 
+  [[nodiscard]] platform::Spoken Describe() const override {
+    const std::string step = std::to_string(by_ * spin_.step_);
+    return {.name = by_ > 0 ? "+" + step : step, .role = platform::SpokenRole::kButton};
+  }
+
  private:
   void Press(const platform::MouseEvent& event) {
     if (event.button != platform::MouseButton::kLeft) return;

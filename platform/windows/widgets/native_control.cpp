@@ -1,5 +1,7 @@
 #include "platform/windows/widgets/native_control.h"
 
+#include "platform/windows/widgets/accessible.h"
+
 namespace platform::windows {
 
 std::optional<LRESULT> NativeControl::HandleNotification(const Message& message) {
@@ -14,6 +16,7 @@ std::optional<LRESULT> NativeControl::HandleNotification(const Message& message)
 
 std::optional<LRESULT> NativeControl::Handle(const Message& message) {
   if (message.id == WM_DESTROY) ForgetName();
+  if (message.id == WM_GETOBJECT) return AnswerReader(*this, message);
   if (const auto answer = ToControl(message)) return answer;
   return Reporting() ? HandleControl(message) : std::nullopt;
 }

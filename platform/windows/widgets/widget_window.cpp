@@ -1,6 +1,7 @@
 #include "platform/windows/widgets/widget_window.h"
 
 #include "platform/windows/wide_text.h"
+#include "platform/windows/widgets/accessible.h"
 #include "platform/windows/widgets/native_control.h"
 #include "platform/windows/windows/dialog_keys.h"
 
@@ -51,7 +52,10 @@ HWND WidgetWindow::Of(Widget& widget) { return dynamic_cast<WidgetWindow&>(widge
 
 void WidgetWindow::SetText(std::string_view text) {
   // The same text again would repaint and be read out again.
-  if (Text() != text) ::SetWindowTextW(hwnd(), ToWide(text).c_str());
+  if (Text() == text) return;
+  ::SetWindowTextW(hwnd(), ToWide(text).c_str());
+  // The system tells screen readers of another name; what a painted widget shows is its value.
+  ::NotifyWinEvent(EVENT_OBJECT_VALUECHANGE, hwnd(), OBJID_CLIENT, CHILDID_SELF);
 }
 
 std::string WidgetWindow::Text() const { return FromWide(WideText()); }
@@ -180,6 +184,8 @@ std::optional<LRESULT> WidgetWindow::Handle(const Message& message) {
     case WM_DESTROY:
       ForgetName();
       return std::nullopt;
+    case WM_GETOBJECT:
+      return AnswerReader(*this, message);
     default:
       if (const auto answer = ToControl(message)) return answer;
       return reporting_ ? HandleReports(message) : std::nullopt;

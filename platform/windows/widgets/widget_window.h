@@ -48,6 +48,8 @@ class WidgetWindow : public NativeWindow {
   void Invalidate();
   [[nodiscard]] Point ToScreen(Point client) const;
 
+  // Returns what the widget is to a screen reader: nothing before its maker holds it.
+  [[nodiscard]] Spoken Describe() const { return reporting_ ? events_.Describe() : Spoken{}; }
   // Returns who gets Enter or Esc; it is asked before anything else happens with them
   // (dialog_keys.h).
   [[nodiscard]] virtual KeyTaker TakerOf(WPARAM /*key*/) { return KeyTaker::kDialog; }
