@@ -110,9 +110,10 @@ TEST_F(Preferences, EveryPageIsLaidOutInEveryLanguageAndEveryControlHasAHint) {
     if (widget.kind == Kind::kText || widget.kind == Kind::kSurface ||
         widget.IsButton(platform::ButtonKind::kGroup))
       return;
-    if (control.Hint().empty() && control.Role() != toolkit::KeyRole::kNone)
-      told += control.Name() + " has no hint\n";
-    if (widget.events->Describe().name.empty()) told += control.Name() + " has no name\n";
+    const bool takes_keys = control.Role() != toolkit::KeyRole::kNone;
+    if (takes_keys && control.Hint().empty()) told += control.Name() + " has no hint\n";
+    if (takes_keys && widget.events->Describe().name.empty())
+      told += control.Name() + " has no name\n";
     const auto* spin = dynamic_cast<const toolkit::SpinEdit*>(&control);
     if (spin == nullptr) return;
     told += spin->Name() + " " + std::to_string(spin->Lowest()) + ".." +
