@@ -1,5 +1,7 @@
 #include "program/program.h"
 
+#include <stdexcept>
+
 #include "preferences/unit_SettingsForm.h"
 #include "program/product.h"
 #include "settings/first_start.h"
@@ -25,6 +27,11 @@ Program::Program(platform::Platform& platform) : app_(Titled(platform)), meter_(
   const platform::DateTime now = platform.clock.Now();
   settings::Store store(platform.registry, platform.files);
   settings::CreateMissingValues(store, platform::DateOf(now));
+  // Said once: a write that is refused leaves no line of its own, or there would be some each
+  // second.
+  app_.Guard([&store] {
+    if (!store.Writable()) throw std::runtime_error("the settings in the registry are read-only");
+  });
   meter_.Traffic().RestartRun(now);
   // The window has just set the cap from the stored scale. A new run is uncapped nevertheless,
   // until the user picks a scale or the window is initialised again.

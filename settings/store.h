@@ -31,6 +31,9 @@ class Store {
   Store(platform::Registry& registry, platform::Files& files)
       : registry_(registry), files_(files) {}
 
+  // Returns whether settings can be stored, which an administrator may have forbidden.
+  [[nodiscard]] bool Writable() { return Open(KeyIndex::kSettings) != nullptr; }
+
   // Return a value under Settings. When the value is missing, has another registry type or, for a
   // colour, is not the text of a colour, they return the default and store it in its place (the low
   // 32 bits of an integer). They never fail: a default that cannot be stored is only returned, and

@@ -95,6 +95,16 @@ TEST_F(Program, EachWindowIsLaidOutAboveTheMeterIsRaisedByTheMenuAndCloses) {
   }
 }
 
+TEST_F(Program, WithAReadOnlyRegistryItCountsAndSaysSoOnce) {
+  machine.registry.DenyWriting(test::kSettingsKey);
+  machine.registry.DenyWriting(test::kAdapterDatas);
+  Run([&] {
+    for (int scan = 0; scan < 3; ++scan) Scan({1000, 10});
+    EXPECT_EQ(Meter::Window().Traffic().RunTotalDL, 3000);
+  });
+  EXPECT_EQ(ErrorLog(), "the settings in the registry are read-only\r\n");
+}
+
 TEST_F(Program, AWindowThatTheSystemRefusesIsLoggedAndOpensTheNextTime) {
   for (const Window& window : kWindows) {
     SCOPED_TRACE(window.what);

@@ -294,6 +294,8 @@ std::optional<LRESULT> TopWindow::HandleSystem(const Message& message) {
       // What is painted in system colours looks different now.
       ::RedrawWindow(hwnd(), nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME | RDW_ALLCHILDREN);
       events_.OnSettingChange();
+      // A taskbar that grows or moves may cover the window.
+      if (message.id == WM_SETTINGCHANGE && message.w == SPI_SETWORKAREA) events_.OnDisplayChange();
       return 0;
     default:
       return std::nullopt;
