@@ -117,7 +117,8 @@ else()
   test_program(display_tests tests/display program memory)
   test_program(preferences_tests tests/preferences program memory)
   test_program(program_tests tests/program program memory)
-  test_program(house_tests tests/house)
+  find_program(PYTHON python3 REQUIRED)
+  add_test(NAME house COMMAND ${PYTHON} ${CMAKE_SOURCE_DIR}/tests/house/house_test.py)
 
   # Two days of the meter's life here; ./dev endure plays years.
   floor(endurance tools/endure program memory)

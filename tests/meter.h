@@ -52,7 +52,7 @@ class Meter : public testing::Test, protected Computer {
     EXPECT_EQ(machine.message_loop.starved, 0) << "something was asked that nobody answered";
   }
   // The same with the preferences open, on a page.
-  void RunOpen(const std::function<void()>& body, const char* page = "General") {
+  void RunOpen(const char* page, const std::function<void()>& body) {
     Run([&] {
       OpenPreferences();
       ChoosePage(page);
@@ -112,6 +112,19 @@ class Meter : public testing::Test, protected Computer {
       for (int x = 0; x < picture.Extent().width; ++x) pixels.push_back(picture.Pixel({x, y}));
     }
     return pixels;
+  }
+  // A picture with a letter for each pixel, "+" for a colour that has none.
+  static std::string Drawn(const platform::memory::Raster& picture,
+                           const std::map<platform::Colour, char>& letters) {
+    std::string drawn = "\n";
+    for (int y = 0; y < picture.Extent().height; ++y) {
+      for (int x = 0; x < picture.Extent().width; ++x) {
+        const auto letter = letters.find(picture.Pixel({x, y}));
+        drawn += letter != letters.end() ? letter->second : '+';
+      }
+      drawn += '\n';
+    }
+    return drawn;
   }
   std::string ErrorLog() { return machine.files.BytesBesideProgram("err.log").value_or(""); }
 

@@ -25,7 +25,7 @@ FLOORS = ["platform", "toolkit", "settings", "language", "engine", "quantity", "
 EXCLUDED = {
     r"^platform/(windows|memory)/": "not the portable code",
     r"^program/main\.cpp$": "runs on Windows only",
-    r"layout\.cpp$|sign\.cpp$|panel\.cpp$|images\.cpp$"
+    r"layout\.cpp$|sign\.cpp$|panel\.cpp$|images\.cpp$|image_list\.cpp$"
     r"|menu_painter\.cpp$|about_box\.cpp$": "painting and places of controls",
 }
 # Lines whose faults are places of controls, or programs that are equal.
@@ -36,6 +36,9 @@ EXCLUDED_LINES = re.compile(
     # places in the statistics windows and their rows
     r"|const int (address_left|since_top|since_height|check_top|lower|group|value_left|unit_left) = "
     r"|FigureRow::Columns k|GroupBox::kTitleHeight|since_height - kButtonHeight|group - \d|width - 81|details_\.SetBounds|unit_left \+"
+    # A repaint, since pictures in memory are made when they are looked at; the size of a bitmap that
+    # only measures; how long a window of another program may take; any number that is no size.
+    r"|^\s*Invalidate\(\);|PlacePixels\(|CreateBitmap\(\{1, 1\}\)|kPatience = |\? size : 0;"
     # Columns of a page; bounds that only have to be far enough away; a triangle that is higher at
     # any resolution; a picture that is enlarged to its own size; a form, which lies on nothing that
     # would hide it.

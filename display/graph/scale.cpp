@@ -18,15 +18,13 @@ constexpr std::int64_t kSmallestUpperEdge = 1;
 constexpr std::int64_t kSteadyNumerator = 4;
 constexpr std::int64_t kSteadyDenominator = 5;
 
-// The smallest of 1, 2, 5, 10, 20 ... that is not below `value`.
+// The smallest of 1, 2, 5, 10, 20 ... that is not below `value`, which is about 1000 at the most.
 std::int64_t RoundUp(std::int64_t value) {
-  for (std::int64_t decade = 1; decade < std::numeric_limits<std::int64_t>::max() / 10;
-       decade *= 10) {
+  for (std::int64_t decade = 1;; decade *= 10) {
     for (const std::int64_t factor : {1, 2, 5}) {
       if (factor * decade >= value) return factor * decade;
     }
   }
-  return value;
 }
 
 // The largest of 0, 1, 2, 5, 10, 20 ... that is not above `value`.

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <map>
+
 #include "alerts/unit_BandWidthAlert.h"
 #include "tests/world.h"
 
@@ -31,11 +33,11 @@ class BandwidthAlert : public testing::Test, protected test::Reacting {
     std::string all;
     for (const char* row : {"Limit", "Type", "CurrDLTotal", "CurrULTotal", "Left"}) {
       const platform::memory::WidgetState& value = Widget(std::string("lblBandwidth") + row);
-      static constexpr platform::Colour kLightRed = 0x9999FF;
-      const bool lime = value.text_colour == platform::colour::kLime;
-      const bool silver = value.text_colour == platform::colour::kSilver;
-      const bool red = value.text_colour == kLightRed;
-      all += value.text + (lime ? ", " : silver ? " silver, " : red ? " red, " : " ?, ");
+      static const std::map<platform::Colour, const char*> kColours = {
+          {platform::colour::kLime, ", "},
+          {platform::colour::kSilver, " silver, "},
+          {0x9999FF, " red, "}};
+      all += value.text + kColours.at(value.text_colour);
     }
     return all;
   }
@@ -85,25 +87,26 @@ TEST_F(BandwidthAlert, AMenuThatIsOpenGoesBeforeItsWindowComes) {
   EXPECT_TRUE(shown);
 }
 
-TEST_F(BandwidthAlert, OtherActionsShowNothing) {
+TEST_F(BandwidthAlert, OtherActionsPlayTheSoundAndShowNothing) {
   Set("chkBAPlay", 1);
   Set("BaPlayFile", "C:\\alarm.wav");
-  for (const int action : {0, 3, 9, 2}) {
-    SCOPED_TRACE(action);
-    Set("BAAction", action);
+  for (const std::size_t action : {0U, 3U, 9U, 2U}) {
+    Set("BAAction", static_cast<std::int64_t>(action));
     Set("BAShow", 0);
-    machine.sound.played.clear();
     alert.Check();
-    EXPECT_TRUE(balloons.empty());
-    EXPECT_EQ(machine.sound.played, (std::vector<std::string>{"C:\\alarm.wav"}));
-    EXPECT_EQ(machine.session.calls.size(), action == 2 ? 3U : 0U);
+    EXPECT_EQ(machine.session.calls.size(), action == 2 ? 3U : 0U) << action;
   }
+  EXPECT_EQ(machine.sound.played, std::vector<std::string>(4, "C:\\alarm.wav"));
+  EXPECT_TRUE(balloons.empty());
 }
 
 TEST_F(BandwidthAlert, TheDetailsOpenAndCloseAndRefreshTwiceASecond) {
   Check([&] {
-    EXPECT_EQ(Widget("btnDetails").text, "Details >>");
-    EXPECT_EQ(Widget(kForm).ClientSize().height, 110);
+    const auto is_closed = [&] {
+      EXPECT_EQ(Widget("btnDetails").text, "Details >>");
+      EXPECT_EQ(Widget(kForm).ClientSize().height, 110);
+    };
+    is_closed();
     machine.windowing.Press("btnDetails");
     EXPECT_EQ(Widget(kForm).ClientSize().height, 255);
     EXPECT_EQ(Widget("btnDetails").text, "<< Details");
@@ -134,8 +137,7 @@ TEST_F(BandwidthAlert, TheDetailsOpenAndCloseAndRefreshTwiceASecond) {
     Set("CurrentMonthTotalUL", "1024");
     EXPECT_EQ(after(), "1, Monthly, 0,0 silver, 1, 0,5 red, ");
     machine.windowing.Press("btnDetails");
-    EXPECT_EQ(Widget(kForm).ClientSize().height, 110);
-    EXPECT_EQ(Widget("btnDetails").text, "Details >>");
+    is_closed();
     machine.windowing.PressEsc(kForm);
   });
 }

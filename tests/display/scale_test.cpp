@@ -9,24 +9,21 @@ using display::ScaleFor;
 using display::ScaleRule;
 using display::ScaleUnits;
 
-struct ScaleRow {
-  const char* why;
-  GraphSample sample;
-  ScaleUnits units;
-  std::int64_t low, high;
-  bool zero_based = false;
-};
-
 TEST(GraphScale, EdgesAreRoundAndTheLowerLeavesZeroOnlyForASteadyLoad) {
   constexpr std::int32_t kK = 1024;
   constexpr ScaleUnits kBytes = ScaleUnits::kKBytes;
   constexpr ScaleUnits kBits = ScaleUnits::kKBits;
-  static constexpr ScaleRow kRows[] = {
+  struct Row {
+    const char* why;
+    GraphSample sample;
+    ScaleUnits units;
+    std::int64_t low, high;
+    bool zero_based = false;
+  };
+  static constexpr Row kRows[] = {
       {"an idle line", {0, 0}, kBytes, 0, kK},
-      {"one byte", {0, 1}, kBytes, 0, kK},
       {"on the edge", {0, 1024}, kBytes, 0, kK},
       {"just above", {0, 1025}, kBytes, 0, 2 * kK},
-      {"21 kB", {0, 21 * kK}, kBytes, 0, 50 * kK},
       {"999 kB", {0, 999 * kK}, kBytes, 0, kK * kK},
       {"megabytes begin at 1000", {0, 1000 * kK}, kBytes, 0, kK * kK},
       {"the largest", {0, 2147483647}, kBytes, 0, 2LL << 30},
@@ -41,7 +38,7 @@ TEST(GraphScale, EdgesAreRoundAndTheLowerLeavesZeroOnlyForASteadyLoad) {
       {"less than the unit", {900, 900}, kBytes, 0, kK},
       {"between two units", {2040 * kK, 2020 * kK}, kBytes, 500 * kK, 2 * kK * kK},
   };
-  for (const ScaleRow& row : kRows) {
+  for (const Row& row : kRows) {
     SCOPED_TRACE(row.why);
     const auto scale = ScaleFor({&row.sample, 1}, {true, 0, row.zero_based, row.units});
     EXPECT_EQ(scale.low, row.low);
@@ -59,13 +56,14 @@ TEST(GraphScale, TheEdgesOfAFixedScaleNeverMeetAndNothingLeavesThePicture) {
     EXPECT_LT(scale.low, scale.high);
     EXPECT_EQ(scale.HeightOf(9000, 50), 50);
   }
-  struct Row {
-    std::int64_t amount;
-    int height;
-  };
   const display::GraphScale scale{1000, 2000};
-  for (const Row& row : {Row{0, 0}, {-1, 0}, {1, 1}, {1500, 25}, {2000, 50}, {1LL << 40, 50}}) {
-    EXPECT_EQ(scale.HeightOf(row.amount, 50), row.height) << row.amount;
+  for (const auto& [amount, height] : {std::pair<std::int64_t, int>{0, 0},
+                                       {-1, 0},
+                                       {1, 1},
+                                       {1500, 25},
+                                       {2000, 50},
+                                       {1LL << 40, 50}}) {
+    EXPECT_EQ(scale.HeightOf(amount, 50), height) << amount;
   }
 }
 
@@ -84,7 +82,7 @@ TEST(GraphScale, TextsHaveThreeDigitsAtTheMost) {
       {12500000, ScaleUnits::kKBytes, "11,9 MB"},
       {128, ScaleUnits::kKBits, "1 kb"},
       {12500000, ScaleUnits::kKBits, "95,3 Mb"},
-      {2LL << 40, ScaleUnits::kKBytes, "2 TB"},
+      {2LL << 50, ScaleUnits::kKBytes, "2 PB"},
   };
   for (const Row& row : kRows) EXPECT_EQ(ScaleText(row.bytes, row.units, ","), row.text);
 }

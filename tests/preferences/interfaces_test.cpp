@@ -28,48 +28,45 @@ class Interfaces : public test::Meter {
 TEST_F(Interfaces, AnAdapterIsTickedUnderItsNameAndTheMenuFollows) {
   machine.interface_table.AddRow(platform::memory::MakeRow("Radio X", {1, 2, 3}, 900, 54000));
   machine.interface_table.AddRow(platform::memory::MakeRow("MS TCP Loopback interface"));
-  RunOpen(
-      [&] {
-        const auto changes = [&](const std::function<void()>& act) {
-          const Values before = AllValues();
-          act();
-          return ChangesSince(before);
-        };
-        const auto all = [&] { User().Press("chkSelectALL"); };
-        auto& list = Widget("NIMListBox");
-        EXPECT_EQ(list.items, (Strings{"Ethernet", "Radio X"}));
-        EXPECT_EQ(list.index, 0) << "the data are of the first one until another is chosen";
-        EXPECT_EQ(Widget("lblMTUValue").text, "1500");
-        EXPECT_EQ(Ticks(), "++ all");
-        EXPECT_EQ(changes([&] { User().Choose("NIMListBox", 1); }), "");
-        EXPECT_EQ(Data(), "01-02-03 54000 900");
-        EXPECT_EQ(changes([&] { User().Tick("NIMListBox", 1); }), "radio x=0");
-        EXPECT_EQ(Ticks(), "+-");
-        EXPECT_EQ(changes(all), "radio x=1");
-        EXPECT_EQ(Ticks(), "++ all");
-        EXPECT_EQ(changes(all), "ethernet=0 radio x=0");
-        EXPECT_EQ(Ticks(), "--");
-        machine.menus.user = [this](const auto& entries, auto&) {
-          machine.menus.user = nullptr;
-          return entries[2].children[0].id;
-        };
-        EXPECT_EQ(changes([&] { User().RightClick("T_frmBrisanto"); }), "ethernet=1");
-        EXPECT_EQ(Ticks(), "+-");
-        // The chosen one stays chosen when one before it goes, and its data go with it.
-        const auto remove_first = [&] {
-          machine.interface_table.RemoveRow(0);
-          machine.timers.Advance(1000);
-        };
-        remove_first();
-        EXPECT_EQ(list.items, Strings{"Radio X"});
-        EXPECT_EQ(list.index, 0);
-        EXPECT_EQ(Data(), "01-02-03 54000 900");
-        remove_first();
-        EXPECT_TRUE(list.items.empty());
-        EXPECT_EQ(Data(), "  ");
-        EXPECT_EQ(changes(all), "");
-      },
-      "Interfaces");
+  RunOpen("Interfaces", [&] {
+    const auto changes = [&](const std::function<void()>& act) {
+      const Values before = AllValues();
+      act();
+      return ChangesSince(before);
+    };
+    const auto all = [&] { User().Press("chkSelectALL"); };
+    auto& list = Widget("NIMListBox");
+    EXPECT_EQ(list.items, (Strings{"Ethernet", "Radio X"}));
+    EXPECT_EQ(Widget("lblMTUValue").text, "1500") << "the first one, until another is chosen";
+    EXPECT_EQ(Ticks(), "++ all");
+    EXPECT_EQ(changes([&] { User().Choose("NIMListBox", 1); }), "");
+    EXPECT_EQ(Data(), "01-02-03 54000 900");
+    EXPECT_EQ(changes([&] { User().Tick("NIMListBox", 1); }), "radio x=0");
+    EXPECT_EQ(Ticks(), "+-");
+    EXPECT_EQ(changes(all), "radio x=1");
+    EXPECT_EQ(Ticks(), "++ all");
+    EXPECT_EQ(changes(all), "ethernet=0 radio x=0");
+    EXPECT_EQ(Ticks(), "--");
+    machine.menus.user = [this](const auto& entries, auto&) {
+      machine.menus.user = nullptr;
+      return entries[2].children[0].id;
+    };
+    EXPECT_EQ(changes([&] { User().RightClick("T_frmBrisanto"); }), "ethernet=1");
+    EXPECT_EQ(Ticks(), "+-");
+    // The chosen one stays chosen when one before it goes, and its data go with it.
+    const auto remove_first = [&] {
+      machine.interface_table.RemoveRow(0);
+      machine.timers.Advance(1000);
+    };
+    remove_first();
+    EXPECT_EQ(list.items, Strings{"Radio X"});
+    EXPECT_EQ(list.index, 0);
+    EXPECT_EQ(Data(), "01-02-03 54000 900");
+    remove_first();
+    EXPECT_TRUE(list.items.empty());
+    EXPECT_EQ(Data(), "  ");
+    EXPECT_EQ(changes(all), "");
+  });
 }
 
 }  // namespace

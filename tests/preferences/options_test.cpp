@@ -88,7 +88,12 @@ class Options : public test::Meter {
       User().Press(button);
     };
   }
-  std::string FolderOfDialog() { return machine.system_dialogs.file_requests.back().folder; }
+  std::string FolderOfDialog() {
+    const auto& asked = machine.system_dialogs.file_requests.back();
+    EXPECT_FALSE(asked.title.empty() || asked.kinds.at(0).name.empty() ||
+                 asked.kinds.at(1).name.empty());
+    return asked.folder;
+  }
 };
 
 TEST_F(Options, WorkedOnceStoreTheirValueAndShowInTheMeter) {
@@ -96,7 +101,7 @@ TEST_F(Options, WorkedOnceStoreTheirValueAndShowInTheMeter) {
   machine.files.PutBesideProgram("Icons\\default.bmp",
                                  test::ReadFile(SOURCE_FOLDER "/assets/Icons/default.bmp"));
   const std::string icons = machine.files.ProgramFolder() + "Icons";
-  RunOpen([&] {
+  RunOpen("General", [&] {
     Scan({100000, 90000});
     Scan({90000, 100000});
     Check("General",
@@ -199,7 +204,7 @@ TEST_F(Options, OfTheAlertsWorkedOnceStoreTheirValue) {
     return [this, edit, shown] { return Widget(edit).visible == shown; };
   };
   const std::string program = machine.files.ProgramFolder();
-  RunOpen([&] {
+  RunOpen("General", [&] {
     ChoosePage("Bandwidth Alerts");
     EXPECT_EQ(Widget("mPerStartsOn").items.size(), 31U);
     EXPECT_EQ(Widget("mPerStartsOn").text, "2") << "the stored 1 is the second row";

@@ -49,10 +49,7 @@ TEST_F(ColourPopupTest, GivesWhatTheUserConfirmsAndNothingElse) {
   const auto press = [this](const char* name) { return [this, name] { User().Press(name); }; };
   const auto enter = [this] { User().PressEnter("ColourPopup"); };
   const auto ok = press("btnColorOk");
-  const auto click = [this] {
-    User().PressMouse("palette", Cell(1, 2));
-    User().ReleaseMouse("palette", Cell(1, 2));
-  };
+  const auto click = [this] { User().PressMouse("palette", Cell(1, 2)); };
   const auto twice = [this] { User().DoubleClick("palette", Cell(7, 5)); };
   const auto more = press("btnMoreColors");
   const auto mix = [this] { machine.system_dialogs.Choose(Colour{0x123456}); };
@@ -66,6 +63,7 @@ TEST_F(ColourPopupTest, GivesWhatTheUserConfirmsAndNothingElse) {
       {"a double click", 0x010203, {twice}, 0x400040},
       {"Esc", kRed, {keys({Key::kRight}), [&] { User().PressEsc("ColourPopup"); }}, {}},
       {"the button for it", kRed, {press("btnColorCancel")}, {}},
+      {"the first cell", kRed, {[this] { User().DoubleClick("palette", Cell(0, 0)); }}, kWhite},
       {"nobody touched it", platform::colour::kButtonFace, {ok}, platform::colour::kButtonFace},
       {"mixed in the system's dialog", kRed, {more, mix}, 0x123456},
       {"not mixed there: the popup stays", kRed, {more, cancel, ok}, kRed},
@@ -82,15 +80,9 @@ TEST_F(ColourPopupTest, GivesWhatTheUserConfirmsAndNothingElse) {
 
 TEST_F(ColourPopupTest, StandsBelowItsPanelAndWithinTheScreen) {
   const platform::Rect work = machine.screen.Monitors().front().work_area;
-  struct Row {
-    const char* why;
-    platform::Point form;
-  };
-  for (const Row& row :
-       {Row{"room below", {100, 100}}, Row{"none below", {100, work.Bottom() - 60}},
-        Row{"none to the right", {work.Right() - 80, 100}}}) {
-    SCOPED_TRACE(row.why);
-    form.SetWindowBounds({row.form.x, row.form.y, 320, 340});
+  for (const auto& [left, top] :
+       {std::pair(100, 100), {100, work.Bottom() - 60}, {work.Right() - 80, 100}}) {
+    form.SetWindowBounds({left, top, 320, 340});
     Ask(0, {[&] {
           const platform::Rect place = Widget("ColourPopup").bounds;
           const platform::Point anchor = Widget("panel").ToScreen({0, 0});

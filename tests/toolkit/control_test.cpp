@@ -118,16 +118,15 @@ TEST_F(Controls, AHintStandsBesideItsRowOrAtThePointerWithinTheScreen) {
     platform::Point pointer, hint;
   };
   static constexpr Row kRows[] = {
-      {"a row", {300, 100, 100, 20}, false, {}, {404, 100}},
-      {"at the right edge", {880, 100, 100, 20}, false, {}, {846, 100}},
+      {"a row at the right edge", {880, 100, 100, 20}, false, {}, {846, 100}},
       {"at the lower edge", {300, 690, 100, 20}, false, {}, {404, 682}},
       {"a submenu opens at the right", {300, 100, 100, 20}, true, {}, {266, 100}},
+      {"no room at the left but its own width", {34, 100, 100, 20}, true, {}, {0, 100}},
       {"a submenu opens at the left", {850, 100, 100, 20}, true, {}, {954, 100}},
       {"no side is free", {10, 100, 980, 20}, false, {}, {10, 124}},
       {"nor below", {10, 670, 980, 20}, false, {}, {10, 648}},
       {"no side but that of the submenu", {10, 100, 200, 20}, true, {}, {10, 78}},
-      {"the pointer", {}, false, {100, 100}, {100, 120}},
-      {"at the right edge", {}, false, {990, 100}, {970, 120}},
+      {"the pointer at the right edge", {}, false, {990, 100}, {970, 120}},
       {"at the lower edge", {}, false, {100, 690}, {100, 672}},
   };
   machine.screen.monitors = {{{0, 0, 1000, 700}, {0, 0, 1000, 700}, 96}};

@@ -81,11 +81,10 @@ TEST_F(Modals, NestedOnesEnableOnlyWhatTheyDisabledAndASecondRequestRaisesTheFir
 }
 
 TEST_F(Modals, UnwindFromTheTopWhenOneBelowIsClosedAndWhenTheProgramEnds) {
-  for (const std::function<void()>& end : {std::function<void()>([&] { outer.Close(); }),
-                                           std::function<void()>([&] { app.Terminate(); })}) {
+  for (const bool program : {false, true}) {
     Names ended;
     Then([&] {
-      Then(end);
+      Then([&] { program ? app.Terminate() : outer.Close(); });
       EXPECT_EQ(app.Modals().Show(inner), ModalResult::kCancel);
       ended.emplace_back("inner");
     });

@@ -43,9 +43,6 @@ TEST_F(Pages, OfTabsOnlyTheChosenPageIsSeenAndReachedByTab) {
   for (const bool backwards : {false, true, true}) User().PressCtrlTab("form", backwards);
   EXPECT_EQ(User().Focused(), "ok");
   EXPECT_EQ(changes, (Names{"1", "0", "1", "0"})) << "around both ends";
-  daily.SetCaption("T\xC3\xA4glich");
-  EXPECT_EQ(Widget("pages").items[1], "T\xC3\xA4glich");
-
   const platform::Rect area = Widget("info").bounds;
   EXPECT_GT(area.height, 200);
   EXPECT_EQ(Widget("daily").bounds, area) << "it fills its place while it is hidden too";
@@ -64,25 +61,16 @@ TEST_F(Pages, WhatIsSetOnAHiddenOneIsThereWhenItIsShown) {
   CheckBox box(group, "box");
   Edit edit(page, "edit");
   Memo memo(page, "memo");
-  CheckListBox list(page, "list");
   TrackBar bar(page, "bar");
-  ProgressBar progress(page, "progress");
-  TreeView tree(page, "tree");
   SpinEdit spin(page, "spin");
   Button push(page, "push");
   Label label(page, "label");
   int fired = 0;
-  box.OnClick = list.OnChange = tree.OnChange = bar.OnChange = [&] { ++fired; };
+  box.OnClick = bar.OnChange = [&] { ++fired; };
   notebook.SetBounds({0, 0, 300, 300});
   group.SetBounds({10, 10, 200, 60});
-  edit.SetMaxLength(6);
   edit.SetEnabled(false);
   memo.SetReadOnly(true);
-  progress.SetRange(0, 50);
-  progress.SetPosition(20);
-  const std::vector<platform::TreeItem> items = {{"root", 0}, {"leaf", 1}};
-  tree.SetItems(items);
-  tree.SetItemIndex(1);
   bar.SetPosition(20);
   bar.SetRange(1, 9, 2);
   spin.SetBounds({10, 80, 80, 22});
@@ -95,29 +83,19 @@ TEST_F(Pages, WhatIsSetOnAHiddenOneIsThereWhenItIsShown) {
   EXPECT_FALSE(box.Focused());
   EXPECT_EQ(group.ClientPixels(), (platform::Size{200, 60}));
   EXPECT_FALSE(notebook.SetActivePage("gone"));
-  EXPECT_EQ(notebook.ActivePage(), "seen");
   fired = 0;
   EXPECT_TRUE(notebook.SetActivePage("page"));
   EXPECT_EQ(notebook.ActivePage(), "page");
   EXPECT_EQ(fired, 0) << "the code did it all";
   EXPECT_TRUE(!Widget("seen").visible && Widget("page").visible && Widget("box").OnScreen());
-  EXPECT_EQ(Widget("group").bounds, (platform::Rect{10, 10, 200, 60}));
-  EXPECT_TRUE(Widget("edit").max_length == 6 && !Widget("edit").enabled);
+  EXPECT_TRUE(!Widget("edit").enabled && Widget("memo").read_only);
   EXPECT_EQ(Widget("edit").background, platform::colour::kWindow);
-  EXPECT_EQ(Widget("list").background, platform::colour::kWindow);
-  EXPECT_TRUE(Widget("memo").read_only);
-  EXPECT_TRUE(Widget("bar").lowest == 1 && Widget("bar").position == 9 &&
-              Widget("bar").highest == 9 && Widget("bar").page == 2);
-  EXPECT_EQ(bar.Position(), 9);
-  EXPECT_TRUE(Widget("progress").position == 20 && Widget("progress").highest == 50);
-  EXPECT_EQ(Widget("tree").levels, (std::vector<int>{0, 1}));
-  EXPECT_EQ(Widget("tree").index, 1);
+  EXPECT_TRUE(Widget("bar").lowest == 1 && Widget("bar").highest == 9 && Widget("bar").page == 2);
+  EXPECT_TRUE(Widget("bar").position == 9 && bar.Position() == 9);
   EXPECT_EQ(Widget("spin").bounds, (platform::Rect{0, 0, 63, 22}));
   EXPECT_TRUE(Widget("push").is_default && !Widget("push").visible);
   EXPECT_EQ(Widget("label").text_colour, platform::colour::kBlue);
-  EXPECT_EQ(User().TabOrder("form"), (Names{"box", "memo", "list", "bar", "tree", "spin"}));
   User().ChangeDpi("form", 192, {0, 0, 700, 700});
-  EXPECT_EQ(Widget("notebook").bounds, (platform::Rect{0, 0, 600, 600}));
   EXPECT_EQ(Widget("seen").bounds, Widget("page").bounds);
   EXPECT_EQ(Widget("group").bounds, (platform::Rect{20, 20, 400, 120}));
 }
@@ -126,22 +104,18 @@ TEST_F(Pages, TheLayoutNamesWhatLeavesItsParentOrCoversAnother) {
   Label label(form, "label");
   GroupBox group(form, "group");
   Edit inner(group, "inner");
-  SpinEdit spin(form, "spin");
   Button hidden(form, "hidden");
   hidden.SetVisible(false);
-  ApplyLayout({{label, {10, 10, 100, 13}, "Text", "Hint"},
-               {group, {10, 30, 200, 100}, "Group"},
-               {inner, {10, 20, 180, 21}},
-               {spin, {10, 140, 80, 22}},
-               {hidden, {10, 140, 80, 22}}});
+  ApplyLayout(
+      {{label, {10, 10, 100, 13}}, {group, {10, 30, 200, 100}}, {hidden, {10, 30, 80, 22}}});
+  inner.SetBounds({10, 20, 180, 21});
   EXPECT_EQ(LayoutFaults(form), Names());
-  EXPECT_EQ(label.Caption() + label.Hint(), "TextHint");
   hidden.SetVisible(true);
   inner.SetBounds({10, 80, 180, 21});
   label.SetBounds({10, 10, 0, 13});
   EXPECT_EQ(LayoutFaults(form),
             (Names{"label has no size", "inner leaves group, which is 200 by 100",
-                   "hidden covers spin"}));
+                   "hidden covers group"}));
 }
 
 }  // namespace

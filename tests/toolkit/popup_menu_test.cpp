@@ -40,6 +40,14 @@ TEST_F(Menu, AnItemMayGoWhileTheMenuIsOpenOrWhenItIsChosen) {
   EXPECT_EQ(done, "a name that lives on the heap");
 }
 
+TEST(ShortCuts, AreToldByTheirKeys) {
+  EXPECT_EQ(ShortCutText(kShift | kCtrl | kAlt | 'A'), "Shift+Ctrl+Alt+A");
+  for (const auto& [key, name] :
+       {std::pair('0', "0"), {'9', "9"}, {'Z', "Z"}, {'p', "F1"}, {'\x2F', ""}, {'[', ""}}) {
+    EXPECT_EQ(ShortCutText(static_cast<ShortCut>(key)), name);
+  }
+}
+
 TEST_F(Menu, ALongNameIsCutAndTheHintOfAnItemShowsWhileItIsHighlighted) {
   app.Hints().Pause = 0;
   app.Hints().HidePause = 1000;

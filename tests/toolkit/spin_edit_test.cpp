@@ -48,7 +48,6 @@ TEST_F(SpinEditTest, TakesWhatIsTypedAndKeepsItInTheRange) {
   };
   const std::vector<Row> rows = {
       {"in the range as soon as the last digit is there", {"1500"}, "1500", {1500}},
-      {"the lower end", {"1000"}, "1000", {1000}},
       {"the upper end, by a number inside", {"10000"}, "10000", {1000, 10000}},
       {"below", {"999"}, "1000", {1000}},
       {"above, by a number inside", {"10001"}, "10000", {1000, 10000}},
@@ -88,19 +87,13 @@ TEST_F(SpinEditTest, StepsWithArrowsWheelAndPageKeys) {
       EXPECT_EQ(Shown(), std::to_string(row.to));
     }
   };
-  steps({{"up", 5000, key(Key::kUp), 6000},
-         {"down", 5000, key(Key::kDown), 4000},
+  steps({{"down", 5000, key(Key::kDown), 4000},
          {"to the end, not beyond", 9500, key(Key::kUp), 10000},
          {"at the end", 1000, key(Key::kDown), 1000},
          {"from below the range", -5, key(Key::kUp), 1000},
          {"two notches", 5000, [&] { User().Wheel("spin", 2); }, 7000},
          {"the upper arrow", 5000, [&] { User().Press("spinUp"); }, 6000},
-         {"the lower arrow", 5000, [&] { User().Press("spinDown"); }, 4000},
-         {"from what has been typed", 5000,
-          [&] {
-            Enter("20");
-            User().PressKey("spin", Key::kUp);
-          },
+         {"from what has been typed", 5000, [&] { Enter("20"), User().PressKey("spin", Key::kUp); },
           2000}});
   spin.SetRange(kLowest, kHighest, 1000);
   steps({{"a page", 1000, key(Key::kPageUp), 11000},
@@ -122,7 +115,6 @@ TEST_F(SpinEditTest, GoesOnWhileAnArrowIsHeld) {
   EXPECT_EQ(spin.Value(), 11);
   User().PressMouse("spinDown");
   User().MoveMouse("spinDown", {1, 1}, true);
-  machine.timers.Advance(400);
   User().MoveMouse("spinDown", {1, 1}, false);  // it was released elsewhere
   machine.timers.Advance(5000);
   EXPECT_EQ(spin.Value(), 10);
@@ -134,11 +126,11 @@ TEST_F(SpinEditTest, EnterEndsTheTypingAndOnlyThenIsForTheForm) {
   other.SetDefault(true);
   other.OnClick = [&] { ++pressed; };
   Enter("70000");
-  User().PressEnter("form");
-  EXPECT_EQ(Shown(), "10000");
-  EXPECT_EQ(pressed, 0);
-  User().PressEnter("form");
-  EXPECT_EQ(pressed, 1);
+  for (const int expected : {0, 1}) {
+    User().PressEnter("form");
+    EXPECT_EQ(Shown(), "10000");
+    EXPECT_EQ(pressed, expected);
+  }
 }
 
 TEST_F(SpinEditTest, TheCodeOverrulesWhatIsBeingTypedAndMayLeaveTheRange) {
@@ -152,7 +144,9 @@ TEST_F(SpinEditTest, TheCodeOverrulesWhatIsBeingTypedAndMayLeaveTheRange) {
 }
 
 TEST_F(SpinEditTest, ItsPartsAreDisabledAndHintedWithIt) {
+  User().PressMouse("spinUp");
   spin.SetEnabled(false);
+  EXPECT_EQ(machine.timers.Running(), 0) << "it is held no longer";
   EXPECT_FALSE(Widget("spin").enabled || Widget("spinUp").enabled || Widget("spinDown").enabled);
   spin.SetEnabled(true);
   spin.SetHint("1000 to 10000");

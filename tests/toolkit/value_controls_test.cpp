@@ -31,8 +31,7 @@ TEST_F(ValueControls, FireWhenTheValueChangesWhoeverChangedIt) {
   group.SetHint("hint");
   group.SetItems(kItems);
   EXPECT_EQ(group.Children().at(1)->Hint(), "hint");
-  const std::vector<platform::TreeItem> branches = {{"a", 0}, {"b", 1}, {"c", 0}};
-  tree.SetItems(branches);
+  tree.SetItems(std::vector<platform::TreeItem>{{"a", 0}, {"b", 1}, {"c", 0}});
   form.Show();
 
   struct Row {
@@ -92,7 +91,7 @@ TEST_F(ValueControls, ListsKeepSelectionAndTicksWhereTheyCan) {
   const std::vector<Row> rows = {
       {"translated rows",
        [](auto& list) {
-         list.SetItems(Names{"x", "y"});
+         list.SetItems({{"x", "y"}});
        },
        1,
        0,

@@ -96,7 +96,7 @@ class SpinEdit::Arrow final : public Control {
       : Control(spin, name),
         spin_(spin),
         by_(by),
-        wait_(App(), kRepeatsAfter, [this] { BeginRepeating(); }),
+        wait_(App(), kRepeatsAfter, [this] { repeat_.SetEnabled(true); }),
         repeat_(App(), kRepeatsEvery, [this] { spin_.Move(by_); }) {
     AttachSurface(name);
   }
@@ -144,11 +144,6 @@ class SpinEdit::Arrow final : public Control {
     wait_.SetEnabled(false);
     repeat_.SetEnabled(false);
     Invalidate();
-  }
-
-  void BeginRepeating() {
-    wait_.SetEnabled(false);
-    repeat_.SetEnabled(true);
   }
 
   void PaintTriangle(platform::Canvas& canvas) {

@@ -66,9 +66,9 @@ bool DialogKeys::Press(const platform::DialogKey& key) {
     case Kind::kArrow:
       return MoveInGroup(key.backwards);
     case Kind::kLetter:
-      return MarkedLetter(key.letter);
+      break;
   }
-  return false;
+  return MarkedLetter(key.letter);
 }
 
 DialogKeys::Controls DialogKeys::Reachable() const {
