@@ -4,7 +4,7 @@
 
 #include "platform/windows/services/services.h"
 #include "platform/windows/system_error.h"
-#include "platform/windows/wide.h"
+#include "platform/windows/wide_text.h"
 #include "platform/windows/win32.h"
 
 namespace desktop {
