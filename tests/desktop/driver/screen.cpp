@@ -10,7 +10,7 @@ using std::max;  // NOLINT(misc-unused-using-decls)
 using std::min;  // NOLINT(misc-unused-using-decls)
 #include <gdiplus.h>
 
-#include "platform/windows/drawing/gdi.h"
+#include "platform/windows/drawing/graphics.h"
 #include "platform/windows/system_error.h"
 #include "tests/desktop/driver/windows_of.h"
 

@@ -3,12 +3,11 @@
 
     network_line.py [--optional] command...
 
-The command runs in a network of its own, in which nothing else moves. Tests plug adapters in and
-out and let them receive and send by the lines that they write to a port on the loopback, whose
+The command runs in a network of its own, in which nothing else moves. Tests plug adapters in
+and let them receive and send by the lines that they write to a port on the loopback, whose
 number is in the environment variable TREMOLUX_TEST_LINE:
 
     add NAME          an adapter appears
-    remove NAME       and goes
     move NAME IN OUT  so many bytes come in and so many go out, in one packet or more
 
 Each is answered with "ok" when it has happened, or with what went wrong. It takes Linux, and the
@@ -126,14 +125,12 @@ class Line(socketserver.StreamRequestHandler):
             except Exception as error:  # whatever it is, the test must hear of it
                 answer = f"{type(error).__name__}: {error}"
             self.wfile.write(answer.encode() + b"\n")
-        for name in list(self.adapters):
-            self.adapters.pop(name).close()
+        while self.adapters:
+            self.adapters.popitem()[1].close()
 
     def perform(self, word, name, received="0", sent="0"):
         if word == "add":
             self.adapters[name] = Adapter(name, len(self.adapters))
-        elif word == "remove":
-            self.adapters.pop(name).close()
         elif word == "move":
             self.adapters[name].receive(int(received))
             self.adapters[name].send(int(sent))
