@@ -45,7 +45,6 @@ struct WidgetState {
   WidgetState* parent = nullptr;  // null for a top window
   // How often a repaint was asked for, and how often the text changed, since a test last reset the
   // counts.
-  int invalidated = 0;
   int text_changes = 0;
 
   // Texts.

@@ -1,7 +1,6 @@
 // Windows and controls that record what is done to them and let tests play the user.
 #pragma once
 
-#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -131,10 +130,8 @@ class Windowing final : public platform::Windowing {
 
   // The system's doings.
   void ChangeDpi(std::string_view window, int dpi, const Rect& bounds);
-  // For all windows.
-  void ChangeSettings();
-  void Resume();
-  void EndSession();
+  // Tells all windows, such as of OnResume.
+  void Tell(void (TopWindowEvents::*report)());
 
   // Visible or not, in order of creation.
   [[nodiscard]] std::vector<const WidgetState*> TopWindows() const;
@@ -163,7 +160,6 @@ class Windowing final : public platform::Windowing {
   void EnterLetter(WidgetState& edit, std::string_view letter);
   // Tells the window of a key; true when it is done with.
   bool Report(std::string_view window, const DialogKey& key);
-  void ForAllWindows(const std::function<void(TopWindowEvents&)>& report);
 };
 
 }  // namespace platform::memory

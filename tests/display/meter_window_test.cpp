@@ -232,7 +232,7 @@ TEST_F(MeterWindow, OtherColoursOfTheSystemShowAtOnce) {
     };
     EXPECT_FALSE(shows());
     machine.screen.scheme[15] = kOther;  // that of buttons
-    User().ChangeSettings();
+    User().Tell(&platform::TopWindowEvents::OnSettingChange);
     EXPECT_TRUE(shows());
   });
 }

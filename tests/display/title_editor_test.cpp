@@ -40,7 +40,7 @@ TEST_F(TitleEditor, KeepsWhatWasEditedWhicheverWayItCloses) {
       {"Esc", [&] { User().PressEsc(kAddTitlesForm); }},
       {"the session ends",
        [&] {
-         User().EndSession();
+         User().Tell(&platform::TopWindowEvents::OnEndSession);
          EXPECT_EQ(File(), "old\r\nnew\r\n") << "the process may be gone now";
        }},
   };
