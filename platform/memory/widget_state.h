@@ -37,7 +37,6 @@ struct WidgetState {
   Size frame;           // width and height that frame and caption take on all sides together
   bool visible = false;
   bool enabled = true;
-  bool focused = false;  // has the keyboard
   FontStyle font;
   Colour text_colour = colour::kWindowText;
   Colour background = colour::kButtonFace;

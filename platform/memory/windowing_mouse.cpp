@@ -107,10 +107,6 @@ void Windowing::Drag(std::string_view window, Point to) {
   state.top_events->OnDragEnded();
 }
 
-void Windowing::Place(std::string_view window, const Rect& bounds) {
-  Find(window).window->SetBounds(bounds);
-}
-
 void Windowing::ClickCloseBox(std::string_view window) {
   if (WidgetState* state = Reach(window, Kind::kTopWindow)) {
     state->top_events->OnClose();

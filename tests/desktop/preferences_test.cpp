@@ -67,10 +67,6 @@ TEST_F(Preferences, EachKindOfControlWritesAndTheMeterFollows) {
   Type("999");
   PressKey(VK_TAB);
   AwaitStored("PulseWidth", "dword 50");
-  ChoosePage(window, PageRow::kTextOther);
-  ClickOn(window, L"chkConnLength");
-  AwaitStored("SOM2", "dword 0");
-  Await("the shorter line", [&] { return meter.LineText().find("Average") == std::string::npos; });
 }
 
 TEST_F(Preferences, OnceLockedTheyAndTheExitWantThePassword) {

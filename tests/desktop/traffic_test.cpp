@@ -1,5 +1,7 @@
 // The figures against bytes that the test itself moves, one way and to the byte. Where no adapter
 // can be made the test is skipped.
+#include "tests/desktop/driver/traffic.h"
+
 #include <algorithm>
 
 #include "tests/desktop/driver/network_line.h"
@@ -14,7 +16,8 @@ class Traffic : public ProgramTest {
     if (!line_.Available()) GTEST_SKIP() << "no adapter can be made here";
     ProgramTest::SetUp();
     // The tests talk to the line through the loopback, which therefore does not count.
-    CountNothing();
+    for (const AdapterRow& row : ReadAdapters()) Store(row.name, 0U);
+    Store("ExecuteTime", 1U);  // else the first start lets all of them count
   }
 
   // Moves bytes right behind the program's measuring, so that they fall into the next scan.
@@ -54,7 +57,7 @@ TEST_F(Traffic, OfACardThatComesIsCountedToTheByteAlsoAfterARestart) {
   AwaitScans(3);
   EXPECT_TRUE(Lists(*meter));
   EXPECT_EQ(Setting("ExecuteTime"), "dword 3") << "the window was initialised again, once";
-  ExpectTotals(0, 0);  // what the card had moved before is no traffic
+  EXPECT_EQ(Setting("CurrentMonthTotalDL"), "text 0") << "what the card had moved before";
 
   Store("SOM2", 0U);
   Store("SOM3", 1U);

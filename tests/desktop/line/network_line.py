@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Runs a command with a network line of its own, on which every byte is one that a test asked for.
 
-    network_line.py [--optional] command...
+    network_line.py command...
 
 The command runs in a network of its own, in which nothing else moves. Tests plug adapters in
 and let them receive and send by the lines that they write to a port on the loopback, whose
@@ -11,8 +11,7 @@ number is in the environment variable TREMOLUX_TEST_LINE:
     move NAME IN OUT  so many bytes come in and so many go out, in one packet or more
 
 Each is answered with "ok" when it has happened, or with what went wrong. It takes Linux, and the
-rights to make a network: without them the result is 77, or with --optional the command runs without
-such a line.
+rights to make a network: without them the command runs without such a line.
 """
 import ctypes
 import fcntl
@@ -23,8 +22,6 @@ import struct
 import subprocess
 import sys
 import threading
-
-NO_RIGHTS = 77
 
 CLONE_NEWUSER = 0x10000000
 CLONE_NEWNET = 0x40000000
@@ -140,15 +137,12 @@ class Line(socketserver.StreamRequestHandler):
 
 def main():
     command = sys.argv[1:]
-    optional = command[:1] == ["--optional"]
-    if optional:
-        command = command[1:]
     try:
         enter_own_network()
         Adapter("probe", 250).close()
     except OSError as error:
         print(f"no rights to make a network: {error}", file=sys.stderr)
-        return subprocess.call(command) if optional else NO_RIGHTS
+        return subprocess.call(command)
     with socketserver.TCPServer(("127.0.0.1", 0), Line) as server:
         threading.Thread(target=server.serve_forever, daemon=True).start()
         environment = dict(os.environ, TREMOLUX_TEST_LINE=str(server.server_address[1]))
