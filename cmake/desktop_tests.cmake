@@ -15,7 +15,7 @@ endif()
 if(CMAKE_CROSSCOMPILING AND PYTHON)
   # Adapters of the tests' own need a network of their own, and Wine all in it.
   add_test(NAME desktop_tests
-           COMMAND ${PYTHON} ${CMAKE_SOURCE_DIR}/tests/desktop/line/network_line.py --optional sh -c
+           COMMAND ${PYTHON} ${CMAKE_SOURCE_DIR}/tests/desktop/line/network_line.py sh -c
                    "'${WINESERVER}' --kill; '${WINE}' '$<TARGET_FILE:desktop_tests>' \
 --gtest_brief=1; result=$?; '${WINESERVER}' --kill; exit $result")
 

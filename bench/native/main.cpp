@@ -101,8 +101,8 @@ void CountRegistry(int adapters, Report& report) {
   const std::string rows = std::to_string(adapters) + " persisted rows: registry ";
   report.Exactly(rows + "round trips a scan", traffic.round_trips, "",
                  adapters * round_trips::kAdapter + round_trips::kMachine);
-  report.Note(rows + "reads", traffic.Reads(), "");
-  report.Note(rows + "writes", traffic.Writes(), "");
+  report.Note(rows + "reads", traffic.reads, "");
+  report.Note(rows + "writes", traffic.writes, "");
 }
 
 int Main(int argc, char** argv) {

@@ -1,7 +1,6 @@
 #include "platform/memory/canvas.h"
 
 #include <algorithm>
-#include <array>
 #include <cstdlib>
 #include <span>
 
@@ -11,39 +10,6 @@ namespace platform::memory {
 namespace {
 
 constexpr int kLargestSide = 16384;
-
-// Returns the numbers of pixels that a pen one pixel wide paints and leaves out, in turns.
-std::span<const int> DashesOf(PenStyle style) {
-  static constexpr std::array<int, 2> kDash = {18, 6};
-  static constexpr std::array<int, 2> kDot = {3, 3};
-  static constexpr std::array<int, 4> kDashDot = {9, 6, 3, 6};
-  static constexpr std::array<int, 6> kDashDotDot = {9, 3, 3, 3, 3, 3};
-  switch (style) {
-    case PenStyle::kSolid:
-      return {};
-    case PenStyle::kDash:
-      return kDash;
-    case PenStyle::kDot:
-      return kDot;
-    case PenStyle::kDashDot:
-      return kDashDot;
-    case PenStyle::kDashDotDot:
-      return kDashDotDot;
-  }
-  return {};
-}
-
-bool PenIsDown(std::span<const int> dashes, int step) {
-  if (dashes.empty()) return true;
-  int length = 0;
-  for (const int dash : dashes) length += dash;
-  int rest = step % length;
-  for (std::size_t i = 0; i < dashes.size(); ++i) {
-    if (rest < dashes[i]) return i % 2 == 0;
-    rest -= dashes[i];
-  }
-  return true;
-}
 
 int LetterWidth(const FontStyle& font) { return std::max(1, font.height * 6 / 10); }
 
@@ -83,7 +49,7 @@ void Raster::Fill(const Rect& area, Colour colour) {
 
 void Raster::Line(Point from, Point to, Colour colour, PenStyle style) {
   const Colour rgb = screen_.Resolve(colour);
-  const std::span<const int> dashes = DashesOf(style);
+  const int dash = 1 + static_cast<int>(style);  // each broken line looks different
   const int dx = std::abs(to.x - from.x);
   const int dy = std::abs(to.y - from.y);
   const int step_x = from.x < to.x ? 1 : -1;
@@ -91,7 +57,7 @@ void Raster::Line(Point from, Point to, Colour colour, PenStyle style) {
   int error = dx - dy;
   Point at = from;
   for (int step = 0; at != to; ++step) {
-    if (PenIsDown(dashes, step)) Set(at, rgb);
+    if (style == PenStyle::kSolid || step % (2 * dash) < dash) Set(at, rgb);
     const int doubled = 2 * error;
     if (doubled > -dy) {
       error -= dy;

@@ -13,14 +13,13 @@ class Clipboard : public platform::Clipboard {
   explicit Clipboard(Notebook& notebook) : notebook_(notebook) {}
 
   bool SetText(std::string_view new_text) override {
-    if (notebook_.Fails() || held_by_other) return false;
+    if (notebook_.Fails()) return false;
     text = new_text.substr(0, new_text.find('\0'));
     ++changes;
     return true;
   }
 
   std::string text;
-  bool held_by_other = false;
   int changes = 0;
 
  private:

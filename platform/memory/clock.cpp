@@ -15,12 +15,8 @@ DateTime Clock::Now() {
   // encoded one.
   const auto in_day = std::llround(TimeOf(base_) * static_cast<double>(kMillisecondsPerDay));
   const std::int64_t total = in_day + since_base_;
-  std::int64_t days = total / kMillisecondsPerDay;
-  std::int64_t rest = total % kMillisecondsPerDay;
-  if (rest < 0) {
-    --days;
-    rest += kMillisecondsPerDay;
-  }
+  const std::int64_t days = total / kMillisecondsPerDay - (total % kMillisecondsPerDay < 0 ? 1 : 0);
+  const std::int64_t rest = total - days * kMillisecondsPerDay;
   const DateTime date = DateOf(base_) + static_cast<double>(days);
   const double fraction = static_cast<double>(rest) / static_cast<double>(kMillisecondsPerDay);
   return date < 0 ? date - fraction : date + fraction;

@@ -22,7 +22,6 @@ void Desktop::MoveFocus(WidgetState* to) {
   WidgetState* from = std::exchange(focused_, to);
   if (from == to) return;
   if (to != nullptr) {
-    to->focused = true;
     const WidgetState& top = TopOf(*to);
     const Point at = to->ToScreen({0, 0});
     const Point origin = top.ToScreen({0, 0});
@@ -30,7 +29,6 @@ void Desktop::MoveFocus(WidgetState* to) {
         {at.x - origin.x, at.y - origin.y, to->bounds.width, to->bounds.height});
   }
   if (from != nullptr) {
-    from->focused = false;
     from->all_selected = false;
     if (from->kind == WidgetState::Kind::kEdit) from->events->OnFocusLost();
   }

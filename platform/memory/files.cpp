@@ -25,13 +25,7 @@ std::string FoldFolder(std::string_view folder) {
 
 }  // namespace
 
-Files::Files(Notebook& notebook) : notebook_(notebook) {
-  SetProgramPath("C:\\Program Files\\Korvane Tremolux\\Tremolux.exe");
-}
-
-std::string Files::ProgramFolder() { return std::string(FolderOf(program_path_)) + '\\'; }
-
-bool Files::Exists(std::string_view path) { return files_.contains(FoldCase(path)); }
+Files::Files(Notebook& notebook) : notebook_(notebook) { Put(ProgramPath(), "MZ"); }
 
 bool Files::Missing(std::string_view path) {
   return !Exists(path) && !folders_.contains(FoldFolder(path));
@@ -92,12 +86,6 @@ std::vector<std::string> Files::List(std::string_view folder, std::string_view m
   return names;
 }
 
-void Files::SetProgramPath(std::string_view path) {
-  program_path_ = path;
-  AddFolder(FolderOf(path));
-  Put(path, "MZ");
-}
-
 void Files::AddFolder(std::string_view folder) {
   for (; !folder.empty(); folder = FolderOf(folder)) folders_.insert(FoldFolder(folder));
 }
@@ -119,25 +107,17 @@ std::optional<std::string> Files::Bytes(std::string_view path) const {
 }
 
 std::optional<std::string> Files::BytesBesideProgram(std::string_view name) const {
-  return Bytes(std::string(FolderOf(program_path_)) + '\\' + std::string(name));
+  return Bytes(kProgramFolder + std::string(name));
 }
 
 void Files::Remove(std::string_view path) { files_.erase(FoldCase(path)); }
 
 void Files::SetWritable(std::string_view path, bool writable) {
-  if (writable) {
-    unwritable_.erase(FoldFolder(path));
-  } else {
-    unwritable_.insert(FoldFolder(path));
-  }
+  writable ? unwritable_.erase(FoldFolder(path)) : unwritable_.insert(FoldFolder(path)).second;
 }
 
 void Files::SetHeld(std::string_view path, bool held) {
-  if (held) {
-    held_.insert(FoldCase(path));
-  } else {
-    held_.erase(FoldCase(path));
-  }
+  held ? held_.insert(FoldCase(path)).second : held_.erase(FoldCase(path));
 }
 
 }  // namespace platform::memory

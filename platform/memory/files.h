@@ -15,9 +15,11 @@ class Files : public platform::Files {
  public:
   explicit Files(Notebook& notebook);
 
-  [[nodiscard]] std::string ProgramPath() override { return program_path_; }
-  [[nodiscard]] std::string ProgramFolder() override;
-  [[nodiscard]] bool Exists(std::string_view path);
+  [[nodiscard]] std::string ProgramPath() override {
+    return kProgramFolder + std::string("Tremolux.exe");
+  }
+  [[nodiscard]] std::string ProgramFolder() override { return kProgramFolder; }
+  [[nodiscard]] bool Exists(std::string_view path) const { return Bytes(path).has_value(); }
   [[nodiscard]] bool Missing(std::string_view path) override;
   [[nodiscard]] std::optional<std::uint64_t> Size(std::string_view path) override;
   [[nodiscard]] std::optional<std::string> Load(std::string_view path, std::size_t limit) override;
@@ -29,7 +31,6 @@ class Files : public platform::Files {
 
   // The functions that follow are for tests: they are not counted and never fail.
 
-  void SetProgramPath(std::string_view path);
   void AddFolder(std::string_view folder);
   // Makes a file, and its folder when that is missing.
   void Put(std::string_view path, std::string_view bytes);
@@ -48,6 +49,8 @@ class Files : public platform::Files {
   int saves = 0;
 
  private:
+  static constexpr char kProgramFolder[] = "C:\\Program Files\\Korvane Tremolux\\";
+
   [[nodiscard]] bool CanBeWritten(std::string_view path) const;
 
   struct File {
@@ -56,7 +59,6 @@ class Files : public platform::Files {
   };
 
   Notebook& notebook_;
-  std::string program_path_;
   // The key is the folded path; folders have no backslash at their end.
   std::map<std::string, File> files_;
   std::set<std::string> folders_;

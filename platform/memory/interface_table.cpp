@@ -12,7 +12,7 @@ constexpr std::uint32_t kGeneralFailure = 31;  // ERROR_GEN_FAILURE
 }  // namespace
 
 InterfaceRow MakeRow(std::string_view description, std::initializer_list<std::uint8_t> mac,
-                     std::uint32_t mtu, std::uint32_t speed, DescriptionLength length) {
+                     std::uint32_t mtu, std::uint32_t speed) {
   InterfaceRow row;
   row.dwType = 6;  // Ethernet
   row.dwMtu = mtu;
@@ -26,8 +26,7 @@ InterfaceRow MakeRow(std::string_view description, std::initializer_list<std::ui
   const std::string_view kept = description.substr(0, row.bDescr.size() - 1);
   std::transform(kept.begin(), kept.end(), row.bDescr.begin(),
                  [](char c) { return static_cast<std::uint8_t>(c); });
-  row.dwDescrLen =
-      static_cast<std::uint32_t>(kept.size()) + (length == DescriptionLength::kCountsNul ? 1U : 0U);
+  row.dwDescrLen = static_cast<std::uint32_t>(kept.size()) + 1;
   return row;
 }
 
@@ -41,28 +40,26 @@ std::uint32_t InterfaceTable::Read(std::span<std::byte> buffer, std::uint32_t& s
   const std::size_t needed = kInterfaceTableHead + rows.size() * sizeof(InterfaceRow);
   size = static_cast<std::uint32_t>(needed);
   if (buffer.size() < needed) {
-    if (after_size_read_) std::exchange(after_size_read_, nullptr)();
+    if (after_size_read) std::exchange(after_size_read, nullptr)();
     return kInsufficientBuffer;
   }
   const auto count = static_cast<std::uint32_t>(rows.size());
   std::memcpy(buffer.data(), &count, sizeof count);
-  if (count > 0) {
-    std::memcpy(buffer.data() + kInterfaceTableHead, rows.data(),
-                rows.size() * sizeof(InterfaceRow));
-  }
+  std::copy_n(std::as_bytes(std::span(rows)).begin(), needed - sizeof count,
+              buffer.begin() + sizeof count);
   return 0;
 }
 
 std::optional<bool> InterfaceTable::IsFilter(std::uint32_t index) {
   ++filter_questions;
   if (notebook_.Fails() || RowOf(index) == nullptr) return std::nullopt;
-  return filters_.contains(index);
+  return filters.contains(index);
 }
 
 std::optional<LongOctets> InterfaceTable::Octets(std::uint32_t index) {
   ++octet_questions;
   const InterfaceRow* row = RowOf(index);
-  if (notebook_.Fails() || row == nullptr || hidden_.contains(index)) return std::nullopt;
+  if (notebook_.Fails() || row == nullptr || hidden.contains(index)) return std::nullopt;
   const LongOctets& wrapped = wrapped_[index];
   return LongOctets{wrapped.in + row->dwInOctets, wrapped.out + row->dwOutOctets};
 }

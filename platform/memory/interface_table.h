@@ -15,16 +15,13 @@
 namespace platform::memory {
 
 // Whether `dwDescrLen` counts the terminating NUL: it does on Windows and not under Wine.
-enum class DescriptionLength { kCountsNul, kWithoutNul };
-
 // Returns a row of an Ethernet card whose counters stand at zero.
 //   description  bytes in the system's code page, cut at 255
 //   mac          the hardware address, of which the first 8 bytes are taken; may be empty
 [[nodiscard]] InterfaceRow MakeRow(std::string_view description,
                                    std::initializer_list<std::uint8_t> mac = {0x00, 0x1A, 0x2B,
                                                                               0x3C, 0x4D, 0x5E},
-                                   std::uint32_t mtu = 1500, std::uint32_t speed = 1000000000,
-                                   DescriptionLength length = DescriptionLength::kCountsNul);
+                                   std::uint32_t mtu = 1500, std::uint32_t speed = 1000000000);
 
 class InterfaceTable : public platform::InterfaceTable {
  public:
@@ -42,16 +39,16 @@ class InterfaceTable : public platform::InterfaceTable {
   void RemoveRow(std::size_t position);
   // Adds bytes to the counters of a row, which wrap at 2^32.
   void AddTraffic(std::size_t position, std::uint32_t received, std::uint32_t sent);
-  // Marks an interface as a lightweight filter on another one.
-  void MarkFilter(std::uint32_t index) { filters_.insert(index); }
-  // From now on the system does not tell this interface's octets in 64 bits.
-  void HideOctets(std::uint32_t index) { hidden_.insert(index); }
+  // Interfaces, by dwIndex: lightweight filters on others, and those whose octets the system does
+  // not tell in 64 bits.
+  std::set<std::uint32_t> filters;
+  std::set<std::uint32_t> hidden;
 
   // Makes the n-th Read from now (1 is the next) return `code` and do nothing.
   void FailRead(int n, std::uint32_t code) { failures_[reads + n] = code; }
-  // Runs `change` once, between the next Read that reports a buffer that is too small and the Read
+  // Runs once, between the next Read that reports a buffer that is too small and the Read
   // after it: the table may grow, shrink or become empty between asking for the size and reading.
-  void AfterNextSizeRead(std::function<void()> change) { after_size_read_ = std::move(change); }
+  std::function<void()> after_size_read;
 
   // The numbers of calls so far: of Read, IsFilter and Octets.
   int reads = 0;
@@ -63,10 +60,7 @@ class InterfaceTable : public platform::InterfaceTable {
 
   Notebook& notebook_;
   std::map<std::uint32_t, LongOctets> wrapped_;  // what the counters of a row lost, by dwIndex
-  std::set<std::uint32_t> filters_;
-  std::set<std::uint32_t> hidden_;
-  std::map<int, std::uint32_t> failures_;  // by the value of `reads` at which they happen
-  std::function<void()> after_size_read_;
+  std::map<int, std::uint32_t> failures_;        // by the value of `reads` at which they happen
   std::uint32_t last_index_ = 0;
 };
 

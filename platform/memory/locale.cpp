@@ -1,5 +1,7 @@
 #include "platform/memory/locale.h"
 
+#include <algorithm>
+
 #include "platform/memory/case_fold.h"
 #include "platform/text.h"
 
@@ -7,9 +9,8 @@ namespace platform::memory {
 namespace {
 
 std::string Padded(int number, std::size_t digits) {
-  std::string text = std::to_string(number);
-  if (text.size() < digits) text.insert(0, digits - text.size(), '0');
-  return text;
+  const std::string text = std::to_string(number);
+  return std::string(digits - std::min(digits, text.size()), '0') + text;
 }
 
 }  // namespace

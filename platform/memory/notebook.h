@@ -10,18 +10,10 @@ namespace platform::memory {
 // The number of registry calls of each kind since the last Restart. A call that failed or found
 // nothing counts like any other.
 struct RegistryTraffic {
-  int round_trips =
-      0;  // keys asked for: each is one opening, what is done with the key, one closing
-  int dword_reads = 0;
-  int text_reads = 0;
-  int binary_reads = 0;
-  int dword_writes = 0;
-  int text_writes = 0;
-  int binary_writes = 0;
-  int deletes = 0;
+  int round_trips = 0;  // keys asked for: opened, used and closed
+  int reads = 0;
+  int writes = 0;
 
-  [[nodiscard]] int Reads() const { return dword_reads + text_reads + binary_reads; }
-  [[nodiscard]] int Writes() const { return dword_writes + text_writes + binary_writes; }
   friend bool operator==(const RegistryTraffic&, const RegistryTraffic&) = default;
 };
 

@@ -1,6 +1,7 @@
 // A desktop of windows with titles: windows that tests put there, and the program's own.
 #pragma once
 
+#include <map>
 #include <string>
 #include <vector>
 
@@ -14,7 +15,6 @@ class OtherWindows final : public platform::OtherWindows {
  public:
   // A window of another program.
   struct Window {
-    WindowId id = 0;
     std::string title;
     bool hangs = false;    // never answers: a call that sets its title waits in vain
     bool refuses = false;  // belongs to a program with higher privileges
@@ -32,20 +32,18 @@ class OtherWindows final : public platform::OtherWindows {
 
   // The functions that follow are for tests.
   WindowId Add(std::string_view title);
-  void Remove(WindowId window);
+  void Remove(WindowId window) { windows_.erase(window); }
   // Throws std::out_of_range when there is no such window.
-  [[nodiscard]] Window& Find(WindowId window);
+  [[nodiscard]] Window& Find(WindowId window) { return windows_.at(window); }
 
   WindowId foreground = 0;
   // The number of calls of SetTitle.
   int sets = 0;
 
  private:
-  [[nodiscard]] Window* Lookup(WindowId window);
-
   Windowing& windowing_;
   Clock& clock_;
-  std::vector<Window> windows_;
+  std::map<WindowId, Window> windows_;
   WindowId last_id_ = 0;
 };
 

@@ -55,7 +55,7 @@ class PeerOf : public Interface, public Peer {
     if (state_.Reachable()) desktop_.MoveFocus(&state_);
   }
   [[nodiscard]] bool HasFocus() const override { return KeyboardIsIn(); }
-  void Invalidate() override { ++state_.invalidated; }
+  void Invalidate() override {}
   [[nodiscard]] Point ToScreen(Point client) const override { return state_.ToScreen(client); }
 };
 

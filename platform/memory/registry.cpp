@@ -98,33 +98,26 @@ class Registry::OpenKey : public RegistryKey {
       : notebook_(notebook), key_(std::move(key)), writable_(access != KeyAccess::kReadOnly) {}
 
   std::optional<std::uint32_t> ReadDword(std::string_view name) override {
-    ++notebook_.registry.dword_reads;
     return Read(name).AsDword();
   }
   std::optional<std::string> ReadText(std::string_view name) override {
-    ++notebook_.registry.text_reads;
     return Read(name).AsText();
   }
   std::optional<std::vector<std::byte>> ReadBinary(std::string_view name) override {
-    ++notebook_.registry.binary_reads;
     return Read(name).AsBinary();
   }
 
   void WriteDword(std::string_view name, std::uint32_t value) override {
-    ++notebook_.registry.dword_writes;
     Write(name, RegistryValue::Dword(value));
   }
   void WriteText(std::string_view name, std::string_view value) override {
-    ++notebook_.registry.text_writes;
     Write(name, RegistryValue::Text(value));
   }
   void WriteBinary(std::string_view name, std::span<const std::byte> value) override {
-    ++notebook_.registry.binary_writes;
     Write(name, RegistryValue::Binary(value));
   }
 
   bool Delete(std::string_view name) override {
-    ++notebook_.registry.deletes;
     if (notebook_.Fails() || key_->removed || !writable_) return false;
     return key_->values.erase(FoldCase(name)) > 0;
   }
@@ -132,11 +125,13 @@ class Registry::OpenKey : public RegistryKey {
  private:
   // Of no type where nothing is read.
   RegistryValue Read(std::string_view name) {
+    ++notebook_.registry.reads;
     if (notebook_.on_registry_read) notebook_.on_registry_read(name);
     const RegistryValue* value = notebook_.Fails() || key_->removed ? nullptr : key_->Value(name);
     return value == nullptr ? RegistryValue() : *value;
   }
   void Write(std::string_view name, RegistryValue value) {
+    ++notebook_.registry.writes;
     if (notebook_.on_registry_write) notebook_.on_registry_write(name);
     if (notebook_.Fails() || !writable_) throw std::runtime_error("RegSetValueEx: error 5");
     if (key_->removed) throw std::runtime_error("RegSetValueEx: error 1018");

@@ -18,8 +18,7 @@ namespace platform::memory {
 // The system's numbers of value types.
 enum class ValueType : std::uint32_t {
   kNone = 0,
-  kText = 1,        // REG_SZ
-  kExpandText = 2,  // REG_EXPAND_SZ
+  kText = 1,  // REG_SZ
   kBinary = 3,
   kDword = 4,
   kQword = 11,
@@ -61,12 +60,6 @@ class Registry : public platform::Registry {
   [[nodiscard]] bool Exists(std::string_view path, std::string_view name) const {
     return Raw(path, name).has_value();
   }
-  [[nodiscard]] std::optional<ValueType> TypeOf(std::string_view path,
-                                                std::string_view name) const {
-    const std::optional<RegistryValue> value = Raw(path, name);
-    return value ? std::optional(value->type) : std::nullopt;
-  }
-  // As a typed read gives it.
   [[nodiscard]] std::optional<std::uint32_t> Dword(std::string_view path,
                                                    std::string_view name) const {
     return Raw(path, name).value_or(RegistryValue()).AsDword();

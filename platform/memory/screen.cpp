@@ -2,33 +2,27 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <utility>
 
 namespace platform::memory {
 namespace {
 
-std::int64_t CommonArea(const Rect& a, const Rect& b) {
-  const int width = std::min(a.Right(), b.Right()) - std::max(a.left, b.left);
-  const int height = std::min(a.Bottom(), b.Bottom()) - std::max(a.top, b.top);
-  return width > 0 && height > 0 ? std::int64_t{width} * height : 0;
-}
-
-// Returns the square of the distance between two rectangles.
-std::int64_t Distance(const Rect& a, const Rect& b) {
-  const std::int64_t dx = std::max({0, a.left - b.Right(), b.left - a.Right()});
-  const std::int64_t dy = std::max({0, a.top - b.Bottom(), b.top - a.Bottom()});
-  return dx * dx + dy * dy;
+// Compares how near two monitors are to an area: by what they have in common with it, and by the
+// square of the distance.
+std::pair<std::int64_t, std::int64_t> Nearness(const Rect& a, const Rect& b) {
+  const std::int64_t width = std::min(a.Right(), b.Right()) - std::max(a.left, b.left);
+  const std::int64_t height = std::min(a.Bottom(), b.Bottom()) - std::max(a.top, b.top);
+  const std::int64_t dx = std::min<std::int64_t>(0, width);
+  const std::int64_t dy = std::min<std::int64_t>(0, height);
+  return {width > 0 && height > 0 ? width * height : 0, -(dx * dx + dy * dy)};
 }
 
 }  // namespace
 
 Monitor Screen::MonitorOf(const Rect& area) {
-  return *std::max_element(monitors.begin(), monitors.end(),
-                           [&area](const Monitor& a, const Monitor& b) {
-                             const std::int64_t common_a = CommonArea(area, a.bounds);
-                             const std::int64_t common_b = CommonArea(area, b.bounds);
-                             if (common_a != common_b) return common_a < common_b;
-                             return Distance(area, a.bounds) > Distance(area, b.bounds);
-                           });
+  return *std::max_element(monitors.begin(), monitors.end(), [&](const auto& a, const auto& b) {
+    return Nearness(area, a.bounds) < Nearness(area, b.bounds);
+  });
 }
 
 Colour Screen::Resolve(Colour colour) {

@@ -11,7 +11,6 @@ std::optional<std::string> SystemDialogs::OpenFile(const OpenFileRequest& reques
                                                    TopWindow& owner) {
   file_requests.push_back(request);
   Dialog dialog;
-  dialog.asks_for_file = true;
   Run(dialog, owner);
   auto* path = std::get_if<std::string>(&dialog.answer);
   return path != nullptr ? std::optional(std::move(*path)) : std::nullopt;
@@ -33,20 +32,6 @@ void SystemDialogs::Run(Dialog& dialog, TopWindow& owner) {
   open_.pop_back();
   if (was_enabled) owner.SetEnabled(true);
 }
-
-void SystemDialogs::Choose(std::string path) {
-  if (!Last().asks_for_file) throw std::logic_error("the open dialog asks for a colour");
-  End(std::move(path));
-}
-
-void SystemDialogs::Choose(Colour colour) {
-  if (Last().asks_for_file) throw std::logic_error("the open dialog asks for a file");
-  End(colour);
-}
-
-void SystemDialogs::Confirm() { Choose(Last().present); }
-
-void SystemDialogs::Cancel() { End({}); }
 
 void SystemDialogs::End(const Answer& answer) {
   Dialog& dialog = Last();

@@ -3,6 +3,7 @@
 
 #include <optional>
 #include <string>
+#include <utility>
 #include <variant>
 #include <vector>
 
@@ -24,11 +25,11 @@ class SystemDialogs final : public platform::SystemDialogs {
 
   // Act as the user in the dialog that was opened last; while it is disabled they do nothing. They
   // throw std::logic_error when no dialog is open, or one of the other kind.
-  void Choose(std::string path);
-  void Choose(Colour colour);
+  void Choose(std::string path) { End(std::move(path)); }
+  void Choose(Colour colour) { End(colour); }
   // Confirms the colour that the dialog shows.
-  void Confirm();
-  void Cancel();
+  void Confirm() { End(Last().present); }
+  void Cancel() { End({}); }
 
   [[nodiscard]] bool Open() const { return !open_.empty(); }
   [[nodiscard]] bool Enabled() const { return enabled_; }
@@ -39,7 +40,6 @@ class SystemDialogs final : public platform::SystemDialogs {
  private:
   using Answer = std::variant<std::monostate, std::string, Colour>;
   struct Dialog {
-    bool asks_for_file = false;
     Colour present = 0;
     bool ended = false;
     Answer answer;

@@ -37,7 +37,6 @@ struct WidgetState {
   Size frame;           // width and height that frame and caption take on all sides together
   bool visible = false;
   bool enabled = true;
-  bool focused = false;  // has the keyboard
   FontStyle font;
   Colour text_colour = colour::kWindowText;
   Colour background = colour::kButtonFace;
@@ -45,7 +44,6 @@ struct WidgetState {
   WidgetState* parent = nullptr;  // null for a top window
   // How often a repaint was asked for, and how often the text changed, since a test last reset the
   // counts.
-  int invalidated = 0;
   int text_changes = 0;
 
   // Texts.

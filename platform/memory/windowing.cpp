@@ -13,9 +13,7 @@ WidgetState& Windowing::Find(std::string_view name) {
 }
 
 bool Windowing::Exists(std::string_view name) const {
-  const std::vector<WidgetState*>& widgets = desktop_.Widgets();
-  return std::any_of(widgets.begin(), widgets.end(),
-                     [name](const WidgetState* state) { return state->name == name; });
+  return std::ranges::count(desktop_.Widgets(), name, &WidgetState::name) > 0;
 }
 
 std::vector<const WidgetState*> Windowing::TopWindows() const {

@@ -1,7 +1,6 @@
 // Windows and controls that record what is done to them and let tests play the user.
 #pragma once
 
-#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -115,26 +114,32 @@ class Windowing final : public platform::Windowing {
 
   // Keys in the window, wherever the keyboard is in it.
   void PressEnter(std::string_view window);
-  void PressEsc(std::string_view window);
-  void PressTab(std::string_view window, bool backwards = false);
-  void PressCtrlTab(std::string_view window, bool backwards = false);
+  void PressEsc(std::string_view window) { Report(window, {DialogKey::Kind::kEscape}); }
+  void PressTab(std::string_view window, bool backwards = false) {
+    Report(window, {DialogKey::Kind::kTab, backwards});
+  }
+  void PressCtrlTab(std::string_view window, bool backwards = false) {
+    Report(window, {DialogKey::Kind::kControlTab, backwards});
+  }
   // Alt and the letter that a control is marked with.
-  void PressAlt(std::string_view window, char letter);
+  void PressAlt(std::string_view window, char letter) {
+    Report(window, {DialogKey::Kind::kLetter, false, std::string(1, letter)});
+  }
   // An arrow key, upwards or down.
   void PressArrow(std::string_view window, bool backwards = false);
 
   // Moves a top window by dragging, in one go from where it is.
   void Drag(std::string_view window, Point to);
   // Moves or sizes a top window, within its limits.
-  void Place(std::string_view window, const Rect& bounds);
+  void Place(std::string_view window, const Rect& bounds) {
+    Find(window).window->SetBounds(bounds);
+  }
   void ClickCloseBox(std::string_view window);
 
   // The system's doings.
   void ChangeDpi(std::string_view window, int dpi, const Rect& bounds);
-  // For all windows.
-  void ChangeSettings();
-  void Resume();
-  void EndSession();
+  // Tells all windows, such as of OnResume.
+  void Tell(void (TopWindowEvents::*report)());
 
   // Visible or not, in order of creation.
   [[nodiscard]] std::vector<const WidgetState*> TopWindows() const;
@@ -163,7 +168,6 @@ class Windowing final : public platform::Windowing {
   void EnterLetter(WidgetState& edit, std::string_view letter);
   // Tells the window of a key; true when it is done with.
   bool Report(std::string_view window, const DialogKey& key);
-  void ForAllWindows(const std::function<void(TopWindowEvents&)>& report);
 };
 
 }  // namespace platform::memory

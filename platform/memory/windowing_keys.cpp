@@ -17,7 +17,7 @@ std::size_t Characters(const std::string& text) {
 void Windowing::Type(std::string_view name, std::string_view text) {
   WidgetState* edit = Reach(name, Kind::kEdit);
   if (edit == nullptr) return;
-  if (!edit->focused) desktop_.MoveFocus(edit);
+  desktop_.MoveFocus(edit);
   std::string rest = ValidUtf8(text);
   while (!rest.empty() && desktop_.Alive(edit)) {
     const std::string letter = CutCharacters(rest, 1);
@@ -44,7 +44,7 @@ void Windowing::PressKey(std::string_view name, Key key) {
   const bool box = found.kind == Kind::kList && found.list == ListKind::kBox;
   WidgetState* state = painted || box ? Reach(name) : Reach(name, Kind::kEdit);
   if (state == nullptr) return;
-  if (!state->focused) desktop_.MoveFocus(state);
+  desktop_.MoveFocus(state);
   if (key == Key::kEnter && Desktop::TakesDialogKeys(Desktop::TopOf(*state))) {
     PressEnter(Desktop::TopOf(*state).name);
   } else {
@@ -79,20 +79,6 @@ void Windowing::PressEnter(std::string_view window) {
 bool Windowing::Report(std::string_view window, const DialogKey& key) {
   const WidgetState* top = ReachDialog(window);
   return top != nullptr && top->top_events->OnDialogKey(key);
-}
-
-void Windowing::PressEsc(std::string_view window) { Report(window, {DialogKey::Kind::kEscape}); }
-
-void Windowing::PressTab(std::string_view window, bool backwards) {
-  Report(window, {DialogKey::Kind::kTab, backwards});
-}
-
-void Windowing::PressCtrlTab(std::string_view window, bool backwards) {
-  Report(window, {DialogKey::Kind::kControlTab, backwards});
-}
-
-void Windowing::PressAlt(std::string_view window, char letter) {
-  Report(window, {DialogKey::Kind::kLetter, false, std::string(1, letter)});
 }
 
 void Windowing::PressArrow(std::string_view window, bool backwards) {

@@ -1,5 +1,4 @@
 // What the mouse does to windows and controls, and the system to windows.
-#include <algorithm>
 #include <stdexcept>
 
 #include "platform/memory/windowing.h"
@@ -64,10 +63,6 @@ void Windowing::RightClick(std::string_view name, Point at) {
 }
 
 void Windowing::Press(std::string_view name) {
-  const Kind kind = Find(name).kind;
-  if (kind != Kind::kButton && kind != Kind::kText && kind != Kind::kSurface) {
-    throw std::logic_error(std::string(name) + " has no click");
-  }
   WidgetState* state = Reach(name);
   if (state == nullptr) return;
   PressMouse(name);
@@ -76,18 +71,12 @@ void Windowing::Press(std::string_view name) {
 }
 
 void Windowing::Choose(std::string_view name, int index) {
-  const Kind kind = Find(name).kind;
-  if (kind != Kind::kList && kind != Kind::kTree && kind != Kind::kTabs) {
-    throw std::logic_error(std::string(name) + " is no list");
-  }
   WidgetState* state = Reach(name);
   if (state == nullptr) return;
-  if (index < 0 || index >= static_cast<int>(state->items.size())) {
-    throw std::out_of_range(std::string(name) + " has no row " + std::to_string(index));
-  }
+  (void)state->items.at(static_cast<std::size_t>(index));  // throws when there is no such row
   desktop_.MoveFocus(state);
   // Lists report also the row that is selected already.
-  if (!desktop_.Alive(state) || (state->index == index && kind != Kind::kList)) return;
+  if (!desktop_.Alive(state) || (state->index == index && state->kind != Kind::kList)) return;
   state->Select(index);
   state->events->OnChanged();
 }
@@ -95,9 +84,6 @@ void Windowing::Choose(std::string_view name, int index) {
 void Windowing::Tick(std::string_view name, int row) {
   WidgetState* state = Reach(name, Kind::kList);
   if (state == nullptr) return;
-  if (state->list != ListKind::kCheckBox) {
-    throw std::logic_error(std::string(name) + " has no boxes");
-  }
   const auto at = static_cast<std::size_t>(row);
   state->row_checks.at(at) = !state->row_checks.at(at);
   state->events->OnRowChecked(row);
@@ -106,10 +92,9 @@ void Windowing::Tick(std::string_view name, int row) {
 void Windowing::Drag(std::string_view name, int position) {
   WidgetState* state = Reach(name, Kind::kTrackBar);
   if (state == nullptr) return;
-  const int placed = std::clamp(position, state->lowest, state->highest);
-  if (placed == state->position) return;
-  state->position = placed;
-  state->events->OnChanged();
+  const int before = state->position;
+  state->SetPosition(position);
+  if (state->position != before) state->events->OnChanged();
 }
 
 void Windowing::Drag(std::string_view window, Point to) {
@@ -120,10 +105,6 @@ void Windowing::Drag(std::string_view window, Point to) {
   state.window->SetBounds(bounds);
   state.dragging = false;
   state.top_events->OnDragEnded();
-}
-
-void Windowing::Place(std::string_view window, const Rect& bounds) {
-  Find(window).window->SetBounds(bounds);
 }
 
 void Windowing::ClickCloseBox(std::string_view window) {
@@ -138,23 +119,11 @@ void Windowing::ChangeDpi(std::string_view window, int dpi, const Rect& bounds) 
   state.top_events->OnDpiChanged(dpi, bounds);
 }
 
-void Windowing::ForAllWindows(const std::function<void(TopWindowEvents&)>& report) {
+void Windowing::Tell(void (TopWindowEvents::*report)()) {
   const std::vector<WidgetState*> widgets = desktop_.Widgets();
   for (WidgetState* state : widgets) {
-    if (desktop_.Alive(state) && state->top_events != nullptr) report(*state->top_events);
+    if (desktop_.Alive(state) && state->top_events != nullptr) (state->top_events->*report)();
   }
-}
-
-void Windowing::ChangeSettings() {
-  ForAllWindows([](TopWindowEvents& events) { events.OnSettingChange(); });
-}
-
-void Windowing::Resume() {
-  ForAllWindows([](TopWindowEvents& events) { events.OnResume(); });
-}
-
-void Windowing::EndSession() {
-  ForAllWindows([](TopWindowEvents& events) { events.OnEndSession(); });
 }
 
 }  // namespace platform::memory

@@ -2,13 +2,12 @@
 #pragma once
 
 #include <functional>
-#include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <utility>
 
 #include "platform/memory/machine.h"
-#include "tests/contract/raw_value.h"
 
 namespace contract {
 
@@ -21,17 +20,11 @@ class World {
 
   [[nodiscard]] platform::Platform& Platform() { return machine_.Platform(); }
 
-  void SetRawValue(std::string_view path, std::string_view name, const RawValue& value) {
-    const auto* data = reinterpret_cast<const std::byte*>(value.data.data());
+  void SetRawValue(std::string_view path, std::string_view name, std::uint32_t type,
+                   std::string_view value) {
+    const auto bytes = std::as_bytes(std::span(value));
     machine_.registry.Set(
-        path, name,
-        {static_cast<platform::memory::ValueType>(value.type), {data, data + value.data.size()}});
-  }
-  [[nodiscard]] std::optional<RawValue> RawValueOf(std::string_view path, std::string_view name) {
-    const auto value = machine_.registry.Raw(path, name);
-    if (!value) return std::nullopt;
-    return RawValue{static_cast<std::uint32_t>(value->type),
-                    {reinterpret_cast<const char*>(value->data.data()), value->data.size()}};
+        path, name, {static_cast<platform::memory::ValueType>(type), {bytes.begin(), bytes.end()}});
   }
   void RemoveKey(std::string_view path) { machine_.registry.RemoveKey(path); }
 

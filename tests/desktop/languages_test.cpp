@@ -30,7 +30,7 @@ TEST_F(Languages, CutNoText) {
   for (LRESULT row = 0; row < count; ++row) {
     if (row > 0) PressKey(VK_DOWN);
     Await("the language", [=] { return ::SendMessageW(choice, CB_GETCURSEL, 0, 0) == row; });
-    SCOPED_TRACE(SettingText("Language"));
+    SCOPED_TRACE(Setting("Language"));
     for (const HWND window : {statistics, preferences}) {
       EXPECT_EQ(CutTexts(window, meter.Scaled(11)), "");
     }

@@ -62,18 +62,12 @@ Meter& ProgramTest::Start() {
   return *meter_;
 }
 
-void ProgramTest::CountNothing() {
-  for (const AdapterRow& row : ReadAdapters()) Store(row.name, 0U);
-  Store("ExecuteTime", 1U);  // else the first start lets all of them count
-}
-
 void ProgramTest::AwaitGone(HWND window) {
   Await("a window to go", [window] { return ::IsWindowVisible(window) == FALSE; });
 }
 
-void ProgramTest::AwaitStored(std::string_view name, std::string_view value) {
-  Await(std::string(name) + " = " + std::string(value),
-        [=] { return Stored(kSettingsKey, name) == value; });
+void ProgramTest::AwaitStored(const std::string& name, const std::string& value) {
+  Await(name + " = " + value, [&] { return Setting(name) == value; });
 }
 
 }  // namespace desktop

@@ -5,13 +5,11 @@
 
 #include <memory>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "tests/desktop/driver/input.h"
 #include "tests/desktop/driver/meter.h"
 #include "tests/desktop/driver/registry.h"
-#include "tests/desktop/driver/traffic.h"
 #include "tests/desktop/driver/wait.h"
 #include "tests/desktop/driver/windows_of.h"
 
@@ -29,12 +27,8 @@ class ProgramTest : public testing::Test {
   Meter& Start();
   void Stop() { meter_.reset(); }
 
-  // Lets no adapter count that is there, so that what the machine does is not measured. Before the
-  // start.
-  static void CountNothing();
-
   static void AwaitGone(HWND window);
-  static void AwaitStored(std::string_view name, std::string_view value);
+  static void AwaitStored(const std::string& name, const std::string& value);
 
  private:
   std::unique_ptr<Meter> meter_;

@@ -195,7 +195,7 @@ TEST_F(LeavingUnderAnAlert, TheShutdownReactionAndTheEndOfTheSessionAskNothing) 
   Run([&] {
     Scan({});
     At(kSecurityForm, [&] {
-      User().EndSession();
+      User().Tell(&platform::TopWindowEvents::OnEndSession);
       EXPECT_EQ(Title(), "Notes") << "the process may go now";
       Scan({});
       EXPECT_EQ(Title(), "Notes") << "no scan puts it back";

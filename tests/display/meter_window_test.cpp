@@ -197,7 +197,7 @@ TEST_F(MeterWindow, OtherColoursOfTheSystemShowAtOnce) {
   Run([&] {
     constexpr platform::Colour kOther = 0x123456;
     machine.screen.scheme[15] = kOther;  // that of buttons
-    User().ChangeSettings();
+    User().Tell(&platform::TopWindowEvents::OnSettingChange);
     const auto pixels = Pixels(*Graph());
     EXPECT_GT(std::count(pixels.begin(), pixels.end(), kOther), 1000);
   });

@@ -259,7 +259,7 @@ TEST_F(Titles, TheEditorKeepsWhatItDoesNotShowAndSaysSo) {
     Edit([&] {
       EXPECT_EQ(Widget("WindowTitlesListbox").index, -1);
       AddLine("new");
-      User().EndSession();
+      User().Tell(&platform::TopWindowEvents::OnEndSession);
       EXPECT_EQ(File(), "new\r\n") << "the process may be gone now";
     });
   });

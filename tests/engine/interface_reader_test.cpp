@@ -43,11 +43,11 @@ TEST_F(InterfaceReader, WhateverFailsLeavesTheTableAsItWas) {
       {"the size call claims success", [&] { source.FailRead(1, 0); }},
       {"the rows cannot be read", [&] { source.FailRead(2, 232); }},
       {"the table grows in between",
-       [&] { source.AfterNextSizeRead([&] { source.AddRow(MakeRow("c")); }); }},
+       [&] { source.after_size_read = [&] { source.AddRow(MakeRow("c")); }; }},
       {"the table becomes empty in between",
-       [&] { source.AfterNextSizeRead([&] { source.rows.clear(); }); }},
+       [&] { source.after_size_read = [&] { source.rows.clear(); }; }},
       {"the table is empty", [&] { source.rows.clear(); }},
-      {"there are only filters", [&] { source.MarkFilter(source.rows[0].dwIndex = 99); }},
+      {"there are only filters", [&] { source.filters.insert(source.rows[0].dwIndex = 99); }},
   };
   for (const Row& row : rows) {
     source.rows = {MakeRow("x")};
@@ -55,7 +55,7 @@ TEST_F(InterfaceReader, WhateverFailsLeavesTheTableAsItWas) {
     EXPECT_EQ(Read(), "a b ") << row.why;
   }
   source.rows = {MakeRow("x"), MakeRow("y"), MakeRow("z")};
-  source.AfterNextSizeRead([&] { source.RemoveRow(0); });
+  source.after_size_read = [&] { source.RemoveRow(0); };
   EXPECT_EQ(Read(), "y z ") << "a table that shrank in between is read as it is";
 }
 
@@ -83,7 +83,7 @@ TEST_F(InterfaceReader, FiltersAreLeftOutAndAskedAboutOnce) {
   source.AddRow(MakeRow("card"));
   const InterfaceRow filter = source.AddRow(MakeRow("card"));  // named as the card it sits on
   source.AddRow(MakeRow("vpn"));
-  source.MarkFilter(filter.dwIndex);
+  source.filters.insert(filter.dwIndex);
   EXPECT_EQ(Read(), "card vpn ");
   EXPECT_EQ(Read(), "card vpn ");
   EXPECT_EQ(source.filter_questions, 3) << "a steady table costs no question";
@@ -101,7 +101,7 @@ TEST_F(InterfaceReader, FiltersAreLeftOutAndAskedAboutOnce) {
 
 TEST_F(InterfaceReader, ARowThatTheSystemDoesNotKnowYetWaits) {
   source.AddRow(MakeRow("card"));
-  source.MarkFilter(source.AddRow(MakeRow("filter")).dwIndex);
+  source.filters.insert(source.AddRow(MakeRow("filter")).dwIndex);
   machine.notebook.FailCall(4);  // two calls for the table, one for the card
   EXPECT_EQ(Read(), "card ");
   EXPECT_EQ(Read(engine::NewRows::kLeaveOut), "card ");

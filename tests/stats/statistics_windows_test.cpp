@@ -84,7 +84,7 @@ class StatisticsWindows : public testing::Test, protected test::World {
     Texts changed;
     std::set_difference(after.begin(), after.end(), before.begin(), before.end(),
                         std::back_inserter(changed));
-    EXPECT_EQ(machine.notebook.registry.Writes(), std::ssize(changed));
+    EXPECT_EQ(machine.notebook.registry.writes, std::ssize(changed));
     return changed;
   }
 

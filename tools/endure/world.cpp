@@ -128,7 +128,7 @@ void World::RunScan() {
   if (Chance(50)) {
     const bool changes = Chance(4);
     if (changes) {
-      machine_.interface_table.AfterNextSizeRead([this] { ChangeAdapters(); });
+      machine_.interface_table.after_size_read = [this] { ChangeAdapters(); };
     } else {
       machine_.notebook.FailCall(1 + Below(Chance(3) ? 40 : 400));
     }
@@ -222,7 +222,7 @@ void World::AddAdapter() {
   platform::InterfaceRow row = platform::memory::MakeRow(kAdapters[Below(std::size(kAdapters))]);
   row.dwInOctets = static_cast<std::uint32_t>(die_());
   row.dwOutOctets = static_cast<std::uint32_t>(die_());
-  if (table.AddRow(row).dwIndex % 4 == 0) table.HideOctets(table.rows.back().dwIndex);
+  if (table.AddRow(row).dwIndex % 4 == 0) table.hidden.insert(table.rows.back().dwIndex);
 }
 
 void World::RemoveAdapter() {
@@ -256,7 +256,7 @@ void World::Sleep() {
   MoveTraffic();
   if (Chance(8)) return;  // a machine that does not say that it came back
   model_.Resume(Rows());
-  machine_.windowing.Resume();
+  machine_.windowing.Tell(&platform::TopWindowEvents::OnResume);
 }
 
 void World::SetClock() {
@@ -349,7 +349,7 @@ void World::UsePreferences() {
 // Killed or ended: no figure is written at the end, so both leave the same behind. What a kill in
 // the middle of a scan leaves is what a call that fails there does.
 void World::Restart() {
-  if (Chance(2)) machine_.windowing.EndSession();
+  if (Chance(2)) machine_.windowing.Tell(&platform::TopWindowEvents::OnEndSession);
   EndProgram();
   machine_.timers.Stall(Below(100000) * kMillisecondsPerSecond);
   MoveTraffic();

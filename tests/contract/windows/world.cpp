@@ -25,29 +25,12 @@ World::~World() {
   if (!scratch_.empty()) std::filesystem::remove_all(scratch_);
 }
 
-void World::SetRawValue(std::string_view path, std::string_view name, const RawValue& value) {
+void World::SetRawValue(std::string_view path, std::string_view name, std::uint32_t type,
+                        std::string_view value) {
   const LSTATUS result =
-      ::RegSetKeyValueW(HKEY_CURRENT_USER, KeyPath(path).c_str(), ToWide(name).c_str(), value.type,
-                        value.data.data(), static_cast<DWORD>(value.data.size()));
+      ::RegSetKeyValueW(HKEY_CURRENT_USER, KeyPath(path).c_str(), ToWide(name).c_str(), type,
+                        value.data(), static_cast<DWORD>(value.size()));
   if (result != ERROR_SUCCESS) ThrowSystemError("RegSetKeyValue", static_cast<DWORD>(result));
-}
-
-std::optional<RawValue> World::RawValueOf(std::string_view path, std::string_view name) {
-  RawValue value{0, std::string(65536, '\0')};
-  HKEY key = nullptr;
-  if (::RegOpenKeyExW(HKEY_CURRENT_USER, KeyPath(path).c_str(), 0, KEY_READ, &key) !=
-      ERROR_SUCCESS) {
-    return std::nullopt;
-  }
-  auto size = static_cast<DWORD>(value.data.size());
-  DWORD type = 0;
-  const LSTATUS result = ::RegQueryValueExW(key, ToWide(name).c_str(), nullptr, &type,
-                                            reinterpret_cast<BYTE*>(value.data.data()), &size);
-  ::RegCloseKey(key);
-  if (result != ERROR_SUCCESS) return std::nullopt;
-  value.type = type;
-  value.data.resize(size);
-  return value;
 }
 
 void World::RemoveKey(std::string_view path) {

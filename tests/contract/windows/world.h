@@ -5,12 +5,10 @@
 #include <filesystem>
 #include <functional>
 #include <memory>
-#include <optional>
 #include <string>
 #include <string_view>
 
 #include "platform/windows/machine.h"
-#include "tests/contract/raw_value.h"
 
 namespace contract {
 
@@ -23,8 +21,8 @@ class World {
 
   [[nodiscard]] platform::Platform& Platform() { return machine_.platform(); }
 
-  void SetRawValue(std::string_view path, std::string_view name, const RawValue& value);
-  [[nodiscard]] std::optional<RawValue> RawValueOf(std::string_view path, std::string_view name);
+  void SetRawValue(std::string_view path, std::string_view name, std::uint32_t type,
+                   std::string_view value);
   void RemoveKey(std::string_view path);
 
   std::string ScratchFolder();

@@ -1,6 +1,5 @@
 #include "tests/desktop/driver/input.h"
 
-#include <initializer_list>
 #include <vector>
 
 #include "platform/windows/system_error.h"
@@ -66,8 +65,6 @@ void Pull(HWND window, POINT to) {
 }  // namespace
 
 void MoveMouse(POINT to) { Mouse(to, {0}); }
-void PressLeft(POINT at) { Mouse(at, {0, MOUSEEVENTF_LEFTDOWN}); }
-void ReleaseLeft(POINT at) { Mouse(at, {0, MOUSEEVENTF_LEFTUP}); }
 void Click(POINT at) { Mouse(at, {0, MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP}); }
 
 void ClickOn(HWND top, const wchar_t* control) {
@@ -109,20 +106,15 @@ void Type(std::string_view text) {
 }
 
 void Drag(HWND window, POINT from, POINT to) {
-  MoveMouse(from);
-  PressLeft(from);
+  Mouse(from, {0, MOUSEEVENTF_LEFTDOWN});
   // A small step begins the move, and only then the rest: moves that come before it has begun
   // would be taken as one.
   const LONG step = to.x >= from.x ? 1 : -1;
   MoveMouse({from.x + step, from.y});
-  if (!Comes([window] { return GuiOf(window).hwndMoveSize != nullptr; })) {
-    ReleaseLeft(from);
-    platform::windows::ThrowSystemError("no move began at the mouse, GetGUIThreadInfo",
-                                        ::GetLastError());
-  }
+  Await("a move", [window] { return GuiOf(window).hwndMoveSize != nullptr; });
   Pull(window, {(from.x + to.x) / 2, (from.y + to.y) / 2});
   Pull(window, to);
-  ReleaseLeft(to);
+  Mouse(to, {MOUSEEVENTF_LEFTUP});
   Await("the end of the move", [window] { return GuiOf(window).hwndMoveSize == nullptr; });
 }
 

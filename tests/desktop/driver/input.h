@@ -11,8 +11,6 @@ namespace desktop {
 // Points are on the screen. All throw std::runtime_error when the system takes no input.
 
 void MoveMouse(POINT to);
-void PressLeft(POINT at);
-void ReleaseLeft(POINT at);
 void Click(POINT at);
 // The middle of a control that has published this name, once it is shown.
 void ClickOn(HWND top, const wchar_t* control);

@@ -28,18 +28,12 @@ std::vector<HWND> MenuWindows(DWORD process) {
 }
 
 MenuItem ItemFrom(const SpiedItem& spied) {
-  MenuItem item;
   const std::wstring label = spied.text;
-  const std::size_t tab = label.find(L'\t');
-  item.text = FromWide(label.substr(0, tab));
-  if (tab != std::wstring::npos) item.shortcut = FromWide(label.substr(tab + 1));
-  if ((spied.type & MFT_SEPARATOR) != 0) item.text = "-";
-  item.radio = (spied.type & MFT_RADIOCHECK) != 0;
-  item.checked = (spied.state & MFS_CHECKED) != 0;
-  item.enabled = (spied.state & MFS_DISABLED) == 0;
-  item.submenu = spied.submenu;
-  item.area = spied.area;
-  return item;
+  return {.text = FromWide(label.substr(0, label.find(L'\t'))),
+          .enabled = (spied.state & MFS_DISABLED) == 0,
+          .checked = (spied.state & MFS_CHECKED) != 0,
+          .submenu = spied.submenu,
+          .area = spied.area};
 }
 
 HMENU MenuOf(HWND menu_window) {
@@ -56,31 +50,19 @@ MenuItem Named(const std::vector<MenuItem>& items, std::string_view text) {
 
 }  // namespace
 
-std::string MenuItem::Description() const {
-  std::string description = text;
-  if (radio) description += " [radio]";
-  if (checked) description += " [checked]";
-  if (submenu != nullptr) description += " [>]";
-  if (!shortcut.empty()) description += " [" + shortcut + "]";
-  return description;
-}
-
 // A hook in the program's thread, with the memory through which it answers.
 class OpenMenu::Spy {
  public:
   explicit Spy(HWND menu_window) {
     memory_ = KernelHandle(::CreateFileMappingW(INVALID_HANDLE_VALUE, nullptr, PAGE_READWRITE, 0,
                                                 sizeof(SpiedMenu), kSpyMemory));
-    if (!memory_) ThrowSystemError("CreateFileMapping", ::GetLastError());
     menu_ = static_cast<SpiedMenu*>(::MapViewOfFile(memory_.get(), FILE_MAP_WRITE, 0, 0, 0));
     if (menu_ == nullptr) ThrowSystemError("MapViewOfFile", ::GetLastError());
 
     const HMODULE module = ::LoadLibraryW((OwnFolder() + kSpyModule).c_str());
-    if (module == nullptr) ThrowSystemError("LoadLibrary of the spy", ::GetLastError());
-    const auto procedure = reinterpret_cast<HOOKPROC>(
-        reinterpret_cast<void (*)()>(::GetProcAddress(module, kSpyProcedure)));
-    hook_ = ::SetWindowsHookExW(WH_CALLWNDPROC, procedure, module,
-                                ::GetWindowThreadProcessId(menu_window, nullptr));
+    hook_ = ::SetWindowsHookExW(WH_CALLWNDPROC,
+                                platform::windows::Function<HOOKPROC>(module, kSpyProcedure),
+                                module, ::GetWindowThreadProcessId(menu_window, nullptr));
     if (hook_ == nullptr) ThrowSystemError("SetWindowsHookEx", ::GetLastError());
   }
   ~Spy() {
@@ -126,12 +108,6 @@ HWND OpenMenu::Follow(Step begin, Step end) {
 
 std::vector<MenuItem> OpenMenu::Items(const MenuPath& path) {
   return Read(Follow(path.begin(), path.end()));
-}
-
-std::vector<std::string> OpenMenu::Descriptions(const MenuPath& path) {
-  std::vector<std::string> descriptions;
-  for (const MenuItem& item : Items(path)) descriptions.push_back(item.Description());
-  return descriptions;
 }
 
 MenuItem OpenMenu::Find(const MenuPath& path) {

@@ -11,16 +11,11 @@
 namespace desktop {
 
 struct MenuItem {
-  std::string text;      // as the menu holds it, ampersands doubled; "-" for a separator
-  std::string shortcut;  // what stands at the right
+  std::string text;  // as the menu holds it, ampersands doubled; empty for a separator
   bool enabled = true;
   bool checked = false;
-  bool radio = false;
   HMENU submenu = nullptr;
   RECT area{};  // on the screen
-
-  // For comparing and reading: the text and, in brackets, "radio", "checked" and ">".
-  [[nodiscard]] std::string Description() const;
 };
 
 // Texts of items, from the outermost menu inwards.
@@ -37,7 +32,6 @@ class OpenMenu {
 
   // What stands in it, or in the submenu that `path` leads to, which is opened with the mouse.
   [[nodiscard]] std::vector<MenuItem> Items(const MenuPath& path = {});
-  [[nodiscard]] std::vector<std::string> Descriptions(const MenuPath& path = {});
   // The item at the end of `path`; its submenus are opened with the mouse.
   [[nodiscard]] MenuItem Find(const MenuPath& path);
   // Clicks the item at the end of `path` and waits until the menu is gone.

@@ -1,7 +1,6 @@
 #include "tests/desktop/driver/meter.h"
 
-#include <optional>
-
+#include "platform/windows/system_handles.h"
 #include "tests/desktop/driver/input.h"
 #include "tests/desktop/driver/registry.h"
 #include "tests/desktop/driver/wait.h"
@@ -10,24 +9,6 @@
 #include <shellapi.h>
 
 namespace desktop {
-namespace {
-
-// Looked up: Wine does not have it.
-std::optional<RECT> SystemsTrayArea(HWND tray) {
-  using GetArea = HRESULT(WINAPI*)(const NOTIFYICONIDENTIFIER*, RECT*);
-  const auto get = reinterpret_cast<GetArea>(reinterpret_cast<void (*)()>(
-      ::GetProcAddress(::GetModuleHandleW(L"shell32.dll"), "Shell_NotifyIconGetRect")));
-  NOTIFYICONIDENTIFIER icon{};
-  icon.cbSize = sizeof(icon);
-  icon.hWnd = tray;
-  icon.uID = 1;
-  RECT area{};
-  if (get == nullptr || FAILED(get(&icon, &area))) return std::nullopt;
-  return area;
-}
-
-}  // namespace
-
 Meter::Meter(const std::wstring& path) : program_(path) {
   Await("the meter window", [this] {
     window_ = FindTop(program_.id(), L"T_frmBrisanto");
@@ -69,9 +50,14 @@ HWND Meter::AwaitForm(const wchar_t* form) const {
 HWND Meter::tray() const { return FindTop(program_.id(), L"TremoluxTray"); }
 
 RECT Meter::TrayArea() const {
-  if (const auto area = SystemsTrayArea(tray())) return *area;
+  // Looked up: Wine does not have it.
+  const auto get = platform::windows::Function<decltype(&::Shell_NotifyIconGetRect)>(
+      ::GetModuleHandleW(L"shell32.dll"), "Shell_NotifyIconGetRect");
+  const NOTIFYICONIDENTIFIER icon{sizeof(icon), tray(), 1, {}};
+  RECT area{};
+  if (get != nullptr && SUCCEEDED(get(&icon, &area))) return area;
   // Under Wine the only icon stands at the right end of the taskbar.
-  RECT area = AreaOf(::FindWindowW(L"Shell_TrayWnd", nullptr));
+  area = AreaOf(::FindWindowW(L"Shell_TrayWnd", nullptr));
   area.left = area.right - HeightOf(area);
   return area;
 }

@@ -22,7 +22,6 @@ class NetworkLine {
 
   // All return when it has happened, and throw std::runtime_error when it cannot.
   void Add(std::string_view adapter) { Ask("add " + std::string(adapter)); }
-  void Remove(std::string_view adapter) { Ask("remove " + std::string(adapter)); }
   // So many bytes come in and go out at once, as the system counts them: none, or at least 28, the
   // heads of one packet.
   void Move(std::string_view adapter, int received, int sent);

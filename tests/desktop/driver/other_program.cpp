@@ -1,5 +1,6 @@
 #include "tests/desktop/driver/other_program.h"
 
+#include "platform/windows/wide_text.h"
 #include "tests/desktop/driver/wait.h"
 #include "tests/desktop/driver/windows_of.h"
 
@@ -7,19 +8,15 @@ namespace desktop {
 namespace {
 
 constexpr UINT kWork = WM_APP + 1;  // w: the function
-constexpr UINT kHang = WM_APP + 2;
 
 }  // namespace
 
 OtherProgram::OtherProgram()
-    : done_(::CreateEventW(nullptr, FALSE, FALSE, nullptr)),
-      recover_(::CreateEventW(nullptr, FALSE, FALSE, nullptr)),
-      thread_([this] { Run(); }) {
+    : done_(::CreateEventW(nullptr, FALSE, FALSE, nullptr)), thread_([this] { Run(); }) {
   ::WaitForSingleObject(done_.get(), INFINITE);
 }
 
 OtherProgram::~OtherProgram() {
-  Recover();
   ::PostThreadMessageW(thread_id_, WM_QUIT, 0, 0);
   thread_.join();
 }
@@ -43,34 +40,29 @@ HWND OtherProgram::Open(const wchar_t* title, const RECT& area) {
   return window;
 }
 
-void OtherProgram::Hang() {
-  hanging_ = true;
-  ::PostThreadMessageW(thread_id_, kHang, 0, 0);
-  ::WaitForSingleObject(done_.get(), INFINITE);
-}
-
-void OtherProgram::Recover() {
-  if (hanging_) ::SetEvent(recover_.get());
-  hanging_ = false;
-}
-
 void OtherProgram::Run() {
   thread_id_ = ::GetCurrentThreadId();
   MSG message{};
   ::PeekMessageW(&message, nullptr, 0, 0, PM_NOREMOVE);  // makes the queue
   ::SetEvent(done_.get());
   while (::GetMessageW(&message, nullptr, 0, 0) > 0) {
-    if (message.hwnd != nullptr) {
-      ::DispatchMessageW(&message);
-      continue;
-    }
-    if (message.message == kWork) {
-      (*reinterpret_cast<const std::function<void()>*>(message.wParam))();
-    }
-    if (message.message == kWork || message.message == kHang) ::SetEvent(done_.get());
-    if (message.message == kHang) ::WaitForSingleObject(recover_.get(), INFINITE);
+    ::DispatchMessageW(&message);
+    if (message.hwnd != nullptr || message.message != kWork) continue;
+    (*reinterpret_cast<const std::function<void()>*>(message.wParam))();
+    ::SetEvent(done_.get());
   }
   for (const HWND window : windows_) ::DestroyWindow(window);
+}
+
+std::string ClipboardText() {
+  Await("the clipboard", [] { return ::OpenClipboard(nullptr) != FALSE; });
+  std::string text;
+  if (const HANDLE data = ::GetClipboardData(CF_UNICODETEXT)) {
+    text = platform::windows::FromWide(static_cast<const wchar_t*>(::GlobalLock(data)));
+    ::GlobalUnlock(data);
+  }
+  ::CloseClipboard();
+  return text;
 }
 
 }  // namespace desktop

@@ -1,8 +1,8 @@
-// Another program, played by a thread: it has windows, takes hot keys and the clipboard, and can
-// hang.
+// Another program, played by a thread: it has windows, and takes hot keys and the clipboard.
 #pragma once
 
 #include <functional>
+#include <string>
 #include <thread>
 #include <vector>
 
@@ -24,19 +24,17 @@ class OtherProgram {
   // Opens a window with a title, which is seen and has the foreground only when `area` is not
   // empty.
   HWND Open(const wchar_t* title, const RECT& area = {});
-  // From now on it takes no messages, until Recover.
-  void Hang();
-  void Recover();
 
  private:
   void Run();
 
   platform::windows::KernelHandle done_;
-  platform::windows::KernelHandle recover_;
   DWORD thread_id_ = 0;
-  bool hanging_ = false;
   std::vector<HWND> windows_;
   std::thread thread_;
 };
+
+// The text in the clipboard; empty when it has none. Waits until nobody keeps it open.
+[[nodiscard]] std::string ClipboardText();
 
 }  // namespace desktop

@@ -1,35 +1,24 @@
 #include "tests/desktop/driver/program.h"
 
+#include <filesystem>
 #include <stdexcept>
 
+#include "platform/windows/services/services.h"
 #include "platform/windows/system_error.h"
+#include "platform/windows/wide_text.h"
 #include "tests/desktop/driver/wait.h"
 
 namespace desktop {
 namespace {
 
 using platform::windows::KernelHandle;
-using platform::windows::ThrowSystemError;
 
-constexpr wchar_t kExecutable[] = L"Tremolux.exe";
-
-bool IsFile(const std::wstring& path) {
-  const DWORD attributes = ::GetFileAttributesW(path.c_str());
-  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
-}
-
-std::wstring CurrentFolder() {
-  wchar_t folder[MAX_PATH] = {};
-  ::GetCurrentDirectoryW(MAX_PATH, folder);
-  return std::wstring(folder) + L"\\";
-}
-
-// A new process of `command`. Now and then Wine loses one before its program begins, which it calls
-// an internal error: nothing of the program has run then, so it is started again.
-PROCESS_INFORMATION StartProcess(const std::wstring& path, const std::wstring& command) {
+// A new process. Now and then Wine loses one before its program begins, which it calls an internal
+// error: nothing of the program has run then, so it is started again.
+PROCESS_INFORMATION StartProcess(const std::wstring& path, const std::wstring& arguments) {
   constexpr int kAttempts = 5;
   for (int attempt = 1;; ++attempt) {
-    std::wstring line = command;  // the system writes into it
+    std::wstring line = L"\"" + path + L"\" " + arguments;  // the system writes into it
     STARTUPINFOW startup{};
     startup.cb = sizeof(startup);
     PROCESS_INFORMATION started{};
@@ -39,7 +28,7 @@ PROCESS_INFORMATION StartProcess(const std::wstring& path, const std::wstring& c
     }
     const DWORD error = ::GetLastError();
     if (error != ERROR_INTERNAL_ERROR || attempt == kAttempts) {
-      ThrowSystemError("CreateProcess", error);
+      platform::windows::ThrowSystemError("CreateProcess", error);
     }
   }
 }
@@ -47,20 +36,16 @@ PROCESS_INFORMATION StartProcess(const std::wstring& path, const std::wstring& c
 }  // namespace
 
 std::wstring OwnFolder() {
-  wchar_t path[MAX_PATH] = {};
-  ::GetModuleFileNameW(nullptr, path, MAX_PATH);
-  std::wstring folder = path;
-  return folder.substr(0, folder.rfind(L'\\') + 1);
+  return platform::windows::ToWide(platform::windows::Files().ProgramFolder());
 }
 
 std::wstring ProgramPath() {
-  wchar_t named[MAX_PATH] = {};
-  if (::GetEnvironmentVariableW(L"TREMOLUX_EXE", named, MAX_PATH) > 0) return named;
-  for (const std::wstring& folder : {CurrentFolder(), OwnFolder()}) {
-    if (IsFile(folder + kExecutable)) return folder + kExecutable;
+  for (const std::filesystem::path& folder :
+       {std::filesystem::current_path(), std::filesystem::path(OwnFolder())}) {
+    const std::filesystem::path path = folder / "Tremolux.exe";
+    if (std::filesystem::exists(path)) return path.wstring();
   }
-  throw std::runtime_error(
-      "no Tremolux.exe here; name it in the environment variable TREMOLUX_EXE");
+  throw std::runtime_error("no Tremolux.exe here");
 }
 
 bool ProgramRuns() {
@@ -68,7 +53,7 @@ bool ProgramRuns() {
 }
 
 Program::Program(const std::wstring& path, const std::wstring& arguments) {
-  const PROCESS_INFORMATION started = StartProcess(path, L"\"" + path + L"\" " + arguments);
+  const PROCESS_INFORMATION started = StartProcess(path, arguments);
   ::CloseHandle(started.hThread);
   process_ = KernelHandle(started.hProcess);
   id_ = started.dwProcessId;
@@ -82,10 +67,8 @@ bool Program::Running() const { return ::WaitForSingleObject(process_.get(), 0) 
 
 DWORD Program::AwaitEnd() {
   Await("the end of the program", [this] { return !Running(); });
-  DWORD code = 0;
-  if (::GetExitCodeProcess(process_.get(), &code) == FALSE) {
-    ThrowSystemError("GetExitCodeProcess", ::GetLastError());
-  }
+  DWORD code = STILL_ACTIVE;
+  ::GetExitCodeProcess(process_.get(), &code);
   return code;
 }
 

@@ -8,8 +8,8 @@
 
 namespace desktop {
 
-// The executable: what the environment variable TREMOLUX_EXE names, or else Tremolux.exe in the
-// current folder, or beside the running program. Throws when there is none.
+// Tremolux.exe in the current folder, or else beside the running program. Throws when there is
+// none.
 [[nodiscard]] std::wstring ProgramPath();
 // The folder of the running program, with a backslash at its end.
 [[nodiscard]] std::wstring OwnFolder();

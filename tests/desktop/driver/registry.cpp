@@ -11,14 +11,13 @@ namespace desktop {
 namespace {
 
 using platform::KeyAccess;
-using platform::RegistryKey;
 
 // Null when it is missing.
-std::unique_ptr<RegistryKey> Open(std::string_view key) {
+std::unique_ptr<platform::RegistryKey> Open(std::string_view key) {
   return platform::windows::Registry().Open(key, KeyAccess::kExisting);
 }
 
-std::unique_ptr<RegistryKey> Make(std::string_view key) {
+std::unique_ptr<platform::RegistryKey> Make(std::string_view key) {
   auto made = platform::windows::Registry().Open(key, KeyAccess::kCreate);
   if (made == nullptr) throw std::runtime_error("no registry key " + std::string(key));
   return made;
@@ -39,27 +38,13 @@ bool IsStored(std::string_view key, std::string_view name) {
   return Stored(key, name) != "(missing)";
 }
 
-std::optional<std::uint32_t> Setting(std::string_view name) {
-  const auto key = Open(kSettingsKey);
-  return key != nullptr ? key->ReadDword(name) : std::nullopt;
-}
-
-std::string SettingText(std::string_view name) {
-  const auto key = Open(kSettingsKey);
-  return key != nullptr ? key->ReadText(name).value_or("(missing)") : "(missing)";
-}
-
-std::int64_t Counter(std::string_view key, std::string_view name) {
-  const auto opened = Open(key);
-  const auto text = opened != nullptr ? opened->ReadText(name) : std::nullopt;
-  return text ? std::stoll(*text) : 0;
-}
+std::string Setting(std::string_view name) { return Stored(kSettingsKey, name); }
 
 void Store(std::string_view setting, std::uint32_t number) {
   Make(kSettingsKey)->WriteDword(setting, number);
 }
 
-void Store(std::string_view setting, const std::string& text) {
+void Store(std::string_view setting, std::string_view text) {
   StoreText(kSettingsKey, setting, text);
 }
 

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <cstdint>
-#include <optional>
 #include <string>
 #include <string_view>
 
@@ -18,16 +17,12 @@ inline constexpr char kRunKey[] = "Software\\Microsoft\\Windows\\CurrentVersion\
 // A value for comparing and reading: "dword 5", "text abc", "8 bytes", or "(missing)".
 [[nodiscard]] std::string Stored(std::string_view key, std::string_view name);
 [[nodiscard]] bool IsStored(std::string_view key, std::string_view name);
-
-// Of a value under Settings: a number, or nothing; a text, or "(missing)".
-[[nodiscard]] std::optional<std::uint32_t> Setting(std::string_view name);
-[[nodiscard]] std::string SettingText(std::string_view name);
-// A counter: the number in a text, 0 when it is missing. Throws when the text is no number.
-[[nodiscard]] std::int64_t Counter(std::string_view key, std::string_view name);
+// Of a value under Settings.
+[[nodiscard]] std::string Setting(std::string_view name);
 
 // All throw std::runtime_error when the system refuses.
 void Store(std::string_view setting, std::uint32_t number);
-void Store(std::string_view setting, const std::string& text);
+void Store(std::string_view setting, std::string_view text);
 void StoreText(std::string_view key, std::string_view name, std::string_view text);
 // Nothing happens when it is missing.
 void Remove(std::string_view key, std::string_view name);

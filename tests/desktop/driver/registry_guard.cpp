@@ -3,6 +3,7 @@
 #include <exception>
 #include <iostream>
 
+#include "platform/windows/services/services.h"
 #include "platform/windows/system_error.h"
 #include "platform/windows/wide_text.h"
 #include "tests/desktop/driver/registry.h"
@@ -22,24 +23,18 @@ constexpr char kRunAside[] = "Software\\Tremolux set aside by tests\\Run";
 // The one value of the program in a key that is not its own.
 constexpr char kRunValue[] = "BrisantoXP";
 
-void Check(const char* call, LSTATUS result) {
-  if (result != ERROR_SUCCESS) {
-    platform::windows::ThrowSystemError(call, static_cast<DWORD>(result));
-  }
-}
-
 // Values and keys; nothing when `from` is missing.
 void CopyKey(const char* from, const char* to) {
+  if (platform::windows::Registry().Open(from, platform::KeyAccess::kReadOnly) == nullptr) return;
   HKEY made = nullptr;
-  if (::RegOpenKeyExW(HKEY_CURRENT_USER, ToWide(from).c_str(), 0, KEY_READ, &made) !=
-      ERROR_SUCCESS) {
-    return;
+  LSTATUS result = ::RegCreateKeyW(HKEY_CURRENT_USER, ToWide(to).c_str(), &made);
+  if (result == ERROR_SUCCESS) {
+    result = ::RegCopyTreeW(HKEY_CURRENT_USER, ToWide(from).c_str(), made);
+    ::RegCloseKey(made);
   }
-  ::RegCloseKey(made);
-  Check("RegCreateKey", ::RegCreateKeyW(HKEY_CURRENT_USER, ToWide(to).c_str(), &made));
-  const LSTATUS result = ::RegCopyTreeW(HKEY_CURRENT_USER, ToWide(from).c_str(), made);
-  ::RegCloseKey(made);
-  Check("RegCopyTree", result);
+  if (result != ERROR_SUCCESS) {
+    platform::windows::ThrowSystemError("copying a key", static_cast<DWORD>(result));
+  }
 }
 
 void CopyRunValue(const char* from, const char* to) {

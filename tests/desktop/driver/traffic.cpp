@@ -1,43 +1,30 @@
 #include "tests/desktop/driver/traffic.h"
 
-#include <algorithm>
+#include <cstring>
 
+#include "platform/text.h"
+#include "platform/windows/services/services.h"
 #include "platform/windows/system_error.h"
-#include "platform/windows/wide_text.h"
-#include "tests/desktop/driver/wait.h"
 
 namespace desktop {
-namespace {
-
-using platform::windows::ThrowSystemError;
-
-std::string LowerCaseName(const MIB_IFROW& row) {
-  const auto* text = reinterpret_cast<const char*>(row.bDescr);
-  std::string name(text, ::strnlen(text, std::min<std::size_t>(row.dwDescrLen, MAXLEN_IFDESCR)));
-  std::transform(name.begin(), name.end(), name.begin(), [](char c) {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-  });
-  return name;
-}
-
-}  // namespace
 
 std::vector<AdapterRow> ReadAdapters() {
+  platform::windows::InterfaceTable table;
   std::vector<std::byte> buffer;
-  ULONG size = 0;
-  DWORD result = NO_ERROR;
-  do {
-    buffer.resize(size + sizeof(MIB_IFTABLE));
-    size = static_cast<ULONG>(buffer.size());
-    result = ::GetIfTable(reinterpret_cast<MIB_IFTABLE*>(buffer.data()), &size, FALSE);
-  } while (result == ERROR_INSUFFICIENT_BUFFER);
-  if (result != NO_ERROR) ThrowSystemError("GetIfTable", result);
+  std::uint32_t size = 0;
+  std::uint32_t result = table.Read({}, size);
+  while (result == platform::kInsufficientBuffer) {
+    buffer.resize(size);
+    result = table.Read(buffer, size);
+  }
+  if (result != 0) platform::windows::ThrowSystemError("GetIfTable", result);
 
-  const auto& table = *reinterpret_cast<const MIB_IFTABLE*>(buffer.data());
   std::vector<AdapterRow> rows;
-  for (DWORD index = 0; index < table.dwNumEntries; ++index) {
-    const MIB_IFROW& row = table.table[index];
-    rows.push_back({LowerCaseName(row), row.dwInOctets, row.dwOutOctets, row.dwSpeed, row.dwMtu});
+  platform::InterfaceRow row;
+  for (auto at = platform::kInterfaceTableHead; at + sizeof(row) <= size; at += sizeof(row)) {
+    std::memcpy(&row, &buffer[at], sizeof(row));
+    rows.push_back(
+        {platform::AsciiLower(platform::DescriptionBytes(row)), row.dwInOctets, row.dwOutOctets});
   }
   return rows;
 }

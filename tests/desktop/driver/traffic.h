@@ -5,8 +5,6 @@
 #include <string>
 #include <vector>
 
-#include "tests/desktop/driver/win.h"
-
 namespace desktop {
 
 // A row of the system's interface table.
@@ -14,8 +12,6 @@ struct AdapterRow {
   std::string name;      // its description in lower case, under which the program stores its values
   std::uint32_t in = 0;  // bytes, wraps at 2^32
   std::uint32_t out = 0;
-  std::uint32_t speed = 0;  // bits per second
-  std::uint32_t mtu = 0;
 };
 
 // All rows in the system's order. Throws std::runtime_error when it refuses.

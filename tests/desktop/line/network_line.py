@@ -1,19 +1,17 @@
 #!/usr/bin/env python3
 """Runs a command with a network line of its own, on which every byte is one that a test asked for.
 
-    network_line.py [--optional] command...
+    network_line.py command...
 
-The command runs in a network of its own, in which nothing else moves. Tests plug adapters in and
-out and let them receive and send by the lines that they write to a port on the loopback, whose
+The command runs in a network of its own, in which nothing else moves. Tests plug adapters in
+and let them receive and send by the lines that they write to a port on the loopback, whose
 number is in the environment variable TREMOLUX_TEST_LINE:
 
     add NAME          an adapter appears
-    remove NAME       and goes
     move NAME IN OUT  so many bytes come in and so many go out, in one packet or more
 
 Each is answered with "ok" when it has happened, or with what went wrong. It takes Linux, and the
-rights to make a network: without them the result is 77, or with --optional the command runs without
-such a line.
+rights to make a network: without them the command runs without such a line.
 """
 import ctypes
 import fcntl
@@ -24,8 +22,6 @@ import struct
 import subprocess
 import sys
 import threading
-
-NO_RIGHTS = 77
 
 CLONE_NEWUSER = 0x10000000
 CLONE_NEWNET = 0x40000000
@@ -126,14 +122,12 @@ class Line(socketserver.StreamRequestHandler):
             except Exception as error:  # whatever it is, the test must hear of it
                 answer = f"{type(error).__name__}: {error}"
             self.wfile.write(answer.encode() + b"\n")
-        for name in list(self.adapters):
-            self.adapters.pop(name).close()
+        while self.adapters:
+            self.adapters.popitem()[1].close()
 
     def perform(self, word, name, received="0", sent="0"):
         if word == "add":
             self.adapters[name] = Adapter(name, len(self.adapters))
-        elif word == "remove":
-            self.adapters.pop(name).close()
         elif word == "move":
             self.adapters[name].receive(int(received))
             self.adapters[name].send(int(sent))
@@ -143,15 +137,12 @@ class Line(socketserver.StreamRequestHandler):
 
 def main():
     command = sys.argv[1:]
-    optional = command[:1] == ["--optional"]
-    if optional:
-        command = command[1:]
     try:
         enter_own_network()
         Adapter("probe", 250).close()
     except OSError as error:
         print(f"no rights to make a network: {error}", file=sys.stderr)
-        return subprocess.call(command) if optional else NO_RIGHTS
+        return subprocess.call(command)
     with socketserver.TCPServer(("127.0.0.1", 0), Line) as server:
         threading.Thread(target=server.serve_forever, daemon=True).start()
         environment = dict(os.environ, TREMOLUX_TEST_LINE=str(server.server_address[1]))

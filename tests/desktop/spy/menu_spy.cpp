@@ -11,11 +11,10 @@ using desktop::SpiedMenu;
 void Read(HMENU menu, int position, SpiedItem& spied) {
   MENUITEMINFOW item{};
   item.cbSize = sizeof(item);
-  item.fMask = MIIM_FTYPE | MIIM_STATE | MIIM_SUBMENU | MIIM_STRING;
+  item.fMask = MIIM_STATE | MIIM_SUBMENU | MIIM_STRING;
   item.dwTypeData = spied.text;
   item.cch = 256;
   ::GetMenuItemInfoW(menu, static_cast<UINT>(position), TRUE, &item);
-  spied.type = item.fType;
   spied.state = item.fState;
   spied.submenu = item.hSubMenu;
   ::GetMenuItemRect(nullptr, menu, static_cast<UINT>(position), &spied.area);

@@ -14,7 +14,6 @@ inline constexpr wchar_t kSpyMemory[] = L"TremoluxSpiedMenu";
 
 struct SpiedItem {
   RECT area;      // on the screen
-  UINT type;      // MFT_...
   UINT state;     // MFS_...
   HMENU submenu;  // null: an item without one
   wchar_t text[256];
