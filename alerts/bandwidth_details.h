@@ -5,12 +5,12 @@
 #include <cstdint>
 #include <optional>
 
-#include "alerts/bandwidth_limit.h"
+#include "alerts/bandwidth_alert.h"
 #include "language/language.h"
 #include "quantity/figure_row.h"
 #include "quantity/quantity.h"
 #include "settings/store.h"
-#include "toolkit/controls/group_box.h"
+#include "toolkit/controls/buttons.h"
 
 namespace alerts {
 

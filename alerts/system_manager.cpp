@@ -1,7 +1,5 @@
 #include "alerts/system_manager.h"
 
-#include "toolkit/application.h"
-
 namespace alerts {
 namespace {
 

@@ -47,10 +47,6 @@ T_frmBandWidthAlert::T_frmBandWidthAlert(toolkit::Application& app, settings::St
       quantity_(quantity),
       language_(language),
       Image1(*this, "Image1", kImages, toolkit::kImageSize),
-      MessagePanel(*this, "MessagePanel"),
-      Memo1(MessagePanel, "Memo1", platform::Border::kNone),
-      btnDetails(*this, "btnDetails"),
-      OkBtn(*this, "OkBtn"),
       details_(*this, store, language),
       Timer1(app, kRefreshMs, [this] { Timer1Timer(); }) {
   Image1.SetBounds({8, 8, 40, 60});

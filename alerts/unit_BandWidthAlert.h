@@ -2,7 +2,7 @@
 #pragma once
 
 #include "alerts/bandwidth_details.h"
-#include "toolkit/controls/button.h"
+#include "toolkit/controls/buttons.h"
 #include "toolkit/controls/edit.h"
 #include "toolkit/controls/panel.h"
 #include "toolkit/controls/sign.h"
@@ -35,10 +35,11 @@ class T_frmBandWidthAlert final : public toolkit::Form {
   const language::Language& language_;
 
   toolkit::Sign Image1;
-  toolkit::Panel MessagePanel;
-  toolkit::Memo Memo1;  // stays empty: the message is in the balloon
-  toolkit::Button btnDetails;
-  toolkit::Button OkBtn;
+  toolkit::Panel MessagePanel{*this, "MessagePanel"};
+  toolkit::Memo Memo1{MessagePanel, "Memo1",
+                      platform::Border::kNone};  // stays empty: the message is in the balloon
+  toolkit::Button btnDetails{*this, "btnDetails"};
+  toolkit::Button OkBtn{*this, "OkBtn"};
   BandwidthDetails details_;
   toolkit::RefreshFaults faults_;
   toolkit::Timer Timer1;

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "display/program_image.h"
+#include "display/images.h"
 #include "language/texts.h"
 #include "program/product.h"
 #include "toolkit/about_box.h"

@@ -1,6 +1,6 @@
 #include "display/adapter_menus.h"
 
-#include "display/menu_images.h"
+#include "display/images.h"
 #include "settings/adapter_values.h"
 
 namespace display {

@@ -1,7 +1,6 @@
 #include "display/exit.h"
 
 #include "display/unit_AreYouSureForm.h"
-#include "settings/administrator_lock.h"
 #include "settings/unit_SecurityForm.h"
 #include "toolkit/application.h"
 

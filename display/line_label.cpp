@@ -27,34 +27,33 @@ std::vector<std::string_view> TextsOf(std::string_view line) {
 }  // namespace
 
 LineLabel::LineLabel(toolkit::Control& parent, std::string_view name)
-    : Control(parent.App(), &parent, name),
-      scratch_(App().Platform().graphics.CreateBitmap({1, 1})) {
-  Attach([this](platform::Windowing& windowing, platform::Widget& on) {
-    return windowing.CreateSurface(on, Name(), *this);
-  });
+    : Control(parent, name), scratch_(App().Platform().graphics.CreateBitmap({1, 1})) {
+  AttachSurface(name);
 }
 
 void LineLabel::Refresh() {
+  lines_.texts.clear();
   Invalidate();
   if (scratch_ == nullptr) return;
   const platform::Size room = ClientPixels();
-  const bool cut = Broken(scratch_->GetCanvas(), room).size.width > room.width;
-  SetHint(cut ? Caption() : "");
+  SetHint(Broken(scratch_->GetCanvas(), room).size.width > room.width ? Caption() : "");
 }
 
-LineLabel::Lines LineLabel::Broken(platform::Canvas& canvas, platform::Size room) {
-  const platform::FontSpec font = Scale(Font());
+const LineLabel::Lines& LineLabel::Broken(platform::Canvas& canvas, platform::Size room) {
+  const platform::FontStyle font = Scale(Font());
+  if (!lines_.texts.empty() && lines_.room == room && lines_.font == font) return lines_;
   const platform::Size whole = canvas.TextSize(Caption(), font);
-  Lines lines{{Caption()}, whole};
-  if (whole.width <= room.width) return lines;
+  lines_ = {{Caption()}, whole, room, font};
+  if (whole.width <= room.width) return lines_;
   std::vector<std::string_view> texts = TextsOf(Caption());
   const int height = whole.height * static_cast<int>(texts.size());
-  if (height > room.height) return lines;
-  lines = {std::move(texts), {0, height}};
-  for (const std::string_view text : lines.texts) {
-    lines.size.width = std::max(lines.size.width, canvas.TextSize(text, font).width);
+  if (height > room.height) return lines_;
+  lines_.texts = std::move(texts);
+  lines_.size = {0, height};
+  for (const std::string_view text : lines_.texts) {
+    lines_.size.width = std::max(lines_.size.width, canvas.TextSize(text, font).width);
   }
-  return lines;
+  return lines_;
 }
 
 // Centred, but the amounts change each second and the text shall not tremble.
@@ -67,8 +66,8 @@ int LineLabel::LeftEdge(int width, int room) {
 
 void LineLabel::Paint(platform::Canvas& canvas) {
   const platform::Size room = canvas.Extent();
-  canvas.Fill({0, 0, room.width, room.height}, Colour());
-  const Lines lines = Broken(canvas, room);
+  canvas.Fill(canvas.Area(), Colour());
+  const Lines& lines = Broken(canvas, room);
   left_ = LeftEdge(lines.size.width, room.width);
   const int height = lines.size.height / static_cast<int>(lines.texts.size());
   int top = (room.height - lines.size.height) / 2;

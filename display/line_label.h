@@ -17,23 +17,27 @@ class LineLabel final : public toolkit::Control {
  public:
   LineLabel(toolkit::Control& parent, std::string_view name);
 
-  // Paints it anew, after a change of size or font too.
+  // Measures the line anew and asks for a repaint, as after a change of the label's size or font.
   void Refresh();
 
  private:
   struct Lines {
-    std::vector<std::string_view> texts;  // of the caption
+    std::vector<std::string_view> texts;  // of the caption; empty when it was not measured yet
     platform::Size size;                  // pixels
+    platform::Size room;                  // what the label had
+    platform::FontStyle font;
   };
 
   void Paint(platform::Canvas& canvas) override;
   void CaptionChanged() override { Refresh(); }
   void Resized() override { Refresh(); }
-  [[nodiscard]] Lines Broken(platform::Canvas& canvas, platform::Size room);
+  // Returns the lines that the caption is painted in, measured on `canvas` when they are not known.
+  const Lines& Broken(platform::Canvas& canvas, platform::Size room);
   [[nodiscard]] int LeftEdge(int width, int room);
 
   std::unique_ptr<platform::Bitmap> scratch_;  // to measure texts on
-  int left_ = 0;                               // pixels; where the text was painted last
+  Lines lines_;
+  int left_ = 0;  // pixels; where the text was painted last
 };
 
 }  // namespace display

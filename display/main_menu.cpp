@@ -1,6 +1,6 @@
 #include "display/main_menu.h"
 
-#include "display/menu_images.h"
+#include "display/images.h"
 
 namespace display {
 namespace {

@@ -24,10 +24,13 @@ enum class On {
   kStart,    // only at the next start
 };
 
+// `of` is a constant of the schema, so that a row refers to it.
 struct Row {
   template <class Setting, class Effect>
   Row(const Setting& of, Effect effect, On when = On::kChoice)
-      : name(of.name), when(when), start([of, effect](Meter m) { effect(m, m.store.Read(of)); }) {
+      : name(of.name),
+        when(when),
+        read([&of](settings::Store& store) -> OptionValue { return store.Read(of); }) {
     using Value = decltype(std::declval<settings::Store>().Read(of));
     take = [effect](Meter m, const OptionValue& value) { effect(m, std::get<Value>(value)); };
   }
@@ -40,7 +43,7 @@ struct Row {
 
   std::string_view name;
   On when;
-  std::function<void(Meter m)> start;
+  std::function<OptionValue(settings::Store& store)> read;
   std::function<void(Meter m, const OptionValue& value)> take;
 };
 
@@ -77,13 +80,13 @@ void ShowHints(Meter m, bool shown) {
 }
 
 void TakeFont(Meter m, const std::string& face) {
-  platform::FontSpec font = m.label.Font();  // its size follows the width of the window
+  platform::FontStyle font = m.label.Font();  // its size follows the width of the window
   font.face = face;
   m.label.SetFont(font);
 }
 
 Row LineMode(const settings::BooleanSetting& mode) {
-  return {mode, [mode](Meter m, bool on) {
+  return {mode, [&mode](Meter m, bool on) {
             m.line.ShowMode(mode, on);
             m.window.LineChanged();
           }};
@@ -191,7 +194,7 @@ const std::vector<Row>& ChosenRows() {
 void OptionTable::ApplyStored(ScaleTaken scale) {
   for (const Row& row : StoredRows()) {
     const bool is_scale = row.name == setting::GraphScaleType.name;
-    if (!is_scale || scale == ScaleTaken::kFromStore) row.start(parts_);
+    if (!is_scale || scale == ScaleTaken::kFromStore) row.take(parts_, row.read(parts_.store));
   }
 }
 

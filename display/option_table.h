@@ -9,10 +9,12 @@
 #include <variant>
 
 #include "alerts/notifications.h"
+#include "display/adapter_menus.h"
 #include "display/graph/kxintermeter.h"
 #include "display/numeric_line.h"
 #include "display/transparency.h"
 #include "display/tray/tray_icon.h"
+#include "language/language.h"
 #include "settings/scale_choice.h"
 #include "settings/store.h"
 #include "toolkit/controls/control.h"
@@ -85,6 +87,17 @@ class OptionTable {
   void Run(std::string_view name, Moment moment, const OptionValue& value);
 
   const MeterParts parts_;
+};
+
+// The parts of the running meter that the preferences work on. All belong to the meter window and
+// live as long as it does.
+struct RunningMeter {
+  T_frmBrisanto& window;
+  settings::Store& store;
+  language::Language& language;
+  OptionTable& options;
+  NumericLine& line;
+  AdapterMenus& adapters;
 };
 
 }  // namespace display

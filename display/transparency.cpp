@@ -4,7 +4,7 @@
 #include <utility>
 #include <vector>
 
-#include "display/graph/shape.h"
+#include "display/graph/picture.h"
 #include "platform/scoped_value.h"
 #include "toolkit/application.h"
 

@@ -15,15 +15,7 @@ constexpr platform::Size kClientSize{277, 102};  // design pixels
 
 T_frmAreYouSure::T_frmAreYouSure(toolkit::Application& app, settings::Store& store,
                                  const language::Language& language)
-    : Form(app, kAreYouSureForm, platform::Frame::kDialog),
-      store_(store),
-      language_(language),
-      Image1(*this, "Image1", toolkit::Sign::Picture::kQuestion),
-      lblQuestion1(*this, "lblQuestion1", toolkit::kWrappedText),
-      lblQuestion2(*this, "lblQuestion2", toolkit::kWrappedText),
-      AskCheck(*this, "AskCheck"),
-      btnYes(*this, "btnYes"),
-      btnNo(*this, "btnNo") {
+    : Form(app, kAreYouSureForm, platform::Frame::kDialog), store_(store), language_(language) {
   SetClientSize(kClientSize);
   toolkit::ApplyLayout({
       {Image1, {12, 10, toolkit::kSignSize, toolkit::kSignSize}},
@@ -49,11 +41,7 @@ void T_frmAreYouSure::FormCreate() {
 void T_frmAreYouSure::Localise() {
   const language::Translation say = language_.Chosen();
   SetCaption(say(text::Title));
-  lblQuestion1.SetCaption(say(text::lblQuestion1));
-  lblQuestion2.SetCaption(say(text::lblQuestion2));
-  AskCheck.SetCaption(say(text::AskCheck));
-  btnYes.SetCaption(say(text::btnYes));
-  btnNo.SetCaption(say(text::btnNo));
+  language::SayNames(*this, text::Title.section, say);
 }
 
 // The check box comes first in reading order, but the focus starts on the answer.

@@ -5,8 +5,7 @@
 
 #include "language/language.h"
 #include "settings/store.h"
-#include "toolkit/controls/button.h"
-#include "toolkit/controls/check_box.h"
+#include "toolkit/controls/buttons.h"
 #include "toolkit/controls/label.h"
 #include "toolkit/controls/sign.h"
 #include "toolkit/forms/form.h"
@@ -32,12 +31,12 @@ class T_frmAreYouSure final : public toolkit::Form {
   settings::Store& store_;
   const language::Language& language_;
 
-  toolkit::Sign Image1;
-  toolkit::Label lblQuestion1;
-  toolkit::Label lblQuestion2;
-  toolkit::CheckBox AskCheck;
-  toolkit::Button btnYes;
-  toolkit::Button btnNo;
+  toolkit::Sign Image1{*this, "Image1", toolkit::Sign::Picture::kQuestion};
+  toolkit::Label lblQuestion1{*this, "lblQuestion1", toolkit::kWrappedText};
+  toolkit::Label lblQuestion2{*this, "lblQuestion2", toolkit::kWrappedText};
+  toolkit::CheckBox AskCheck{*this, "AskCheck"};
+  toolkit::Button btnYes{*this, "btnYes"};
+  toolkit::Button btnNo{*this, "btnNo"};
 };
 
 }  // namespace display

@@ -6,7 +6,6 @@
 #include "display/titles/unit_AddTitlesForm.h"
 #include "engine/local_ip.h"
 #include "program/product.h"
-#include "settings/administrator_lock.h"
 #include "settings/placement_keys.h"
 #include "settings/unit_SecurityForm.h"
 #include "toolkit/application.h"
@@ -49,29 +48,7 @@ int LabelPoints(int window_width) {
 
 T_frmBrisanto::T_frmBrisanto(toolkit::Application& app)
     : Form(app, CreateParams()),
-      error_log_(app.Platform().files, app.Platform().locale, CommonMemo),
-      RegME(app.Platform().registry, app.Platform().files),
-      _ReadLangauge(RegME, app.Platform().files, app.Platform().locale),
-      quantity_(RegME, app.Platform().locale),
-      statistics_(RegME),
-      sampler_(app.Platform().interface_table, app.Platform().locale, RegME, traffic_),
-      scan_cycle_(app.Platform().clock, sampler_, statistics_, traffic_, *this),
-      _MainMenu(app),
-      adapter_menus_(RegME, *_MainMenu.conenctionMonitor1, *_MainMenu.ConnectionSources1),
-      _tlkInterMeter(*this, "_tlkInterMeter"),
-      pnlContain(*this, "pnlContain"),
-      _tlkDLULMeter(pnlContain, "_tlkDLULMeter"),
-      _FormMagnet(*this),
       _tlkFormSaver(*this, settings::placement_key::kMain),
-      transparency_(*this, RegME, _MainMenu, _tlkInterMeter, pnlContain),
-      title_posting_(app, RegME),
-      numeric_line_(RegME, quantity_, _ReadLangauge),
-      _TrayIcon(app, RegME),
-      _WindowsManager(app),
-      reactions_(app.Platform().sound, _TrayIcon, _WindowsManager.shutdown),
-      notifications_(app, RegME, _ReadLangauge, reactions_),
-      ticker_(RegME, reactions_),
-      bandwidth_alert_(app, RegME, quantity_, _ReadLangauge, reactions_, _MainMenu.popup),
       statistics_windows_({app, RegME, quantity_, _ReadLangauge, traffic_},
                           [this] { OpenPreferences("BandwidthAlert"); }),
       options_({*this, RegME, _tlkInterMeter, _tlkDLULMeter, numeric_line_, _TrayIcon,
@@ -81,8 +58,7 @@ T_frmBrisanto::T_frmBrisanto(toolkit::Application& app)
           {{toolkit::kCtrl | toolkit::kAlt | 'F', [this] { GlobalAtomKeyGlobalKeys0KeyDown(); }},
            {toolkit::kCtrl | toolkit::kAlt | 'D', [this] { GlobalAtomKeyGlobalKeys1KeyDown(); }},
            {toolkit::kCtrl | toolkit::kShift | 'Q',
-            [this] { GlobalAtomKeyGlobalKeys2KeyDown(); }}}),
-      exit_(app, RegME, _ReadLangauge) {
+            [this] { GlobalAtomKeyGlobalKeys2KeyDown(); }}}) {
   DesignControls();
   ConnectHandlers();
   LocaliseControls();
@@ -171,7 +147,11 @@ void T_frmBrisanto::FormCreate() {
   App().Platform().windowing.HideTaskbarButton();
 }
 
-void T_frmBrisanto::InitAdapters() { adapter_menus_.Add(sampler_.InitAdapters()); }
+void T_frmBrisanto::InitAdapters() {
+  adapter_menus_.Add(sampler_.InitAdapters([this](std::string_view description, const auto& row) {
+    return statistics_.RecordAdapter(description, row);
+  }));
+}
 
 void T_frmBrisanto::LocaliseControls() {
   _MainMenu.Localise(_ReadLangauge);
@@ -345,7 +325,7 @@ void T_frmBrisanto::FormEndSession() {
 }
 
 void T_frmBrisanto::FormResize() {
-  platform::FontSpec font = _tlkDLULMeter.Font();
+  platform::FontStyle font = _tlkDLULMeter.Font();
   font.height = toolkit::PointsToDesignPixels(LabelPoints(Unscale(WindowBounds().width)));
   _tlkDLULMeter.SetFont(font);
   _tlkDLULMeter.Refresh();

@@ -19,7 +19,6 @@
 #include "display/main_menu.h"
 #include "display/numeric_line.h"
 #include "display/option_table.h"
-#include "display/running_meter.h"
 #include "display/statistics_windows.h"
 #include "display/titles/posting.h"
 #include "display/transparency.h"
@@ -126,40 +125,42 @@ class T_frmBrisanto final : public toolkit::Form, private engine::ScanSteps {
   void CheckBandwidthAlert() override;
 
   std::vector<std::string> CommonMemo;
-  engine::ErrorLog error_log_;
-  settings::Store RegME;
-  language::Language _ReadLangauge;
-  quantity::Quantity quantity_;
+  engine::ErrorLog error_log_{App().Platform().files, App().Platform().locale, CommonMemo};
+  settings::Store RegME{App().Platform().registry, App().Platform().files};
+  language::Language _ReadLangauge{RegME, App().Platform().files, App().Platform().locale};
+  quantity::Quantity quantity_{RegME, App().Platform().locale};
 
   engine::TrafficState traffic_;
-  engine::Statistics statistics_;
-  engine::InterfaceSampler sampler_;
-  engine::ScanCycle scan_cycle_;
+  engine::Statistics statistics_{RegME};
+  engine::InterfaceSampler sampler_{App().Platform().interface_table, App().Platform().locale,
+                                    traffic_};
+  engine::ScanCycle scan_cycle_{App().Platform().clock, sampler_, statistics_, traffic_, *this};
 
-  MainMenu _MainMenu;
-  AdapterMenus adapter_menus_;
-  TKxInterMeter _tlkInterMeter;
-  toolkit::Panel pnlContain;
-  LineLabel _tlkDLULMeter;
-  toolkit::DockingMagnet _FormMagnet;
+  MainMenu _MainMenu{App()};
+  AdapterMenus adapter_menus_{RegME, *_MainMenu.conenctionMonitor1, *_MainMenu.ConnectionSources1};
+  TKxInterMeter _tlkInterMeter{*this, "_tlkInterMeter"};
+  toolkit::Panel pnlContain{*this, "pnlContain"};
+  LineLabel _tlkDLULMeter{pnlContain, "_tlkDLULMeter"};
+  toolkit::DockingMagnet _FormMagnet{*this};
   toolkit::PlacementSaver _tlkFormSaver;
-  Transparency transparency_;
-  TitlePosting title_posting_;
-  NumericLine numeric_line_;
-  TrayIcon _TrayIcon;
+  Transparency transparency_{*this, RegME, _MainMenu, _tlkInterMeter, pnlContain};
+  TitlePosting title_posting_{App(), RegME};
+  NumericLine numeric_line_{RegME, quantity_, _ReadLangauge};
+  TrayIcon _TrayIcon{App(), RegME};
 
   toolkit::Action ResetVars{"ResetVars"};  // nothing is bound to it
-  alerts::SystemManager _WindowsManager;
-  alerts::Reactions reactions_;
-  alerts::Notifications notifications_;
-  alerts::Ticker ticker_;
-  alerts::BandwidthAlert bandwidth_alert_;
+  alerts::SystemManager _WindowsManager{App()};
+  alerts::Reactions reactions_{App().Platform().sound, _TrayIcon, _WindowsManager.shutdown};
+  alerts::Notifications notifications_{App(), RegME, _ReadLangauge, reactions_};
+  alerts::Ticker ticker_{RegME, reactions_};
+  alerts::BandwidthAlert bandwidth_alert_{App(),         RegME,      quantity_,
+                                          _ReadLangauge, reactions_, _MainMenu.popup};
 
   StatisticsWindows statistics_windows_;
   OptionTable options_;
 
   HotKeyHolder GlobalAtomKey;
-  Exit exit_;
+  Exit exit_{App(), RegME, _ReadLangauge};
 
   // Last: destroyed before the parts that it uses.
   std::function<void(std::string_view page)> open_preferences_;

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cstddef>
 
-#include "platform/interface_row.h"
 #include "platform/text.h"
 #include "settings/adapter_values.h"
 

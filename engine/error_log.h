@@ -17,14 +17,14 @@ namespace engine {
 // a new one begins.
 inline constexpr std::size_t kErrorLogLimit = 4U << 20;  // bytes
 
-// So much is kept of what cannot be written, some twenty minutes of such failures. Beyond it the
-// later messages are lost: the first ones tell the cause.
+// As much as this is kept of what cannot be written, some twenty minutes of such failures. Beyond
+// it the later messages are lost: the first ones tell the cause.
 inline constexpr std::size_t kErrorLogWaitingLimit = 64U << 10;  // bytes
 
 class ErrorLog {
  public:
-  // All outlive the log. `CommonMemo` holds the lines as last read or written, and behind them
-  // those that could not be written yet.
+  // All arguments outlive the log. `CommonMemo` holds the lines as last read or written, and behind
+  // them those that could not be written yet.
   ErrorLog(platform::Files& files, platform::Locale& locale, std::vector<std::string>& CommonMemo)
       : files_(files), locale_(locale), CommonMemo_(CommonMemo) {}
 
@@ -37,13 +37,14 @@ class ErrorLog {
 
  private:
   [[nodiscard]] std::string Path() const;
-  // Brings what waits into the file. Each is false when refused.
+  // Bring what waits into the file. Each returns false when the system refuses.
   [[nodiscard]] bool Write();
   [[nodiscard]] bool AppendWaiting();
-  // Lets a full file become the old one; `CommonMemo` keeps what waits.
+  // Lets a full file become the old one; `CommonMemo` keeps what waits. Returns false when the
+  // system refuses.
   [[nodiscard]] bool PutAside();
-  // Takes the file's lines into `CommonMemo`, in front of what waits. What is in one that cannot be
-  // read must not be lost.
+  // Takes the file's lines into `CommonMemo`, in front of what waits. Returns false for a file that
+  // cannot be read, whose lines must not be lost.
   [[nodiscard]] bool TakeOver();
   [[nodiscard]] bool Rewrite();
 

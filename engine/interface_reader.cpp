@@ -5,8 +5,6 @@
 #include <cstring>
 #include <utility>
 
-#include "platform/interface_row.h"
-
 namespace engine {
 
 using platform::InterfaceRow;

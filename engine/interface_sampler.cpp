@@ -3,7 +3,6 @@
 #include <cstddef>
 
 #include "engine/adapter.h"
-#include "settings/adapter_values.h"
 
 namespace engine {
 namespace {
@@ -61,7 +60,7 @@ void UpdateCounters(const InterfaceRow& row, std::int64_t speed_cap, AdapterCoun
 
 }  // namespace
 
-std::vector<AdapterItem> InterfaceSampler::InitAdapters() {
+std::vector<AdapterItem> InterfaceSampler::InitAdapters(const Record& record) {
   reader_.ReadInterfaceTable(state_.interface_table);
   const std::vector<InterfaceRow>& table = state_.interface_table;
   state_.AdapterHigh = kNotInitialised;
@@ -73,10 +72,9 @@ std::vector<AdapterItem> InterfaceSampler::InitAdapters() {
   for (std::size_t row = 0; row < table.size(); ++row) {
     const std::string description = AdapterDescription(table[row], locale_);
     if (IsLoopback(description)) continue;
-    WriteAdapterData(store_, description, table[row]);
+    const bool included = record(description, table[row]);
     state_.mac_addresses[row] = FormatMacAddress(table[row]);
     if (description.empty()) continue;
-    const bool included = store_.ReadBool(settings::TrimmedAdapterName(description), true);
     items.push_back({description, static_cast<std::int32_t>(row), included});
   }
   // This is set last, so that the next scan repeats an initialisation that failed half-way.
@@ -89,7 +87,7 @@ bool InterfaceSampler::RowCountChanged() {
   return HighestIndex(state_.interface_table) != state_.AdapterHigh;
 }
 
-ScanAmounts InterfaceSampler::SampleInterfaces(const Persist& persist) {
+ScanAmounts InterfaceSampler::SampleInterfaces(const Counts& counts, const Persist& persist) {
   // A row that RowCountChanged has not seen is left out until the next scan.
   reader_.ReadInterfaceTable(state_.interface_table, NewRows::kLeaveOut);
   ScanAmounts scan;
@@ -106,7 +104,7 @@ ScanAmounts InterfaceSampler::SampleInterfaces(const Persist& persist) {
     if (WasSetBack(row, counters)) TakeBase(row, counters);
     UpdateCounters(row, state_.SpeedCap, counters);
   }
-  for (std::size_t row = 0; row < rows; ++row) CountRow(row, persist, scan);
+  for (std::size_t row = 0; row < rows; ++row) CountRow(row, counts, persist, scan);
   return scan;
 }
 
@@ -122,11 +120,12 @@ bool InterfaceSampler::WasSetBack(const InterfaceRow& row, const AdapterCounters
                     BeganAnew(counters.LastOutOctets, row.dwOutOctets, octets->out));
 }
 
-void InterfaceSampler::CountRow(std::size_t row, const Persist& persist, ScanAmounts& scan) {
+void InterfaceSampler::CountRow(std::size_t row, const Counts& counts, const Persist& persist,
+                                ScanAmounts& scan) {
   const AdapterCounters& counters = state_.adapter_counters[row];
   const std::string description = AdapterDescription(state_.interface_table[row], locale_);
   if (IsLoopback(description)) return;
-  if (store_.ReadBool(settings::AdapterName(description), true)) {
+  if (counts(description)) {
     scan.ScanSumDL += counters.DeltaIn;
     scan.ScanSumUL += counters.DeltaOut;
     scan.ScanMaxDL += counters.MaxIn;

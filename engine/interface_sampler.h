@@ -4,13 +4,13 @@
 #include <cstdint>
 #include <functional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "engine/interface_reader.h"
 #include "engine/traffic_state.h"
 #include "platform/interface_table.h"
 #include "platform/locale.h"
-#include "settings/store.h"
 
 namespace engine {
 
@@ -23,30 +23,34 @@ struct AdapterItem {
 
 class InterfaceSampler {
  public:
+  // Stores what a row says about its adapter; returns whether the adapter's menu item is ticked.
+  using Record = std::function<bool(std::string_view description, const platform::InterfaceRow&)>;
+  // Returns whether the user wants the adapter counted.
+  using Counts = std::function<bool(std::string_view description)>;
+  // Stores the statistics of an adapter.
   using Persist = std::function<void(const AdapterScan&)>;
 
   // All arguments outlive the sampler.
   InterfaceSampler(platform::InterfaceTable& interface_table, platform::Locale& locale,
-                   settings::Store& store, TrafficState& state)
+                   TrafficState& state)
       : interface_table_(interface_table),
         reader_(interface_table),
         locale_(locale),
-        store_(store),
         state_(state) {}
 
   // Reads the table, seeds the counters of every row from it, so that the next scan counts from
-  // here, and stores the adapter data. Returns the adapters that the menus list, in row order.
-  // Throws what the store throws; the table then counts as not initialised.
-  [[nodiscard]] std::vector<AdapterItem> InitAdapters();
+  // here, and hands each adapter to `record`. Returns the adapters that the menus list, in row
+  // order. Throws what `record` throws; the table then counts as not initialised.
+  [[nodiscard]] std::vector<AdapterItem> InitAdapters(const Record& record);
 
   // Reads the table and returns whether its row count differs from that at the last InitAdapters.
   [[nodiscard]] bool RowCountChanged();
 
-  // Reads the table and measures one scan; hands each adapter that is to be persisted to `persist`,
-  // in row order, before the include flag of the next is read.
-  // Throws what `persist` throws. The counters of all rows are up to date then, so the bytes of
-  // this scan are not counted by a later one.
-  [[nodiscard]] ScanAmounts SampleInterfaces(const Persist& persist);
+  // Reads the table and measures one scan; asks `counts` about each adapter and hands those that
+  // are to be persisted to `persist`, in row order, before the next adapter is asked about. Throws
+  // what the two throw. The counters of all rows are up to date then, so the bytes of this scan are
+  // not counted by a later one.
+  [[nodiscard]] ScanAmounts SampleInterfaces(const Counts& counts, const Persist& persist);
 
   // Takes the present counters as those of the previous scan. This is for the return from sleep,
   // when drivers may have started their counters anew, so that a difference is no traffic.
@@ -58,12 +62,11 @@ class InterfaceSampler {
  private:
   [[nodiscard]] bool CountersFitTable() const;
   [[nodiscard]] bool WasSetBack(const platform::InterfaceRow& row, const AdapterCounters& counters);
-  void CountRow(std::size_t row, const Persist& persist, ScanAmounts& scan);
+  void CountRow(std::size_t row, const Counts& counts, const Persist& persist, ScanAmounts& scan);
 
   platform::InterfaceTable& interface_table_;
   InterfaceReader reader_;
   platform::Locale& locale_;
-  settings::Store& store_;
   TrafficState& state_;
 };
 

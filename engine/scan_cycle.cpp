@@ -23,6 +23,7 @@ void ScanCycle::Run() {
 
   ReinitialiseIfRowsChanged();
   const ScanAmounts scan = sampler_.SampleInterfaces(
+      [&](std::string_view description) { return statistics_.Counts(description); },
       [&](const AdapterScan& adapter) { statistics_.PersistAdapter(adapter, today); });
   FeedGraph(scan);
   state_.AddToRunTotals(scan);

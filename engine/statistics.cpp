@@ -3,7 +3,6 @@
 #include "engine/adapter.h"
 #include "engine/counter_group.h"
 #include "engine/periods.h"
-#include "engine/week_number.h"
 #include "settings/adapter_values.h"
 
 namespace engine {
@@ -22,6 +21,15 @@ void Statistics::InitStatistics(std::span<const std::string> descriptions, platf
   for (const std::string& description : descriptions) {
     store_.WriteBool(settings::AdapterName(description), true);
   }
+}
+
+bool Statistics::RecordAdapter(std::string_view description, const platform::InterfaceRow& row) {
+  WriteAdapterData(store_, description, row);
+  return !description.empty() && store_.ReadBool(settings::TrimmedAdapterName(description), true);
+}
+
+bool Statistics::Counts(std::string_view description) {
+  return store_.ReadBool(settings::AdapterName(description), true);
 }
 
 void Statistics::PersistAdapter(const AdapterScan& adapter, platform::DateTime today) {

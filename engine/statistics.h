@@ -23,6 +23,12 @@ class Statistics {
   //   now           local date and time
   void InitStatistics(std::span<const std::string> descriptions, platform::DateTime now);
 
+  // Stores what a row says about its adapter, at an initialisation. Returns whether the menu shows
+  // the adapter as one that counts, and false for an adapter without a description, which has no
+  // menu item.
+  bool RecordAdapter(std::string_view description, const platform::InterfaceRow& row);
+  // Returns whether the user wants the adapter counted.
+  [[nodiscard]] bool Counts(std::string_view description);
   // Stores the data of one adapter, in a scan that persists it, and updates its statistics.
   //   today  midnight of the local date
   void PersistAdapter(const AdapterScan& adapter, platform::DateTime today);

@@ -80,6 +80,15 @@ void Language::Choose(std::string_view name) {
   kept_ = {};
 }
 
+void SayNames(const toolkit::Control& parent, std::string_view section, const Translation& say) {
+  for (toolkit::Control* control : parent.Children()) {
+    if (const auto* text = FindText(section, control->Name())) control->SetCaption(say(*text));
+    const auto* hint = FindText(section, control->Name() + "Hint");
+    if (hint != nullptr) control->SetHint(say(*hint));
+    if (!control->IsComposite()) SayNames(*control, section, say);
+  }
+}
+
 std::vector<std::string> LoadDirectory(platform::Files& files, std::string_view folder,
                                        std::string_view mask) {
   std::string path(folder);

@@ -13,6 +13,7 @@
 #include "platform/files.h"
 #include "platform/locale.h"
 #include "settings/store.h"
+#include "toolkit/controls/control.h"
 
 namespace language {
 
@@ -90,6 +91,10 @@ class Language {
   platform::Locale& locale_;
   mutable KeptFile kept_;
 };
+
+// Gives every control on `parent` the text of `section` under the control's name and, as its hint,
+// the text under its name with "Hint" behind it, as far as there are such texts.
+void SayNames(const toolkit::Control& parent, std::string_view section, const Translation& say);
 
 // Returns the names of the files in a folder that match a mask. The folder may be given with or
 // without a backslash at its end.

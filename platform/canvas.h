@@ -11,11 +11,11 @@
 
 namespace platform {
 
-struct FontSpec {
+struct FontStyle {
   std::string face = "Tahoma";  // when it is not installed, the system's nearest font is used
   int height = 11;              // pixels, character height without internal leading (96 dpi: 8 pt)
   bool bold = false;
-  friend bool operator==(const FontSpec&, const FontSpec&) = default;
+  friend bool operator==(const FontStyle&, const FontStyle&) = default;
 };
 
 enum class PenStyle { kSolid, kDash, kDot, kDashDot, kDashDotDot };
@@ -31,6 +31,8 @@ class Canvas {
   virtual ~Canvas() = default;
 
   [[nodiscard]] virtual Size Extent() const = 0;
+  // Returns the whole area.
+  [[nodiscard]] Rect Area() const { return {0, 0, Extent().width, Extent().height}; }
 
   virtual void Fill(const Rect& area, Colour colour) = 0;
 
@@ -39,9 +41,9 @@ class Canvas {
 
   // Draws one line of text, centred vertically in `box` and clipped to it, without a background.
   // "&" has no special meaning.
-  virtual void Text(const Rect& box, std::string_view text, const FontSpec& font, Colour colour,
+  virtual void Text(const Rect& box, std::string_view text, const FontStyle& font, Colour colour,
                     TextAlign align) = 0;
-  [[nodiscard]] virtual Size TextSize(std::string_view text, const FontSpec& font) = 0;
+  [[nodiscard]] virtual Size TextSize(std::string_view text, const FontStyle& font) = 0;
 
   // Copies a whole bitmap with its top left corner at `at`.
   virtual void Draw(const Bitmap& bitmap, Point at) = 0;

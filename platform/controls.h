@@ -73,8 +73,12 @@ enum class ListKind {
 // A list. Selecting a row reports OnChanged; ticking one reports OnRowChecked.
 class ItemList : public Widget {
  public:
-  // Replaces the rows. Afterwards no row is selected and none is ticked.
-  virtual void SetItems(std::span<const std::string> items) = 0;
+  // Puts `added` in the place of the `removed` rows from `first` on; the new rows are not ticked.
+  // The rows around them keep their ticks. Which row is selected afterwards is not said, unless all
+  // were replaced: then it is none.
+  virtual void Replace(int first, int removed, std::span<const std::string> added) = 0;
+  // Replaces all rows.
+  void SetItems(std::span<const std::string> items) { Replace(0, Count(), items); }
   [[nodiscard]] virtual int Count() const = 0;
   // The selected row; -1 means none.
   virtual void SetIndex(int index) = 0;

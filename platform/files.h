@@ -19,8 +19,6 @@ class Files {
   // Returns the folder of the executable, with the trailing backslash.
   [[nodiscard]] virtual std::string ProgramFolder() = 0;
 
-  // Returns whether `path` is a file (not a folder).
-  [[nodiscard]] virtual bool Exists(std::string_view path) = 0;
   // Returns whether neither a file nor a folder has this name. Also returns false when the system
   // does not say (GetFileAttributes).
   [[nodiscard]] virtual bool Missing(std::string_view path) = 0;

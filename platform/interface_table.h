@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <optional>
 #include <span>
+#include <string>
 
 namespace platform {
 
@@ -70,5 +71,11 @@ class InterfaceTable {
   // OutOctets), or nullopt when the system cannot say.
   [[nodiscard]] virtual std::optional<LongOctets> Octets(std::uint32_t index) = 0;
 };
+
+// Returns the bytes of the description, in the system's code page, without the terminating NUL. On
+// Windows `dwDescrLen` counts that NUL and under Wine it does not, so the text ends at the first
+// NUL or where the length says, whichever comes first. It has at most 256 bytes, whatever length
+// the row states.
+[[nodiscard]] std::string DescriptionBytes(const InterfaceRow& row);
 
 }  // namespace platform

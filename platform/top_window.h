@@ -66,8 +66,6 @@ class TopWindowEvents : public WidgetEvents {
   // The keyboard, or the code, brought the focus to a control that takes this area of the client
   // area.
   virtual void OnFocusMoved(const Rect& /*area*/) {}
-  // The window became active or ceased to be.
-  virtual void OnActivate(bool /*active*/) {}
   // The window came onto a monitor of another resolution, or the user changed the resolution.
   // `bounds` are the bounds at which the window keeps its look.
   virtual void OnDpiChanged(int /*dpi*/, const Rect& /*bounds*/) {}

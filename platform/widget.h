@@ -88,7 +88,7 @@ class Widget {
   virtual void SetEnabled(bool enabled) = 0;
   [[nodiscard]] virtual bool Enabled() const = 0;
 
-  virtual void SetFont(const FontSpec& font) = 0;
+  virtual void SetFont(const FontStyle& font) = 0;
   // A disabled control shows its text in the system's grey. Lists in columns, trees, tabs and
   // progress bars keep the system's colours; so do push buttons, except for the background around
   // their face.

@@ -6,7 +6,7 @@
 
 #include "alerts/reactions.h"
 #include "preferences/row.h"
-#include "toolkit/controls/list_box.h"
+#include "toolkit/controls/lists.h"
 
 namespace preferences {
 

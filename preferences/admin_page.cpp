@@ -1,8 +1,8 @@
 #include <string>
 
-#include "preferences/pages.h"
-#include "settings/administrator_lock.h"
-#include "toolkit/controls/button.h"
+#include "preferences/page.h"
+#include "settings/unit_SecurityForm.h"
+#include "toolkit/controls/buttons.h"
 
 namespace preferences {
 namespace {

@@ -1,10 +1,10 @@
 #include <string>
 #include <vector>
 
-#include "alerts/bandwidth_limit.h"
+#include "alerts/bandwidth_alert.h"
 #include "preferences/action_fields.h"
-#include "preferences/pages.h"
-#include "toolkit/controls/list_box.h"
+#include "preferences/page.h"
+#include "toolkit/controls/lists.h"
 
 namespace preferences {
 namespace {
@@ -15,7 +15,7 @@ namespace text = language::text::SettingsForm;
 constexpr int kDays = 31;
 constexpr Range kLimit{1, 2100000000};
 
-// The limit of a period, and what comes when it is reached.
+// The page of the limit of a period, and of what comes when it is reached.
 class BandwidthAlertPage final : public Page {
  public:
   BandwidthAlertPage(toolkit::Notebook& notebook, Context& context)
@@ -75,7 +75,7 @@ class BandwidthAlertPage final : public Page {
   }
 
  private:
-  // Says what will come of all this.
+  // Says what will come of the choices on the page.
   void Tell() { lblBaOutcome.SetCaption(Outcome(context_.language.Chosen())); }
 
   [[nodiscard]] std::string Outcome(const language::Translation& say) const {

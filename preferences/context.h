@@ -3,7 +3,7 @@
 
 #include <functional>
 
-#include "display/running_meter.h"
+#include "display/option_table.h"
 #include "language/language.h"
 #include "platform/scoped_value.h"
 #include "settings/store.h"

@@ -1,8 +1,9 @@
 #include <optional>
 #include <string>
 
-#include "preferences/pages.h"
-#include "preferences/picture_panel.h"
+#include "display/tray/pictures.h"
+#include "preferences/page.h"
+#include "toolkit/controls/panel.h"
 #include "toolkit/forms/form.h"
 #include "toolkit/open_dialog.h"
 
@@ -14,6 +15,46 @@ namespace text = language::text::SettingsForm;
 
 constexpr int kPanelWidth = 48;
 constexpr int kMeterHeight = kGroupTop + 4 * kFieldRow + 2;
+
+// A button that shows the four activity pictures of the tray icon; a click on it chooses others.
+class PicturePanel final : public toolkit::ButtonControl {
+ public:
+  PicturePanel(toolkit::Control& parent, std::string_view name)
+      : ButtonControl(parent, name, platform::ButtonKind::kPainted) {}
+
+  // Shows the pictures of a file, or else of `fallback`, or else none.
+  void Load(const std::string& path, const std::string& fallback) {
+    pictures_.Load(App().Platform().files, path, fallback);
+    Invalidate();
+  }
+
+  // The size of the whole panel in design pixels.
+  static constexpr int kWidth = 94;
+  static constexpr int kHeight = 26;
+
+ protected:
+  void Paint(platform::Canvas& canvas) override {
+    // Sizes in design pixels.
+    constexpr int kSide = 16;
+    constexpr int kGap = 6;
+    constexpr int kPictures = 4;
+    const platform::Rect inside =
+        toolkit::DrawBevel(canvas, canvas.Area(), toolkit::BevelCut::kLowered, 1, Colour());
+    canvas.Fill(inside, platform::colour::kButtonFace);
+    const int side = Scale(kSide);
+    const auto picture = App().Platform().graphics.CreateBitmap({side, side});
+    if (!pictures_.Loaded() || !picture) return;
+    for (int i = 0; i < kPictures; ++i) {
+      pictures_.Draw(static_cast<display::TrayActivity>(i), picture->GetCanvas(),
+                     platform::colour::kButtonFace);
+      canvas.Draw(*picture,
+                  {Scale(kGap + i * (kSide + kGap)), (canvas.Extent().height - side) / 2});
+    }
+  }
+
+ private:
+  display::TrayPictures pictures_;
+};
 
 // The page of the graph's colours and of the tray icon's kind and colours.
 class GraphColorsPage final : public Page {

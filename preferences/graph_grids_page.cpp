@@ -1,8 +1,8 @@
 #include <string>
 #include <vector>
 
-#include "preferences/pages.h"
-#include "toolkit/controls/list_box.h"
+#include "preferences/page.h"
+#include "toolkit/controls/lists.h"
 
 namespace preferences {
 namespace {

@@ -2,9 +2,9 @@
 #include <string>
 #include <vector>
 
-#include "preferences/pages.h"
+#include "preferences/page.h"
 #include "settings/scale_choice.h"
-#include "toolkit/controls/list_box.h"
+#include "toolkit/controls/lists.h"
 
 namespace preferences {
 namespace {

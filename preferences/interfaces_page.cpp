@@ -2,9 +2,9 @@
 #include <string>
 #include <vector>
 
-#include "preferences/pages.h"
+#include "preferences/page.h"
 #include "settings/adapter_values.h"
-#include "toolkit/controls/check_list_box.h"
+#include "toolkit/controls/lists.h"
 
 namespace preferences {
 namespace {

@@ -2,8 +2,8 @@
 
 #include "alerts/traffic_rule.h"
 #include "preferences/action_fields.h"
-#include "preferences/pages.h"
-#include "toolkit/controls/list_box.h"
+#include "preferences/page.h"
+#include "toolkit/controls/lists.h"
 
 namespace preferences {
 namespace {

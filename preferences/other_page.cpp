@@ -1,6 +1,6 @@
 #include <string>
 
-#include "preferences/pages.h"
+#include "preferences/page.h"
 
 namespace preferences {
 namespace {
@@ -10,7 +10,7 @@ namespace text = language::text::SettingsForm;
 
 constexpr int kOpaque = 255;  // position of the track bar
 
-// Keyboard lights, transparency, exit.
+// The page of the keyboard lights, the transparency and the exit.
 class OtherPage final : public Page {
  public:
   OtherPage(toolkit::Notebook& notebook, Context& context) : Page(notebook, "Other", context) {
@@ -52,7 +52,7 @@ class OtherPage final : public Page {
   }
 
  private:
-  // The per cent behind the label, and whether they count at all.
+  // Shows the per cent behind the label, and in the hint whether they count at all.
   void ShowOpacity() {
     const language::Translation say = context_.language.Chosen();
     const int percent = (Win2kTransTrack.Position() * 100 + kOpaque / 2) / kOpaque;

@@ -1,23 +1,11 @@
 #include "preferences/page.h"
 
-#include <string>
 #include <utility>
 
 namespace preferences {
-namespace {
-
-void SayNames(const toolkit::Control& parent, const language::Translation& say) {
-  for (toolkit::Control* control : parent.Children()) {
-    if (const auto* text = FindText(control->Name())) control->SetCaption(say(*text));
-    if (const auto* hint = FindText(control->Name() + "Hint")) control->SetHint(say(*hint));
-    if (!control->IsComposite()) SayNames(*control, say);
-  }
-}
-
-}  // namespace
 
 void Page::Localise(const language::Translation& say) {
-  SayNames(*this, say);
+  language::SayNames(*this, "SettingsForm", say);
   for (const Row::Words& words : says_) words(say);
 }
 
@@ -27,9 +15,14 @@ void Page::Read(ReadStep step) {
   }
 }
 
-void Page::Add(ReadStep step, const std::vector<Row>& rows) {
+void Page::Add(ReadStep step, std::span<const Row> rows) {
   for (const Row& row : rows) {
-    if (row.connect) row.connect(context_, row.follows);
+    if (row.event != nullptr) {
+      *row.event = [this, follows = row.follows, take = row.take] {
+        if (follows) follows();
+        take(context_);
+      };
+    }
     if (row.read) Add(step, [this, read = row.read] { read(context_); });
     says_.insert(says_.end(), row.says.begin(), row.says.end());
   }

@@ -2,6 +2,9 @@
 #pragma once
 
 #include <functional>
+#include <initializer_list>
+#include <memory>
+#include <span>
 #include <string_view>
 #include <vector>
 
@@ -9,7 +12,7 @@
 #include "preferences/context.h"
 #include "preferences/places.h"
 #include "preferences/row.h"
-#include "toolkit/controls/notebook.h"
+#include "toolkit/controls/pages.h"
 
 namespace preferences {
 
@@ -54,9 +57,12 @@ class Page : public toolkit::NotebookPage {
  protected:
   // Adds the rows of a step, in the order in which they are read. Call it once for each row, when
   // the page is made.
-  void Add(ReadStep step, const std::vector<Row>& rows);
+  void Add(ReadStep step, std::span<const Row> rows);
+  void Add(ReadStep step, std::initializer_list<Row> rows) {
+    Add(step, std::span(rows.begin(), rows.size()));
+  }
   // Adds rows that are read elsewhere, or have nothing to be read.
-  void Add(const std::vector<Row>& rows) { Add(ReadStep::kEnd, rows); }
+  void Add(std::initializer_list<Row> rows) { Add(ReadStep::kEnd, rows); }
   // Adds something else to be read in a step, after the rows added so far.
   void Add(ReadStep step, std::function<void()> read);
 
@@ -70,5 +76,22 @@ class Page : public toolkit::NotebookPage {
   std::vector<Part> parts_;
   std::vector<Row::Words> says_;
 };
+
+// The pages, each in the file of its name. Each function makes its page in the notebook. Both
+// arguments outlive the page.
+using MakePage = std::unique_ptr<Page>(toolkit::Notebook& notebook, Context& context);
+
+MakePage MakeGeneralPage;
+MakePage MakeGraphColorsPage;
+MakePage MakeGraphGridsPage;
+MakePage MakeGraphOthersPage;
+MakePage MakeTextColorsPage;
+MakePage MakeTextOtherPage;
+MakePage MakeAdminPage;
+MakePage MakeInterfacesPage;
+MakePage MakeBandwidthAlertPage;
+MakePage MakeNotificationPage;
+MakePage MakeOtherPage;
+MakePage MakeResetSettingsPage;
 
 }  // namespace preferences

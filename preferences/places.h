@@ -2,7 +2,7 @@
 #pragma once
 
 #include "platform/geometry.h"
-#include "toolkit/controls/group_box.h"
+#include "toolkit/controls/buttons.h"
 
 namespace preferences {
 

@@ -7,9 +7,9 @@
 
 #include "display/unit_BrisantoMain.h"
 #include "preferences/grouped_reset.h"
-#include "preferences/pages.h"
-#include "toolkit/controls/button.h"
-#include "toolkit/controls/progress_bar.h"
+#include "preferences/page.h"
+#include "toolkit/controls/bars.h"
+#include "toolkit/controls/buttons.h"
 #include "toolkit/timer.h"
 
 namespace preferences {

@@ -54,21 +54,20 @@ void ShowIn(toolkit::TrackBar& bar, std::int64_t value) {
 // A panel fires no event when the code gives it another colour.
 void Row::BindColour(toolkit::ColourPanel& panel, toolkit::Label* label,
                      const settings::ColourSetting& setting) {
-  connect = [&panel, setting](Context& context, const Event& /*follows*/) {
-    panel.OnClick = [&panel, &context, setting] {
-      const std::optional<platform::Colour> chosen = AskForColour(context, panel, setting);
-      if (!chosen) return;
-      panel.SetColour(*chosen);
-      context.Change(setting, *chosen);
-    };
+  event = &panel.OnClick;
+  take = [&panel, &setting](Context& context) {
+    const std::optional<platform::Colour> chosen = AskForColour(context, panel, setting);
+    if (!chosen) return;
+    panel.SetColour(*chosen);
+    context.Change(setting, *chosen);
   };
-  read = [&panel, setting](Context& context) {
+  read = [&panel, &setting](Context& context) {
     const platform::Colour stored = context.store.Read(setting);
     if (stored == panel.Colour()) return;
     panel.SetColour(stored);
     context.Change(setting, stored);
   };
-  says.emplace_back([&panel, label, setting](const auto& say) {
+  says.emplace_back([&panel, label, &setting](const auto& say) {
     panel.SetCaption(NameOf(setting, say));
     panel.SetHint(say(text::ColorPanelHint));
     if (label != nullptr && FindText(label->Name()) == nullptr) label->SetCaption(panel.Caption());
@@ -76,12 +75,11 @@ void Row::BindColour(toolkit::ColourPanel& panel, toolkit::Label* label,
 }
 
 void Row::Design(toolkit::RadioButton& button, const Choice& choice) {
-  const settings::IntegerSetting setting = choice.setting;
+  const settings::IntegerSetting& setting = choice.setting;
   const std::int64_t value = choice.value;
-  connect = [&button, setting, value](Context& context, const Event& /*follows*/) {
-    button.OnClick = [&context, setting, value] { context.Change(setting, value); };
-  };
-  read = [&button, setting, value](Context& context) {
+  event = &button.OnClick;
+  take = [&setting, value](Context& context) { context.Change(setting, value); };
+  read = [&button, &setting, value](Context& context) {
     if (context.store.Read(setting) == value) button.SetChecked(true);
   };
 }

@@ -12,20 +12,35 @@
 
 #include "language/language.h"
 #include "preferences/context.h"
-#include "preferences/labelled.h"
 #include "preferences/places.h"
 #include "preferences/sound_file.h"
 #include "settings/schema.h"
-#include "toolkit/controls/check_box.h"
-#include "toolkit/controls/colour_panel.h"
+#include "toolkit/controls/bars.h"
+#include "toolkit/controls/buttons.h"
 #include "toolkit/controls/edit.h"
-#include "toolkit/controls/list_control.h"
-#include "toolkit/controls/radio_button.h"
-#include "toolkit/controls/radio_group.h"
+#include "toolkit/controls/label.h"
+#include "toolkit/controls/lists.h"
 #include "toolkit/controls/spin_edit.h"
-#include "toolkit/controls/track_bar.h"
 
 namespace preferences {
+
+struct LabelBefore {
+  LabelBefore(toolkit::Control& parent, std::string_view name)
+      : label(parent, name, toolkit::kCaptionText) {}
+  toolkit::Label label;
+};
+
+// A field together with its label. The label is made first: the marked letter of a label leads to
+// the control that was made next.
+template <class Field>
+class Labelled : public LabelBefore, public Field {
+ public:
+  Labelled(toolkit::Control& parent, std::string_view label, std::string_view name)
+      : LabelBefore(parent, label), Field(parent, name) {}
+  // The label has the name of the field with "lbl" before it.
+  Labelled(toolkit::Control& parent, std::string_view name)
+      : Labelled(parent, "lbl" + std::string(name), name) {}
+};
 
 // Returns the text of the preferences under this key, or null when there is none.
 [[nodiscard]] const language::TextEntry* FindText(std::string_view key);
@@ -91,7 +106,7 @@ inline void ShowIn(SoundFile& file, const std::string& value) { file.SetPath(val
 
 // A row is made where its page is made; the control outlives it. After the place come, in any
 // order:
-//   a setting, or a function that returns the setting that counts at the moment
+//   a constant of the schema, or a function that returns the setting that counts at the moment
 //   Range, Steps, Items, Choice or Says
 //   a function that updates the rest of the page; it runs before the value is pushed
 class Row {
@@ -111,10 +126,11 @@ class Row {
   using Words = std::function<void(const language::Translation& say)>;
 
   // Each of these is empty when there is nothing to do.
-  Event follows;                                        // updates the rest of the page
-  std::function<void(Context&, const Event&)> connect;  // sets the handler of the control
-  std::function<void(Context&)> read;                   // shows what is stored
-  std::vector<Words> says;  // set the texts other than those under the name
+  Event follows;                       // updates the rest of the page
+  Event* event = nullptr;              // the control's, which reports a choice
+  std::function<void(Context&)> take;  // pushes what was chosen
+  std::function<void(Context&)> read;  // shows what is stored
+  std::vector<Words> says;             // set the texts other than those under the name
 
  private:
   template <class Control, class More>
@@ -122,7 +138,7 @@ class Row {
     if constexpr (std::is_same_v<More, settings::ColourSetting>) {
       BindColour(control, LabelOf(control), more);
     } else if constexpr (requires { more.name; }) {
-      Bind(control, [more] { return more; });
+      Bind(control, [&more] { return more; });
     } else if constexpr (!std::is_invocable_v<More>) {
       Design(control, more);
     } else if constexpr (std::is_void_v<std::invoke_result_t<More>>) {
@@ -140,18 +156,16 @@ class Row {
 
   template <class Control, class Source>
   void Bind(Control& control, const Source& source) {
-    connect = [&control, source](Context& context, const Event& follows) {
-      EventOf(control) = [&control, &context, source, follows] {
-        if (follows) follows();
-        if constexpr (std::derived_from<Control, toolkit::TrackBar>) {
-          // What is stored may be beyond the ends of the bar.
-          if (context.IsReading()) {
-            context.Change(source(), context.store.Read(source()));
-            return;
-          }
+    event = &EventOf(control);
+    take = [&control, source](Context& context) {
+      if constexpr (std::derived_from<Control, toolkit::TrackBar>) {
+        // What is stored may be beyond the ends of the bar.
+        if (context.IsReading()) {
+          context.Change(source(), context.store.Read(source()));
+          return;
         }
-        context.Change(source(), ValueOf(control));
-      };
+      }
+      context.Change(source(), ValueOf(control));
     };
     read = [&control, source](Context& context) { ShowIn(control, context.store.Read(source())); };
   }

@@ -8,7 +8,7 @@
 
 #include "language/language.h"
 #include "platform/geometry.h"
-#include "toolkit/controls/button.h"
+#include "toolkit/controls/buttons.h"
 #include "toolkit/controls/edit.h"
 
 namespace preferences {

@@ -2,15 +2,15 @@
 #include <string>
 #include <vector>
 
-#include "preferences/pages.h"
-#include "toolkit/controls/list_box.h"
+#include "preferences/page.h"
+#include "toolkit/controls/lists.h"
 
 namespace preferences {
 namespace {
 
 namespace setting = settings::setting;
 
-// Colours and font of the numeric line.
+// The page of the colours and the font of the numeric line.
 class TextColorsPage final : public Page {
  public:
   TextColorsPage(toolkit::Notebook& notebook, Context& context)
@@ -27,8 +27,8 @@ class TextColorsPage final : public Page {
   }
 
  private:
-  // The name counts, as the system reads it in small letters or capitals: another font may have
-  // come to stand at the stored index. One that is not installed is in use all the same, and stands
+  // The name counts, in small letters or capitals as for the system: another font may have come to
+  // stand at the stored index. A font that is not installed is in use all the same, and stands
   // behind the others.
   void ReadFont() {
     const std::int64_t index = context_.store.Read(setting::FontNameIndex);

@@ -1,6 +1,6 @@
 #include "display/unit_BrisantoMain.h"
-#include "preferences/pages.h"
-#include "toolkit/controls/button.h"
+#include "preferences/page.h"
+#include "toolkit/controls/buttons.h"
 
 namespace preferences {
 namespace {

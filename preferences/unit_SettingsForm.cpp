@@ -2,9 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
-#include <string_view>
 
-#include "preferences/pages.h"
 #include "settings/placement_keys.h"
 #include "toolkit/controls/layout.h"
 

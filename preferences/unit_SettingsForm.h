@@ -9,9 +9,9 @@
 
 #include "preferences/context.h"
 #include "preferences/page.h"
-#include "toolkit/controls/button.h"
-#include "toolkit/controls/notebook.h"
-#include "toolkit/controls/tree_view.h"
+#include "toolkit/controls/buttons.h"
+#include "toolkit/controls/lists.h"
+#include "toolkit/controls/pages.h"
 #include "toolkit/forms/form.h"
 #include "toolkit/forms/placement_saver.h"
 

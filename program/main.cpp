@@ -4,7 +4,6 @@
 #include <vector>
 
 #include "engine/error_log.h"
-#include "platform/windows/entry.h"
 #include "platform/windows/machine.h"
 #include "platform/windows/services/services.h"
 #include "program/program.h"

@@ -8,8 +8,7 @@
 #include <stdexcept>
 #include <vector>
 
-#include "settings/colour_text.h"
-#include "settings/counter_text.h"
+#include "settings/value_texts.h"
 
 namespace settings {
 namespace {

@@ -1,11 +1,17 @@
 #include "settings/unit_SecurityForm.h"
 
 #include "language/texts.h"
-#include "settings/administrator_lock.h"
 #include "toolkit/application.h"
 #include "toolkit/controls/layout.h"
 
 namespace settings {
+
+bool LockEngaged(Store& store) { return store.Read(setting::zdP1); }
+
+bool PasswordMatches(Store& store, std::string_view typed, std::string_view if_none) {
+  return store.ReadWith(setting::zdP, if_none) == typed;
+}
+
 namespace {
 
 constexpr platform::Size kClientSize{300, 138};  // design pixels
@@ -14,15 +20,7 @@ constexpr platform::Size kClientSize{300, 138};  // design pixels
 
 T_frmSecurity::T_frmSecurity(toolkit::Application& app, Store& store,
                              const language::Language& language)
-    : Form(app, kSecurityForm, platform::Frame::kDialog),
-      store_(store),
-      language_(language),
-      Image1(*this, "Image1", toolkit::Sign::Picture::kLock),
-      St1(*this, "St1", toolkit::kWrappedText),
-      St2(*this, "St2", toolkit::kWrappedText),
-      St3(*this, "St3", toolkit::kCaptionText),
-      PassEdit(*this, "PassEdit"),
-      CancelButton(*this, "CancelButton") {
+    : Form(app, kSecurityForm, platform::Frame::kDialog), store_(store), language_(language) {
   SetClientSize(kClientSize);
   toolkit::ApplyLayout({
       {Image1, {12, 12, toolkit::kSignSize, toolkit::kSignSize}},
@@ -46,11 +44,9 @@ void T_frmSecurity::FormCreate() {
 
 void T_frmSecurity::Localise() {
   const language::Translation say = language_.Chosen();
-  SetCaption(say(language::text::Security::Title));
-  St1.SetCaption(say(language::text::Security::St1));
-  St2.SetCaption(say(language::text::Security::St2));
-  St3.SetCaption(say(language::text::Security::St3));
-  CancelButton.SetCaption(say(language::text::Security::CancelButton));
+  const language::TextEntry& title = language::text::Security::Title;
+  SetCaption(say(title));
+  language::SayNames(*this, title.section, say);
 }
 
 void T_frmSecurity::PassEditChange() {

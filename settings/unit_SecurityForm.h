@@ -1,17 +1,26 @@
-// The password prompt of the administrator lock.
+// The administrator lock, which protects the settings and the exit of the program with a password,
+// and its prompt.
 #pragma once
 
 #include <string_view>
 
 #include "language/language.h"
 #include "settings/store.h"
-#include "toolkit/controls/button.h"
+#include "toolkit/controls/buttons.h"
 #include "toolkit/controls/edit.h"
 #include "toolkit/controls/label.h"
 #include "toolkit/controls/sign.h"
 #include "toolkit/forms/form.h"
 
 namespace settings {
+
+// Returns whether the lock is on. The password stays stored while the lock is off.
+[[nodiscard]] bool LockEngaged(Store& store);
+
+// Returns whether a text is the stored password; the case of the letters matters.
+//   if_none  the text that counts as the password when none is stored
+[[nodiscard]] bool PasswordMatches(Store& store, std::string_view typed,
+                                   std::string_view if_none = {});
 
 inline constexpr std::string_view kSecurityForm = "T_frmSecurity";
 
@@ -30,12 +39,12 @@ class T_frmSecurity final : public toolkit::Form {
   Store& store_;
   const language::Language& language_;
 
-  toolkit::Sign Image1;
-  toolkit::Label St1;
-  toolkit::Label St2;
-  toolkit::Label St3;
-  toolkit::PasswordEdit PassEdit;
-  toolkit::Button CancelButton;
+  toolkit::Sign Image1{*this, "Image1", toolkit::Sign::Picture::kLock};
+  toolkit::Label St1{*this, "St1", toolkit::kWrappedText};
+  toolkit::Label St2{*this, "St2", toolkit::kWrappedText};
+  toolkit::Label St3{*this, "St3", toolkit::kCaptionText};
+  toolkit::PasswordEdit PassEdit{*this, "PassEdit"};
+  toolkit::Button CancelButton{*this, "CancelButton"};
 };
 
 // Asks for the administrator's password and returns whether it was given; scans go on meanwhile.

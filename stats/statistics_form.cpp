@@ -31,21 +31,7 @@ StatisticsForm::StatisticsForm(const StatisticsContext& context, const Kind& kin
     : Form(context.app, kind.form_name, platform::Frame::kTool),
       context_(context),
       counters_(std::move(counters)),
-      PageControl1(*this, "PageControl1"),
-      InfoTab(PageControl1, "InfoTab"),
-      InfoGroup(InfoTab, "InfoGroup"),
-      IpLabel(InfoGroup, "IpLabel", toolkit::kCaptionText),
       IpAddress(InfoGroup, "IpAddress", kAddressText),
-      Button1(InfoGroup, "Button1"),
-      InfoGroupBox(InfoTab, kInfoNames),
-      Button3(InfoGroupBox, "Button3"),
-      DailyTab(PageControl1, "DailyTab"),
-      DailyGroupBox(DailyTab, kDailyNames),
-      WeeklyTab(PageControl1, "WeeklyTab"),
-      WeeklyGroupBox(WeeklyTab, kWeeklyNames),
-      MonthlyTab(PageControl1, "MonthlyTab"),
-      MonthlyGroupBox(MonthlyTab, kMonthlyNames),
-      Button2(*this, "Button2"),
       Timer1(context.app, kRefreshMs, [this] { Timer1Timer(); }),
       _tlkFormSaver(*this, kind.placement_key, toolkit::PlacementSaver::Restores::kPlace),
       address_caption_(kind.address_caption),
@@ -97,14 +83,8 @@ void StatisticsForm::Arrange() {
 
 void StatisticsForm::Localise() {
   const language::Translation say = context_.language.Chosen();
-  InfoTab.SetCaption(say(text::InfoTab));
-  InfoGroup.SetCaption(say(text::InfoGroup));
+  language::SayNames(*this, text::Title.section, say);
   IpLabel.SetCaption(say(address_caption_));
-  Button1.SetCaption(say(text::Button1));
-  Button1.SetHint(say(text::Button1Hint));
-  Button2.SetCaption(say(text::Button2));
-  Button3.SetCaption(say(text::Button3));
-  Button3.SetHint(say(text::Button3Hint));
   DailyTab.SetCaption(say(text::Daily));
   WeeklyTab.SetCaption(say(text::Weekly));
   MonthlyTab.SetCaption(say(text::Monthly));

@@ -2,11 +2,29 @@
 
 #include <algorithm>
 
+#include "engine/local_ip.h"
 #include "language/texts.h"
 #include "settings/placement_keys.h"
 #include "toolkit/controls/layout.h"
 
 namespace stats {
+namespace {
+
+constexpr std::int64_t kSlowMs = 50;
+constexpr std::int64_t kRestFactor = 20;
+
+}  // namespace
+
+const std::string& HostAddress::Get() {
+  const std::int64_t begin = clock_.SteadyMilliseconds();
+  if (begin < not_before_) return address_;
+  address_ = engine::GetLocalIP(sockets_);
+  const std::int64_t end = clock_.SteadyMilliseconds();
+  const std::int64_t took = end - begin;
+  if (took > kSlowMs) not_before_ = end + kRestFactor * took;
+  return address_;
+}
+
 namespace {
 
 namespace setting = settings::setting;
@@ -23,10 +41,7 @@ T_frmConnInfo::T_frmConnInfo(const StatisticsContext& context)
           context, {kConnInfoForm, settings::placement_key::kConnInfo, text::IpLabel, "127.0.0.1"},
           engine::CounterOwner::Machine(context.store)),
       host_address_(context.app.Platform().sockets, context.app.Platform().clock),
-      BandwidthTab(PageControl1, "BandwidthTab"),
-      Label1(BandwidthTab, "Label1"),
-      details_(BandwidthTab, context.store, context.language),
-      ISBAShown(BandwidthTab, "ISBAShown") {
+      details_(BandwidthTab, context.store, context.language) {
   SetDesignSize();
   Arrange();
   ArrangeBandwidthTab();
@@ -64,14 +79,8 @@ void T_frmConnInfo::FormCreate() {
 
 void T_frmConnInfo::Localise() {
   StatisticsForm::Localise();
-  const language::Translation say = context_.language.Chosen();
-  SetCaption(say(text::Title));
-  BandwidthTab.SetCaption(say(text::BandwidthTab));
-  Label1.SetCaption(say(text::Label1));
-  Label1.SetHint(say(text::Label1Hint));
+  SetCaption(context_.language.Text(text::Title));
   details_.Localise();
-  ISBAShown.SetCaption(say(text::ISBAShown));
-  ISBAShown.SetHint(say(text::ISBAShownHint));
 }
 
 void T_frmConnInfo::FormClose() {

@@ -9,8 +9,8 @@ inline constexpr std::string_view kSpecificConnInfoForm = "T_frmSpecificConnInfo
 
 class T_frmSpecificConnInfo final : public StatisticsForm {
  public:
-  // Made hidden; filled when it is shown. `description` is the adapter's, becomes the caption and
-  // is the only link to it: an adapter that is gone keeps what was stored of it.
+  // Makes the window hidden; filled when it is shown. `description` is the adapter's, becomes the
+  // caption and is the only link to it: an adapter that is gone keeps what was stored of it.
   T_frmSpecificConnInfo(const StatisticsContext& context, std::string_view description);
 
  private:

@@ -15,11 +15,7 @@ constexpr int kProductFontHeight = 15;
 AboutBox::AboutBox(Application& app, const ImageList& images, std::function<AboutTexts()> texts)
     : Form(app, AboutBox::kName, platform::Frame::kDialog),
       texts_(std::move(texts)),
-      Image1(*this, "Image1", images),
-      lblProduct(*this, "lblProduct", kWrappedText),
-      lblVersion(*this, "lblVersion", kWrappedText),
-      lblDescription(*this, "lblDescription", kWrappedText),
-      OkBtn(*this, "OkBtn") {
+      Image1(*this, "Image1", images) {
   SetClientSize(kClientSize);
   ApplyLayout({
       {Image1, {12, 12, kSignSize, kSignSize}},
@@ -28,7 +24,7 @@ AboutBox::AboutBox(Application& app, const ImageList& images, std::function<Abou
       {lblDescription, {60, 52, 228, 30}},
       {OkBtn, {213, 90, 75, 25}},
   });
-  platform::FontSpec font = lblProduct.Font();
+  platform::FontStyle font = lblProduct.Font();
   font.height = kProductFontHeight;
   font.bold = true;
   lblProduct.SetFont(font);

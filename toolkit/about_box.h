@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "toolkit/controls/button.h"
+#include "toolkit/controls/buttons.h"
 #include "toolkit/controls/label.h"
 #include "toolkit/controls/sign.h"
 #include "toolkit/forms/form.h"
@@ -35,10 +35,10 @@ class AboutBox final : public Form {
   std::function<AboutTexts()> texts_;
 
   Sign Image1;
-  Label lblProduct;
-  Label lblVersion;
-  Label lblDescription;
-  Button OkBtn;
+  Label lblProduct{*this, "lblProduct", kWrappedText};
+  Label lblVersion{*this, "lblVersion", kWrappedText};
+  Label lblDescription{*this, "lblDescription", kWrappedText};
+  Button OkBtn{*this, "OkBtn"};
 };
 
 }  // namespace toolkit

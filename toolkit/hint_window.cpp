@@ -19,7 +19,7 @@ constexpr int kBelowPointer = 20;   // design pixels, so that the arrow covers n
 constexpr int kWidest = 600;        // design pixels of text in a line
 constexpr int kGap = 4;             // design pixels between a hint and what it explains
 constexpr int kHighestRow = 40;     // design pixels; of what is higher, the pointer tells the place
-const platform::FontSpec kFont{"Tahoma", 11, false};
+const platform::FontStyle kFont{"Tahoma", 11, false};
 
 // A hint may have several lines, each ended by a carriage return.
 std::vector<std::string> Lines(std::string_view text) {
@@ -108,7 +108,7 @@ class HintWindow::Window final : public platform::TopWindowEvents {
   }
 
  private:
-  [[nodiscard]] platform::FontSpec Font() const {
+  [[nodiscard]] platform::FontStyle Font() const {
     return {kFont.face, ScaleTo(dpi_, kFont.height), kFont.bold};
   }
 

@@ -1,6 +1,7 @@
-// A timer as a property of a form.
+// Timers as properties of a form.
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 
@@ -24,6 +25,26 @@ class Timer {
   Application& app_;
   int interval_ms_;
   std::function<void()> on_timer_;
+  std::unique_ptr<platform::Timer> timer_;
+};
+
+// A timer that keeps its phase: n ticks last n periods, however long each tick takes.
+class PhaseTimer {
+ public:
+  PhaseTimer(Application& app, int period_ms, std::function<void()> on_tick);
+
+  [[nodiscard]] bool Active() const { return active_; }
+  void SetActive(bool active);
+
+ private:
+  void Arm();
+  void Tick();
+
+  Application& app_;
+  int period_ms_;
+  std::function<void()> on_tick_;
+  bool active_ = false;
+  std::int64_t deadline_ = 0;  // of the next tick, on the steady clock
   std::unique_ptr<platform::Timer> timer_;
 };
 

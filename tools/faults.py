@@ -25,7 +25,7 @@ FLOORS = ["platform", "toolkit", "settings", "language", "engine", "quantity", "
 EXCLUDED = {
     r"^platform/(windows|memory)/": "not the portable code",
     r"^program/main\.cpp$": "runs on Windows only",
-    r"layout\.cpp$|sign\.cpp$|bevel\.cpp$|menu_images\.cpp$|program_image\.cpp$|colour_palette\.cpp$"
+    r"layout\.cpp$|sign\.cpp$|panel\.cpp$|images\.cpp$|colour_popup\.cpp$"
     r"|menu_painter\.cpp$|about_box\.cpp$": "painting and places of controls",
 }
 # Lines whose faults are places of controls, or programs that are equal.

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "platform/windows/services/ip_helper.h"
+#include "platform/windows/win32.h"
 // Behind the system's own header, which it needs.
 #include <shellapi.h>
 

@@ -1,9 +1,8 @@
 #include "bench/windows/executable_file.h"
 
-#include "platform/windows/kernel_handle.h"
-#include "platform/windows/library.h"
 #include "platform/windows/system_error.h"
-#include "platform/windows/wide.h"
+#include "platform/windows/system_handles.h"
+#include "platform/windows/wide_text.h"
 
 namespace bench {
 namespace {

@@ -9,7 +9,7 @@
 #include "bench/windows/bare_scan.h"
 #include "bench/windows/played_meter.h"
 #include "bench/windows/timing.h"
-#include "platform/windows/services/ip_helper.h"
+#include "platform/windows/win32.h"
 #include "tests/desktop/driver/input.h"
 
 namespace bench {

@@ -7,7 +7,7 @@
 #include "alerts/unit_BandWidthAlert.h"
 #include "bench/windows/bare_controls.h"
 #include "bench/windows/own_resources.h"
-#include "display/program_image.h"
+#include "display/images.h"
 #include "display/titles/unit_AddTitlesForm.h"
 #include "display/unit_AreYouSureForm.h"
 #include "preferences/unit_SettingsForm.h"

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "platform/windows/wide.h"
+#include "platform/windows/wide_text.h"
 #include "platform/windows/win32.h"
 
 namespace bench {

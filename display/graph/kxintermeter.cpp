@@ -14,7 +14,7 @@ constexpr int kScanPeriodMs = 1000;
 constexpr std::size_t kLongestHistory = 4096;
 // Design pixels; beyond it nothing changes any more.
 constexpr int kWidestDrawn = 1000;
-const platform::FontSpec kScaleFont{"Small Fonts", 9, true};
+const platform::FontStyle kScaleFont{"Small Fonts", 9, true};
 
 // More than the 31 bits of an input can hold, 2 GiB a second, arrives as less than nothing.
 std::int32_t Drawn(std::int32_t input) {
@@ -24,12 +24,10 @@ std::int32_t Drawn(std::int32_t input) {
 }  // namespace
 
 TKxInterMeter::TKxInterMeter(toolkit::Control& parent, std::string_view name)
-    : Control(parent.App(), &parent, name), timer_(parent.App(), kScanPeriodMs, [this] {
+    : Control(parent, name), timer_(parent.App(), kScanPeriodMs, [this] {
         if (OnScan) OnScan();
       }) {
-  Attach([this](platform::Windowing& windowing, platform::Widget& on) {
-    return windowing.CreateSurface(on, Name(), *this);
-  });
+  AttachSurface(name);
   SetFont(kScaleFont);
 }
 

@@ -11,7 +11,7 @@
 
 #include "display/graph/picture.h"
 #include "toolkit/controls/control.h"
-#include "toolkit/phase_timer.h"
+#include "toolkit/timer.h"
 
 namespace display {
 
@@ -19,8 +19,8 @@ class TKxInterMeter : public toolkit::Control {
  public:
   TKxInterMeter(toolkit::Control& parent, std::string_view name);
 
-  // Its properties; widths are design pixels. Setting another value asks for a new picture, setting
-  // the same does nothing.
+  // The graph's properties; widths are design pixels. Setting another value asks for a new picture,
+  // setting the present one does nothing.
   [[nodiscard]] const GraphLook& Look() const { return look_; }
   template <class Owner, class Value>
   void Set(Value Owner::*property, std::type_identity_t<Value> value) {
@@ -28,8 +28,8 @@ class TKxInterMeter : public toolkit::Control {
     look_.*property = value;
     Changed();
   }
-  // As designed: scanning goes on while nothing moves, and what is sent says nothing about the
-  // connection. Nobody switches them on.
+  // Both stay off, as designed: scanning goes on while nothing moves, and what is sent says nothing
+  // about the connection.
   bool StopInactive = false;
   bool UseSentToDetermineConnect = false;
 
@@ -39,26 +39,26 @@ class TKxInterMeter : public toolkit::Control {
 
   // Empties the history.
   void Clear();
-  // A new picture of the same, as when the system's colours changed.
+  // Asks for a new picture of the same samples, as when the system's colours changed.
   void Refresh() { Changed(); }
 
-  // The bytes received and sent in the current tick. SetTestWrite comes last and completes the
+  // Set the bytes received and sent in the current tick. SetTestWrite comes last and completes the
   // sample; a negative amount is drawn as the largest.
   void SetTestRead(std::int32_t bytes) { test_read_ = bytes; }
   void SetTestWrite(std::int32_t bytes);
 
-  // Once a second while active.
+  // Runs once a second while scanning is on.
   std::function<void()> OnScan;
-  // Shows something else from now on: whoever follows the picture takes it anew.
+  // Runs when the graph shows something else from now on: whoever follows the picture takes it
+  // anew.
   std::function<void()> OnChange;
-  // After the picture was painted and before it is shown; the handler may draw on it.
+  // Runs after the picture was painted and before it is shown; the handler may draw on it.
   std::function<void(platform::Canvas& canvas)> OnDisplay;
 
-  // The picture as it is shown, composed now when it is old. Null while there is none.
+  // Returns the picture as it is shown, composed now when it is old, or null while there is none.
   [[nodiscard]] const platform::Bitmap* Picture();
-  // Bevel and border widths on one side, in real pixels.
+  // Returns the widths of bevels and border on one side, in real pixels.
   [[nodiscard]] int FramePixels();
-  [[nodiscard]] const std::deque<GraphSample>& History() const { return history_; }
 
  protected:
   void Paint(platform::Canvas& canvas) override;
@@ -69,7 +69,7 @@ class TKxInterMeter : public toolkit::Control {
   // The picture is composed anew once, before it is next shown; until then it is only copied.
   void Changed();
   void Compose(platform::Size size);
-  // The look in real pixels.
+  // Returns the look in real pixels.
   [[nodiscard]] GraphLook PixelLook();
 
   GraphLook look_;

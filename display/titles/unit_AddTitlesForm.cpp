@@ -23,13 +23,6 @@ T_frmAddTitles::T_frmAddTitles(toolkit::Application& app, TitlePosting& posting,
       posting_(posting),
       balloons_(balloons),
       language_(language),
-      WindowTitlesListbox(*this, "WindowTitlesListbox"),
-      btnRemove(*this, "btnRemove"),
-      AddNewLabel(*this, "AddNewLabel", toolkit::kCaptionText),
-      AddNew(*this, "AddNew"),
-      btnAdd(*this, "btnAdd"),
-      Note(*this, "Note", toolkit::kWrappedText),
-      OkBtn(*this, "OkBtn"),
       placement_saver_(*this, settings::placement_key::kAddTitles,
                        toolkit::PlacementSaver::Restores::kPlace) {
   SetClientSize(kClientSize);
@@ -68,12 +61,7 @@ void T_frmAddTitles::Localise() {
   const language::Translation say = language_.Chosen();
   SetCaption(say(text::Title));
   WindowTitlesListbox.SetCaption(say(text::Title));
-  WindowTitlesListbox.SetHint(say(text::WindowTitlesListboxHint));
-  AddNewLabel.SetCaption(say(text::AddNewLabel));
-  AddNew.SetHint(say(text::AddNewHint));
-  btnAdd.SetCaption(say(text::btnAdd));
-  btnRemove.SetCaption(say(text::btnRemove));
-  OkBtn.SetCaption(say(text::OkBtn));
+  language::SayNames(*this, text::Title.section, say);
   ShowState();
 }
 

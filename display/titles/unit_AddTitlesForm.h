@@ -6,10 +6,10 @@
 #include "alerts/reactions.h"
 #include "display/titles/posting.h"
 #include "language/language.h"
-#include "toolkit/controls/button.h"
+#include "toolkit/controls/buttons.h"
 #include "toolkit/controls/edit.h"
 #include "toolkit/controls/label.h"
-#include "toolkit/controls/list_box.h"
+#include "toolkit/controls/lists.h"
 #include "toolkit/forms/form.h"
 #include "toolkit/forms/placement_saver.h"
 
@@ -48,13 +48,13 @@ class T_frmAddTitles final : public toolkit::Form {
   const language::Language& language_;
   TitleFile file_;
 
-  toolkit::ListBox WindowTitlesListbox;
-  toolkit::Button btnRemove;
-  toolkit::Label AddNewLabel;
-  toolkit::Edit AddNew;
-  toolkit::Button btnAdd;
-  toolkit::Label Note;
-  toolkit::Button OkBtn;
+  toolkit::ListBox WindowTitlesListbox{*this, "WindowTitlesListbox"};
+  toolkit::Button btnRemove{*this, "btnRemove"};
+  toolkit::Label AddNewLabel{*this, "AddNewLabel", toolkit::kCaptionText};
+  toolkit::Edit AddNew{*this, "AddNew"};
+  toolkit::Button btnAdd{*this, "btnAdd"};
+  toolkit::Label Note{*this, "Note", toolkit::kWrappedText};
+  toolkit::Button OkBtn{*this, "OkBtn"};
   toolkit::PlacementSaver placement_saver_;
 };
 

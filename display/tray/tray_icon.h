@@ -22,7 +22,7 @@ namespace display {
 
 class TrayIcon final : public alerts::Balloons, private platform::TrayIconEvents {
  public:
-  // Both outlive the icon. It appears with its first picture.
+  // Both arguments outlive the icon, which appears with its first picture.
   TrayIcon(toolkit::Application& app, settings::Store& store);
   ~TrayIcon() override;
 
@@ -33,20 +33,20 @@ class TrayIcon final : public alerts::Balloons, private platform::TrayIconEvents
   // is replaced by the one that comes with the program, here and not in the store.
   void LoadPictures();
 
-  // The picture of a start, by "IconType": idle, or an empty histogram. What the histogram holds
-  // comes back with the next scan.
+  // Shows the picture of a start, by "IconType": idle, or an empty histogram. What the histogram
+  // holds comes back with the next scan.
   void ShowStart();
 
-  // Another "IconType", which is stored next: 0 the activity pictures, idle, 1 the histogram, else
-  // an empty one.
+  // Shows another "IconType", which is stored next: 0 the activity pictures, idle, 1 the histogram,
+  // else an empty one.
   void ChangeKind(std::int64_t type);
-  // Other colours of the histogram, which are stored next.
+  // Shows the histogram in other colours, which are stored next.
   void ChangeColours(platform::Colour receiving, platform::Colour sending);
-  // Another "TrayIconFile", which is stored next.
+  // Shows the pictures of another "TrayIconFile", which is stored next.
   void ChangePictures(const std::string& path);
 
-  // The picture of a scan: "IconType" 0 shows its activity, 1 the histogram; another value leaves
-  // the icon as it is. The histogram moves on only while it is shown.
+  // Shows the picture of a scan: with "IconType" 0 its activity, with 1 the histogram; another
+  // value leaves the icon as it is. The histogram moves on only while it is shown.
   void ShowScan(const engine::ScanAmounts& scan);
 
   // Empties the histogram and shows it.
@@ -63,14 +63,14 @@ class TrayIcon final : public alerts::Balloons, private platform::TrayIconEvents
   void OnTrayClick() override;
   void OnTrayMenu(platform::Point screen) override;
 
-  // Another kind counts from here on; its pictures are loaded.
+  // Lets another kind count from here on and loads its pictures.
   void TakeKind(std::int64_t type);
   void LoadPictures(const std::string& path);
   void ShowActivity(TrayActivity activity);
   void ShowHistogram(const TrayHistogram& histogram);
   void DrawHistogram(const TrayHistogram& histogram, platform::Colour receiving,
                      platform::Colour sending);
-  // False when the shell has not taken it.
+  // Returns false when the shell has not taken the picture.
   [[nodiscard]] bool ShowEnlarged(const platform::Bitmap& picture);
 
   toolkit::Application& app_;
@@ -81,7 +81,7 @@ class TrayIcon final : public alerts::Balloons, private platform::TrayIconEvents
   std::unique_ptr<platform::Bitmap> enlarged_;  // as large as the area shows, when that is more
   std::int64_t kind_ = -1;                      // the "IconType" that it shows
   TrayHistogram shown_histogram_;
-  // What the icon shows; nothing while it is the histogram or the pictures were loaded anew.
+  // What the icon shows; nullopt while it is the histogram or the pictures were loaded anew.
   std::optional<TrayActivity> shown_activity_;
   int activity_size_ = 0;  // the side of that picture; 0 when the shell has not taken it
   // The histogram that the icon shows, and the side of its picture; 0 while it shows none or the

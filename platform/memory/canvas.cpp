@@ -45,7 +45,7 @@ bool PenIsDown(std::span<const int> dashes, int step) {
   return true;
 }
 
-int LetterWidth(const FontSpec& font) { return std::max(1, font.height * 6 / 10); }
+int LetterWidth(const FontStyle& font) { return std::max(1, font.height * 6 / 10); }
 
 }  // namespace
 
@@ -104,7 +104,7 @@ void Raster::Line(Point from, Point to, Colour colour, PenStyle style) {
   }
 }
 
-void Raster::Text(const Rect& box, std::string_view text, const FontSpec& font, Colour colour,
+void Raster::Text(const Rect& box, std::string_view text, const FontStyle& font, Colour colour,
                   TextAlign align) {
   texts_.push_back({box, std::string(text), font, colour, align});
   const Colour rgb = screen_.Resolve(colour);
@@ -125,7 +125,7 @@ void Raster::Text(const Rect& box, std::string_view text, const FontSpec& font, 
   }
 }
 
-Size Raster::TextSize(std::string_view text, const FontSpec& font) {
+Size Raster::TextSize(std::string_view text, const FontStyle& font) {
   return {static_cast<int>(ToUtf16(text).size()) * LetterWidth(font), font.height};
 }
 

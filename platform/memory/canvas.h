@@ -16,7 +16,7 @@ namespace platform::memory {
 struct DrawnText {
   Rect box;
   std::string text;
-  FontSpec font;
+  FontStyle font;
   Colour colour;
   TextAlign align;
 };
@@ -34,9 +34,9 @@ class Raster final : public Bitmap, public Canvas {
   void Fill(const Rect& area, Colour colour) override;
   void Line(Point from, Point to, Colour colour, PenStyle style) override;
   // Draws letters as blocks, so that tests see where there is text; Texts() has the words.
-  void Text(const Rect& box, std::string_view text, const FontSpec& font, Colour colour,
+  void Text(const Rect& box, std::string_view text, const FontStyle& font, Colour colour,
             TextAlign align) override;
-  [[nodiscard]] platform::Size TextSize(std::string_view text, const FontSpec& font) override;
+  [[nodiscard]] platform::Size TextSize(std::string_view text, const FontStyle& font) override;
   void Draw(const Bitmap& bitmap, Point at) override;
 
   [[nodiscard]] const std::vector<DrawnText>& Texts() const { return texts_; }

@@ -17,7 +17,7 @@ class Files : public platform::Files {
 
   [[nodiscard]] std::string ProgramPath() override { return program_path_; }
   [[nodiscard]] std::string ProgramFolder() override;
-  [[nodiscard]] bool Exists(std::string_view path) override;
+  [[nodiscard]] bool Exists(std::string_view path);
   [[nodiscard]] bool Missing(std::string_view path) override;
   [[nodiscard]] std::optional<std::uint64_t> Size(std::string_view path) override;
   [[nodiscard]] std::optional<std::string> Load(std::string_view path, std::size_t limit) override;

@@ -100,9 +100,11 @@ ListPeer::ListPeer(Desktop& desktop, std::string_view name, ListKind kind, Widge
   state_.list = kind;
 }
 
-void ListPeer::SetItems(std::span<const std::string> items) {
-  state_.items.assign(items.begin(), items.end());
-  state_.row_checks.assign(items.size(), false);
+void ListPeer::Replace(int first, int removed, std::span<const std::string> added) {
+  const auto rows = state_.items.begin() + first;
+  state_.items.insert(state_.items.erase(rows, rows + removed), added.begin(), added.end());
+  const auto checks = state_.row_checks.begin() + first;
+  state_.row_checks.insert(state_.row_checks.erase(checks, checks + removed), added.size(), false);
   state_.Select(-1);
 }
 

@@ -26,7 +26,7 @@ class Peer {
   [[nodiscard]] bool Visible() const { return state_.visible; }
   void SetEnabled(bool enabled);
   [[nodiscard]] bool Enabled() const { return state_.enabled; }
-  void SetFont(const FontSpec& font) { state_.font = font; }
+  void SetFont(const FontStyle& font) { state_.font = font; }
   void SetColours(Colour text, Colour background);
   void Focus();
   [[nodiscard]] bool HasFocus() const;
@@ -57,7 +57,7 @@ class PeerOf : public Interface, public Peer {
   [[nodiscard]] bool Visible() const override { return Peer::Visible(); }
   void SetEnabled(bool enabled) override { Peer::SetEnabled(enabled); }
   [[nodiscard]] bool Enabled() const override { return Peer::Enabled(); }
-  void SetFont(const FontSpec& font) override { Peer::SetFont(font); }
+  void SetFont(const FontStyle& font) override { Peer::SetFont(font); }
   void SetColours(Colour text, Colour background) override { Peer::SetColours(text, background); }
   void Focus() override { Peer::Focus(); }
   [[nodiscard]] bool HasFocus() const override { return Peer::HasFocus(); }
@@ -100,7 +100,7 @@ class ListPeer final : public PeerOf<ItemList> {
  public:
   ListPeer(Desktop& desktop, std::string_view name, ListKind kind, WidgetState& parent,
            WidgetEvents& events);
-  void SetItems(std::span<const std::string> items) override;
+  void Replace(int first, int removed, std::span<const std::string> added) override;
   [[nodiscard]] int Count() const override { return static_cast<int>(state_.items.size()); }
   void SetIndex(int index) override { state_.Select(index); }
   [[nodiscard]] int Index() const override { return state_.index; }

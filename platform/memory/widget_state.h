@@ -38,7 +38,7 @@ struct WidgetState {
   bool visible = false;
   bool enabled = true;
   bool focused = false;  // has the keyboard
-  FontSpec font;
+  FontStyle font;
   Colour text_colour = colour::kWindowText;
   Colour background = colour::kButtonFace;
   WidgetEvents* events = nullptr;

@@ -100,7 +100,6 @@ class Windowing final : public platform::Windowing {
   void ClickCloseBox(std::string_view window);
 
   // The system's doings.
-  void Activate(std::string_view window, bool active);
   void ChangeDpi(std::string_view window, int dpi, const Rect& bounds);
   // For all windows.
   void ChangeDisplay();

@@ -134,10 +134,6 @@ void Windowing::ClickCloseBox(std::string_view window) {
   }
 }
 
-void Windowing::Activate(std::string_view window, bool active) {
-  Find(window).top_events->OnActivate(active);
-}
-
 void Windowing::ChangeDpi(std::string_view window, int dpi, const Rect& bounds) {
   WidgetState& state = Find(window);
   state.dpi = dpi;

@@ -33,4 +33,12 @@ class Handle {
   Raw raw_ = Kind::None();
 };
 
+// The kind of the handles that `kClose` closes and that are none when they are zero.
+template <class RawHandle, auto kClose>
+struct ZeroIsNone {
+  using Raw = RawHandle;
+  static constexpr Raw None() { return {}; }
+  static void Close(Raw raw) { kClose(raw); }
+};
+
 }  // namespace platform::windows

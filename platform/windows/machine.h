@@ -6,6 +6,7 @@
 #include "platform/windows/drawing/graphics.h"
 #include "platform/windows/services/hot_keys.h"
 #include "platform/windows/services/message_loop.h"
+#include "platform/windows/services/notification_area.h"
 #include "platform/windows/services/services.h"
 #include "platform/windows/services/system_dialogs.h"
 #include "platform/windows/services/timers.h"
@@ -61,5 +62,8 @@ class Machine {
                      hot_keys_,        shell_,
                      fonts_,           system_dialogs_};
 };
+
+// What the process begins with. The program defines this function; it returns the exit code.
+int Main();
 
 }  // namespace platform::windows

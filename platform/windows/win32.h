@@ -1,9 +1,15 @@
-// Includes the system's header, and is the only file that does. Only files of this folder may
-// include it: the header's macros rename everything that has the name of a Windows call.
+// Includes the system's headers, and is the only file that includes windows.h. Only files of this
+// folder may include it: the macros rename everything that has the name of a Windows call.
 #pragma once
 
-// The sockets' header must come first, or windows.h declares an older version beside it.
+// Complete in this order only. The sockets come first, or windows.h declares an older version of
+// them.
 // clang-format off
 #include <winsock2.h>
 #include <windows.h>
+#include <commctrl.h>
+#include <shellapi.h>
+#include <ws2ipdef.h>
+#include <iphlpapi.h>
+#include <netioapi.h>
 // clang-format on

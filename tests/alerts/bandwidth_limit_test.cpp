@@ -1,8 +1,7 @@
-#include "alerts/bandwidth_limit.h"
-
 #include <gtest/gtest.h>
 
-#include "settings/counter_text.h"
+#include "alerts/bandwidth_alert.h"
+#include "settings/value_texts.h"
 #include "tests/alerts/alerts_world.h"
 
 namespace {

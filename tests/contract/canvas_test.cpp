@@ -9,7 +9,7 @@ namespace {
 
 using platform::Bitmap;
 using platform::Colour;
-using platform::FontSpec;
+using platform::FontStyle;
 using platform::PenStyle;
 using platform::Point;
 using platform::Rect;
@@ -107,7 +107,7 @@ TEST_F(CanvasTest, AFillIsClippedToTheCanvas) {
 }
 
 TEST_F(CanvasTest, TextStaysInItsBoxOnTheSideThatIsAskedFor) {
-  const FontSpec font{"Tahoma", 11, false};
+  const FontStyle font{"Tahoma", 11, false};
   constexpr Rect kBox{20, 10, 160, 30};
   struct Row {
     const char* why;
@@ -148,8 +148,8 @@ TEST_F(CanvasTest, TextOverAColourBringsNoBackgroundOfItsOwn) {
 TEST_F(CanvasTest, TextIsMeasuredAsItStands) {
   const auto bitmap = White({1, 1});
   platform::Canvas& canvas = bitmap->GetCanvas();
-  const FontSpec small{"Tahoma", 11, false};
-  const FontSpec large{"Tahoma", 33, false};
+  const FontStyle small{"Tahoma", 11, false};
+  const FontStyle large{"Tahoma", 33, false};
 
   EXPECT_EQ(canvas.TextSize("", small).width, 0);
   EXPECT_GE(canvas.TextSize("", small).height, 11) << "the line is there without letters";

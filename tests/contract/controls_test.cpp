@@ -188,6 +188,11 @@ TEST_F(ControlsTest, ListsOfEveryKindHaveRowsAndAnIndex) {
     list->SetIndex(-1);
     EXPECT_EQ(list->Index(), -1);
     list->SetIndex(1);
+    list->Replace(3, 0, items);
+    list->Replace(0, 2, {});
+    EXPECT_EQ(list->Count(), 4);
+    list->SetIndex(3);
+    EXPECT_EQ(list->Index(), 3);
     list->SetItems(items);
     EXPECT_EQ(list->Index(), -1) << "new rows";
     EXPECT_EQ(reports.changes, 1);
@@ -218,6 +223,8 @@ TEST_F(ControlsTest, RowsOfACheckListAreTicked) {
   desk_->Tick("list", 2);
   EXPECT_TRUE(!list->Checked(0) && list->Checked(1) && !list->Checked(2));
   EXPECT_EQ(reports.rows, (std::vector<int>{1, 2}));
+  list->Replace(0, 1, {});
+  EXPECT_TRUE(list->Checked(0) && !list->Checked(1)) << "the rows behind move up with their ticks";
   list->SetItems(items);
   EXPECT_FALSE(list->Checked(1));
   EXPECT_EQ(reports.rows.size(), 2U);

@@ -3,7 +3,7 @@
 #include <vector>
 
 #include "platform/windows/machine.h"
-#include "platform/windows/wide.h"
+#include "platform/windows/wide_text.h"
 #include "tests/contract/desk.h"
 #include "tests/contract/hands_windows.h"
 #include "tests/contract/other_program_windows.h"

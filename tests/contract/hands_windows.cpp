@@ -3,8 +3,8 @@
 #include <stdexcept>
 #include <string>
 
-#include "platform/windows/wide.h"
-#include "platform/windows/widgets/common_controls.h"
+#include "platform/windows/wide_text.h"
+#include "platform/windows/win32.h"
 
 namespace contract {
 namespace {

@@ -5,7 +5,6 @@
 #include <cstring>
 #include <vector>
 
-#include "platform/interface_row.h"
 #include "tests/contract/world.h"
 
 namespace contract {

@@ -8,7 +8,7 @@
 
 #include "platform/windows/machine.h"
 #include "platform/windows/widgets/widget_window.h"
-#include "platform/windows/windows/layered.h"
+#include "platform/windows/windows/window_effects.h"
 
 namespace contract {
 namespace {

@@ -1,9 +1,9 @@
 #include <thread>
 
-#include "platform/windows/kernel_handle.h"
 #include "platform/windows/services/services.h"
 #include "platform/windows/system_error.h"
-#include "platform/windows/wide.h"
+#include "platform/windows/system_handles.h"
+#include "platform/windows/wide_text.h"
 #include "platform/windows/win32.h"
 #include "tests/contract/world.h"
 

@@ -3,7 +3,7 @@
 #include <exception>
 #include <optional>
 
-#include "platform/windows/wide.h"
+#include "platform/windows/wide_text.h"
 #include "tests/desktop/driver/registry_guard.h"
 #include "tests/desktop/driver/screen.h"
 

@@ -1,7 +1,7 @@
 // The statistics windows, opened from the menu and used as a user does.
 #include <algorithm>
 
-#include "platform/windows/wide.h"
+#include "platform/windows/wide_text.h"
 #include "tests/desktop/driver/cut_texts.h"
 #include "tests/desktop/program_test.h"
 

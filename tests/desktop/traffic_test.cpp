@@ -2,7 +2,7 @@
 #include <fstream>
 #include <functional>
 
-#include "platform/windows/wide.h"
+#include "platform/windows/wide_text.h"
 #include "tests/desktop/program_test.h"
 
 namespace desktop {

@@ -3,7 +3,7 @@
 #include <fstream>
 #include <iterator>
 
-#include "display/program_image.h"
+#include "display/images.h"
 #include "platform/memory/canvas.h"
 #include "program/product.h"
 #include "tests/display/meter.h"

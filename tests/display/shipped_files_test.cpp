@@ -6,7 +6,7 @@
 #include <string>
 #include <utility>
 
-#include "display/tray/bitmap_file.h"
+#include "display/tray/pictures.h"
 
 namespace {
 

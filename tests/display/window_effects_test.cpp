@@ -3,7 +3,7 @@
 
 #include <numeric>
 
-#include "display/graph/shape.h"
+#include "display/graph/picture.h"
 #include "tests/display/meter.h"
 
 namespace {

@@ -31,7 +31,10 @@ class Engine {
 
   // What the window's initialisation does for the engine.
   std::vector<engine::AdapterItem> Initialise() {
-    std::vector<engine::AdapterItem> items = sampler.InitAdapters();
+    std::vector<engine::AdapterItem> items = sampler.InitAdapters(
+        [this](std::string_view description, const platform::InterfaceRow& row) {
+          return statistics.RecordAdapter(description, row);
+        });
     statistics.InitStatistics(sampler.Descriptions(), machine.clock.Now());
     return items;
   }
@@ -42,9 +45,11 @@ class Engine {
     return Sample();
   }
   engine::ScanAmounts Sample() {
-    return sampler.SampleInterfaces([this](const engine::AdapterScan& adapter) {
-      statistics.PersistAdapter(adapter, Today());
-    });
+    return sampler.SampleInterfaces(
+        [this](std::string_view description) { return statistics.Counts(description); },
+        [this](const engine::AdapterScan& adapter) {
+          statistics.PersistAdapter(adapter, Today());
+        });
   }
 
   [[nodiscard]] platform::DateTime Today() { return platform::DateOf(machine.clock.Now()); }
@@ -67,7 +72,7 @@ class Engine {
   settings::Store store{machine.registry, machine.files};
   engine::TrafficState state;
   engine::Statistics statistics{store};
-  engine::InterfaceSampler sampler{machine.interface_table, machine.locale, store, state};
+  engine::InterfaceSampler sampler{machine.interface_table, machine.locale, state};
 };
 
 }  // namespace test

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "settings/counter_text.h"
+#include "settings/value_texts.h"
 #include "tests/engine/engine_world.h"
 
 namespace {

@@ -1,6 +1,6 @@
-#include "engine/week_number.h"
-
 #include <gtest/gtest.h>
+
+#include "engine/periods.h"
 
 namespace {
 

@@ -1,10 +1,9 @@
-#include "platform/interface_row.h"
-
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <string_view>
 
+#include "platform/interface_table.h"
 #include "platform/memory/interface_table.h"
 
 namespace platform {

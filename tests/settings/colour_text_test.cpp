@@ -1,6 +1,6 @@
-#include "settings/colour_text.h"
-
 #include <gtest/gtest.h>
+
+#include "settings/value_texts.h"
 
 namespace {
 

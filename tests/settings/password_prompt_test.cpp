@@ -5,7 +5,6 @@
 #include <vector>
 
 #include "platform/memory/machine.h"
-#include "settings/administrator_lock.h"
 #include "settings/unit_SecurityForm.h"
 #include "toolkit/application.h"
 #include "toolkit/controls/layout.h"

@@ -6,7 +6,7 @@
 
 #include "platform/memory/machine.h"
 #include "settings/autostart.h"
-#include "settings/counter_text.h"
+#include "settings/value_texts.h"
 
 namespace {
 

@@ -1,8 +1,7 @@
-#include "stats/host_address.h"
-
 #include <gtest/gtest.h>
 
 #include "platform/memory/machine.h"
+#include "stats/unit_ConnInfo.h"
 
 namespace {
 

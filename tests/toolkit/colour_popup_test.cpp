@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "tests/toolkit/form_fixture.h"
-#include "toolkit/controls/colour_panel.h"
+#include "toolkit/controls/buttons.h"
 #include "toolkit/open_dialog.h"
 
 namespace toolkit {

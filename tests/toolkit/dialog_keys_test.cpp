@@ -1,13 +1,10 @@
 // The keyboard in forms with a caption.
 #include "tests/toolkit/form_fixture.h"
-#include "toolkit/controls/button.h"
-#include "toolkit/controls/check_box.h"
-#include "toolkit/controls/colour_panel.h"
+#include "toolkit/controls/buttons.h"
 #include "toolkit/controls/edit.h"
 #include "toolkit/controls/label.h"
-#include "toolkit/controls/page_control.h"
+#include "toolkit/controls/pages.h"
 #include "toolkit/controls/panel.h"
-#include "toolkit/controls/radio_button.h"
 
 namespace toolkit {
 namespace {

@@ -1,19 +1,14 @@
 // Pages with and without tabs, the order of Tab, the layout.
+#include "toolkit/controls/pages.h"
+
 #include "tests/toolkit/form_fixture.h"
-#include "toolkit/controls/button.h"
-#include "toolkit/controls/check_box.h"
-#include "toolkit/controls/check_list_box.h"
+#include "toolkit/controls/bars.h"
+#include "toolkit/controls/buttons.h"
 #include "toolkit/controls/edit.h"
-#include "toolkit/controls/group_box.h"
 #include "toolkit/controls/label.h"
 #include "toolkit/controls/layout.h"
-#include "toolkit/controls/notebook.h"
-#include "toolkit/controls/page_control.h"
-#include "toolkit/controls/progress_bar.h"
-#include "toolkit/controls/radio_button.h"
+#include "toolkit/controls/lists.h"
 #include "toolkit/controls/spin_edit.h"
-#include "toolkit/controls/track_bar.h"
-#include "toolkit/controls/tree_view.h"
 
 namespace toolkit {
 namespace {

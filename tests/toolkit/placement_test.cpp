@@ -4,7 +4,7 @@
 
 #include "platform/memory/screen.h"
 #include "tests/toolkit/form_fixture.h"
-#include "toolkit/controls/button.h"
+#include "toolkit/controls/buttons.h"
 
 namespace toolkit {
 namespace {

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "tests/toolkit/form_fixture.h"
-#include "toolkit/controls/button.h"
+#include "toolkit/controls/buttons.h"
 
 namespace toolkit {
 namespace {

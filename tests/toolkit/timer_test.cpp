@@ -7,7 +7,6 @@
 
 #include "platform/memory/machine.h"
 #include "toolkit/application.h"
-#include "toolkit/phase_timer.h"
 
 namespace toolkit {
 namespace {

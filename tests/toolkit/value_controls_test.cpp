@@ -3,17 +3,12 @@
 #include <vector>
 
 #include "tests/toolkit/form_fixture.h"
-#include "toolkit/controls/button.h"
-#include "toolkit/controls/check_box.h"
-#include "toolkit/controls/check_list_box.h"
-#include "toolkit/controls/colour_panel.h"
+#include "toolkit/controls/bars.h"
+#include "toolkit/controls/buttons.h"
 #include "toolkit/controls/edit.h"
-#include "toolkit/controls/list_box.h"
-#include "toolkit/controls/page_control.h"
-#include "toolkit/controls/radio_group.h"
+#include "toolkit/controls/lists.h"
+#include "toolkit/controls/pages.h"
 #include "toolkit/controls/spin_edit.h"
-#include "toolkit/controls/track_bar.h"
-#include "toolkit/controls/tree_view.h"
 
 namespace toolkit {
 namespace {

@@ -36,6 +36,12 @@ void Control::Attach(PeerMaker make) {
   if (parent_->peer_ && !parent_->children_wait_) Realise();
 }
 
+void Control::AttachSurface(std::string_view name) {
+  Attach([this, shown = std::string(name)](platform::Windowing& windowing, platform::Widget& on) {
+    return windowing.CreateSurface(on, shown, *this);
+  });
+}
+
 // What lies on it comes before its bounds, whose report places it.
 void Control::Realise() {
   if (peer_ || !make_) return;
@@ -62,8 +68,7 @@ void Control::RealiseChildren(Control& parent) {
 Form& Control::ParentForm() { return parent_->ParentForm(); }
 
 void Control::SetBounds(const platform::Rect& bounds) {
-  if (bounds == bounds_) return;
-  bounds_ = bounds;
+  if (!Assign(bounds_, bounds)) return;
   if (align_ == Align::kNone) {
     ApplyBounds();
   } else {
@@ -72,15 +77,13 @@ void Control::SetBounds(const platform::Rect& bounds) {
 }
 
 void Control::SetAlign(Align align) {
-  if (align == align_) return;
-  align_ = align;
+  if (!Assign(align_, align)) return;
   if (align_ == Align::kNone) ApplyBounds();
   ParentRearranges();
 }
 
 void Control::SetCaption(std::string_view caption) {
-  if (caption == caption_) return;
-  caption_ = caption;
+  if (!Assign(caption_, caption)) return;
   if (peer_) peer_->SetText(caption_);
   CaptionChanged();
 }
@@ -106,26 +109,19 @@ void Control::SetFocus() {
 }
 
 void Control::SetColour(platform::Colour colour) {
-  if (colour == colour_) return;
-  colour_ = colour;
-  ApplyColours();
+  if (Assign(colour_, colour)) ApplyColours();
 }
 
 void Control::SetFontColour(platform::Colour colour) {
-  if (colour == font_colour_) return;
-  font_colour_ = colour;
-  ApplyColours();
+  if (Assign(font_colour_, colour)) ApplyColours();
 }
 
-void Control::SetFont(const platform::FontSpec& font) {
-  if (font == font_) return;
-  font_ = font;
-  ApplyFont();
+void Control::SetFont(const platform::FontStyle& font) {
+  if (Assign(font_, font)) ApplyFont();
 }
 
 void Control::SetHint(std::string_view hint) {
-  if (hint == hint_) return;
-  hint_ = hint;
+  if (!Assign(hint_, hint)) return;
   app_.Hints().TextChanged(*this);
   HintChanged();
 }
@@ -159,7 +155,7 @@ int Control::Unscale(int pixels) { return UnscaleFrom(ParentForm().Dpi(), pixels
 platform::Rect Control::Scale(const platform::Rect& design) {
   return {Scale(design.left), Scale(design.top), Scale(design.width), Scale(design.height)};
 }
-platform::FontSpec Control::Scale(const platform::FontSpec& design) {
+platform::FontStyle Control::Scale(const platform::FontStyle& design) {
   return {design.face, Scale(design.height), design.bold};
 }
 
@@ -201,7 +197,7 @@ void Control::ArrangeChildren(const platform::Rect& area) {
     left.height -= height;
   }
   for (Control* child : children_) {
-    if (child->align_ == Align::kClient && child->visible_) PlacePixels(*child, left);
+    if (child->align_ == Align::kClient) PlacePixels(*child, left);
   }
 }
 

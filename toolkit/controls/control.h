@@ -93,8 +93,8 @@ class Control : protected platform::WidgetEvents {
   [[nodiscard]] platform::Colour FontColour() const { return font_colour_; }
   void SetFontColour(platform::Colour colour);
   // The font; its `height` is in design pixels. A control starts with the font of its parent.
-  [[nodiscard]] const platform::FontSpec& Font() const { return font_; }
-  void SetFont(const platform::FontSpec& font);
+  [[nodiscard]] const platform::FontStyle& Font() const { return font_; }
+  void SetFont(const platform::FontStyle& font);
 
   // The text that the hint window shows while the pointer rests on the control; empty for none.
   [[nodiscard]] const std::string& Hint() const { return hint_; }
@@ -114,7 +114,7 @@ class Control : protected platform::WidgetEvents {
   [[nodiscard]] int Scale(int design_pixels);
   [[nodiscard]] int Unscale(int pixels);
   [[nodiscard]] platform::Rect Scale(const platform::Rect& design);
-  [[nodiscard]] platform::FontSpec Scale(const platform::FontSpec& design);
+  [[nodiscard]] platform::FontStyle Scale(const platform::FontStyle& design);
 
   int Tag = 0;
 
@@ -134,21 +134,18 @@ class Control : protected platform::WidgetEvents {
 
   // `parent` is null for a form. Attach follows, before anything else is called.
   Control(Application& app, Control* parent, std::string_view name);
+  Control(Control& parent, std::string_view name) : Control(parent.app_, &parent, name) {}
 
   // Of a form: takes the peer.
   void Attach(std::unique_ptr<platform::Widget> peer);
   // Of all others: makes the peer, or does so when the page that they lie on is shown.
   void Attach(PeerMaker make);
-  // Passes a new peer on and remembers it under its own type.
-  template <class Kind>
-  [[nodiscard]] static std::unique_ptr<Kind> Remember(std::unique_ptr<Kind> peer, Kind*& as) {
-    as = peer.get();
-    return peer;
-  }
+  // The same for a control that the program paints, as an area of this name (Windowing).
+  void AttachSurface(std::string_view name);
+  // Returns the peer, or null while there is none.
+  [[nodiscard]] platform::Widget* Peer() const { return peer_.get(); }
   // Destroys the peer; a class whose members hear its reports does so before they go.
   void Detach() { peer_.reset(); }
-  // Of a control that has one.
-  [[nodiscard]] static platform::Widget& PeerOf(const Control& control) { return *control.peer_; }
   // Gives the peer, if there is one, its bounds on that of the parent, in real pixels.
   static void PlacePixels(const Control& control, const platform::Rect& pixels);
 
@@ -160,11 +157,18 @@ class Control : protected platform::WidgetEvents {
   // It has a peer now, which has the properties of all controls: gives it those of its kind.
   virtual void Realised() {}
 
+  // Gives a property a value. Returns whether that changed the property.
+  template <class Property, class Value>
+  [[nodiscard]] static bool Assign(Property& property, const Value& value) {
+    if (property == value) return false;
+    property = value;
+    return true;
+  }
   // Runs a handler, if there is one, inside the guard. The handler may destroy the control.
   void Fire(const std::function<void()>& handler);
 
-  // Places the children that have an Align in `area` (real pixels), in order of creation, the
-  // kClient one last.
+  // Places the children that have an Align in `area` (real pixels), in order of creation, those of
+  // kClient last; of these the hidden ones too, so that nothing moves when they are shown.
   void ArrangeChildren(const platform::Rect& area);
   // Returns the area that is left for children; a panel's bevels are outside of it.
   [[nodiscard]] virtual platform::Rect ChildArea() const;
@@ -223,12 +227,22 @@ class Control : protected platform::WidgetEvents {
   bool enabled_ = true;
   platform::Colour colour_ = platform::colour::kButtonFace;
   platform::Colour font_colour_ = platform::colour::kWindowText;
-  platform::FontSpec font_;
+  platform::FontStyle font_;
   std::string hint_;
   PopupMenu* popup_menu_ = nullptr;
   bool children_wait_ = false;
   PeerMaker make_;                          // until there is a peer
   std::unique_ptr<platform::Widget> peer_;  // null until its page is shown
+};
+
+// A control whose peer can do more than every widget: the function that Attach gets makes a `Kind`.
+template <class Kind>
+class ControlOf : public Control {
+ protected:
+  ControlOf(Control& parent, std::string_view name) : Control(parent, name) {}
+
+  // Returns the peer, or null while there is none.
+  [[nodiscard]] Kind* Peer() const { return static_cast<Kind*>(Control::Peer()); }
 };
 
 }  // namespace toolkit

@@ -1,33 +1,31 @@
 #include "toolkit/controls/edit.h"
 
-#include <utility>
-
 #include "toolkit/application.h"
 
 namespace toolkit {
 
 Edit::Edit(Control& parent, std::string_view name, const platform::EditStyle& style)
-    : Control(parent.App(), &parent, name), kind_(style.kind) {
+    : ControlOf(parent, name), kind_(style.kind) {
   Attach([this, style](platform::Windowing& windowing, platform::Widget& on) {
-    return Remember(windowing.CreateEdit(on, Name(), style, *this), edit_);
+    return windowing.CreateEdit(on, Name(), style, *this);
   });
   SetColour(platform::colour::kWindow);
 }
 
 void Edit::Realised() {
-  edit_->SetText(text_);
-  if (max_length_ > 0) edit_->SetMaxLength(max_length_);
-  if (read_only_) edit_->SetReadOnly(true);
+  Peer()->SetText(text_);
+  if (max_length_ > 0) Peer()->SetMaxLength(max_length_);
+  if (read_only_) Peer()->SetReadOnly(true);
 }
 
 void Edit::SetMaxLength(int characters) {
   max_length_ = characters;
-  if (edit_ != nullptr) edit_->SetMaxLength(characters);
+  if (Peer() != nullptr) Peer()->SetMaxLength(characters);
 }
 
 void Edit::SetReadOnly(bool read_only) {
   read_only_ = read_only;
-  if (edit_ != nullptr) edit_->SetReadOnly(read_only);
+  if (Peer() != nullptr) Peer()->SetReadOnly(read_only);
 }
 
 void Edit::ReachedByTab() {
@@ -35,21 +33,17 @@ void Edit::ReachedByTab() {
 }
 
 void Edit::SelectAll() {
-  if (edit_ != nullptr) edit_->SelectAll();
+  if (Peer() != nullptr) Peer()->SelectAll();
 }
 
 void Edit::SetText(std::string_view text) {
-  if (text == text_) return;
-  text_ = text;
-  if (edit_ != nullptr) edit_->SetText(text_);
+  if (!Assign(text_, text)) return;
+  if (Peer() != nullptr) Peer()->SetText(text_);
   Fire(OnChange);
 }
 
 void Edit::OnChanged() {
-  std::string text = edit_->Text();
-  if (text == text_) return;
-  text_ = std::move(text);
-  App().Guard([this] { TextEntered(); });
+  if (Assign(text_, Peer()->Text())) App().Guard([this] { TextEntered(); });
 }
 
 }  // namespace toolkit

@@ -9,7 +9,7 @@
 
 namespace toolkit {
 
-class Edit : public Control {
+class Edit : public ControlOf<platform::Edit> {
  public:
   Edit(Control& parent, std::string_view name, const platform::EditStyle& style = {});
 
@@ -34,7 +34,6 @@ class Edit : public Control {
 
  private:
   const platform::EditKind kind_;
-  platform::Edit* edit_ = nullptr;  // the peer, owned by Control
   std::string text_;
   int max_length_ = 0;
   bool read_only_ = false;

@@ -1,14 +1,44 @@
 #include "toolkit/controls/label.h"
 
+#include <algorithm>
+
 #include "toolkit/application.h"
 
 namespace toolkit {
+namespace {
+
+// A colour that is readable on light and dark backgrounds, which the system's colour of links is
+// not in every scheme.
+constexpr platform::Colour kLinkColour = 0xCC6600;
+
+// Design pixels that the focus mark takes on the left.
+constexpr int kIndent = 4;
+
+}  // namespace
 
 Label::Label(Control& parent, std::string_view name, const platform::TextStyle& style)
-    : Control(parent.App(), &parent, name), marks_key_(style.mnemonic) {
+    : Control(parent, name), marks_key_(style.mnemonic) {
   Attach([this, style](platform::Windowing& windowing, platform::Widget& on) {
     return windowing.CreateText(on, Name(), style, *this);
   });
+}
+
+LinkLabel::LinkLabel(Control& parent, std::string_view name)
+    : ButtonControl(parent, name, platform::ButtonKind::kPainted) {
+  SetFontColour(kLinkColour);
+}
+
+void LinkLabel::Paint(platform::Canvas& canvas) {
+  const platform::Size size = canvas.Extent();
+  canvas.Fill(canvas.Area(), Colour());
+  const platform::Colour colour = Enabled() ? FontColour() : platform::colour::kGrayText;
+  const platform::FontStyle font = Scale(Font());
+  const int left = Scale(kIndent);
+  canvas.Text({left, 0, size.width - left, size.height}, Caption(), font, colour,
+              platform::TextAlign::kLeft);
+  const platform::Size text = canvas.TextSize(Caption(), font);
+  const int below = std::min((size.height + text.height) / 2, size.height) - 1;
+  canvas.Line({left, below}, {left + text.width, below}, colour);
 }
 
 }  // namespace toolkit

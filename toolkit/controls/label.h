@@ -1,8 +1,7 @@
-// A text.
+// Texts, and texts that open something when they are clicked.
 #pragma once
 
-#include "platform/controls.h"
-#include "toolkit/controls/control.h"
+#include "toolkit/controls/buttons.h"
 
 namespace toolkit {
 
@@ -14,15 +13,24 @@ inline constexpr platform::TextStyle kWrappedText{.wraps = true};
 inline constexpr platform::TextStyle kSunkenText{platform::TextAlign::kRight,
                                                  platform::Border::kSunken};
 
-// Without a style one line, centred. A click on it is OnClick.
+// A text; without a style one line, centred. A click on it is OnClick.
 class Label : public Control {
  public:
   Label(Control& parent, std::string_view name, const platform::TextStyle& style = kCentredText);
-
   [[nodiscard]] bool MarksKey() const override { return marks_key_; }
 
  private:
   const bool marks_key_;
+};
+
+// Looks like a text and is pressed like a button, also with the keyboard; then OnClick runs.
+class LinkLabel : public ButtonControl {
+ public:
+  LinkLabel(Control& parent, std::string_view name);
+
+ protected:
+  void Paint(platform::Canvas& canvas) override;
+  void CaptionChanged() override { Invalidate(); }
 };
 
 }  // namespace toolkit

@@ -1,7 +1,5 @@
 #include "toolkit/controls/layout.h"
 
-#include <algorithm>
-
 namespace toolkit {
 namespace {
 

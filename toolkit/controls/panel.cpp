@@ -5,14 +5,32 @@
 namespace toolkit {
 namespace {
 
+namespace colour = platform::colour;
+
 constexpr int kBevelWidth = 1;  // real pixels: a hair line on every screen
+
+void DrawFrame(platform::Canvas& canvas, const platform::Rect& r, platform::Colour top_left,
+               platform::Colour bottom_right) {
+  canvas.Fill({r.left, r.top, r.width, 1}, top_left);
+  canvas.Fill({r.left, r.top, 1, r.height}, top_left);
+  canvas.Fill({r.left, r.Bottom() - 1, r.width, 1}, bottom_right);
+  canvas.Fill({r.Right() - 1, r.top, 1, r.height}, bottom_right);
+}
 
 }  // namespace
 
-Panel::Panel(Control& parent, std::string_view name) : Control(parent.App(), &parent, name) {
-  Attach([this](platform::Windowing& windowing, platform::Widget& on) {
-    return windowing.CreateSurface(on, Name(), *this);
-  });
+platform::Rect DrawBevel(platform::Canvas& canvas, const platform::Rect& area, BevelCut cut,
+                         int width, platform::Colour space) {
+  if (cut == BevelCut::kNone) return area;
+  const bool lowered = cut == BevelCut::kLowered;
+  const platform::Colour light = cut == BevelCut::kSpace ? space : colour::kButtonHighlight;
+  const platform::Colour shadow = cut == BevelCut::kSpace ? space : colour::kButtonShadow;
+  platform::Rect rest = area;
+  for (int i = 0; i < width && !rest.Empty(); ++i) {
+    DrawFrame(canvas, rest, lowered ? shadow : light, lowered ? light : shadow);
+    rest = rest.Shrunk(1);
+  }
+  return rest;
 }
 
 void Panel::SetBevels(BevelCut outer, BevelCut inner) {
@@ -24,10 +42,8 @@ void Panel::SetBevels(BevelCut outer, BevelCut inner) {
 }
 
 void Panel::Paint(platform::Canvas& canvas) {
-  const platform::Size size = canvas.Extent();
-  const platform::Rect all{0, 0, size.width, size.height};
-  canvas.Fill(all, Colour());
-  const platform::Rect inside = DrawBevel(canvas, all, outer_, kBevelWidth, Colour());
+  canvas.Fill(canvas.Area(), Colour());
+  const platform::Rect inside = DrawBevel(canvas, canvas.Area(), outer_, kBevelWidth, Colour());
   DrawBevel(canvas, inside, inner_, kBevelWidth, Colour());
 }
 

@@ -1,14 +1,21 @@
-// An area with bevels that holds other controls.
+// An area that holds other controls, and the bevels around it.
 #pragma once
 
-#include "toolkit/controls/bevel.h"
+#include "platform/canvas.h"
 #include "toolkit/controls/control.h"
 
 namespace toolkit {
 
+enum class BevelCut { kNone, kLowered, kRaised, kSpace };
+
+// Draws a frame `width` pixels wide just inside `area` and returns what is left within. kNone draws
+// and takes nothing, kSpace takes the width in the colour `space`.
+platform::Rect DrawBevel(platform::Canvas& canvas, const platform::Rect& area, BevelCut cut,
+                         int width, platform::Colour space);
+
 class Panel : public Control {
  public:
-  Panel(Control& parent, std::string_view name);
+  Panel(Control& parent, std::string_view name) : Control(parent, name) { AttachSurface(name); }
 
   void SetBevels(BevelCut outer, BevelCut inner);
 

@@ -83,7 +83,7 @@ void Sign::Paint(platform::Canvas& canvas) {
   const platform::Colour background = App().Platform().screen.Resolve(Colour());
   DrawSmooth(canvas, side, background, picture_ == Picture::kQuestion ? &Disc : &Lock);
   if (picture_ != Picture::kQuestion) return;
-  platform::FontSpec font = Scale(Font());
+  platform::FontStyle font = Scale(Font());
   font.height = Scale(22);
   font.bold = true;
   canvas.Text({0, 0, side, side}, "?", font, platform::colour::kWhite,

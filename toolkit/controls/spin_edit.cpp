@@ -6,8 +6,8 @@
 #include <string>
 
 #include "toolkit/application.h"
-#include "toolkit/controls/bevel.h"
 #include "toolkit/controls/edit.h"
+#include "toolkit/controls/panel.h"
 #include "toolkit/timer.h"
 
 namespace toolkit {
@@ -93,14 +93,12 @@ class SpinEdit::Field final : public Edit {
 class SpinEdit::Arrow final : public Control {
  public:
   Arrow(SpinEdit& spin, std::string_view name, int by)
-      : Control(spin.App(), &spin, name),
+      : Control(spin, name),
         spin_(spin),
         by_(by),
         wait_(App(), kRepeatsAfter, [this] { BeginRepeating(); }),
         repeat_(App(), kRepeatsEvery, [this] { spin_.Move(by_); }) {
-    Attach([this](platform::Windowing& windowing, platform::Widget& on) {
-      return windowing.CreateSurface(on, Name(), *this);
-    });
+    AttachSurface(name);
   }
   ~Arrow() override { Detach(); }
 
@@ -117,10 +115,9 @@ class SpinEdit::Arrow final : public Control {
   }
 
   void Paint(platform::Canvas& canvas) override {
-    const platform::Size size = canvas.Extent();
-    const platform::Rect all{0, 0, size.width, size.height};
-    canvas.Fill(all, platform::colour::kButtonFace);
-    DrawBevel(canvas, all, pressed_ ? BevelCut::kLowered : BevelCut::kRaised, 1, Colour());
+    canvas.Fill(canvas.Area(), platform::colour::kButtonFace);
+    DrawBevel(canvas, canvas.Area(), pressed_ ? BevelCut::kLowered : BevelCut::kRaised, 1,
+              Colour());
     PaintTriangle(canvas);
   }
 
@@ -166,11 +163,8 @@ class SpinEdit::Arrow final : public Control {
   Timer wait_, repeat_;
 };
 
-SpinEdit::SpinEdit(Control& parent, std::string_view name)
-    : Control(parent.App(), &parent, std::string(name)) {
-  Attach([this](platform::Windowing& windowing, platform::Widget& on) {
-    return windowing.CreateSurface(on, "", *this);
-  });
+SpinEdit::SpinEdit(Control& parent, std::string_view name) : Control(parent, name) {
+  AttachSurface("");
   const std::string own(name);
   field_ = std::make_unique<Field>(*this, own);
   up_ = std::make_unique<Arrow>(*this, own + "Up", 1);
@@ -253,20 +247,13 @@ void SpinEdit::Rescale() {
 }
 
 void SpinEdit::EnabledChanged() {
-  field_->SetEnabled(Enabled());
-  up_->SetEnabled(Enabled());
-  down_->SetEnabled(Enabled());
+  for (Control* part : Children()) part->SetEnabled(Enabled());
 }
 
 void SpinEdit::HintChanged() {
-  field_->SetHint(Hint());
-  up_->SetHint(Hint());
-  down_->SetHint(Hint());
+  for (Control* part : Children()) part->SetHint(Hint());
 }
 
-void SpinEdit::Paint(platform::Canvas& canvas) {
-  const platform::Size size = canvas.Extent();
-  canvas.Fill({0, 0, size.width, size.height}, Colour());
-}
+void SpinEdit::Paint(platform::Canvas& canvas) { canvas.Fill(canvas.Area(), Colour()); }
 
 }  // namespace toolkit

@@ -4,9 +4,8 @@
 
 #include "platform/text.h"
 #include "toolkit/application.h"
-#include "toolkit/controls/button.h"
-#include "toolkit/controls/page_control.h"
-#include "toolkit/controls/radio_button.h"
+#include "toolkit/controls/buttons.h"
+#include "toolkit/controls/pages.h"
 #include "toolkit/forms/form.h"
 
 namespace toolkit {

@@ -23,27 +23,27 @@ class DialogKeys {
  public:
   explicit DialogKeys(Form& form) : form_(form) {}
 
-  // True when the key is done with; the form may be gone then.
+  // Returns true when the key is done with; the form may be gone then.
   bool Press(const platform::DialogKey& key);
   // Puts the keyboard into the first control.
   void FocusFirst();
-  // Before `leaving` is hidden or disabled: if the keyboard is in it, the control that follows in
-  // the order of Tab gets it.
+  // Is called before `leaving` is hidden or disabled. If the keyboard is in it, gives the keyboard
+  // to the control that follows in the order of Tab.
   void PassOn(const Control& leaving);
-  // What Enter presses has the look of the default button.
+  // Gives what Enter presses the look of the default button.
   void ShowWhatEnterPresses();
 
  private:
   using Controls = std::vector<Control*>;
 
-  // What the user can reach, in order of creation, what lies on a control behind it.
+  // Returns what the user can reach, in order of creation; what lies on a control stands behind it.
   [[nodiscard]] Controls Reachable() const;
-  // The one with the keyboard; null for none.
+  // Returns the control with the keyboard, or null for none.
   [[nodiscard]] static Control* Focused(const Controls& controls);
   [[nodiscard]] static bool IsStop(const Controls& controls, const Control& control);
   [[nodiscard]] static Controls Stops(const Controls& controls);
   [[nodiscard]] static Controls Group(const Controls& controls, const Control& radio);
-  // Null when Enter presses nothing.
+  // Returns the control that Enter presses, or null for none.
   [[nodiscard]] static Control* WhatEnterPresses(const Controls& controls);
   [[nodiscard]] PageControl* Tabs() const;
 
@@ -54,7 +54,7 @@ class DialogKeys {
   bool MarkedLetter(const std::string& letter);
   void Activate(const Controls& controls, Control& marked);
   void GoTo(Control* control);
-  // Whether it gave the keyboard to a control that is still there.
+  // Gives the keyboard to a control. Returns whether the control is still there.
   [[nodiscard]] bool Focus(Control& control);
 
   Form& form_;

@@ -2,7 +2,6 @@
 
 #include "toolkit/application.h"
 #include "toolkit/design_pixels.h"
-#include "toolkit/forms/form.h"
 
 namespace toolkit {
 namespace {

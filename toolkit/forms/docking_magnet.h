@@ -1,7 +1,7 @@
 // Pulls a form to the edges of the desktop while the user drags it.
 #pragma once
 
-#include "toolkit/forms/form_component.h"
+#include "toolkit/forms/form.h"
 
 namespace toolkit {
 

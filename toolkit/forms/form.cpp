@@ -199,4 +199,8 @@ void Form::ChangeDpi(const platform::Rect& bounds) {
   Rescale();
 }
 
+FormComponent::FormComponent(Form& form) : form_(form) { form_.components_.push_back(this); }
+
+FormComponent::~FormComponent() { std::erase(form_.components_, this); }
+
 }  // namespace toolkit

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <optional>
-#include <utility>
 
 #include "platform/scoped_value.h"
 #include "toolkit/application.h"

@@ -7,7 +7,6 @@
 
 #include "platform/scoped_value.h"
 #include "toolkit/application.h"
-#include "toolkit/forms/form.h"
 #include "toolkit/forms/placement.h"
 
 namespace toolkit {

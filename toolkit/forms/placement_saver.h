@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "platform/screen.h"
-#include "toolkit/forms/form_component.h"
+#include "toolkit/forms/form.h"
 
 namespace toolkit {
 

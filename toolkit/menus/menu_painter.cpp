@@ -17,9 +17,9 @@ constexpr int kTextIndent = 6;
 constexpr int kShortCutGap = 24;
 constexpr int kArrowWidth = 18;
 constexpr int kLargestText = 480;  // a longer text is cut: a menu has to fit on the screen
-const platform::FontSpec kFont{"Tahoma", 11, false};
+const platform::FontStyle kFont{"Tahoma", 11, false};
 
-platform::FontSpec FontAt(int dpi) { return {kFont.face, ScaleTo(dpi, kFont.height), kFont.bold}; }
+platform::FontStyle FontAt(int dpi) { return {kFont.face, ScaleTo(dpi, kFont.height), kFont.bold}; }
 
 // Returns the text that is shown: "&&" is one ampersand, and a single "&" only marks the key.
 std::string ShownText(std::string_view text) {
@@ -44,7 +44,7 @@ std::size_t MnemonicAt(std::string_view text) {
 
 // Returns the text, or as much of it as fits with an ellipsis behind it.
 std::string Fitted(const std::string& text, int width, platform::Canvas& canvas,
-                   const platform::FontSpec& font) {
+                   const platform::FontStyle& font) {
   if (canvas.TextSize(text, font).width <= width) return text;
   std::size_t fits = 0;
   std::size_t too_many = text.size();
@@ -86,7 +86,7 @@ platform::Colour TextColour(const platform::MenuEntry& entry,
 platform::Size MenuPainter::Measure(const platform::MenuEntry& entry, platform::Canvas& canvas,
                                     int dpi) {
   if (entry.separator) return {ScaleTo(dpi, kIconWidth), ScaleTo(dpi, kSeparatorHeight)};
-  const platform::FontSpec font = FontAt(dpi);
+  const platform::FontStyle font = FontAt(dpi);
   int width =
       ScaleTo(dpi, kIconWidth + 2 * kTextIndent + kArrowWidth) +
       std::min(canvas.TextSize(ShownText(entry.text), font).width, ScaleTo(dpi, kLargestText));
@@ -111,7 +111,7 @@ void MenuPainter::Paint(const platform::MenuEntry& entry, const platform::MenuEn
   const bool marked = state.highlighted && entry.enabled;
   if (marked) canvas.Fill(area, platform::colour::kHighlight);
   PaintMark(entry, state, canvas, column);
-  const platform::FontSpec font = FontAt(dpi);
+  const platform::FontStyle font = FontAt(dpi);
   const platform::Colour colour = TextColour(entry, state);
   const int text_right = area.Right() - ScaleTo(dpi, kArrowWidth);
   const platform::Rect box{text_left, area.top, text_right - text_left, area.height};

@@ -1,6 +1,5 @@
 #include "toolkit/menus/popup_menu.h"
 
-#include <algorithm>
 #include <optional>
 #include <utility>
 

@@ -9,7 +9,7 @@
 #include <string_view>
 #include <utility>
 
-#include "platform/interface_row.h"
+#include "platform/interface_table.h"
 
 namespace endure {
 namespace {

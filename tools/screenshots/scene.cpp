@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "platform/windows/services/services.h"
-#include "platform/windows/wide.h"
+#include "platform/windows/wide_text.h"
 #include "tests/desktop/driver/input.h"
 #include "tests/desktop/driver/registry.h"
 #include "tests/desktop/driver/wait.h"

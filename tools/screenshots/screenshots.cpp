@@ -11,7 +11,7 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/windows/wide.h"
+#include "platform/windows/wide_text.h"
 #include "tests/desktop/driver/program.h"
 #include "tools/screenshots/shots.h"
 

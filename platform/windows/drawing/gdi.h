@@ -11,22 +11,11 @@
 
 namespace platform::windows {
 
-template <class Object>
-struct GdiObjectKind {
-  using Raw = Object;
-  static constexpr Raw None() { return nullptr; }
-  static void Close(Raw object) { ::DeleteObject(object); }
-};
-using Font = Handle<GdiObjectKind<HFONT>>;
-using Pen = Handle<GdiObjectKind<HPEN>>;
-using GdiBitmap = Handle<GdiObjectKind<HBITMAP>>;
+using Font = Handle<ZeroIsNone<HFONT, &::DeleteObject>>;
+using Pen = Handle<ZeroIsNone<HPEN, &::DeleteObject>>;
+using GdiBitmap = Handle<ZeroIsNone<HBITMAP, &::DeleteObject>>;
 
-struct MemoryDcKind {
-  using Raw = HDC;
-  static constexpr Raw None() { return nullptr; }
-  static void Close(Raw dc) { ::DeleteDC(dc); }
-};
-using MemoryDc = Handle<MemoryDcKind>;
+using MemoryDc = Handle<ZeroIsNone<HDC, &::DeleteDC>>;
 
 // Owns the device context of the screen, or of a window with its frame. It is null when the system
 // refuses.
@@ -86,6 +75,10 @@ class SavedDc {
 [[nodiscard]] constexpr Rect FromRect(const RECT& area) {
   return {static_cast<int>(area.left), static_cast<int>(area.top),
           static_cast<int>(area.right - area.left), static_cast<int>(area.bottom - area.top)};
+}
+
+[[nodiscard]] constexpr Point FromPoint(const POINT& at) {
+  return {static_cast<int>(at.x), static_cast<int>(at.y)};
 }
 
 // Fills `area` of `dc` without making a brush.

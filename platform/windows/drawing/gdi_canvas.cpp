@@ -1,11 +1,46 @@
 #include "platform/windows/drawing/gdi_canvas.h"
 
+#include <algorithm>
 #include <string>
+#include <utility>
 
 #include "platform/windows/drawing/graphics.h"
-#include "platform/windows/wide.h"
+#include "platform/windows/wide_text.h"
 
 namespace platform::windows {
+namespace {
+
+// This is enough for all fonts that are visible at once. A list that shows each font in its own
+// face uses more, and must not keep them all.
+constexpr std::size_t kKept = 16;
+
+Font Make(const FontStyle& spec) {
+  LOGFONTW description{};
+  description.lfHeight = -std::max(spec.height, 1);  // negative: without internal leading
+  description.lfWeight = spec.bold ? FW_BOLD : FW_NORMAL;
+  description.lfCharSet = DEFAULT_CHARSET;
+  description.lfQuality = DEFAULT_QUALITY;  // the smoothing that the user has chosen
+  const std::wstring face = ToWide(spec.face).substr(0, LF_FACESIZE - 1);
+  std::copy(face.begin(), face.end(), description.lfFaceName);
+  return Font(::CreateFontIndirectW(&description));
+}
+
+}  // namespace
+
+SharedFont FontCache::Get(const FontStyle& spec) {
+  const auto found = std::find_if(entries_.begin(), entries_.end(),
+                                  [&spec](const Entry& entry) { return entry.spec == spec; });
+  if (found != entries_.end()) {
+    std::rotate(found, found + 1, entries_.end());
+    return entries_.back().font;
+  }
+  Font font = Make(spec);
+  if (!font) return nullptr;
+  if (entries_.size() == kKept) entries_.erase(entries_.begin());
+  entries_.push_back({spec, std::make_shared<const Font>(std::move(font))});
+  return entries_.back().font;
+}
+
 namespace {
 
 int GdiStyle(PenStyle style) {
@@ -59,13 +94,13 @@ void GdiCanvas::Line(Point from, Point to, Colour colour, PenStyle style) {
   if (pen) DrawLine(dc_, from, to, pen.get());
 }
 
-void GdiCanvas::Text(const Rect& box, std::string_view text, const FontSpec& font, Colour colour,
+void GdiCanvas::Text(const Rect& box, std::string_view text, const FontStyle& font, Colour colour,
                      TextAlign align) {
   FormattedText(box, text, font, colour,
                 DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | GdiAlign(align));
 }
 
-void GdiCanvas::FormattedText(const Rect& box, std::string_view text, const FontSpec& font,
+void GdiCanvas::FormattedText(const Rect& box, std::string_view text, const FontStyle& font,
                               Colour colour, UINT format) {
   if (box.Empty() || text.empty()) return;
   const SharedFont shared = fonts_.Get(font);
@@ -78,7 +113,7 @@ void GdiCanvas::FormattedText(const Rect& box, std::string_view text, const Font
   ::DrawTextW(dc_, wide.c_str(), static_cast<int>(wide.size()), &area, format);
 }
 
-Size GdiCanvas::TextSize(std::string_view text, const FontSpec& font) {
+Size GdiCanvas::TextSize(std::string_view text, const FontStyle& font) {
   const SharedFont shared = fonts_.Get(font);
   if (!shared) return {};
   const Selection selected(dc_, shared->get());

@@ -1,11 +1,32 @@
-// A canvas that draws with GDI.
+// A canvas that draws with GDI, and the fonts that it uses.
 #pragma once
 
+#include <memory>
+#include <vector>
+
 #include "platform/canvas.h"
-#include "platform/windows/drawing/font_cache.h"
 #include "platform/windows/drawing/gdi.h"
 
 namespace platform::windows {
+
+// Fonts are made once and used often.
+using SharedFont = std::shared_ptr<const Font>;
+
+class FontCache {
+ public:
+  // Returns the font for `spec`, or the system's nearest one, or null when the system is out of
+  // memory. A control that goes on using a font keeps the returned pointer, since the cache drops
+  // the font that has not been asked for longest.
+  [[nodiscard]] SharedFont Get(const FontStyle& spec);
+
+ private:
+  struct Entry {
+    FontStyle spec;
+    SharedFont font;
+  };
+
+  std::vector<Entry> entries_;  // the font that was asked for last stands at the end
+};
 
 // Returns the flag of DrawText for an alignment.
 [[nodiscard]] UINT GdiAlign(TextAlign align);
@@ -18,11 +39,11 @@ class GdiCanvas final : public Canvas {
   [[nodiscard]] Size Extent() const override { return extent_; }
   void Fill(const Rect& area, Colour colour) override;
   void Line(Point from, Point to, Colour colour, PenStyle style) override;
-  void Text(const Rect& box, std::string_view text, const FontSpec& font, Colour colour,
+  void Text(const Rect& box, std::string_view text, const FontStyle& font, Colour colour,
             TextAlign align) override;
-  [[nodiscard]] Size TextSize(std::string_view text, const FontSpec& font) override;
+  [[nodiscard]] Size TextSize(std::string_view text, const FontStyle& font) override;
   // Draws a text like Text, but with the placement and "&" marks that DrawText's `format` asks for.
-  void FormattedText(const Rect& box, std::string_view text, const FontSpec& font, Colour colour,
+  void FormattedText(const Rect& box, std::string_view text, const FontStyle& font, Colour colour,
                      UINT format);
   [[nodiscard]] HDC dc() const { return dc_; }
   // The bitmap must come from this folder's Graphics.

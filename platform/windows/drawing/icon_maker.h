@@ -10,12 +10,7 @@
 
 namespace platform::windows {
 
-struct IconKind {
-  using Raw = HICON;
-  static constexpr Raw None() { return nullptr; }
-  static void Close(Raw icon) { ::DestroyIcon(icon); }
-};
-using Icon = Handle<IconKind>;
+using Icon = Handle<ZeroIsNone<HICON, &::DestroyIcon>>;
 
 // Keeps the two bitmaps that an icon is made of, since a live icon is made anew every second.
 class IconMaker {

@@ -2,24 +2,13 @@
 
 #include "platform/windows/handle.h"
 #include "platform/windows/services/services.h"
-#include "platform/windows/wide.h"
+#include "platform/windows/wide_text.h"
 #include "platform/windows/win32.h"
 
 namespace platform::windows {
 namespace {
 
-struct WindowKind {
-  using Raw = HWND;
-  static constexpr Raw None() { return nullptr; }
-  static void Close(Raw window) { ::DestroyWindow(window); }
-};
-
-struct MemoryKind {
-  using Raw = HGLOBAL;
-  static constexpr Raw None() { return nullptr; }
-  static void Close(Raw memory) { ::GlobalFree(memory); }
-};
-using Memory = Handle<MemoryKind>;
+using Memory = Handle<ZeroIsNone<HGLOBAL, &::GlobalFree>>;
 
 // Keeps the clipboard open as long as it lives. It is false when another program keeps the
 // clipboard open.
@@ -56,8 +45,9 @@ bool Clipboard::SetText(std::string_view text) {
   // EmptyClipboard makes the window that opened the clipboard its owner, and without an owner the
   // system takes no data. A message-only window is enough; the text stays when the window is
   // destroyed.
-  const Handle<WindowKind> owner(::CreateWindowExW(0, L"STATIC", L"", 0, 0, 0, 0, 0, HWND_MESSAGE,
-                                                   nullptr, ::GetModuleHandleW(nullptr), nullptr));
+  const Handle<ZeroIsNone<HWND, &::DestroyWindow>> owner(
+      ::CreateWindowExW(0, L"STATIC", L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr,
+                        ::GetModuleHandleW(nullptr), nullptr));
   if (!owner) return false;
   Memory memory = ToMemory(text);
   if (!memory) return false;

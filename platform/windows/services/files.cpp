@@ -1,19 +1,12 @@
 #include <algorithm>
 
 #include "platform/file_mask.h"
-#include "platform/windows/kernel_handle.h"
 #include "platform/windows/services/services.h"
-#include "platform/windows/wide.h"
+#include "platform/windows/system_handles.h"
+#include "platform/windows/wide_text.h"
 
 namespace platform::windows {
 namespace {
-
-struct FindKind {
-  using Raw = HANDLE;
-  static Raw None() { return INVALID_HANDLE_VALUE; }
-  static void Close(Raw handle) { ::FindClose(handle); }
-};
-using FindHandle = Handle<FindKind>;
 
 constexpr std::size_t kLongestPath = 32767;  // of the system, in UTF-16 units
 constexpr DWORD kLargestPiece = 1U << 20;    // bytes of one read or write call
@@ -87,11 +80,6 @@ std::string Files::ProgramPath() {
 std::string Files::ProgramFolder() {
   const std::string path = ProgramPath();
   return path.substr(0, path.rfind('\\') + 1);
-}
-
-bool Files::Exists(std::string_view path) {
-  const DWORD attributes = ::GetFileAttributesW(ToWide(path).c_str());
-  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
 }
 
 bool Files::Missing(std::string_view path) {

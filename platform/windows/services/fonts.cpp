@@ -2,7 +2,7 @@
 
 #include "platform/windows/drawing/gdi.h"
 #include "platform/windows/services/services.h"
-#include "platform/windows/wide.h"
+#include "platform/windows/wide_text.h"
 
 namespace platform::windows {
 namespace {

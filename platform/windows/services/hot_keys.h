@@ -1,32 +1,10 @@
 // Hot keys of the system.
 #pragma once
 
-#include <map>
-#include <memory>
-
 #include "platform/hot_keys.h"
-#include "platform/windows/windows/native_window.h"
+#include "platform/windows/windows/callback_window.h"
 
 namespace platform::windows {
-
-// The hidden window that gets the messages of all hot keys.
-class HotKeyWindow final : public NativeWindow {
- public:
-  using Pressed = std::function<void()>;
-
-  explicit HotKeyWindow(const WindowClass& window_class);
-
-  // Registers a hot key. Returns false when the system refuses. `id` must not be in use.
-  [[nodiscard]] bool Start(int id, UINT modifiers, UINT virtual_key, Pressed pressed);
-  void Stop(int id);
-  [[nodiscard]] bool Uses(int id) const { return pressed_.contains(id); }
-
- protected:
-  std::optional<LRESULT> Handle(const Message& message) override;
-
- private:
-  std::map<int, std::shared_ptr<const Pressed>> pressed_;
-};
 
 class HotKeys final : public platform::HotKeys {
  public:
@@ -38,7 +16,7 @@ class HotKeys final : public platform::HotKeys {
 
  private:
   WindowClass window_class_{"TremoluxHotKeys"};
-  HotKeyWindow window_{window_class_};
+  CallbackWindow window_{window_class_, WM_HOTKEY};
 };
 
 }  // namespace platform::windows

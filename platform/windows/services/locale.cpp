@@ -1,7 +1,7 @@
 #include <array>
 
 #include "platform/windows/services/services.h"
-#include "platform/windows/wide.h"
+#include "platform/windows/wide_text.h"
 #include "platform/windows/win32.h"
 
 namespace platform::windows {

@@ -1,6 +1,6 @@
 #include "platform/text.h"
 #include "platform/windows/services/services.h"
-#include "platform/windows/wide.h"
+#include "platform/windows/wide_text.h"
 #include "platform/windows/win32.h"
 
 namespace platform::windows {

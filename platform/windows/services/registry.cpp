@@ -1,21 +1,15 @@
 #include <algorithm>
-#include <array>
 
 #include "platform/windows/handle.h"
 #include "platform/windows/services/services.h"
 #include "platform/windows/system_error.h"
-#include "platform/windows/wide.h"
+#include "platform/windows/wide_text.h"
 #include "platform/windows/win32.h"
 
 namespace platform::windows {
 namespace {
 
-struct RegistryKeyKind {
-  using Raw = HKEY;
-  static constexpr Raw None() { return nullptr; }
-  static void Close(Raw key) { ::RegCloseKey(key); }
-};
-using KeyHandle = Handle<RegistryKeyKind>;
+using KeyHandle = Handle<ZeroIsNone<HKEY, &::RegCloseKey>>;
 
 // Nearly every value fits into this size, so that a read is one call.
 constexpr std::size_t kUsualSize = 512;

@@ -48,7 +48,7 @@ Colour Screen::Resolve(Colour colour) { return ToColorref(colour); }
 Point Screen::Pointer() {
   POINT at{};
   ::GetCursorPos(&at);
-  return {static_cast<int>(at.x), static_cast<int>(at.y)};
+  return FromPoint(at);
 }
 
 }  // namespace platform::windows

@@ -11,7 +11,6 @@
 #include "platform/interface_table.h"
 #include "platform/keyboard.h"
 #include "platform/locale.h"
-#include "platform/notification_area.h"
 #include "platform/other_windows.h"
 #include "platform/registry.h"
 #include "platform/screen.h"
@@ -21,9 +20,8 @@
 #include "platform/sockets.h"
 #include "platform/sound.h"
 #include "platform/windows/handle.h"
-#include "platform/windows/kernel_handle.h"
-#include "platform/windows/services/ip_helper.h"
-#include "platform/windows/windows/window_class.h"
+#include "platform/windows/system_handles.h"
+#include "platform/windows/win32.h"
 
 namespace platform::windows {
 
@@ -42,7 +40,6 @@ class Files : public platform::Files {
  public:
   [[nodiscard]] std::string ProgramPath() override;
   [[nodiscard]] std::string ProgramFolder() override;
-  [[nodiscard]] bool Exists(std::string_view path) override;
   [[nodiscard]] bool Missing(std::string_view path) override;
   [[nodiscard]] std::optional<std::uint64_t> Size(std::string_view path) override;
   [[nodiscard]] std::optional<std::string> Load(std::string_view path, std::size_t limit) override;
@@ -78,14 +75,6 @@ class Locale : public platform::Locale {
   [[nodiscard]] std::string LongTime(DateTime moment) override;
   [[nodiscard]] std::string Lower(std::string_view text) override;
   [[nodiscard]] std::string FromCodePage(std::string_view bytes) override;
-};
-
-class NotificationArea final : public platform::NotificationArea {
- public:
-  [[nodiscard]] std::unique_ptr<TrayIcon> CreateIcon(TrayIconEvents& events) override;
-
- private:
-  WindowClass class_{"TremoluxTray"};
 };
 
 class OtherWindows final : public platform::OtherWindows {

@@ -1,6 +1,6 @@
-#include "platform/windows/kernel_handle.h"
 #include "platform/windows/services/services.h"
-#include "platform/windows/wide.h"
+#include "platform/windows/system_handles.h"
+#include "platform/windows/wide_text.h"
 #include "platform/windows/win32.h"
 
 namespace platform::windows {

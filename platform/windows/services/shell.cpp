@@ -1,11 +1,8 @@
 #include <string>
 
 #include "platform/windows/services/services.h"
-#include "platform/windows/wide.h"
+#include "platform/windows/wide_text.h"
 #include "platform/windows/win32.h"
-
-// This header must follow the system's header.
-#include <shellapi.h>
 
 namespace platform::windows {
 

@@ -1,7 +1,7 @@
 #include <utility>
 
 #include "platform/windows/services/services.h"
-#include "platform/windows/wide.h"
+#include "platform/windows/wide_text.h"
 
 namespace platform::windows {
 

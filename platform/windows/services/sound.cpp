@@ -3,9 +3,9 @@
 #include <string>
 
 #include "platform/wave_file.h"
-#include "platform/windows/library.h"
 #include "platform/windows/services/services.h"
-#include "platform/windows/wide.h"
+#include "platform/windows/system_handles.h"
+#include "platform/windows/wide_text.h"
 #include "platform/windows/win32.h"
 // This header must follow the system's header, which it needs.
 #include <mmsystem.h>

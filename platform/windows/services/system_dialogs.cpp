@@ -4,7 +4,7 @@
 #include <string>
 
 #include "platform/windows/drawing/gdi.h"
-#include "platform/windows/wide.h"
+#include "platform/windows/wide_text.h"
 #include "platform/windows/windows/top_window.h"
 
 // This header must follow the system's header.

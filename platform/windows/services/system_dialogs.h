@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "platform/system_dialogs.h"
-#include "platform/windows/library.h"
+#include "platform/windows/system_handles.h"
 
 namespace platform::windows {
 

@@ -1,33 +1,10 @@
 // Timers of the message loop.
 #pragma once
 
-#include <map>
-#include <memory>
-
 #include "platform/timers.h"
-#include "platform/windows/windows/native_window.h"
+#include "platform/windows/windows/callback_window.h"
 
 namespace platform::windows {
-
-// The hidden window that gets the ticks of all timers (SetTimer).
-class TimerWindow final : public NativeWindow {
- public:
-  using Tick = std::function<void()>;
-
-  explicit TimerWindow(const WindowClass& window_class);
-
-  // Starts a timer and returns its number, or 0 when the system refuses. A number is never used
-  // again, so that a tick that arrives after its timer has ended finds no timer.
-  [[nodiscard]] UINT_PTR Start(int milliseconds, Tick tick);
-  void Stop(UINT_PTR number);
-
- protected:
-  std::optional<LRESULT> Handle(const Message& message) override;
-
- private:
-  UINT_PTR last_number_ = 0;
-  std::map<UINT_PTR, std::shared_ptr<const Tick>> ticks_;
-};
 
 class Timers final : public platform::Timers {
  public:
@@ -38,7 +15,10 @@ class Timers final : public platform::Timers {
 
  private:
   WindowClass window_class_{"TremoluxTimers"};
-  TimerWindow window_{window_class_};
+  CallbackWindow window_{window_class_, WM_TIMER};
+  // A number is never used again, so that a tick that arrives after its timer has ended finds no
+  // timer.
+  UINT_PTR last_number_ = 0;
 };
 
 }  // namespace platform::windows

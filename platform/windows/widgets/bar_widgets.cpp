@@ -3,16 +3,12 @@
 #include <algorithm>
 #include <utility>
 
-#include "platform/windows/widgets/common_controls.h"
+#include "platform/windows/win32.h"
 
 namespace platform::windows {
 
-TrackBarWidget::TrackBarWidget(HWND parent, std::string_view name, Drawing& drawing,
-                               WidgetEvents& events)
-    : WidgetOf(drawing, events) {
-  CreateControl(TRACKBAR_CLASSW, {kStopChild | TBS_HORZ | TBS_AUTOTICKS, 0}, parent);
-  PublishName(name);
-  StartReporting();
+TrackBarWidget::TrackBarWidget(const NewWidget& widget) : WidgetOf(widget) {
+  MakeControl(TRACKBAR_CLASSW, {kStopChild | TBS_HORZ | TBS_AUTOTICKS, 0}, widget);
 }
 
 void TrackBarWidget::SetRange(int lowest, int highest, int page) {
@@ -38,12 +34,8 @@ std::optional<LRESULT> TrackBarWidget::HandleNotification(const Message& message
   return 0;
 }
 
-ProgressBarWidget::ProgressBarWidget(HWND parent, std::string_view name, Drawing& drawing,
-                                     WidgetEvents& events)
-    : WidgetOf(drawing, events) {
-  CreateControl(PROGRESS_CLASSW, {kChild | WS_GROUP | PBS_SMOOTH, 0}, parent);
-  PublishName(name);
-  StartReporting();
+ProgressBarWidget::ProgressBarWidget(const NewWidget& widget) : WidgetOf(widget) {
+  MakeControl(PROGRESS_CLASSW, {kChild | WS_GROUP | PBS_SMOOTH, 0}, widget);
 }
 
 void ProgressBarWidget::SetRange(int lowest, int highest) {

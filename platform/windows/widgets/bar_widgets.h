@@ -8,7 +8,7 @@ namespace platform::windows {
 
 class TrackBarWidget final : public WidgetOf<TrackBar, NativeControl> {
  public:
-  TrackBarWidget(HWND parent, std::string_view name, Drawing& drawing, WidgetEvents& events);
+  explicit TrackBarWidget(const NewWidget& widget);
 
   void SetRange(int lowest, int highest, int page) override;
   void SetPosition(int position) override;
@@ -22,7 +22,7 @@ class TrackBarWidget final : public WidgetOf<TrackBar, NativeControl> {
 
 class ProgressBarWidget final : public WidgetOf<ProgressBar, NativeControl> {
  public:
-  ProgressBarWidget(HWND parent, std::string_view name, Drawing& drawing, WidgetEvents& events);
+  explicit ProgressBarWidget(const NewWidget& widget);
 
   void SetRange(int lowest, int highest) override;
   void SetPosition(int position) override;

@@ -55,12 +55,9 @@ DWORD StyleOf(ButtonKind kind, HWND parent) {
 
 }  // namespace
 
-ButtonWidget::ButtonWidget(HWND parent, std::string_view name, ButtonKind kind, Drawing& drawing,
-                           WidgetEvents& events)
-    : WidgetOf(drawing, events), kind_(kind) {
-  CreateControl(L"BUTTON", {StyleOf(kind, parent), 0}, parent);
-  PublishName(name);
-  StartReporting();
+ButtonWidget::ButtonWidget(const NewWidget& widget, ButtonKind kind)
+    : WidgetOf(widget), kind_(kind) {
+  MakeControl(L"BUTTON", {StyleOf(kind, widget.parent), 0}, widget);
 }
 
 void ButtonWidget::SetChecked(bool checked) {

@@ -8,8 +8,7 @@ namespace platform::windows {
 
 class ButtonWidget final : public WidgetOf<Button, NativeControl> {
  public:
-  ButtonWidget(HWND parent, std::string_view name, ButtonKind kind, Drawing& drawing,
-               WidgetEvents& events);
+  ButtonWidget(const NewWidget& widget, ButtonKind kind);
 
   void SetChecked(bool checked) override;
   [[nodiscard]] bool Checked() const override;

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "platform/windows/wide.h"
+#include "platform/windows/wide_text.h"
 
 namespace platform::windows {
 namespace {
@@ -59,14 +59,11 @@ std::string WithoutReturns(std::string text) {
 
 }  // namespace
 
-EditWidget::EditWidget(HWND parent, std::string_view name, const EditStyle& style, Drawing& drawing,
-                       WidgetEvents& events)
-    : WidgetOf(drawing, events), kind_(style.kind) {
-  CreateControl(L"EDIT", StyleOf(style, kStopChild), parent);
+EditWidget::EditWidget(const NewWidget& widget, const EditStyle& style)
+    : WidgetOf(widget), kind_(style.kind) {
+  MakeControl(L"EDIT", StyleOf(style, kStopChild), widget);
   if (kind_ == EditKind::kPassword) Send(EM_SETPASSWORDCHAR, L'x');
   Send(EM_SETLIMITTEXT, 0);  // a new one has a limit
-  PublishName(name);
-  StartReporting();
 }
 
 void EditWidget::SetText(std::string_view text) {
@@ -81,13 +78,6 @@ void EditWidget::SetText(std::string_view text) {
 
 std::string EditWidget::Text() const {
   return kind_ == EditKind::kMemo ? WithoutReturns(WidgetOf::Text()) : WidgetOf::Text();
-}
-
-std::wstring EditWidget::WideText() const {
-  std::wstring text(static_cast<std::size_t>(::GetWindowTextLengthW(hwnd())) + 1, L'\0');
-  const int length = ::GetWindowTextW(hwnd(), text.data(), static_cast<int>(text.size()));
-  text.resize(static_cast<std::size_t>(length));
-  return text;
 }
 
 void EditWidget::SetMaxLength(int characters) {

@@ -8,8 +8,7 @@ namespace platform::windows {
 
 class EditWidget final : public WidgetOf<Edit, NativeControl> {
  public:
-  EditWidget(HWND parent, std::string_view name, const EditStyle& style, Drawing& drawing,
-             WidgetEvents& events);
+  EditWidget(const NewWidget& widget, const EditStyle& style);
 
   void SetText(std::string_view text) override;
   [[nodiscard]] std::string Text() const override;
@@ -23,15 +22,15 @@ class EditWidget final : public WidgetOf<Edit, NativeControl> {
 
  protected:
   std::optional<LRESULT> Handle(const Message& message) override;
-  // The system's look of an edit that cannot be changed, unless it was given a colour of its own.
+  // Returns the system's colour for an edit that cannot be changed, unless the edit was given a
+  // colour of its own.
   [[nodiscard]] Colour Background() const override;
 
  private:
-  [[nodiscard]] std::wstring WideText() const;
   void Changed();
-  // What the user may enter of `text`, which has come to be in it.
+  // Cuts `text`, which is in the edit, to what the user may enter, and returns the rest.
   [[nodiscard]] std::wstring CutToLimit(const std::wstring& text);
-  // Whether a control message is kept from the edit.
+  // Returns whether a message about a key is kept from the edit.
   [[nodiscard]] bool Keeps(const Message& message);
   void Turned(const Message& wheel);
 

@@ -3,8 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "platform/windows/wide.h"
-#include "platform/windows/widgets/common_controls.h"
+#include "platform/windows/wide_text.h"
 
 namespace platform::windows {
 namespace {
@@ -26,6 +25,13 @@ class Frozen {
 
 LPARAM Pointer(const std::wstring& text) { return reinterpret_cast<LPARAM>(text.c_str()); }
 
+constexpr ListMessages kListBoxMessages{LB_RESETCONTENT, LB_INSERTSTRING, LB_DELETESTRING,
+                                        LB_GETCOUNT,     LB_SETCURSEL,    LB_GETCURSEL,
+                                        LBN_SELCHANGE};
+constexpr ListMessages kComboMessages{CB_RESETCONTENT, CB_INSERTSTRING, CB_DELETESTRING,
+                                      CB_GETCOUNT,     CB_SETCURSEL,    CB_GETCURSEL,
+                                      CBN_SELCHANGE};
+
 constexpr int kRowsDropped = 12;
 
 // Whether a font shows pictures in the place of letters.
@@ -38,51 +44,46 @@ bool IsSymbolFont(HDC dc, const SharedFont& font) {
 
 }  // namespace
 
-ListBoxWidget::ListBoxWidget(HWND parent, std::string_view name, Drawing& drawing,
-                             WidgetEvents& events)
-    : WidgetOf(drawing, events) {
-  CreateControl(L"LISTBOX",
-                {kStopChild | WS_VSCROLL | LBS_NOTIFY | LBS_HASSTRINGS | LBS_NOINTEGRALHEIGHT,
-                 WS_EX_CLIENTEDGE},
-                parent);
-  PublishName(name);
-  StartReporting();
-}
-
-void ListBoxWidget::SetItems(std::span<const std::string> items) {
+void PlainListWidget::Replace(int first, int removed, std::span<const std::string> added) {
+  const Quiet quiet(*this);
   const Frozen frozen(hwnd());
-  Send(LB_RESETCONTENT);
-  for (const std::string& item : items) Send(LB_ADDSTRING, 0, Pointer(ToWide(item)));
+  auto row = static_cast<WPARAM>(first);
+  if (removed == Count()) {
+    Send(messages_.reset);
+  } else {
+    for (int i = 0; i < removed; ++i) Send(messages_.remove, row);
+  }
+  for (const std::string& item : added) Send(messages_.insert, row++, Pointer(ToWide(item)));
 }
 
-int ListBoxWidget::Count() const { return static_cast<int>(Send(LB_GETCOUNT)); }
-
-void ListBoxWidget::SetIndex(int index) {
-  if (index != Index()) Send(LB_SETCURSEL, static_cast<WPARAM>(index));
+void PlainListWidget::SetIndex(int index) {
+  if (index != Index()) Send(messages_.select, static_cast<WPARAM>(index));
 }
 
-int ListBoxWidget::Index() const { return static_cast<int>(Send(LB_GETCURSEL)); }
-
-std::optional<LRESULT> ListBoxWidget::Handle(const Message& message) {
-  if (message.id == WM_KEYDOWN && message.w == VK_DELETE && events().OnKey(Key::kDelete)) return 0;
-  return WidgetOf::Handle(message);
-}
-
-std::optional<LRESULT> ListBoxWidget::HandleNotification(const Message& message) {
+std::optional<LRESULT> PlainListWidget::HandleNotification(const Message& message) {
   if (message.id != WM_COMMAND) return WidgetOf::HandleNotification(message);
-  if (HIWORD(message.w) == LBN_SELCHANGE) events().OnChanged();
+  if (HIWORD(message.w) == messages_.chosen && !IsQuiet()) events().OnChanged();
   return 0;
 }
 
-ComboWidget::ComboWidget(HWND parent, std::string_view name, ListKind kind, Drawing& drawing,
-                         WidgetEvents& events)
-    : WidgetOf(drawing, events), kind_(kind) {
+ListBoxWidget::ListBoxWidget(const NewWidget& widget) : PlainListWidget(widget, kListBoxMessages) {
+  MakeControl(L"LISTBOX",
+              {kStopChild | WS_VSCROLL | LBS_NOTIFY | LBS_HASSTRINGS | LBS_NOINTEGRALHEIGHT,
+               WS_EX_CLIENTEDGE},
+              widget);
+}
+
+std::optional<LRESULT> ListBoxWidget::Handle(const Message& message) {
+  if (message.id == WM_KEYDOWN && message.w == VK_DELETE && events().OnKey(Key::kDelete)) return 0;
+  return PlainListWidget::Handle(message);
+}
+
+ComboWidget::ComboWidget(const NewWidget& widget, ListKind kind)
+    : PlainListWidget(widget, kComboMessages), kind_(kind) {
   DWORD style = kStopChild | WS_VSCROLL | CBS_DROPDOWNLIST | CBS_HASSTRINGS;
   if (kind == ListKind::kFontCombo) style |= CBS_OWNERDRAWFIXED;
-  CreateControl(L"COMBOBOX", {style, 0}, parent);
+  MakeControl(L"COMBOBOX", {style, 0}, widget);
   Send(CB_SETMINVISIBLE, kRowsDropped);
-  PublishName(name);
-  StartReporting();
 }
 
 void ComboWidget::SetBounds(const Rect& bounds) {
@@ -90,8 +91,8 @@ void ComboWidget::SetBounds(const Rect& bounds) {
   FitHeight();
 }
 
-void ComboWidget::SetFont(const FontSpec& font) {
-  WidgetOf::SetFont(font);
+void ComboWidget::SetFont(const FontStyle& font) {
+  PlainListWidget::SetFont(font);
   FitHeight();
 }
 
@@ -108,7 +109,7 @@ void ComboWidget::FitHeight() {
   // system arrange the list anew, so the first one should do.
   for (int attempt = 0; attempt < 4 && closed_row > 0; ++attempt) {
     Send(CB_SETITEMHEIGHT, kClosedRow, closed_row);
-    WidgetOf::SetBounds(open);
+    PlainListWidget::SetBounds(open);
     const int too_low = bounds_.height - Bounds().height;
     if (too_low == 0) break;
     closed_row += too_low;
@@ -117,20 +118,6 @@ void ComboWidget::FitHeight() {
     Send(CB_SETITEMHEIGHT, 0, Send(CB_GETITEMHEIGHT, kClosedRow));
   }
 }
-
-void ComboWidget::SetItems(std::span<const std::string> items) {
-  const Frozen frozen(hwnd());
-  Send(CB_RESETCONTENT);
-  for (const std::string& item : items) Send(CB_ADDSTRING, 0, Pointer(ToWide(item)));
-}
-
-int ComboWidget::Count() const { return static_cast<int>(Send(CB_GETCOUNT)); }
-
-void ComboWidget::SetIndex(int index) {
-  if (index != Index()) Send(CB_SETCURSEL, static_cast<WPARAM>(index));
-}
-
-int ComboWidget::Index() const { return static_cast<int>(Send(CB_GETCURSEL)); }
 
 KeyTaker ComboWidget::TakerOf(WPARAM /*key*/) {
   return Send(CB_GETDROPPEDSTATE) != 0 ? KeyTaker::kWindow : KeyTaker::kDialog;
@@ -141,9 +128,7 @@ std::optional<LRESULT> ComboWidget::HandleNotification(const Message& message) {
     DrawRow(*reinterpret_cast<const DRAWITEMSTRUCT*>(message.l));
     return TRUE;
   }
-  if (message.id != WM_COMMAND) return WidgetOf::HandleNotification(message);
-  if (HIWORD(message.w) == CBN_SELCHANGE) events().OnChanged();
-  return 0;
+  return PlainListWidget::HandleNotification(message);
 }
 
 void ComboWidget::DrawRow(const DRAWITEMSTRUCT& item) {
@@ -156,7 +141,7 @@ void ComboWidget::DrawRow(const DRAWITEMSTRUCT& item) {
   const LRESULT length = Send(CB_GETLBTEXT, item.itemID, reinterpret_cast<LPARAM>(text.data()));
   text.resize(static_cast<std::size_t>(length < 0 ? 0 : length));
   const std::string name = FromWide(text);
-  FontSpec own = font();
+  FontStyle own = font();
   own.face = name;
   if (IsSymbolFont(item.hDC, drawing().fonts.Get(own))) own.face = font().face;
   const Rect inside{area.left + 2, area.top, area.width - 4, area.height};
@@ -166,33 +151,34 @@ void ComboWidget::DrawRow(const DRAWITEMSTRUCT& item) {
   canvas.Text(inside, name, own, colour, TextAlign::kLeft);
 }
 
-CheckListWidget::CheckListWidget(HWND parent, std::string_view name, Drawing& drawing,
-                                 WidgetEvents& events)
-    : WidgetOf(drawing, events) {
+CheckListWidget::CheckListWidget(const NewWidget& widget) : WidgetOf(widget) {
   constexpr DWORD kList = LVS_REPORT | LVS_NOCOLUMNHEADER | LVS_SINGLESEL | LVS_SHOWSELALWAYS;
-  CreateControl(WC_LISTVIEWW, {kStopChild | kList, WS_EX_CLIENTEDGE}, parent);
+  MakeControl(WC_LISTVIEWW, {kStopChild | kList, WS_EX_CLIENTEDGE}, widget);
   constexpr DWORD kExtended = LVS_EX_CHECKBOXES | LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER;
   Send(LVM_SETEXTENDEDLISTVIEWSTYLE, kExtended, kExtended);
   LVCOLUMNW column{};
   column.mask = LVCF_WIDTH;
   Send(LVM_INSERTCOLUMNW, 0, reinterpret_cast<LPARAM>(&column));
-  PublishName(name);
-  StartReporting();
 }
 
-void CheckListWidget::SetItems(std::span<const std::string> items) {
+void CheckListWidget::Replace(int first, int removed, std::span<const std::string> added) {
   const Quiet quiet(*this);
   const Frozen frozen(hwnd());
-  Send(LVM_DELETEALLITEMS);
-  for (std::size_t row = 0; row < items.size(); ++row) {
-    std::wstring text = ToWide(items[row]);
-    LVITEMW item{};
-    item.mask = LVIF_TEXT;
-    item.iItem = static_cast<int>(row);
+  if (removed == Count()) {
+    Send(LVM_DELETEALLITEMS);
+  } else {
+    for (int i = 0; i < removed; ++i) Send(LVM_DELETEITEM, static_cast<WPARAM>(first));
+  }
+  LVITEMW item{};
+  item.mask = LVIF_TEXT;
+  item.iItem = first;
+  for (const std::string& row : added) {
+    std::wstring text = ToWide(row);
     item.pszText = text.data();
     Send(LVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&item));
+    ++item.iItem;
   }
-  reported_index_ = -1;
+  reported_index_ = Index();
 }
 
 int CheckListWidget::Count() const { return static_cast<int>(Send(LVM_GETITEMCOUNT)); }
@@ -262,6 +248,64 @@ std::optional<LRESULT> CheckListWidget::Handle(const Message& message) {
     return answer;
   }
   return WidgetOf::Handle(message);
+}
+
+TreeWidget::TreeWidget(const NewWidget& widget) : WidgetOf(widget) {
+  constexpr DWORD kTree = TVS_HASBUTTONS | TVS_HASLINES | TVS_LINESATROOT | TVS_SHOWSELALWAYS;
+  MakeControl(WC_TREEVIEWW, {kStopChild | kTree, WS_EX_CLIENTEDGE}, widget);
+}
+
+void TreeWidget::SetItems(std::span<const TreeItem> items) {
+  const Quiet quiet(*this);
+  Send(WM_SETREDRAW, FALSE);
+  Send(TVM_DELETEITEM, 0, reinterpret_cast<LPARAM>(TVI_ROOT));
+  items_.clear();
+  std::vector<HTREEITEM> branch;  // the last item of each level
+  for (const TreeItem& item : items) {
+    branch.resize(std::min(branch.size(), static_cast<std::size_t>(std::max(item.level, 0))));
+    std::wstring text = ToWide(item.text);
+    TVINSERTSTRUCTW insertion{};
+    insertion.hParent = branch.empty() ? TVI_ROOT : branch.back();
+    insertion.hInsertAfter = TVI_LAST;
+    insertion.item.mask = TVIF_TEXT | TVIF_PARAM;
+    insertion.item.pszText = text.data();
+    insertion.item.lParam = static_cast<LPARAM>(items_.size());
+    items_.push_back(reinterpret_cast<HTREEITEM>(
+        Send(TVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&insertion))));
+    branch.push_back(items_.back());
+  }
+  ExpandAll();
+  Send(WM_SETREDRAW, TRUE);
+  Invalidate();
+}
+
+void TreeWidget::SetIndex(int index) {
+  if (index == Index()) return;
+  const Quiet quiet(*this);
+  const bool exists = index >= 0 && index < static_cast<int>(items_.size());
+  const HTREEITEM item = exists ? items_[static_cast<std::size_t>(index)] : nullptr;
+  Send(TVM_SELECTITEM, TVGN_CARET, reinterpret_cast<LPARAM>(item));
+}
+
+int TreeWidget::Index() const {
+  const auto selected = reinterpret_cast<HTREEITEM>(Send(TVM_GETNEXTITEM, TVGN_CARET));
+  const auto found = std::find(items_.begin(), items_.end(), selected);
+  return selected == nullptr || found == items_.end() ? -1
+                                                      : static_cast<int>(found - items_.begin());
+}
+
+void TreeWidget::ExpandAll() {
+  const Quiet quiet(*this);
+  for (const HTREEITEM item : items_) {
+    Send(TVM_EXPAND, TVE_EXPAND, reinterpret_cast<LPARAM>(item));
+  }
+}
+
+std::optional<LRESULT> TreeWidget::HandleNotification(const Message& message) {
+  if (message.id != WM_NOTIFY) return WidgetOf::HandleNotification(message);
+  const auto* notification = reinterpret_cast<const NMHDR*>(message.l);
+  if (notification->code == TVN_SELCHANGEDW && !IsQuiet()) events().OnChanged();
+  return std::nullopt;
 }
 
 }  // namespace platform::windows

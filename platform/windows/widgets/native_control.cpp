@@ -35,17 +35,9 @@ std::optional<LRESULT> NativeControl::HandleControl(const Message& message) {
     case WM_NCMOUSELEAVE:
     case WM_RBUTTONUP:  // the system makes the wish for a context menu of it
       return ReportBefore(message);
-    // The control makes its click of them; the click is heard first.
-    case WM_LBUTTONDOWN:
-    case WM_LBUTTONDBLCLK:
-    case WM_LBUTTONUP:
-    case WM_RBUTTONDOWN:
-    case WM_RBUTTONDBLCLK:
-    case WM_MBUTTONDOWN:
-    case WM_MBUTTONDBLCLK:
-    case WM_MBUTTONUP:
-      return ReportBehind(message);
     default:
+      // The control makes its click of them; the click is heard first.
+      if (IsButtonMessage(message.id)) return ReportBehind(message);
       return std::nullopt;
   }
 }

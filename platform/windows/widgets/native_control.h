@@ -7,18 +7,20 @@ namespace platform::windows {
 
 class NativeControl : public WidgetWindow {
  public:
-  // A message about the control that the system sent to its parent. As it stands: its colours.
+  // Answers a message about the control that the system sent to its parent. This version answers
+  // those that ask for its colours.
   virtual std::optional<LRESULT> HandleNotification(const Message& message);
 
  protected:
-  NativeControl(Drawing& drawing, WidgetEvents& events)
-      : WidgetWindow(drawing, events, Capture::kByControl) {}
+  explicit NativeControl(const NewWidget& widget)
+      : WidgetWindow(widget.drawing, widget.events, Capture::kByControl) {}
 
   std::optional<LRESULT> Handle(const Message& message) override;
 
   [[nodiscard]] virtual Colour Background() const { return background(); }
 
-  // While one lives, the code works on the control: what the control tells then is not reported.
+  // While a Quiet exists, the code works on the control, and what the control tells is not
+  // reported.
   class Quiet {
    public:
     explicit Quiet(NativeControl& control) : control_(control) { ++control_.quiet_; }
@@ -37,8 +39,8 @@ class NativeControl : public WidgetWindow {
 
   // The common part of the styles of controls.
   static constexpr DWORD kChild = WS_CHILD | WS_CLIPSIBLINGS;
-  // Of one that the keyboard stops at. Each begins a group of its own, so that the radio buttons
-  // before it end there.
+  // The styles of a control that the keyboard stops at. Each begins a group of its own, so that the
+  // radio buttons before it end there.
   static constexpr DWORD kStopChild = kChild | WS_TABSTOP | WS_GROUP;
 
  private:

@@ -5,18 +5,15 @@
 
 #include <algorithm>
 
-#include "platform/windows/drawing/dib.h"
-#include "platform/windows/wide.h"
-#include "platform/windows/widgets/common_controls.h"
+#include "platform/windows/drawing/graphics.h"
+#include "platform/windows/wide_text.h"
+#include "platform/windows/win32.h"
 
 namespace platform::windows {
 
-TabsWidget::TabsWidget(HWND parent, std::string_view name, Drawing& drawing, WidgetEvents& events)
-    : WidgetOf(drawing, events) {
-  CreateControl(WC_TABCONTROLW, {kStopChild | WS_CLIPCHILDREN, 0}, parent);
+TabsWidget::TabsWidget(const NewWidget& widget) : WidgetOf(widget) {
+  MakeControl(WC_TABCONTROLW, {kStopChild | WS_CLIPCHILDREN, 0}, widget);
   Send(TCM_SETMINTABWIDTH, 0, 0);  // as wide as its text, so that more of them are in view
-  PublishName(name);
-  StartReporting();
 }
 
 void TabsWidget::SetItems(std::span<const std::string> captions) {

@@ -8,7 +8,7 @@ namespace platform::windows {
 
 class TabsWidget final : public WidgetOf<Tabs, NativeControl> {
  public:
-  TabsWidget(HWND parent, std::string_view name, Drawing& drawing, WidgetEvents& events);
+  explicit TabsWidget(const NewWidget& widget);
 
   void SetItems(std::span<const std::string> captions) override;
   void SetIndex(int index) override;

@@ -1,6 +1,6 @@
 #include "platform/windows/widgets/widget_window.h"
 
-#include "platform/windows/wide.h"
+#include "platform/windows/wide_text.h"
 #include "platform/windows/widgets/native_control.h"
 #include "platform/windows/windows/dialog_keys.h"
 
@@ -54,11 +54,13 @@ void WidgetWindow::SetText(std::string_view text) {
   if (Text() != text) ::SetWindowTextW(hwnd(), ToWide(text).c_str());
 }
 
-std::string WidgetWindow::Text() const {
+std::string WidgetWindow::Text() const { return FromWide(WideText()); }
+
+std::wstring WidgetWindow::WideText() const {
   std::wstring text(static_cast<std::size_t>(::GetWindowTextLengthW(hwnd())) + 1, L'\0');
   const int length = ::GetWindowTextW(hwnd(), text.data(), static_cast<int>(text.size()));
   text.resize(static_cast<std::size_t>(length));
-  return FromWide(text);
+  return text;
 }
 
 void WidgetWindow::SetBounds(const Rect& bounds) {
@@ -92,7 +94,7 @@ void WidgetWindow::SetEnabled(bool enabled) { ::EnableWindow(hwnd(), enabled); }
 
 bool WidgetWindow::Enabled() const { return ::IsWindowEnabled(hwnd()) != 0; }
 
-void WidgetWindow::SetFont(const FontSpec& font) {
+void WidgetWindow::SetFont(const FontStyle& font) {
   if (native_font_ && font == font_) return;
   font_ = font;
   SharedFont made = drawing_.fonts.Get(font);
@@ -126,7 +128,14 @@ void WidgetWindow::Invalidate() {
 Point WidgetWindow::ToScreen(Point client) const {
   POINT at{client.x, client.y};
   ::ClientToScreen(hwnd(), &at);
-  return {static_cast<int>(at.x), static_cast<int>(at.y)};
+  return FromPoint(at);
+}
+
+void WidgetWindow::MakeControl(const wchar_t* control, const WindowStyle& style,
+                               const NewWidget& widget) {
+  CreateControl(control, style, widget.parent);
+  PublishName(widget.name);
+  StartReporting();
 }
 
 void WidgetWindow::StartReporting() {
@@ -191,20 +200,13 @@ std::optional<LRESULT> WidgetWindow::HandleReports(const Message& message) {
     case WM_NCMOUSELEAVE:
       ReportMouse(message);
       return std::nullopt;
-    case WM_MOUSEMOVE:
-    case WM_MOUSELEAVE:
-    case WM_LBUTTONDOWN:
-    case WM_LBUTTONDBLCLK:
-    case WM_LBUTTONUP:
-    case WM_RBUTTONDOWN:
-    case WM_RBUTTONDBLCLK:
-    case WM_MBUTTONDOWN:
-    case WM_MBUTTONDBLCLK:
-    case WM_MBUTTONUP:
+    default:
+      if (message.id != WM_MOUSEMOVE && message.id != WM_MOUSELEAVE &&
+          !IsButtonMessage(message.id)) {
+        return std::nullopt;
+      }
       ReportMouse(message);
       return 0;
-    default:
-      return std::nullopt;
   }
 }
 

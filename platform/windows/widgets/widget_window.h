@@ -11,19 +11,27 @@
 
 namespace platform::windows {
 
+// What a widget is made with.
+struct NewWidget {
+  HWND parent;
+  std::string_view name;  // may be empty
+  Drawing& drawing;       // this and the events outlive the widget
+  WidgetEvents& events;
+};
+
 // Who gets a key that was pressed in a window.
 enum class KeyTaker { kDialog, kWindow, kNobody };
 
 class WidgetWindow : public NativeWindow {
  public:
-  // Of a widget that this folder made; the system's own window behind it.
+  // Returns the system's window behind a widget that this folder made.
   [[nodiscard]] static HWND Of(Widget& widget);
-  // The object behind a window; null when it is none of this program's widgets.
+  // Returns the object behind a window, or null when it is none of this program's widgets.
   [[nodiscard]] static WidgetWindow* Of(HWND hwnd) {
     return dynamic_cast<WidgetWindow*>(NativeWindow::Of(hwnd));
   }
 
-  // As Widget says.
+  // These functions do what Widget says.
   void SetText(std::string_view text);
   [[nodiscard]] std::string Text() const;
   void SetBounds(const Rect& bounds);
@@ -33,16 +41,17 @@ class WidgetWindow : public NativeWindow {
   [[nodiscard]] bool Visible() const;
   void SetEnabled(bool enabled);
   [[nodiscard]] bool Enabled() const;
-  void SetFont(const FontSpec& font);
+  void SetFont(const FontStyle& font);
   void SetColours(Colour text, Colour background);
   void Focus();
   [[nodiscard]] bool HasFocus() const;
   void Invalidate();
   [[nodiscard]] Point ToScreen(Point client) const;
 
-  // Asked for Enter and Esc before anything else happens with them (dialog_keys.h).
+  // Returns who gets Enter or Esc; it is asked before anything else happens with them
+  // (dialog_keys.h).
   [[nodiscard]] virtual KeyTaker TakerOf(WPARAM /*key*/) { return KeyTaker::kDialog; }
-  // A mouse message came to a window inside it, or to itself.
+  // Is called when a mouse message came to the window or to one inside it.
   virtual void HearMouse(HWND /*hwnd*/, const Message& /*message*/) {}
 
  protected:
@@ -55,17 +64,20 @@ class WidgetWindow : public NativeWindow {
 
   // Paints the client area; the canvas has the background already.
   virtual void PaintContent(GdiCanvas& canvas) { events_.OnPaint(canvas); }
-  // What a DrawThemeParentBackground of a child or the painting of the window itself asks for.
+  // Paints the part `shown` of the window on `target`.
   void PaintOn(HDC target, const RECT& shown);
 
-  // What the system tells the parent of a control goes to the control.
+  // Hands what the system tells the parent of a control to the control.
   [[nodiscard]] std::optional<LRESULT> ToControl(const Message& message);
 
-  // Reports are made from here on, so that nothing is heard of a widget that its maker does not
-  // hold yet.
+  // Returns the text in the system's form.
+  [[nodiscard]] std::wstring WideText() const;
+  // Starts the reports: until then nothing is heard of a widget that its maker does not hold yet.
   void StartReporting();
   [[nodiscard]] bool Reporting() const { return reporting_; }
 
+  // Makes the widget as a control of the system and starts reporting.
+  void MakeControl(const wchar_t* control, const WindowStyle& style, const NewWidget& widget);
   // Lets another process find the window by the widget's name: GetProp with it is not null.
   void PublishName(std::string_view name);
   void ForgetName();
@@ -76,7 +88,7 @@ class WidgetWindow : public NativeWindow {
   [[nodiscard]] WidgetEvents& events() const { return events_; }
   [[nodiscard]] Colour text_colour() const { return text_colour_; }
   [[nodiscard]] Colour background() const { return background_; }
-  [[nodiscard]] const FontSpec& font() const { return font_; }
+  [[nodiscard]] const FontStyle& font() const { return font_; }
 
  private:
   [[nodiscard]] std::optional<LRESULT> HandleReports(const Message& message);
@@ -88,7 +100,7 @@ class WidgetWindow : public NativeWindow {
   Mouse mouse_;
   Size reported_size_;
   std::wstring published_name_;
-  FontSpec font_;
+  FontStyle font_;
   SharedFont native_font_;  // the control goes on using it
   Colour text_colour_ = colour::kWindowText;
   Colour background_ = colour::kButtonFace;
@@ -108,7 +120,7 @@ class WidgetOf : public Interface, public Window {
   [[nodiscard]] bool Visible() const override { return Window::Visible(); }
   void SetEnabled(bool enabled) override { Window::SetEnabled(enabled); }
   [[nodiscard]] bool Enabled() const override { return Window::Enabled(); }
-  void SetFont(const FontSpec& font) override { Window::SetFont(font); }
+  void SetFont(const FontStyle& font) override { Window::SetFont(font); }
   void SetColours(Colour text, Colour background) override { Window::SetColours(text, background); }
   void Focus() override { Window::Focus(); }
   [[nodiscard]] bool HasFocus() const override { return Window::HasFocus(); }

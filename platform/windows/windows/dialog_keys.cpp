@@ -3,7 +3,7 @@
 #include <optional>
 #include <string>
 
-#include "platform/windows/wide.h"
+#include "platform/windows/wide_text.h"
 #include "platform/windows/widgets/widget_window.h"
 #include "platform/windows/windows/top_window.h"
 

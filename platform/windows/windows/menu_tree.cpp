@@ -1,6 +1,6 @@
 #include "platform/windows/windows/menu_tree.h"
 
-#include "platform/windows/wide.h"
+#include "platform/windows/wide_text.h"
 
 namespace platform::windows {
 namespace {

@@ -11,12 +11,8 @@
 
 namespace platform::windows {
 
-struct MenuKind {
-  using Raw = HMENU;
-  static constexpr Raw None() { return nullptr; }
-  static void Close(Raw menu) { ::DestroyMenu(menu); }  // submenus with it
-};
-using MenuHandle = Handle<MenuKind>;
+// Destroying a menu destroys its submenus.
+using MenuHandle = Handle<ZeroIsNone<HMENU, &::DestroyMenu>>;
 
 class MenuTree {
  public:

@@ -3,7 +3,6 @@
 #include "platform/scoped_value.h"
 #include "platform/windows/dpi.h"
 #include "platform/windows/drawing/gdi_canvas.h"
-#include "platform/windows/windows/foreground.h"
 #include "platform/windows/windows/menu_tree.h"
 
 namespace platform::windows {

@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "platform/windows/drawing/gdi.h"
+
 namespace platform::windows {
 namespace {
 
@@ -112,8 +114,7 @@ bool Mouse::Leave(HWND hwnd) {
   POINT pointer{};
   if (inside_ && ::GetCursorPos(&pointer) && ::WindowFromPoint(pointer) == hwnd) {
     ::ScreenToClient(hwnd, &pointer);
-    const Point at{static_cast<int>(pointer.x), static_cast<int>(pointer.y)};
-    TrackLeave(hwnd, !InsideClient(hwnd, at));
+    TrackLeave(hwnd, !InsideClient(hwnd, FromPoint(pointer)));
     return false;
   }
   return std::exchange(inside_, false);
@@ -126,7 +127,7 @@ Point ContextMenuPlace(HWND hwnd, const Message& message) {
   ::GetClientRect(hwnd, &client);
   POINT middle{client.right / 2, client.bottom / 2};
   ::ClientToScreen(hwnd, &middle);
-  return {static_cast<int>(middle.x), static_cast<int>(middle.y)};
+  return FromPoint(middle);
 }
 
 }  // namespace platform::windows

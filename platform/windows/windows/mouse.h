@@ -14,6 +14,12 @@ enum class Capture {
   kByControl,  // the system's control, which makes its own clicks
 };
 
+// Returns whether the message is about a button of the mouse. The release of the right button is
+// left out: of that one the system makes the wish for a context menu.
+[[nodiscard]] constexpr bool IsButtonMessage(UINT id) {
+  return id >= WM_LBUTTONDOWN && id <= WM_MBUTTONDBLCLK && id != WM_RBUTTONUP;
+}
+
 class Mouse {
  public:
   explicit Mouse(Capture capture) : capture_(capture) {}

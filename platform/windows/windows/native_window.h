@@ -1,14 +1,33 @@
-// A window of the system whose messages go to an object.
+// A window of the system whose messages go to an object, and the classes of such windows.
 #pragma once
 
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "platform/windows/lifetime.h"
 #include "platform/windows/win32.h"
-#include "platform/windows/windows/window_class.h"
 
 namespace platform::windows {
+
+// Returns the module that the program's classes and resources belong to.
+[[nodiscard]] HINSTANCE ThisModule();
+
+// A class of windows whose messages go to NativeWindow. It is registered while the object lives,
+// and its windows must be destroyed before it. The constructor throws std::runtime_error when the
+// system refuses.
+class WindowClass {
+ public:
+  explicit WindowClass(std::string_view name);
+  ~WindowClass();
+  WindowClass(const WindowClass&) = delete;
+  WindowClass& operator=(const WindowClass&) = delete;
+
+  [[nodiscard]] const wchar_t* name() const { return name_.c_str(); }
+
+ private:
+  std::wstring name_;
+};
 
 struct Message {
   UINT id = 0;
@@ -63,5 +82,14 @@ class NativeWindow {
   WNDPROC system_ = &::DefWindowProcW;  // handles the other messages; a control's own procedure
   Lifetime lifetime_;
 };
+
+// Gives the foreground from a window that closes back to the one that had it before, unless that
+// window is gone, hidden or disabled, or the user works in another window. Otherwise the system
+// would choose the program's topmost window.
+inline void GiveForegroundBack(HWND from, HWND before) {
+  if (::IsWindowVisible(before) && ::IsWindowEnabled(before) && ::GetForegroundWindow() == from) {
+    ::SetForegroundWindow(before);
+  }
+}
 
 }  // namespace platform::windows

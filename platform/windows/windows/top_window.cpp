@@ -4,10 +4,9 @@
 #include <utility>
 
 #include "platform/windows/dpi.h"
-#include "platform/windows/wide.h"
+#include "platform/windows/wide_text.h"
 #include "platform/windows/windows/dialog_keys.h"
-#include "platform/windows/windows/foreground.h"
-#include "platform/windows/windows/layered.h"
+#include "platform/windows/windows/native_window.h"
 
 namespace platform::windows {
 namespace {
@@ -79,10 +78,10 @@ TopWindow::TopWindow(const WindowClass& window_class, const TopWindowParams& par
     : WidgetOf(drawing, events),
       events_(events),
       frame_(params.frame),
-      bare_frame_(params.frame == Frame::kSizeableTool && params.bare_popup),
+      draws_frame_(params.frame == Frame::kSizeableTool && params.bare_popup),
       takes_dialog_keys_(params.frame != Frame::kHint && !params.bare_popup) {
   Create(window_class, StyleOf(params), owner, ToWide(params.caption));
-  if (bare_frame_) BareFrame::TakeOver(hwnd());
+  if (draws_frame_) BareFrame::TakeOver(hwnd());
   if (frame_ == Frame::kHint) ::SetLayeredWindowAttributes(hwnd(), 0, 255, LWA_ALPHA);
   // The system has given a sizeable window its own smallest size, and the frame is to be taken
   // anew now that the messages arrive here.
@@ -240,7 +239,7 @@ std::optional<LRESULT> TopWindow::HandleKind(const Message& message) {
     return MA_NOACTIVATE;
   }
   // F10 or Alt: without a menu bar the system would wait for a second key.
-  if (bare_frame_ && message.id == WM_SYSCOMMAND && (message.w & 0xFFF0U) == SC_KEYMENU &&
+  if (draws_frame_ && message.id == WM_SYSCOMMAND && (message.w & 0xFFF0U) == SC_KEYMENU &&
       message.l == 0) {
     events_.OnContextMenu(ContextMenuPlace(hwnd(), {WM_CONTEXTMENU, 0, -1}));
     return 0;
@@ -249,7 +248,7 @@ std::optional<LRESULT> TopWindow::HandleKind(const Message& message) {
     LimitSize(*reinterpret_cast<MINMAXINFO*>(message.l));
     return 0;
   }
-  return bare_frame_ ? BareFrame::Handle(hwnd(), message, limits_) : std::nullopt;
+  return draws_frame_ ? BareFrame::Handle(hwnd(), message, limits_) : std::nullopt;
 }
 
 bool TopWindow::DeclinesFocus() {
@@ -263,7 +262,6 @@ std::optional<LRESULT> TopWindow::HandleWindow(const Message& message) {
       return 0;
     case WM_ACTIVATE:
       if (LOWORD(message.w) == WA_INACTIVE) RememberFocus();
-      events_.OnActivate(LOWORD(message.w) != WA_INACTIVE);
       return std::nullopt;
     case WM_SETFOCUS:
       RestoreFocus();

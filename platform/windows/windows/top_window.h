@@ -1,17 +1,64 @@
 // Windows of their own on the desktop.
 #pragma once
 
+#include <optional>
+
+#include "platform/geometry.h"
 #include "platform/top_window.h"
 #include "platform/windows/widgets/widget_window.h"
+#include "platform/windows/win32.h"
 #include "platform/windows/windows/bare_frame.h"
-#include "platform/windows/windows/drag_watch.h"
-#include "platform/windows/windows/window_shape.h"
+#include "platform/windows/windows/window_effects.h"
 
 namespace platform::windows {
 
+// Watches a window while the user moves or sizes it.
+class DragWatch {
+ public:
+  [[nodiscard]] bool Active() const { return active_; }
+
+  // Begins a drag of a window with these bounds. `grip` is where on the screen the pointer has hold
+  // of the window; without one it is where the pointer is now, as when the system began the drag.
+  void Begin(const Rect& bounds, const std::optional<POINT>& grip) {
+    active_ = true;
+    heard_moves_ = false;
+    start_ = bounds;
+    if (grip) {
+      grip_ = *grip;
+    } else {
+      ::GetCursorPos(&grip_);
+    }
+  }
+  void End() { active_ = false; }
+
+  // Returns the bounds that the pointer asks for, when the system proposes `proposed`. The system
+  // counts on from the bounds that it was last given back: a window that was pulled to an edge
+  // would never come away from it.
+  [[nodiscard]] Rect Moving(const Rect& proposed) {
+    POINT pointer{};
+    if (!active_ || !::GetCursorPos(&pointer)) return proposed;
+    heard_moves_ = true;
+    return {start_.left + static_cast<int>(pointer.x - grip_.x),
+            start_.top + static_cast<int>(pointer.y - grip_.y), proposed.width, proposed.height};
+  }
+
+  // Returns whether the window is elsewhere now without having been asked on the way, as where a
+  // window manager (under Wine) does the moving.
+  [[nodiscard]] bool MovedByOthers(const Rect& bounds) const {
+    return active_ && !heard_moves_ && bounds != start_ && bounds.width == start_.width &&
+           bounds.height == start_.height;
+  }
+
+ private:
+  bool active_ = false;
+  bool heard_moves_ = false;
+  Rect start_;
+  POINT grip_{};
+};
+
 class TopWindow final : public WidgetOf<platform::TopWindow> {
  public:
-  // `owner` stays below it; never null.
+  // `owner`, never null, stays below the window.
   TopWindow(const WindowClass& window_class, const TopWindowParams& params, HWND owner,
             Drawing& drawing, TopWindowEvents& events);
 
@@ -32,11 +79,12 @@ class TopWindow final : public WidgetOf<platform::TopWindow> {
   void ShowKeyMarks() override;
   [[nodiscard]] int Dpi() const override;
 
-  // Whether it has the keys of a dialog: with a caption, and when the program wants the keyboard.
+  // Returns whether the window has the keys of a dialog: it has a caption and may have the
+  // keyboard.
   [[nodiscard]] bool TakesDialogKeys() const { return takes_dialog_keys_; }
-  // True when it is done with; the window may be gone then.
+  // Returns true when the key is done with; the window may be gone then.
   [[nodiscard]] bool Press(const DialogKey& key) { return events_.OnDialogKey(key); }
-  // The focus came to this control of it.
+  // Is called when the focus came to this control of the window.
   void FocusMoved(HWND control);
   void HearMouse(HWND hwnd, const Message& message) override;
 
@@ -44,26 +92,26 @@ class TopWindow final : public WidgetOf<platform::TopWindow> {
   std::optional<LRESULT> Handle(const Message& message) override;
 
  private:
-  // Each gives nothing for a message of another kind.
+  // Each returns nullopt for a message of another kind.
   [[nodiscard]] std::optional<LRESULT> HandleKind(const Message& message);
   [[nodiscard]] std::optional<LRESULT> HandleWindow(const Message& message);
   [[nodiscard]] std::optional<LRESULT> HandleSystem(const Message& message);
   [[nodiscard]] std::optional<LRESULT> HandleDrag(const Message& message);
   [[nodiscard]] std::optional<LRESULT> HandleScroll(const Message& message);
-  // Keeps in mind where the keyboard was, and puts it there again.
+  // Keep in mind where the keyboard was, and put it there again.
   void RememberFocus();
   void RestoreFocus();
   void FollowPointer();
   LRESULT HandlePlaced(const Message& message);
   void EndDrag();
   LRESULT HandleDpi(const Message& message);
-  // Once after it was shown without taking the focus.
+  // Returns true once after the window was shown without taking the focus.
   [[nodiscard]] bool DeclinesFocus();
   void LimitSize(MINMAXINFO& info) const;
 
   TopWindowEvents& events_;
   const Frame frame_;
-  const bool bare_frame_;  // sizeable and without a caption: draws its own frame
+  const bool draws_frame_;  // sizeable and without a caption: draws its own frame
   const bool takes_dialog_keys_;
   HWND last_focus_ = nullptr;  // the child that had the keyboard when the window was last active
   HWND foreground_before_ = nullptr;  // what had the keyboard when this was shown with it

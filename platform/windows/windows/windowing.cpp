@@ -1,18 +1,23 @@
 #include "platform/windows/windows/windowing.h"
 
-#include "platform/windows/wide.h"
+#include "platform/windows/wide_text.h"
 #include "platform/windows/widgets/bar_widgets.h"
 #include "platform/windows/widgets/button_widget.h"
-#include "platform/windows/widgets/common_controls.h"
 #include "platform/windows/widgets/edit_widget.h"
 #include "platform/windows/widgets/list_widgets.h"
-#include "platform/windows/widgets/surface.h"
+#include "platform/windows/widgets/painted_widgets.h"
 #include "platform/windows/widgets/tabs_widget.h"
-#include "platform/windows/widgets/text_widget.h"
-#include "platform/windows/widgets/tree_widget.h"
+#include "platform/windows/win32.h"
 #include "platform/windows/windows/top_window.h"
 
 namespace platform::windows {
+
+std::optional<LRESULT> ApplicationWindow::Handle(const Message& message) {
+  // Closing this window would destroy every window of the program without a question. A program
+  // that wants this one to end also asks its main window.
+  if (message.id == WM_CLOSE) return 0;
+  return std::nullopt;
+}
 
 Windowing::Windowing(Drawing& drawing) : drawing_(drawing) {
   INITCOMMONCONTROLSEX classes{};
@@ -38,58 +43,61 @@ std::unique_ptr<platform::TopWindow> Windowing::CreateTopWindow(const TopWindowP
   return std::make_unique<TopWindow>(form->second, params, owning, drawing_, events);
 }
 
+NewWidget Windowing::On(Widget& parent, std::string_view name, WidgetEvents& events) {
+  return {WidgetWindow::Of(parent), name, drawing_, events};
+}
+
 std::unique_ptr<Widget> Windowing::CreateSurface(Widget& parent, std::string_view name,
                                                  WidgetEvents& events) {
-  return std::make_unique<Surface>(surface_class_, WidgetWindow::Of(parent), name, drawing_,
-                                   events);
+  return std::make_unique<Surface>(surface_class_, On(parent, name, events));
 }
 
 std::unique_ptr<Widget> Windowing::CreateText(Widget& parent, std::string_view name,
                                               const TextStyle& style, WidgetEvents& events) {
-  return std::make_unique<TextWidget>(WidgetWindow::Of(parent), name, style, drawing_, events);
+  return std::make_unique<TextWidget>(On(parent, name, events), style);
 }
 
 std::unique_ptr<Button> Windowing::CreateButton(Widget& parent, std::string_view name,
                                                 ButtonKind kind, WidgetEvents& events) {
-  return std::make_unique<ButtonWidget>(WidgetWindow::Of(parent), name, kind, drawing_, events);
+  return std::make_unique<ButtonWidget>(On(parent, name, events), kind);
 }
 
 std::unique_ptr<Edit> Windowing::CreateEdit(Widget& parent, std::string_view name,
                                             const EditStyle& style, WidgetEvents& events) {
-  return std::make_unique<EditWidget>(WidgetWindow::Of(parent), name, style, drawing_, events);
+  return std::make_unique<EditWidget>(On(parent, name, events), style);
 }
 
 std::unique_ptr<ItemList> Windowing::CreateList(Widget& parent, std::string_view name,
                                                 ListKind kind, WidgetEvents& events) {
-  const HWND on = WidgetWindow::Of(parent);
+  const NewWidget widget = On(parent, name, events);
   switch (kind) {
     case ListKind::kBox:
-      return std::make_unique<ListBoxWidget>(on, name, drawing_, events);
+      return std::make_unique<ListBoxWidget>(widget);
     case ListKind::kCheckBox:
-      return std::make_unique<CheckListWidget>(on, name, drawing_, events);
+      return std::make_unique<CheckListWidget>(widget);
     default:
-      return std::make_unique<ComboWidget>(on, name, kind, drawing_, events);
+      return std::make_unique<ComboWidget>(widget, kind);
   }
 }
 
 std::unique_ptr<Tree> Windowing::CreateTree(Widget& parent, std::string_view name,
                                             WidgetEvents& events) {
-  return std::make_unique<TreeWidget>(WidgetWindow::Of(parent), name, drawing_, events);
+  return std::make_unique<TreeWidget>(On(parent, name, events));
 }
 
 std::unique_ptr<Tabs> Windowing::CreateTabs(Widget& parent, std::string_view name,
                                             WidgetEvents& events) {
-  return std::make_unique<TabsWidget>(WidgetWindow::Of(parent), name, drawing_, events);
+  return std::make_unique<TabsWidget>(On(parent, name, events));
 }
 
 std::unique_ptr<TrackBar> Windowing::CreateTrackBar(Widget& parent, std::string_view name,
                                                     WidgetEvents& events) {
-  return std::make_unique<TrackBarWidget>(WidgetWindow::Of(parent), name, drawing_, events);
+  return std::make_unique<TrackBarWidget>(On(parent, name, events));
 }
 
 std::unique_ptr<ProgressBar> Windowing::CreateProgressBar(Widget& parent, std::string_view name,
                                                           WidgetEvents& events) {
-  return std::make_unique<ProgressBarWidget>(WidgetWindow::Of(parent), name, drawing_, events);
+  return std::make_unique<ProgressBarWidget>(On(parent, name, events));
 }
 
 }  // namespace platform::windows

@@ -7,9 +7,20 @@
 
 #include "platform/windowing.h"
 #include "platform/windows/drawing/drawing.h"
-#include "platform/windows/windows/application_window.h"
+#include "platform/windows/widgets/widget_window.h"
 
 namespace platform::windows {
+
+// The hidden window that owns all top windows of the program.
+class ApplicationWindow final : public NativeWindow {
+ public:
+  explicit ApplicationWindow(const WindowClass& window_class) {
+    Create(window_class, {WS_POPUP, 0}, nullptr, {});
+  }
+
+ protected:
+  std::optional<LRESULT> Handle(const Message& message) override;
+};
 
 class Windowing final : public platform::Windowing {
  public:
@@ -44,6 +55,8 @@ class Windowing final : public platform::Windowing {
                                                                WidgetEvents& events) override;
 
  private:
+  [[nodiscard]] NewWidget On(Widget& parent, std::string_view name, WidgetEvents& events);
+
   Drawing& drawing_;
   WindowClass surface_class_{"TremoluxSurface"};
   std::map<std::string, WindowClass, std::less<>> form_classes_;  // by the form's name

@@ -1,6 +1,6 @@
 #include "tests/desktop/driver/cut_texts.h"
 
-#include "platform/windows/wide.h"
+#include "platform/windows/wide_text.h"
 #include "tests/desktop/driver/windows_of.h"
 
 namespace desktop {

@@ -2,8 +2,8 @@
 
 #include <cmath>
 
-#include "platform/windows/kernel_handle.h"
 #include "platform/windows/system_error.h"
+#include "platform/windows/system_handles.h"
 #include "tests/desktop/driver/wait.h"
 #include "tests/desktop/driver/win.h"
 

@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "platform/windows/system_error.h"
-#include "platform/windows/wide.h"
+#include "platform/windows/wide_text.h"
 #include "tests/desktop/driver/wait.h"
 #include "tests/desktop/driver/windows_of.h"
 

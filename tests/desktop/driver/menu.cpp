@@ -2,9 +2,9 @@
 
 #include <stdexcept>
 
-#include "platform/windows/kernel_handle.h"
 #include "platform/windows/system_error.h"
-#include "platform/windows/wide.h"
+#include "platform/windows/system_handles.h"
+#include "platform/windows/wide_text.h"
 #include "tests/desktop/driver/input.h"
 #include "tests/desktop/driver/program.h"
 #include "tests/desktop/driver/wait.h"

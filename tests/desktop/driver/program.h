@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "platform/windows/kernel_handle.h"
+#include "platform/windows/system_handles.h"
 #include "tests/desktop/driver/win.h"
 
 namespace desktop {

@@ -5,7 +5,7 @@
 
 #include "platform/windows/handle.h"
 #include "platform/windows/system_error.h"
-#include "platform/windows/wide.h"
+#include "platform/windows/wide_text.h"
 
 namespace desktop {
 namespace {

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "platform/windows/system_error.h"
-#include "platform/windows/wide.h"
+#include "platform/windows/wide_text.h"
 #include "tests/desktop/driver/wait.h"
 
 namespace desktop {

@@ -1,5 +1,4 @@
 // The system's headers for what drives the desktop, in the one order that works.
 #pragma once
 
-#include "platform/windows/services/ip_helper.h"
 #include "platform/windows/win32.h"

@@ -1,6 +1,6 @@
 #include "tests/desktop/driver/windows_of.h"
 
-#include "platform/windows/wide.h"
+#include "platform/windows/wide_text.h"
 
 namespace desktop {
 namespace {
