@@ -209,21 +209,21 @@ class ColourPopup final : public Form {
       : Form(anchor.App(), Params(texts.caption), &anchor.ParentForm()), colour_(present) {
     SetClientSize(kClient);
     ApplyLayout({
-        {palette, {10, 10, 232, 144}},
-        {sample, {10, 162, 60, 25}},
-        {btn_more, {78, 162, 164, 25}, texts.more},
-        {btn_ok, {78, 193, 78, 25}, texts.ok},
-        {btn_cancel, {164, 193, 78, 25}, texts.cancel},
+        {palette_, {10, 10, 232, 144}},
+        {sample_, {10, 162, 60, 25}},
+        {btn_more_, {78, 162, 164, 25}, texts.more},
+        {btn_ok_, {78, 193, 78, 25}, texts.ok},
+        {btn_cancel_, {164, 193, 78, 25}, texts.cancel},
     });
-    sample.SetBevels(BevelCut::kLowered, BevelCut::kNone);
-    btn_ok.SetDefault(true);
-    palette.Choose(App().Platform().screen.Resolve(present));
-    sample.SetColour(present);
-    palette.OnChange = [this] { Take(*palette.Chosen()); };
-    palette.OnConfirm = [this] { EndModal(ModalResult::kOk); };
-    btn_more.OnClick = [this] { AskSystem(); };
-    btn_ok.ModalResult = ModalResult::kOk;
-    btn_cancel.ModalResult = ModalResult::kCancel;
+    sample_.SetBevels(BevelCut::kLowered, BevelCut::kNone);
+    btn_ok_.SetDefault(true);
+    palette_.Choose(App().Platform().screen.Resolve(present));
+    sample_.SetColour(present);
+    palette_.OnChange = [this] { Take(*palette_.Chosen()); };
+    palette_.OnConfirm = [this] { EndModal(ModalResult::kOk); };
+    btn_more_.OnClick = [this] { AskSystem(); };
+    btn_ok_.ModalResult = ModalResult::kOk;
+    btn_cancel_.ModalResult = ModalResult::kCancel;
     StandBelow(anchor);
   }
 
@@ -232,7 +232,7 @@ class ColourPopup final : public Form {
  private:
   void Take(platform::Colour colour) {
     colour_ = colour;
-    sample.SetColour(colour);
+    sample_.SetColour(colour);
   }
 
   // Shows the system's dialog. A colour that the user confirms there ends the popup too.
@@ -259,11 +259,11 @@ class ColourPopup final : public Form {
   }
 
   platform::Colour colour_;
-  ColourPalette palette{*this, "palette"};
-  Panel sample{*this, "sample"};
-  Button btn_more{*this, "btnMoreColors"};
-  Button btn_ok{*this, "btnColorOk"};
-  Button btn_cancel{*this, "btnColorCancel"};
+  ColourPalette palette_{*this, "palette"};
+  Panel sample_{*this, "sample"};
+  Button btn_more_{*this, "btnMoreColors"};
+  Button btn_ok_{*this, "btnColorOk"};
+  Button btn_cancel_{*this, "btnColorCancel"};
 };
 
 }  // namespace

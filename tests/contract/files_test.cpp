@@ -18,7 +18,7 @@ class Files : public testing::Test {
 TEST_F(Files, TheProgramIsAFileInItsFolder) {
   const std::string path = files().ProgramPath();
   const std::string folder = files().ProgramFolder();
-  EXPECT_TRUE(files().Exists(path));
+  EXPECT_TRUE(files().Size(path).has_value());
   EXPECT_TRUE(path.starts_with(folder));
   EXPECT_TRUE(folder.ends_with('\\'));
   EXPECT_EQ(path.find('\\', folder.size()), std::string::npos) << path;
@@ -26,14 +26,14 @@ TEST_F(Files, TheProgramIsAFileInItsFolder) {
 
 TEST_F(Files, WhatIsSavedIsLoaded) {
   const std::string path = folder_ + "\u00FCber \u7F51.txt";
-  EXPECT_FALSE(files().Exists(path));
+  EXPECT_FALSE(files().Size(path).has_value());
   EXPECT_EQ(files().Load(path, 100), std::nullopt);
   const std::string bytes("a\r\n\0\xFF\n", 6);
   for (const std::string& content :
        {bytes, std::string(3000000, 'x'), std::string(), std::string("short")}) {
     SCOPED_TRACE(content.size());
     ASSERT_TRUE(files().Save(path, content));
-    EXPECT_TRUE(files().Exists(path));
+    EXPECT_TRUE(files().Size(path).has_value());
     EXPECT_TRUE(files().Load(path, content.size()) == content);
   }
 }
@@ -70,14 +70,14 @@ TEST_F(Files, ALargerFileThanTheLimitIsNotLoaded) {
 
 TEST_F(Files, CaseOfNamesIsNotToldApart) {
   ASSERT_TRUE(files().Save(folder_ + "Name.txt", "1"));
-  EXPECT_TRUE(files().Exists(folder_ + "nAME.TXT"));
+  EXPECT_TRUE(files().Size(folder_ + "nAME.TXT").has_value());
   ASSERT_TRUE(files().Save(folder_ + "NAME.txt", "2"));
   EXPECT_EQ(files().List(folder_, "*"), std::vector<std::string>{"Name.txt"});
 }
 
 TEST_F(Files, AFolderIsNoFile) {
   world_->MakeFolder(folder_ + "inner");
-  EXPECT_FALSE(files().Exists(folder_ + "inner"));
+  EXPECT_FALSE(files().Size(folder_ + "inner").has_value());
   EXPECT_EQ(files().Load(folder_ + "inner", 100), std::nullopt);
   EXPECT_FALSE(files().Save(folder_ + "inner", "x"));
   EXPECT_TRUE(files().List(folder_, "*").empty());
