@@ -235,6 +235,17 @@ TEST_F(PreferenceOptions, OfTheNumericLineWorkedOnceWriteTheirValueAndShowInTheM
   });
 }
 
+TEST_F(PreferenceOptions, TellWhetherTheOpacityCountsWhenTheKeySwitchesIt) {
+  RunOpen([&] {
+    ChoosePage("Other");
+    machine.windowing.PointAt("Win2kTransTrack");
+    machine.timers.Advance(10);
+    EXPECT_TRUE(Widget("TremoluxHint").text.starts_with("Has no effect"));
+    machine.hot_keys.Press({'D', false, true, true});
+    EXPECT_EQ(Widget("TremoluxHint").text, "From invisible to opaque");
+  });
+}
+
 TEST_F(PreferenceOptions, OfTrayIconAndWindowWorkedOnceWriteTheirValueAndShowInTheMeter) {
   Set("Transparent2k", 1);
   std::ifstream icons(SOURCE_FOLDER "/assets/Icons/default.bmp", std::ios::binary);
