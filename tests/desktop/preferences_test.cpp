@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-#include "tests/desktop/driver/cut_texts.h"
+#include "tests/desktop/driver/layout_faults.h"
 #include "tests/desktop/driver/screen.h"
 #include "tests/desktop/program_test.h"
 
@@ -190,7 +190,7 @@ TEST_F(Preferences, AResetWritesItsGroupAndGoesOnWhenTheWindowIsClosed) {
         [&] { return ::IsWindowEnabled(FindControl(window, L"btnResetSettings")) != FALSE; });
 }
 
-TEST_F(Preferences, CutNoTextInAnyLanguage) {
+TEST_F(Preferences, FitInEveryLanguage) {
   for (const std::string& language : OfferedLanguages()) {
     SCOPED_TRACE(language);
     Store("Language", language);
@@ -203,7 +203,7 @@ TEST_F(Preferences, CutNoTextInAnyLanguage) {
         break;
       }
     }
-    EXPECT_EQ(CutTexts(meter.AwaitForm(kPreferences), meter.Scaled(11)), "");
+    EXPECT_EQ(LayoutFaults(meter.AwaitForm(kPreferences)), "");
   }
 }
 

@@ -45,6 +45,7 @@ void StoreInstalledSounds() {
 void Pages(Scene& scene) {
   StoreInstalledSounds();
   const HWND window = OpenPreferences(scene);
+  scene.CheckLayout("preferences", window);  // all pages are there
   for (const auto& [row, name] : kPages) {
     Turn(window, row);
     scene.Save(std::string("preferences-") + name, Scene::Of(window));
@@ -66,7 +67,7 @@ void TakeOpened(Scene& scene, const Opened& opened) {
   Turn(window, opened.page);
   scene.Press(window, opened.by);
   const HWND top = scene.AwaitWindow(opened.named);
-  scene.Save(opened.picture, Scene::Of(top));
+  scene.Save(opened.picture, top);
   scene.Press(top, opened.closed_by);
   scene.Close(window);
 }
