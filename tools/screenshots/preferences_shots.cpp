@@ -1,6 +1,7 @@
 // Pictures of the pages of the preferences and of the windows that they open.
 #include "tests/desktop/driver/preferences.h"
 #include "tests/desktop/driver/registry.h"
+#include "tests/desktop/driver/windows_of.h"
 #include "tools/screenshots/shots.h"
 
 namespace desktop {
@@ -53,6 +54,18 @@ void Pages(Scene& scene) {
   scene.Close(window);
 }
 
+// Shows a list that has dropped down over its page.
+void OpenList(Scene& scene) {
+  const HWND window = OpenPreferences(scene);
+  Turn(window, PageRow::kGraphOther);
+  const HWND list = FindControl(window, L"ScaleCombo");
+  ::SendMessageW(list, CB_SHOWDROPDOWN, TRUE, 0);
+  Scene::AwaitPainted();
+  scene.Save("preferences-list", scene.OfAll());
+  ::SendMessageW(list, CB_SHOWDROPDOWN, FALSE, 0);
+  scene.Close(window);
+}
+
 // A window that a page opens.
 struct Opened {
   PageRow page;
@@ -87,6 +100,7 @@ void TitleEditor(Scene& scene) {
 std::span<const Shot> PreferencesShots() {
   static constexpr Shot kShots[] = {
       {"preferences", Pages},
+      {"preferences-list", OpenList},
       {"color-popup", ColorPopup},
       {"window-titles", TitleEditor},
   };

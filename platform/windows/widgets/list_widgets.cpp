@@ -307,8 +307,7 @@ void TreeWidget::ExpandAll() {
 void TreeWidget::SetFont(const FontStyle& font) {
   constexpr int kIndent = 19;  // design pixels
   WidgetOf::SetFont(font);
-  Send(TVM_SETINDENT,
-       static_cast<WPARAM>(::MulDiv(kIndent, DpiOfWindow(hwnd()), USER_DEFAULT_SCREEN_DPI)));
+  Send(TVM_SETINDENT, static_cast<WPARAM>(ScaledFor(hwnd(), kIndent)));
 }
 
 std::optional<LRESULT> TreeWidget::HandleNotification(const Message& message) {
