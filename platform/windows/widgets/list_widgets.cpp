@@ -253,7 +253,9 @@ std::optional<LRESULT> CheckListWidget::Handle(const Message& message) {
 }
 
 TreeWidget::TreeWidget(const NewWidget& widget) : WidgetOf(widget) {
-  constexpr DWORD kTree = TVS_HASBUTTONS | TVS_HASLINES | TVS_LINESATROOT | TVS_SHOWSELALWAYS;
+  // Without a scroll bar for sideways: Wine shows one although the rows have room.
+  constexpr DWORD kTree =
+      TVS_HASBUTTONS | TVS_HASLINES | TVS_LINESATROOT | TVS_SHOWSELALWAYS | TVS_NOHSCROLL;
   MakeControl(WC_TREEVIEWW, {kStopChild | kTree, WS_EX_CLIENTEDGE}, widget);
 }
 
@@ -303,11 +305,13 @@ void TreeWidget::ExpandAll() {
   }
 }
 
-// The indent is also that of the boxes, which the system does not enlarge with the font.
+// The indent is also that of the boxes, which the system does not enlarge with the font. It comes
+// before the font: by a change of the indent the system may measure the texts in another one.
 void TreeWidget::SetFont(const FontStyle& font) {
   constexpr int kIndent = 19;  // design pixels
+  const int indent = ScaledFor(hwnd(), kIndent);
+  if (indent != Send(TVM_GETINDENT)) Send(TVM_SETINDENT, static_cast<WPARAM>(indent));
   WidgetOf::SetFont(font);
-  Send(TVM_SETINDENT, static_cast<WPARAM>(ScaledFor(hwnd(), kIndent)));
 }
 
 std::optional<LRESULT> TreeWidget::HandleNotification(const Message& message) {
