@@ -22,6 +22,7 @@ class BandwidthDetails {
 
   // `bounds` is in design pixels, at least 200 wide and 134 high.
   void SetBounds(const platform::Rect& bounds);
+  void SetVisible(bool visible) { group_.SetVisible(visible); }
 
   // Gives the rows their texts and hints in the user's language.
   void Localise();

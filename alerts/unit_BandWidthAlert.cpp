@@ -50,9 +50,10 @@ T_frmBandWidthAlert::T_frmBandWidthAlert(toolkit::Application& app, settings::St
       details_(*this, store, language),
       Timer1(app, kRefreshMs, [this] { Timer1Timer(); }) {
   Image1.SetBounds({8, 8, 40, 60});
-  Image1.SetBevels(toolkit::BevelCut::kRaised, toolkit::BevelCut::kNone);
+  // Raised, and with an edge on the sides where the light falls too.
+  Image1.SetBevels(toolkit::BevelCut::kEven, toolkit::BevelCut::kRaised);
   MessagePanel.SetBounds({54, 8, kWidth - 62, 60});
-  MessagePanel.SetBevels(toolkit::BevelCut::kRaised, toolkit::BevelCut::kNone);
+  MessagePanel.SetBevels(toolkit::BevelCut::kEven, toolkit::BevelCut::kRaised);
   Memo1.SetReadOnly(true);
   Memo1.SetEnabled(false);
   Memo1.SetAlign(toolkit::Align::kClient);
@@ -94,6 +95,7 @@ void T_frmBandWidthAlert::btnDetailsClick() {
 
 void T_frmBandWidthAlert::SetDetailsShown(bool shown) {
   details_shown_ = shown;
+  details_.SetVisible(shown);
   SetClientSize({kWidth, shown ? kHeightWithDetails : kHeight});
 }
 

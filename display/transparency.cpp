@@ -69,6 +69,7 @@ void Transparency::mnuTransparent2kClick() {
   menu_.mnuTransparent2k->SetChecked(on);
   store_.Write(setting::Transparent2k, on);
   SetWindowAlpha(on ? store_.Read(setting::Win2kTransparentRatio) : kOpaque);
+  if (OnToggled) OnToggled();
 }
 
 void Transparency::mnuTransparentClick() {

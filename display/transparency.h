@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 
 #include "display/graph/kxintermeter.h"
@@ -29,6 +30,9 @@ class Transparency {
   // stores next. The window shows it, unless the pointer keeps the window opaque.
   void ChangeRatio(std::int64_t ratio);
   void ChangeAutomatic(bool on);
+
+  // Runs when the user has switched the opacity on or off in the menu or by its key.
+  std::function<void()> OnToggled;
 
   // Toggles the opacity ("Transparent2k").
   void mnuTransparent2kClick();

@@ -16,6 +16,13 @@ namespace text = language::text::SettingsForm;
 constexpr int kPanelWidth = 48;
 constexpr int kMeterHeight = kGroupTop + 4 * kFieldRow + 2;
 
+// Returns the places of a colour in one of the two columns that both groups have.
+constexpr Place ColourAt(int column, int top) {
+  constexpr int kColumn = (kWidth - 3 * kMargin) / 2;
+  return LabelAndField(kMargin + column * (kColumn + kMargin), top, kColumn - kPanelWidth - kMargin,
+                       kPanelWidth);
+}
+
 // A button that shows the four activity pictures of the tray icon; a click on it chooses others.
 class PicturePanel final : public toolkit::ButtonControl {
  public:
@@ -38,8 +45,7 @@ class PicturePanel final : public toolkit::ButtonControl {
     constexpr int kSide = 16;
     constexpr int kGap = 6;
     constexpr int kPictures = 4;
-    const platform::Rect inside =
-        toolkit::DrawBevel(canvas, canvas.Area(), toolkit::BevelCut::kLowered, 1, Colour());
+    const platform::Rect inside = toolkit::DrawFrame(canvas, canvas.Area());
     canvas.Fill(inside, platform::colour::kButtonFace);
     const int side = Scale(kSide);
     const auto picture = App().Platform().graphics.CreateBitmap({side, side});
@@ -62,9 +68,7 @@ class GraphColorsPage final : public Page {
   GraphColorsPage(toolkit::Notebook& notebook, Context& context)
       : Page(notebook, "GraphColors", context) {
     const auto at = [](int column, int row) {
-      constexpr int kColumn = (kWidth - 3 * kMargin) / 2;
-      return LabelAndField(kMargin + column * (kColumn + kMargin), kGroupTop + row * kFieldRow,
-                           kColumn - kPanelWidth - kMargin, kPanelWidth);
+      return ColourAt(column, kGroupTop + row * kFieldRow);
     };
     Add(ReadStep::kGraphColours,
         {
@@ -95,15 +99,12 @@ class GraphColorsPage final : public Page {
     constexpr Place kPictures{kMargin + kRadioWidth + kMargin, kGroupTop, PicturePanel::kWidth,
                               PicturePanel::kHeight};
     const auto radio = [](int row) { return Line(kGroupTop + row * kButtonRow + 4, kRadioWidth); };
-    const auto colour = [](int row) {
-      return LabelAndField(kMargin, kColours + row * kFieldRow, 200, kPanelWidth);
-    };
     Add(ReadStep::kGraphColours,
         {
             {grpTrayIcon,
-             {kMargin, kMargin + kMeterHeight + kMargin, kWidth, kColours + 2 * kFieldRow + 2}},
-            {HisRecColor, colour(0), setting::GraphColor_HistogramReceiving},
-            {HisSendColor, colour(1), setting::GraphColor_HistogramSend},
+             {kMargin, kMargin + kMeterHeight + kMargin, kWidth, kColours + kFieldRow + 2}},
+            {HisRecColor, ColourAt(0, kColours), setting::GraphColor_HistogramReceiving},
+            {HisSendColor, ColourAt(1, kColours), setting::GraphColor_HistogramSend},
         });
     Add(ReadStep::kIconKind, {
                                  {Ic1, radio(0), Choice{setting::IconType, 0}},

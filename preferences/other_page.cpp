@@ -32,6 +32,7 @@ class OtherPage final : public Page {
              [this] { ShowOpacity(); }},
         });
     Add(ReadStep::kTransparency, [this] { ShowOpacity(); });
+    context.meter.options.Parts().transparency.OnToggled = [this] { ShowOpacity(); };
     Add(ReadStep::kExitAndFade, {
                                     {grpExit, {kMargin, kExitTop, kWidth, kGroupTop + kRow + 3}},
                                     {AskOnExit, GroupLine(0), setting::AskOnExit},

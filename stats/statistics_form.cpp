@@ -103,7 +103,9 @@ void StatisticsForm::LocaliseSince(const language::Translation& say) {
   }
   platform::Locale& locale = App().Platform().locale;
   const std::string since = locale.ShortDate(since_date_) + ' ' + locale.LongTime(since_time_);
-  InfoGroupBox.SetCaption(say(text::B8, {since}));
+  const std::string caption = say(text::B8, {since});
+  InfoGroupBox.SetCaption(caption);
+  InfoGroupBox.SetHint(caption);  // some locales write more than there is room for
 }
 
 void StatisticsForm::ShowSince() {

@@ -124,8 +124,7 @@ void ColourPalette::Paint(platform::Canvas& canvas) {
   for (int cell = 0; cell < kCells; ++cell) {
     const platform::Rect area = CellArea(cell);
     if (cell == cell_) canvas.Fill(area, platform::colour::kHighlight);
-    const platform::Rect inside = DrawBevel(canvas, area.Shrunk(Scale(2)), BevelCut::kLowered, 1,
-                                            platform::colour::kButtonFace);
+    const platform::Rect inside = DrawFrame(canvas, area.Shrunk(Scale(2)));
     canvas.Fill(inside, kColours[static_cast<std::size_t>(cell)]);
   }
 }
@@ -213,7 +212,7 @@ class ColourPopup final : public Form {
         {btn_ok_, {78, 193, 78, 25}, texts.ok},
         {btn_cancel_, {164, 193, 78, 25}, texts.cancel},
     });
-    sample_.SetBevels(BevelCut::kLowered, BevelCut::kNone);
+    sample_.SetBevels(BevelCut::kEven, BevelCut::kNone);
     btn_ok_.SetDefault(true);
     palette_.Choose(App().Platform().screen.Resolve(present));
     sample_.SetColour(present);

@@ -20,6 +20,10 @@ int DpiOfWindow(HWND hwnd) {
   return dpi != 0 ? static_cast<int>(dpi) : DpiOfSystem();
 }
 
+int ScaledFor(HWND hwnd, int design) {
+  return ::MulDiv(design, DpiOfWindow(hwnd), USER_DEFAULT_SCREEN_DPI);
+}
+
 int DpiOfMonitor(HMONITOR monitor) {
   UINT x = 0;
   UINT y = 0;

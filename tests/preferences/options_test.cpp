@@ -189,6 +189,16 @@ TEST_F(Options, WorkedOnceStoreTheirValueAndShowInTheMeter) {
   });
 }
 
+TEST_F(Options, TellWhetherTheOpacityCountsWhenTheKeySwitchesIt) {
+  RunOpen("Other", [&] {
+    machine.windowing.PointAt("Win2kTransTrack");
+    machine.timers.Advance(10);
+    EXPECT_TRUE(Widget("TremoluxHint").text.starts_with("Has no effect"));
+    machine.hot_keys.Press({'D', false, true, true});
+    EXPECT_EQ(Widget("TremoluxHint").text, "From invisible to opaque");
+  });
+}
+
 TEST_F(Options, OfTheAlertsWorkedOnceStoreTheirValue) {
   const auto plays = [&] {
     return Widget("BaPlayFile").enabled && Widget("BaSpeedbtn").enabled &&

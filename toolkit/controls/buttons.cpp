@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "toolkit/application.h"
+#include "toolkit/controls/panel.h"
 #include "toolkit/forms/form.h"
 
 namespace toolkit {
@@ -47,9 +48,8 @@ platform::Spoken ColourPanel::Describe() const {
 }
 
 void ColourPanel::Paint(platform::Canvas& canvas) {
-  // The same on all sides: a pale colour would have no edge where the light falls.
-  canvas.Fill(canvas.Area(), platform::colour::kButtonShadow);
-  canvas.Fill(canvas.Area().Shrunk(1), Enabled() ? Colour() : platform::colour::kButtonFace);
+  canvas.Fill(DrawFrame(canvas, canvas.Area()),
+              Enabled() ? Colour() : platform::colour::kButtonFace);
 }
 
 void MarkedButton::Mark(bool checked) {

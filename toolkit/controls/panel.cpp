@@ -9,7 +9,7 @@ namespace colour = platform::colour;
 
 constexpr int kBevelWidth = 1;  // real pixels: a hair line on every screen
 
-void DrawFrame(platform::Canvas& canvas, const platform::Rect& r, platform::Colour top_left,
+void DrawEdges(platform::Canvas& canvas, const platform::Rect& r, platform::Colour top_left,
                platform::Colour bottom_right) {
   canvas.Fill({r.left, r.top, r.width, 1}, top_left);
   canvas.Fill({r.left, r.top, 1, r.height}, top_left);
@@ -23,14 +23,19 @@ platform::Rect DrawBevel(platform::Canvas& canvas, const platform::Rect& area, B
                          int width, platform::Colour space) {
   if (cut == BevelCut::kNone) return area;
   const bool lowered = cut == BevelCut::kLowered;
-  const platform::Colour light = cut == BevelCut::kSpace ? space : colour::kButtonHighlight;
   const platform::Colour shadow = cut == BevelCut::kSpace ? space : colour::kButtonShadow;
+  const bool one_colour = cut == BevelCut::kSpace || cut == BevelCut::kEven;
+  const platform::Colour light = one_colour ? shadow : colour::kButtonHighlight;
   platform::Rect rest = area;
   for (int i = 0; i < width && !rest.Empty(); ++i) {
-    DrawFrame(canvas, rest, lowered ? shadow : light, lowered ? light : shadow);
+    DrawEdges(canvas, rest, lowered ? shadow : light, lowered ? light : shadow);
     rest = rest.Shrunk(1);
   }
   return rest;
+}
+
+platform::Rect DrawFrame(platform::Canvas& canvas, const platform::Rect& area) {
+  return DrawBevel(canvas, area, BevelCut::kEven, kBevelWidth, {});
 }
 
 void Panel::SetBevels(BevelCut outer, BevelCut inner) {

@@ -6,12 +6,17 @@
 
 namespace toolkit {
 
-enum class BevelCut { kNone, kLowered, kRaised, kSpace };
+// kEven is the same on all sides: a bright area has no edge where the light falls on it.
+enum class BevelCut { kNone, kLowered, kRaised, kSpace, kEven };
 
 // Draws a frame `width` pixels wide just inside `area` and returns what is left within. kNone draws
 // and takes nothing, kSpace takes the width in the colour `space`.
 platform::Rect DrawBevel(platform::Canvas& canvas, const platform::Rect& area, BevelCut cut,
                          int width, platform::Colour space);
+
+// Draws the frame that values and colours have, a hair line just inside `area`, and returns what is
+// left within.
+platform::Rect DrawFrame(platform::Canvas& canvas, const platform::Rect& area);
 
 class Panel : public Control {
  public:

@@ -116,8 +116,7 @@ class SpinEdit::Arrow final : public Control {
 
   void Paint(platform::Canvas& canvas) override {
     canvas.Fill(canvas.Area(), platform::colour::kButtonFace);
-    DrawBevel(canvas, canvas.Area(), pressed_ ? BevelCut::kLowered : BevelCut::kRaised, 1,
-              Colour());
+    DrawBevel(canvas, canvas.Area(), pressed_ ? BevelCut::kLowered : BevelCut::kEven, 1, Colour());
     PaintTriangle(canvas);
   }
 

@@ -34,13 +34,13 @@ void BandwidthAlert(Scene& scene) {
     Store("BAAlerts", 1U);
   });
   const HWND alert = scene.AwaitWindow(L"T_frmBandWidthAlert");
-  scene.Save("bandwidth-alert", Scene::Of(alert));
+  scene.Save("bandwidth-alert", alert);
   const HWND balloon = scene.AwaitBalloon();
   scene.Save("bandwidth-balloon", Scene::Of(balloon));
   scene.CloseBalloon(balloon);
   scene.Press(alert, L"btnDetails");
   Scene::AwaitPainted();
-  scene.Save("bandwidth-alert-details", Scene::Of(alert));
+  scene.Save("bandwidth-alert-details", alert);
   scene.Press(alert, L"OkBtn");
 }
 

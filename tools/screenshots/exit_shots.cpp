@@ -9,18 +9,18 @@ namespace text = language::text::MainForm;
 
 void About(Scene& scene) {
   const HWND about = scene.Open({text::HElp1, text::AboutBrisantoXP1}, L"T_frmAbout");
-  scene.Save("about", Scene::Of(about));
+  scene.Save("about", about);
   scene.Press(about, L"OkBtn");
 }
 
 void Exit(Scene& scene) {
   const HWND question = scene.Open({text::Close1}, L"T_frmAreYouSure");
-  scene.Save("exit", Scene::Of(question));
+  scene.Save("exit", question);
   scene.Press(question, L"btnNo");
   Store("zdP", std::string("secret"));
   Store("zdP1", 1U);
   const HWND prompt = scene.Open({text::Close1}, L"T_frmSecurity");
-  scene.Save("password", Scene::Of(prompt));
+  scene.Save("password", prompt);
   scene.Press(prompt, L"CancelButton");
   Store("zdP1", 0U);
 }

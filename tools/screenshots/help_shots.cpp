@@ -34,7 +34,7 @@ void Today(Scene& scene) {
   const HWND window = scene.Open({text::ConnectionInformations1}, L"T_frmConnInfo");
   ::SendMessageW(FindControl(window, L"PageControl1"), TCM_SETCURFOCUS, kDailyTab, 0);
   Scene::AwaitPainted();
-  scene.Save("today", Scene::Of(window));
+  scene.Save("today", window);
   scene.Close(window);
 }
 
@@ -42,7 +42,7 @@ void Page(Scene& scene, PageRow row, const char* name) {
   const HWND window = scene.Open({text::Settings1}, L"T_frmPreferences");
   ChoosePage(window, row);
   Scene::AwaitPainted();
-  scene.Save(name, Scene::Of(window));
+  scene.Save(name, window);
   scene.Close(window);
 }
 

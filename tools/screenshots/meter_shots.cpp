@@ -1,7 +1,9 @@
 // Pictures of the meter window, its menu and its icon.
 #include <vector>
 
+#include "tests/desktop/driver/input.h"
 #include "tests/desktop/driver/registry.h"
+#include "tests/desktop/driver/windows_of.h"
 #include "tools/screenshots/collage.h"
 #include "tools/screenshots/shots.h"
 
@@ -28,12 +30,40 @@ void MeterInItsModes(Scene& scene) {
   }
 }
 
-// Shows the menu beside the meter that opened it.
+// Shows the figures of the present, the average and the maxima in the narrowest window, in bytes
+// and in bits.
+void Narrow(Scene& scene) {
+  constexpr LONG kWidth = 150;
+  constexpr LONG kHeight = 60;
+  std::vector<Picture> pictures;
+  for (const std::uint32_t unit : {0U, 1U}) {
+    scene.Restart([&] {
+      Store("ScaleUnit", unit);
+      for (const char* const mode : {"SOM1", "SOM2", "SOM3"}) Store(mode, 1U);
+    });
+    const HWND window = scene.meter().window();
+    scene.Choose({text::GraphDisplayOptions1, text::mnuTextMode});
+    ::SetWindowPos(window, nullptr, 0, 0, scene.meter().Scaled(kWidth),
+                   scene.meter().Scaled(kHeight), SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    Scene::AwaitPainted();
+    pictures.push_back(Scene::Of(window));
+  }
+  scene.Save("meter-narrow", Beside(pictures));
+  scene.Restart([] { Store("ScaleUnit", 0U); });
+  scene.Choose({text::GraphDisplayOptions1, text::mnuTextandGraph});
+}
+
+// Shows the menu beside the meter that opened it, and the hint of an item.
 void MenuOfTheMeter(Scene& scene) {
   OpenMenu menu = scene.meter().Menu();
   (void)menu.Items(scene.Path({text::GraphDisplayOptions1}));
   Scene::AwaitPainted();
   scene.Save("menu", scene.OfAll());
+  // The item that has a hint.
+  const MenuPath path = scene.Path({text::GraphDisplayOptions1, text::Transparent1});
+  MoveMouse(MiddleOf(menu.Find(path).area));
+  Scene::AwaitPainted();
+  scene.Save("menu-hint", scene.OfAll());
   menu.Leave();
 }
 
@@ -62,6 +92,7 @@ std::span<const Shot> MeterShots() {
   static constexpr Shot kShots[] = {
       {"meter", MeterInItsModes},
       {"menu", MenuOfTheMeter},
+      {"meter-narrow", Narrow},
       {"tray-histogram", Histogram},
       {"tray-pictures", ActivityPictures},
   };

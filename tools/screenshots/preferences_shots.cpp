@@ -1,6 +1,7 @@
 // Pictures of the pages of the preferences and of the windows that they open.
 #include "tests/desktop/driver/preferences.h"
 #include "tests/desktop/driver/registry.h"
+#include "tests/desktop/driver/windows_of.h"
 #include "tools/screenshots/shots.h"
 
 namespace desktop {
@@ -45,10 +46,23 @@ void StoreInstalledSounds() {
 void Pages(Scene& scene) {
   StoreInstalledSounds();
   const HWND window = OpenPreferences(scene);
+  scene.CheckLayout("preferences", window);  // all pages are there
   for (const auto& [row, name] : kPages) {
     Turn(window, row);
     scene.Save(std::string("preferences-") + name, Scene::Of(window));
   }
+  scene.Close(window);
+}
+
+// Shows a list that has dropped down over its page.
+void OpenList(Scene& scene) {
+  const HWND window = OpenPreferences(scene);
+  Turn(window, PageRow::kGraphOther);
+  const HWND list = FindControl(window, L"ScaleCombo");
+  ::SendMessageW(list, CB_SHOWDROPDOWN, TRUE, 0);
+  Scene::AwaitPainted();
+  scene.Save("preferences-list", scene.OfAll());
+  ::SendMessageW(list, CB_SHOWDROPDOWN, FALSE, 0);
   scene.Close(window);
 }
 
@@ -66,7 +80,7 @@ void TakeOpened(Scene& scene, const Opened& opened) {
   Turn(window, opened.page);
   scene.Press(window, opened.by);
   const HWND top = scene.AwaitWindow(opened.named);
-  scene.Save(opened.picture, Scene::Of(top));
+  scene.Save(opened.picture, top);
   scene.Press(top, opened.closed_by);
   scene.Close(window);
 }
@@ -86,6 +100,7 @@ void TitleEditor(Scene& scene) {
 std::span<const Shot> PreferencesShots() {
   static constexpr Shot kShots[] = {
       {"preferences", Pages},
+      {"preferences-list", OpenList},
       {"color-popup", ColorPopup},
       {"window-titles", TitleEditor},
   };

@@ -8,6 +8,7 @@
 #include "platform/windows/services/services.h"
 #include "platform/windows/wide_text.h"
 #include "tests/desktop/driver/input.h"
+#include "tests/desktop/driver/layout_faults.h"
 #include "tests/desktop/driver/registry.h"
 #include "tests/desktop/driver/traffic.h"
 #include "tests/desktop/driver/wait.h"
@@ -68,7 +69,13 @@ void Scene::FillGraph() {
   AwaitScans(static_cast<int>(WidthOf(AreaOf(meter_->graph())) / meter_->Scaled(kBar)));
 }
 
-void Scene::AwaitPainted() { AwaitScans(3); }
+// A scan begins when nothing else waits, so at the end of a second one all is painted that waited
+// before; the display shows it a little later.
+void Scene::AwaitPainted() {
+  constexpr DWORD kShown = 100;
+  AwaitScans(2);
+  ::Sleep(kShown);
+}
 
 void Scene::Choose(std::initializer_list<language::TextEntry> path) {
   meter_->Choose(Path(path));
@@ -132,6 +139,18 @@ Picture Scene::OfAll() {
 }
 
 Picture Scene::Of(HWND window) { return TakePicture(AreaOf(window)); }
+
+void Scene::Save(std::string_view name, HWND window) {
+  CheckLayout(name, window);
+  Save(name, Of(window));
+}
+
+void Scene::CheckLayout(std::string_view name, HWND window) {
+  const std::string faults = LayoutFaults(window);
+  if (faults.empty()) return;
+  fits_ = false;
+  std::printf("does not fit: %s: %s\n", std::string(name).c_str(), faults.c_str());
+}
 
 void Scene::Save(std::string_view name, const Picture& picture) const {
   const std::wstring path = folder_ + L"\\" + ToWide(std::string(name)) + L".png";

@@ -56,6 +56,12 @@ class Scene {
   // Returns a picture of all windows that the program shows, with the space between them.
   [[nodiscard]] Picture OfAll();
   [[nodiscard]] static Picture Of(HWND window);
+  // Saves a picture of a window, and notes what of its layout does not fit (LayoutFaults).
+  void Save(std::string_view name, HWND window);
+  // Notes what of a window's layout does not fit, under the name of its picture.
+  void CheckLayout(std::string_view name, HWND window);
+  // Returns whether everything did that was saved so far.
+  [[nodiscard]] bool Fits() const { return fits_; }
   // Saves a picture in the folder. `name` has no folder and no ending.
   void Save(std::string_view name, const Picture& picture) const;
 
@@ -65,6 +71,7 @@ class Scene {
   std::wstring folder_;
   Waves waves_;
   std::optional<Meter> meter_;
+  bool fits_ = true;
 };
 
 }  // namespace desktop

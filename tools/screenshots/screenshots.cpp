@@ -1,8 +1,9 @@
 // Writes pictures of the windows of the real program, for the documentation or for the help.
 //
-//   screenshots docs|help LANGUAGE FOLDER [NAME...]     Tremolux.exe lies in the current folder;
-//   with
-//                                                       names only the shots whose names begin so
+//   screenshots docs|help LANGUAGE FOLDER [NAME...]
+//
+// Tremolux.exe lies in the current folder. With names it takes only the shots whose names begin so.
+// It fails when something in a window does not fit.
 #include <algorithm>
 #include <cstdio>
 #include <exception>
@@ -50,13 +51,15 @@ void Take(const Shot& shot, Scene& scene) {
   }
 }
 
-void TakeAll(Subsystems subsystems, const std::string& language, const std::wstring& folder,
+// Returns whether everything fits that the windows show.
+bool TakeAll(Subsystems subsystems, const std::string& language, const std::wstring& folder,
              const std::vector<std::string>& wanted) {
   if (ProgramRuns()) throw std::runtime_error("end the program that is running");
   const std::vector<Shot> shots = ShotsOf(subsystems, wanted);
-  if (shots.empty()) return;
+  if (shots.empty()) return true;
   Scene scene(language, folder);
   for (const Shot& shot : shots) Take(shot, scene);
+  return scene.Fits();
 }
 
 }  // namespace
@@ -76,8 +79,8 @@ int wmain(int argc, wchar_t** argv) {
     }
     const auto subsystems = words[0] == L"help" ? desktop::Subsystems(desktop::kHelp)
                                                 : desktop::Subsystems(desktop::kDocs);
-    desktop::TakeAll(subsystems, platform::windows::FromWide(words[1]), words[2], wanted);
-    return 0;
+    const std::string language = platform::windows::FromWide(words[1]);
+    return desktop::TakeAll(subsystems, language, words[2], wanted) ? 0 : 1;
   } catch (const std::exception& error) {
     std::printf("screenshots: %s\n", error.what());
     return 1;

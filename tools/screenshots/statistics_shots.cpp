@@ -14,16 +14,17 @@ namespace {
 
 namespace text = language::text::MainForm;
 
-Picture OfAllTabs(HWND window) {
+void SaveAllTabs(Scene& scene, const char* name, HWND window) {
   const HWND tabs = FindControl(window, L"PageControl1");
   const auto count = static_cast<int>(::SendMessageW(tabs, TCM_GETITEMCOUNT, 0, 0));
+  scene.CheckLayout(name, window);  // all tabs are there
   std::vector<Picture> pictures;
   for (int tab = 0; tab < count; ++tab) {
     ::SendMessageW(tabs, TCM_SETCURFOCUS, static_cast<WPARAM>(tab), 0);
     Scene::AwaitPainted();
     pictures.push_back(Scene::Of(window));
   }
-  return Beside(pictures);
+  scene.Save(name, Beside(pictures));
 }
 
 // Shows some weeks of use and a limit of 20 gigabytes a month that is mostly used.
@@ -42,7 +43,7 @@ void DlUlStatistics(Scene& scene) {
     Store("baUpload", 1U);
   });
   const HWND window = scene.Open({text::ConnectionInformations1}, L"T_frmConnInfo");
-  scene.Save("dl-ul-statistics", OfAllTabs(window));
+  SaveAllTabs(scene, "dl-ul-statistics", window);
   scene.Close(window);
 }
 
@@ -58,7 +59,7 @@ void AdapterStatistics(Scene& scene) {
     menu.Choose(path);
   }
   const HWND window = scene.AwaitWindow(L"T_frmSpecificConnInfo");
-  scene.Save("adapter-statistics", OfAllTabs(window));
+  SaveAllTabs(scene, "adapter-statistics", window);
   scene.Close(window);
 }
 

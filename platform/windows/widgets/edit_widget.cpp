@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "platform/windows/drawing/gdi.h"
 #include "platform/windows/wide_text.h"
 
 namespace platform::windows {
@@ -57,6 +58,16 @@ std::string WithoutReturns(std::string text) {
   return text;
 }
 
+// The height of a line in pixels, or 0 before the edit has its font.
+LONG LineHeight(HWND edit) {
+  const auto font = reinterpret_cast<HFONT>(::SendMessageW(edit, WM_GETFONT, 0, 0));
+  const WindowDc dc(edit);
+  if (font == nullptr || dc.get() == nullptr) return 0;
+  const Selection selected(dc.get(), font);
+  TEXTMETRICW metrics{};
+  return ::GetTextMetricsW(dc.get(), &metrics) != FALSE ? metrics.tmHeight : 0;
+}
+
 }  // namespace
 
 EditWidget::EditWidget(const NewWidget& widget, const EditStyle& style)
@@ -89,7 +100,59 @@ void EditWidget::SetMaxLength(int characters) {
 void EditWidget::SetReadOnly(bool read_only) {
   read_only_ = read_only;
   Send(EM_SETREADONLY, read_only ? TRUE : FALSE);
-  Invalidate();
+  RepaintWithFrame();
+}
+
+void EditWidget::SetFont(const FontStyle& font) {
+  WidgetOf::SetFont(font);
+  constexpr UINT kFrameOnly = SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE;
+  ::SetWindowPos(hwnd(), nullptr, 0, 0, 0, 0, kFrameOnly | SWP_FRAMECHANGED);
+}
+
+void EditWidget::SetEnabled(bool enabled) {
+  WidgetOf::SetEnabled(enabled);
+  RepaintWithFrame();
+}
+
+void EditWidget::SetColours(Colour text, Colour background) {
+  WidgetOf::SetColours(text, background);
+  RepaintWithFrame();
+}
+
+void EditWidget::RepaintWithFrame() {
+  ::RedrawWindow(hwnd(), nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME | RDW_ERASE);
+}
+
+LRESULT EditWidget::FitClientToText(const Message& message) {
+  const LRESULT answer = CallSystem(message);
+  // The place of the client area comes first in both forms of the message.
+  auto& client = *reinterpret_cast<RECT*>(message.l);
+  const LONG height = LineHeight(hwnd());
+  const LONG above = (client.bottom - client.top - height) / 2;
+  if (height == 0 || above <= 0) return answer;
+  client.top += above;
+  client.bottom = client.top + height;
+  return answer;
+}
+
+LRESULT EditWidget::PaintFrame(const Message& message) {
+  const LRESULT answer = CallSystem(message);
+  RECT client{};
+  ::GetClientRect(hwnd(), &client);
+  ::MapWindowPoints(hwnd(), nullptr, reinterpret_cast<POINT*>(&client), 2);
+  RECT whole{};
+  ::GetWindowRect(hwnd(), &whole);
+  ::OffsetRect(&client, -whole.left, -whole.top);
+  const LONG edge = client.left;  // as wide on each side
+  const WindowDc dc(hwnd());
+  if (dc.get() == nullptr) return answer;
+  ::SetDCBrushColor(dc.get(), ToColorref(Background()));
+  const auto filling = static_cast<HBRUSH>(::GetStockObject(DC_BRUSH));
+  const RECT above{edge, edge, client.right, client.top};
+  const RECT below{edge, client.bottom, client.right, whole.bottom - whole.top - edge};
+  ::FillRect(dc.get(), &above, filling);
+  ::FillRect(dc.get(), &below, filling);
+  return answer;
 }
 
 void EditWidget::SelectAll() { Send(EM_SETSEL, 0, -1); }
@@ -140,6 +203,12 @@ std::wstring EditWidget::CutToLimit(const std::wstring& text) {
 
 std::optional<LRESULT> EditWidget::Handle(const Message& message) {
   switch (message.id) {
+    case WM_NCCALCSIZE:
+      return kind_ == EditKind::kMemo ? std::nullopt : std::optional(FitClientToText(message));
+    case WM_NCPAINT:
+      return kind_ == EditKind::kMemo ? std::nullopt : std::optional(PaintFrame(message));
+    case WM_NCHITTEST:  // a click above or below the text is one on the text
+      return kind_ == EditKind::kMemo ? std::nullopt : std::optional<LRESULT>(HTCLIENT);
     case WM_KEYDOWN:
     case WM_CHAR: {
       const Lifetime::Watch watch(lifetime());

@@ -14,6 +14,9 @@ class EditWidget final : public WidgetOf<Edit, NativeControl> {
   [[nodiscard]] std::string Text() const override;
   void SetMaxLength(int characters) override;
   void SetReadOnly(bool read_only) override;
+  void SetFont(const FontStyle& font) override;
+  void SetEnabled(bool enabled) override;
+  void SetColours(Colour text, Colour background) override;
   void SelectAll() override;
 
   [[nodiscard]] KeyTaker TakerOf(WPARAM key) override;
@@ -27,6 +30,11 @@ class EditWidget final : public WidgetOf<Edit, NativeControl> {
   [[nodiscard]] Colour Background() const override;
 
  private:
+  // The system puts the text of a line at the top of its client area. So that it stands in the
+  // middle, the client area is only as high as the text; what is above and below is of the frame.
+  LRESULT FitClientToText(const Message& message);
+  LRESULT PaintFrame(const Message& message);
+  void RepaintWithFrame();
   void Changed();
   // Cuts `text`, which is in the edit, to what the user may enter, and returns the rest.
   [[nodiscard]] std::wstring CutToLimit(const std::wstring& text);

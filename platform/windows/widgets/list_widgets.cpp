@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/windows/dpi.h"
 #include "platform/windows/wide_text.h"
 
 namespace platform::windows {
@@ -80,9 +81,9 @@ std::optional<LRESULT> ListBoxWidget::Handle(const Message& message) {
 
 ComboWidget::ComboWidget(const NewWidget& widget, ListKind kind)
     : PlainListWidget(widget, kComboMessages), kind_(kind) {
-  DWORD style = kStopChild | WS_VSCROLL | CBS_DROPDOWNLIST | CBS_HASSTRINGS;
-  if (kind == ListKind::kFontCombo) style |= CBS_OWNERDRAWFIXED;
-  MakeControl(L"COMBOBOX", {style, 0}, widget);
+  // The system would draw the text at the top of a row, which is higher than the text.
+  constexpr DWORD kCombo = CBS_DROPDOWNLIST | CBS_HASSTRINGS | CBS_OWNERDRAWFIXED;
+  MakeControl(L"COMBOBOX", {kStopChild | WS_VSCROLL | kCombo, 0}, widget);
   Send(CB_SETMINVISIBLE, kRowsDropped);
 }
 
@@ -114,9 +115,7 @@ void ComboWidget::FitHeight() {
     if (too_low == 0) break;
     closed_row += too_low;
   }
-  if (kind_ == ListKind::kFontCombo) {
-    Send(CB_SETITEMHEIGHT, 0, Send(CB_GETITEMHEIGHT, kClosedRow));
-  }
+  Send(CB_SETITEMHEIGHT, 0, Send(CB_GETITEMHEIGHT, kClosedRow));
 }
 
 KeyTaker ComboWidget::TakerOf(WPARAM /*key*/) {
@@ -142,9 +141,12 @@ void ComboWidget::DrawRow(const DRAWITEMSTRUCT& item) {
   text.resize(static_cast<std::size_t>(length < 0 ? 0 : length));
   const std::string name = FromWide(text);
   FontStyle own = font();
-  own.face = name;
-  if (IsSymbolFont(item.hDC, drawing().fonts.Get(own))) own.face = font().face;
-  const Rect inside{area.left + 2, area.top, area.width - 4, area.height};
+  if (kind_ == ListKind::kFontCombo) {
+    own.face = name;
+    if (IsSymbolFont(item.hDC, drawing().fonts.Get(own))) own.face = font().face;
+  }
+  const int room = font().height / 4;  // grows with the screen's dpi as the font does
+  const Rect inside{area.left + room, area.top, area.width - 2 * room, area.height};
   const Colour colour = !Enabled() ? colour::kGrayText
                         : selected ? colour::kHighlightText
                                    : text_colour();
@@ -251,7 +253,9 @@ std::optional<LRESULT> CheckListWidget::Handle(const Message& message) {
 }
 
 TreeWidget::TreeWidget(const NewWidget& widget) : WidgetOf(widget) {
-  constexpr DWORD kTree = TVS_HASBUTTONS | TVS_HASLINES | TVS_LINESATROOT | TVS_SHOWSELALWAYS;
+  // Without a scroll bar for sideways: Wine shows one although the rows have room.
+  constexpr DWORD kTree =
+      TVS_HASBUTTONS | TVS_HASLINES | TVS_LINESATROOT | TVS_SHOWSELALWAYS | TVS_NOHSCROLL;
   MakeControl(WC_TREEVIEWW, {kStopChild | kTree, WS_EX_CLIENTEDGE}, widget);
 }
 
@@ -299,6 +303,15 @@ void TreeWidget::ExpandAll() {
   for (const HTREEITEM item : items_) {
     Send(TVM_EXPAND, TVE_EXPAND, reinterpret_cast<LPARAM>(item));
   }
+}
+
+// The indent is also that of the boxes, which the system does not enlarge with the font. It comes
+// before the font: by a change of the indent the system may measure the texts in another one.
+void TreeWidget::SetFont(const FontStyle& font) {
+  constexpr int kIndent = 19;  // design pixels
+  const int indent = ScaledFor(hwnd(), kIndent);
+  if (indent != Send(TVM_GETINDENT)) Send(TVM_SETINDENT, static_cast<WPARAM>(indent));
+  WidgetOf::SetFont(font);
 }
 
 std::optional<LRESULT> TreeWidget::HandleNotification(const Message& message) {

@@ -58,10 +58,10 @@ class ComboWidget final : public PlainListWidget {
   std::optional<LRESULT> HandleNotification(const Message& message) override;
 
  private:
-  // Gives the closed list its height, which is that of its selected row; the height of the window
-  // is that of the open list.
+  // Gives the rows their height and the closed list its own, which is that of its selected row; the
+  // height of the window is that of the open list.
   void FitHeight();
-  // Draws a row in the font that it names.
+  // Draws a row, of fonts in the font that it names.
   void DrawRow(const DRAWITEMSTRUCT& item);
 
   const ListKind kind_;
@@ -99,6 +99,7 @@ class TreeWidget final : public WidgetOf<Tree, NativeControl> {
   void SetIndex(int index) override;
   [[nodiscard]] int Index() const override;
   void ExpandAll() override;
+  void SetFont(const FontStyle& font) override;
 
   std::optional<LRESULT> HandleNotification(const Message& message) override;
 

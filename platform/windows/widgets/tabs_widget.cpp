@@ -5,6 +5,7 @@
 
 #include <algorithm>
 
+#include "platform/windows/dpi.h"
 #include "platform/windows/drawing/graphics.h"
 #include "platform/windows/wide_text.h"
 #include "platform/windows/win32.h"
@@ -33,6 +34,15 @@ int TabsWidget::Count() const { return static_cast<int>(Send(TCM_GETITEMCOUNT));
 
 void TabsWidget::SetIndex(int index) {
   if (index != Index()) Send(TCM_SETCURSEL, static_cast<WPARAM>(index));
+}
+
+// The room around the text of a tab, which the system does not enlarge with the font. It takes it
+// over together with the next font.
+void TabsWidget::SetFont(const FontStyle& font) {
+  constexpr int kBeside = 6;  // design pixels, as the next one
+  constexpr int kAbove = 3;
+  Send(TCM_SETPADDING, 0, MAKELPARAM(ScaledFor(hwnd(), kBeside), ScaledFor(hwnd(), kAbove)));
+  WidgetOf::SetFont(font);
 }
 
 int TabsWidget::Index() const { return static_cast<int>(Send(TCM_GETCURSEL)); }

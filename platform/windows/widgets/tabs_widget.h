@@ -12,6 +12,7 @@ class TabsWidget final : public WidgetOf<Tabs, NativeControl> {
 
   void SetItems(std::span<const std::string> captions) override;
   void SetIndex(int index) override;
+  void SetFont(const FontStyle& font) override;
   [[nodiscard]] int Index() const override;
   [[nodiscard]] Rect PageArea() const override;
   [[nodiscard]] Colour PageColour() const override;

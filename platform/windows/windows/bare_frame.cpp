@@ -18,14 +18,12 @@ constexpr int kLine = 1;
 constexpr int kGrip = 5;     // from the outer edge; sizes in one direction
 constexpr int kCorner = 12;  // along an edge, from a corner; sizes in both directions
 
-int Scaled(int pixels, HWND hwnd) { return ::MulDiv(pixels, DpiOfWindow(hwnd), 96); }
-
 void PaintLine(HWND hwnd) {
   RECT outer{};
   ::GetWindowRect(hwnd, &outer);
   const LONG width = outer.right - outer.left;
   const LONG height = outer.bottom - outer.top;
-  const LONG line = Scaled(kLine, hwnd);
+  const LONG line = ScaledFor(hwnd, kLine);
   const WindowDc dc(hwnd);
   if (dc.get() == nullptr) return;
   const RECT sides[] = {{0, 0, width, line},
@@ -54,8 +52,8 @@ LRESULT SizingEdge(HWND hwnd, LPARAM screen_point, const SizeLimits& limits) {
   RECT outer{};
   ::GetWindowRect(hwnd, &outer);
   if (!::PtInRect(&outer, at)) return 0;
-  const int grip = Scaled(kGrip, hwnd);
-  const int corner = Scaled(kCorner, hwnd);
+  const int grip = ScaledFor(hwnd, kGrip);
+  const int corner = ScaledFor(hwnd, kCorner);
   int x = End(at.x, outer.left, outer.right, grip);
   int y = End(at.y, outer.top, outer.bottom, grip);
   if (x != 0 && y == 0) y = End(at.y, outer.top, outer.bottom, corner);
@@ -83,7 +81,7 @@ std::optional<LRESULT> BareFrame::Handle(HWND hwnd, const Message& message,
     case WM_NCCALCSIZE: {
       // The parameter has two forms, and the area comes first in both.
       auto* area = reinterpret_cast<RECT*>(message.l);
-      const int line = Scaled(kLine, hwnd);
+      const int line = ScaledFor(hwnd, kLine);
       ::InflateRect(area, -line, -line);
       return 0;
     }
