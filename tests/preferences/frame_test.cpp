@@ -97,6 +97,8 @@ TEST_F(Preferences, EveryPageIsLaidOutInEveryLanguageAndEveryControlHasAHint) {
     if (!User().Exists(control.Name())) return;
     using Kind = platform::memory::WidgetState::Kind;
     const auto& widget = Widget(control.Name());
+    if (widget.kind == Kind::kText && widget.text.empty())
+      told += control.Name() + " says nothing\n";
     if (widget.kind == Kind::kText || widget.kind == Kind::kSurface ||
         widget.IsButton(platform::ButtonKind::kGroup))
       return;

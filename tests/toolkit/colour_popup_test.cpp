@@ -57,6 +57,7 @@ TEST_F(ColourPopupTest, GivesWhatTheUserConfirmsAndNothingElse) {
   const std::vector<Row> rows = {
       {"arrows from the present one", kRed, {keys({Key::kRight, Key::kUp}), enter}, 0x40A0FF},
       {"not over the edges", kWhite, {keys({Key::kLeft, Key::kUp}), enter}, kWhite},
+      {"nor over the others", 0x400040, {keys({Key::kRight, Key::kDown}), enter}, 0x400040},
       {"one that is not in the field: the first", 0x010203, {keys({Key::kDown}), ok}, kWhite},
       {"the mouse, then the button", 0x010203, {click, ok}, kRed},
       {"a click alone", 0x010203, {click, [&] { User().ClickCloseBox("ColourPopup"); }}, {}},

@@ -62,6 +62,7 @@ TEST_F(Pages, WhatIsSetOnAHiddenOneIsThereWhenItIsShown) {
   Edit edit(page, "edit");
   Memo memo(page, "memo");
   TrackBar bar(page, "bar");
+  ProgressBar progress(page, "progress");
   SpinEdit spin(page, "spin");
   Button push(page, "push");
   Label label(page, "label");
@@ -71,6 +72,7 @@ TEST_F(Pages, WhatIsSetOnAHiddenOneIsThereWhenItIsShown) {
   group.SetBounds({10, 10, 200, 60});
   edit.SetEnabled(false);
   memo.SetReadOnly(true);
+  progress.SetPosition(20);
   bar.SetPosition(20);
   bar.SetRange(1, 9, 2);
   spin.SetBounds({10, 80, 80, 22});
@@ -91,6 +93,7 @@ TEST_F(Pages, WhatIsSetOnAHiddenOneIsThereWhenItIsShown) {
   EXPECT_TRUE(!Widget("edit").enabled && Widget("memo").read_only);
   EXPECT_EQ(Widget("edit").background, platform::colour::kWindow);
   EXPECT_TRUE(Widget("bar").lowest == 1 && Widget("bar").highest == 9 && Widget("bar").page == 2);
+  EXPECT_EQ(Widget("progress").position, 20);
   EXPECT_TRUE(Widget("bar").position == 9 && bar.Position() == 9);
   EXPECT_EQ(Widget("spin").bounds, (platform::Rect{0, 0, 63, 22}));
   EXPECT_TRUE(Widget("push").is_default && !Widget("push").visible);
