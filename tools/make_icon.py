@@ -63,7 +63,7 @@ def banner(width, height):
 
 
 def main():
-    images = [bitmap(size) if size <= 64 else png(size) for size in SIZES]
+    images = [bitmap(size) if size <= 48 else png(size) for size in SIZES]
     offset = 6 + 16 * len(images)
     directory = struct.pack("<HHH", 0, 1, len(images))
     for size, image in zip(SIZES, images):
