@@ -27,9 +27,13 @@ class Modals : public FormTest {
 };
 
 TEST_F(Modals, OneIsShownAboveADisabledOwnerAndEndsWhicheverWayItGoes) {
+  struct Dialog : Form {
+    using Form::Form;
+    Button yes{*this, "yes"};
+  };
   struct Row {
     const char* why;
-    std::function<void(std::unique_ptr<Form>&)> go;
+    std::function<void(std::unique_ptr<Dialog>&)> go;
     ModalResult result = ModalResult::kCancel;
   };
   const std::vector<Row> rows = {
@@ -46,9 +50,8 @@ TEST_F(Modals, OneIsShownAboveADisabledOwnerAndEndsWhicheverWayItGoes) {
   form.Show();
   for (const Row& row : rows) {
     SCOPED_TRACE(row.why);
-    auto dialog = std::make_unique<Form>(app, Params("dialog"));
-    Button yes(*dialog, "yes");
-    yes.ModalResult = ModalResult::kYes;
+    auto dialog = std::make_unique<Dialog>(app, Params("dialog"));
+    dialog->yes.ModalResult = ModalResult::kYes;
     Then([&] {
       EXPECT_TRUE(app.Terminated() || (Widget("dialog").visible && !Listens("form")));
       row.go(dialog);
