@@ -24,6 +24,8 @@ enum class KeyTaker { kDialog, kWindow, kNobody };
 
 class WidgetWindow : public NativeWindow {
  public:
+  ~WidgetWindow() override { ForgetName(); }
+
   // Returns the system's window behind a widget that this folder made.
   [[nodiscard]] static HWND Of(Widget& widget);
   // Returns the object behind a window, or null when it is none of this program's widgets.
@@ -60,7 +62,6 @@ class WidgetWindow : public NativeWindow {
   // `drawing` and `events` outlive this.
   WidgetWindow(Drawing& drawing, WidgetEvents& events, Capture capture = Capture::kHere)
       : drawing_(drawing), events_(events), mouse_(capture) {}
-  ~WidgetWindow() override { ForgetName(); }
 
   std::optional<LRESULT> Handle(const Message& message) override;
 
