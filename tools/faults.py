@@ -44,7 +44,12 @@ EXCLUDED_LINES = re.compile(
     # would hide it.
     r"|\.Top\(|open_left|kTitlesRemembered|kLongestPosted|kLongestHistory|kWidestDrawn"
     r"|max\(Scale\(3\), 1\)|<= kTrayPictureSize\)"
-    r"|visible_ = false;  // forms")
+    r"|visible_ = false;  // forms"
+    # The room of a figure; how a hint, the letters of the scale and the arrows of a field look; a
+    # first value that is always replaced; a picture that is composed once more than needed.
+    r"|const int inner = bounds\.width|kScaleFont|window_->Invalidate|2 \* margin\) / std::max"
+    r"|const int top = \(size\.height - rows\)|canvas\.Fill\(\{size\.width / 2 - half"
+    r"|std::int64_t number = 0;|size\.width <= 0 \|\| size\.height <= 0\) return nullptr|picture_is_old_ \|\|")
 
 
 def tokens(line):

@@ -94,8 +94,9 @@ TEST_F(Services, HostsAreLookedUpWhileTheLibraryIsStarted) {
   ASSERT_TRUE(sockets.Start(0x0101));
   ASSERT_TRUE(sockets.Start(0x0101));
   sockets.Cleanup();
-  EXPECT_EQ(sockets.HostAddresses("localhost"), std::vector<std::string>{"127.0.0.1"})
-      << "each Start is taken back alone";
+  const auto found = sockets.HostAddresses("localhost");
+  ASSERT_TRUE(found && !found->empty()) << "each Start is taken back alone";
+  EXPECT_EQ(found->front(), "127.0.0.1") << "a newer Wine names it once for each family";
   // A space can stand in no name, so that no server is asked.
   EXPECT_EQ(sockets.HostAddresses("no such host"), std::nullopt);
   const std::string name = sockets.HostName();
