@@ -33,7 +33,7 @@ void PlayLongRun(PlayedMeter& meter, const LongRun& run, std::int64_t empty_byte
   const std::string number = std::to_string(first);
   report.Section("The long run: scans one behind the other, each painted");
   report.AtMost("private memory after " + number + " scans above an empty window's",
-                KiB(before.bytes - empty_bytes), "KiB", 3072);
+                KiB(before.bytes - empty_bytes), "KiB", 1024);
   report.Note("scans after these, each with a tick of the histogram", rest, "");
   ReportGrowth(before, report);
   report.Note("handles", static_cast<double>(before.handles), "");
