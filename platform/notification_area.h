@@ -33,8 +33,8 @@ class TrayIcon {
   virtual bool SetPicture(const Bitmap& picture, Colour see_through) = 0;
   // Sets the hint, cut at 127 characters, the most that the system takes.
   virtual void SetHint(std::string_view hint) = 0;
-  // Shows a balloon in place of one that is still shown. Title and text have at most 63 and 255
-  // characters, the most that the system takes.
+  // Shows a balloon in place of one that is still shown. Of title and text the system takes at most
+  // 63 and 255 UTF-16 units; the rest is left out.
   virtual void ShowBalloon(std::string_view title, std::string_view text, BalloonIcon icon,
                            int seconds) = 0;
   // Returns the side of the pictures that the area shows, in pixels: 16 at 96 dpi.

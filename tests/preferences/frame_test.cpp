@@ -2,8 +2,8 @@
 #include <set>
 
 #include "settings/schema.h"
+#include "tests/layout_faults.h"
 #include "tests/meter.h"
-#include "toolkit/controls/layout.h"
 #include "toolkit/controls/spin_edit.h"
 
 namespace {
@@ -117,7 +117,7 @@ TEST_F(Preferences, EveryPageIsLaidOutInEveryLanguageAndEveryControlHasAHint) {
     for (int i = 0; i < 6; ++i) {
       SCOPED_TRACE(Widget("cmbLanguage").items[static_cast<std::size_t>(i)]);
       User().Choose("cmbLanguage", i);
-      EXPECT_EQ(toolkit::LayoutFaults(*Find(kForm)), std::vector<std::string>());
+      EXPECT_EQ(test::LayoutFaults(*Find(kForm)), std::vector<std::string>());
     }
     check(*Find(kForm));
     EXPECT_EQ("\n" + told, R"(

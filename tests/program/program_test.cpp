@@ -1,8 +1,8 @@
 // The program as a whole: its start, its windows one by one, and what holds for all of them.
 #include "program/program.h"
 
+#include "tests/layout_faults.h"
 #include "tests/meter.h"
-#include "toolkit/controls/layout.h"
 
 namespace {
 
@@ -62,7 +62,7 @@ TEST_F(Program, EachWindowIsLaidOutAboveTheMeterIsRaisedByTheMenuAndCloses) {
         While(window, [&] {
           ASSERT_TRUE(Shown(window.name));
           if (User().Exists("btnDetails")) User().Press("btnDetails");
-          EXPECT_EQ(toolkit::LayoutFaults(*Find(window.name)), std::vector<std::string>());
+          EXPECT_EQ(test::LayoutFaults(*Find(window.name)), std::vector<std::string>());
           EXPECT_FALSE(Widget(window.name).text.empty());
           EXPECT_TRUE(Widget(window.name).topmost) << "or else the meter would cover it";
           EXPECT_EQ(Widget("T_frmBrisanto").enabled, !window.modal);

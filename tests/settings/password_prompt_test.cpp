@@ -5,8 +5,8 @@
 #include <vector>
 
 #include "settings/unit_SecurityForm.h"
+#include "tests/layout_faults.h"
 #include "tests/world.h"
-#include "toolkit/controls/layout.h"
 
 namespace settings {
 namespace {
@@ -89,7 +89,7 @@ TEST_F(PasswordPrompt, HasTheKeyboardInItsEdit) {
     machine.windowing.Press("CancelButton");
   }));
   T_frmSecurity prompt(app, store, language);
-  EXPECT_EQ(toolkit::LayoutFaults(prompt), std::vector<std::string>());
+  EXPECT_EQ(test::LayoutFaults(prompt), std::vector<std::string>());
 }
 
 }  // namespace

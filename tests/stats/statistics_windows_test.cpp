@@ -7,8 +7,8 @@
 #include "quantity/quantity.h"
 #include "stats/unit_ConnInfo.h"
 #include "stats/unit_SpecificConnInfo.h"
+#include "tests/layout_faults.h"
 #include "tests/world.h"
-#include "toolkit/controls/layout.h"
 
 namespace {
 
@@ -227,7 +227,7 @@ TEST_F(StatisticsWindows, AreLaidOutAndGoneThroughByTab) {
             (Texts{"PageControl1", "Label1", "ISBAShown", "Button2"}));
   for (const int dpi : {96, 120, 192}) {
     machine.windowing.ChangeDpi("T_frmConnInfo", dpi, {0, 0, 265 * dpi / 96, 258 * dpi / 96});
-    EXPECT_EQ(toolkit::LayoutFaults(window), Texts()) << dpi;
+    EXPECT_EQ(test::LayoutFaults(window), Texts()) << dpi;
   }
   T_frmSpecificConnInfo adapter(context, "Ethernet");
   EXPECT_EQ(test::Untold(window) + test::Untold(adapter), "PageControl1 PageControl1 ");

@@ -1,6 +1,7 @@
 // Pages with and without tabs, and the layout.
 #include "toolkit/controls/pages.h"
 
+#include "tests/layout_faults.h"
 #include "tests/toolkit/form_fixture.h"
 #include "toolkit/controls/bars.h"
 #include "toolkit/controls/buttons.h"
@@ -112,11 +113,11 @@ TEST_F(Pages, TheLayoutNamesWhatLeavesItsParentOrCoversAnother) {
   ApplyLayout(
       {{label, {10, 10, 100, 13}}, {group, {10, 30, 200, 100}}, {hidden, {10, 30, 80, 22}}});
   inner.SetBounds({10, 20, 180, 21});
-  EXPECT_EQ(LayoutFaults(form), Names());
+  EXPECT_EQ(test::LayoutFaults(form), Names());
   hidden.SetVisible(true);
   inner.SetBounds({10, 80, 180, 21});
   label.SetBounds({10, 10, 0, 13});
-  EXPECT_EQ(LayoutFaults(form),
+  EXPECT_EQ(test::LayoutFaults(form),
             (Names{"label has no size", "inner leaves group, which is 200 by 100",
                    "hidden covers group"}));
 }

@@ -6,9 +6,7 @@
 #pragma once
 
 #include <initializer_list>
-#include <string>
 #include <string_view>
-#include <vector>
 
 #include "platform/geometry.h"
 #include "toolkit/controls/control.h"
@@ -24,9 +22,5 @@ struct LayoutRow {
 
 // Gives each control its bounds, caption and hint. An empty caption or hint leaves the present one.
 void ApplyLayout(std::initializer_list<LayoutRow> rows);
-
-// Returns the faults in the places of all controls on `root`, one text for each fault: a control
-// that has no size, leaves its parent, or covers another visible one. Tests use it.
-[[nodiscard]] std::vector<std::string> LayoutFaults(Control& root);
 
 }  // namespace toolkit

@@ -3,6 +3,7 @@
 #include <string>
 #include <string_view>
 
+#include "platform/marked_text.h"
 #include "toolkit/controls/label.h"
 #include "toolkit/forms/form.h"
 
@@ -19,16 +20,9 @@ bool HasWords(std::string_view text) {
   });
 }
 
-// Returns the caption as it is seen: "&" marks a letter, "&&" stands for one "&".
+// Returns the caption as it is seen.
 std::string SeenCaption(const Control& control) {
-  if (!control.MarksKey()) return control.Caption();
-  std::string seen;
-  bool marked = false;
-  for (const char c : control.Caption()) {
-    marked = c == '&' && !marked;
-    if (!marked) seen += c;
-  }
-  return seen;
+  return control.MarksKey() ? platform::ReadMarks(control.Caption()).shown : control.Caption();
 }
 
 // Returns the label that was made right before a control and leads to it, or null. One without a

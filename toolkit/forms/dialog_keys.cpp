@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "platform/text.h"
+#include "platform/marked_text.h"
 #include "toolkit/application.h"
 #include "toolkit/controls/buttons.h"
 #include "toolkit/controls/pages.h"
@@ -35,16 +35,6 @@ Control* Neighbour(const std::vector<Control*>& ring, const Control* from, bool 
   const auto at = std::find(ring.begin(), ring.end(), from);
   if (backwards) return at == ring.begin() || at == ring.end() ? ring.back() : *(at - 1);
   return at == ring.end() || at + 1 == ring.end() ? ring.front() : *(at + 1);
-}
-
-// The letter behind the single "&" of a text; empty without one.
-std::string MarkedKey(const std::string& text) {
-  for (std::size_t at = 0; at + 1 < text.size(); ++at) {
-    if (text[at] != '&') continue;
-    ++at;
-    if (text[at] != '&') return platform::CutCharacters(text.substr(at), 1);
-  }
-  return {};
 }
 
 }  // namespace
@@ -191,7 +181,8 @@ bool DialogKeys::MarkedLetter(const std::string& letter) {
   if (focused != from_focus.end()) std::rotate(from_focus.begin(), focused + 1, from_focus.end());
   const auto marked =
       std::find_if(from_focus.begin(), from_focus.end(), [&](const Control* control) {
-        return control->MarksKey() && locale.Lower(MarkedKey(control->Caption())) == wanted;
+        return control->MarksKey() &&
+               locale.Lower(platform::ReadMarks(control->Caption()).Key()) == wanted;
       });
   if (wanted.empty() || marked == from_focus.end()) return false;
   form_.Window().ShowKeyMarks();

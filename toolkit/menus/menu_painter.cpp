@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "platform/marked_text.h"
 #include "platform/text.h"
 #include "toolkit/application.h"
 #include "toolkit/design_pixels.h"
@@ -20,27 +21,6 @@ constexpr int kLargestText = 480;  // a longer text is cut: a menu has to fit on
 const platform::FontStyle kFont{"Tahoma", 11, false};
 
 platform::FontStyle FontAt(int dpi) { return {kFont.face, ScaleTo(dpi, kFont.height), kFont.bold}; }
-
-// Returns the text that is shown: "&&" is one ampersand, and a single "&" only marks the key.
-std::string ShownText(std::string_view text) {
-  std::string shown;
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    if (text[i] == '&') ++i;
-    if (i < text.size()) shown += text[i];
-  }
-  return shown;
-}
-
-// Returns where the key that "&" marks begins in the shown text, or npos for none.
-std::size_t MnemonicAt(std::string_view text) {
-  std::size_t shown = 0;
-  for (std::size_t i = 0; i + 1 < text.size(); ++i, ++shown) {
-    if (text[i] != '&') continue;
-    if (text[i + 1] != '&') return shown;
-    ++i;
-  }
-  return std::string_view::npos;
-}
 
 // Returns the text, or as much of it as fits with an ellipsis behind it.
 std::string Fitted(const std::string& text, int width, platform::Canvas& canvas,
@@ -87,9 +67,9 @@ platform::Size MenuPainter::Measure(const platform::MenuEntry& entry, platform::
                                     int dpi) {
   if (entry.separator) return {ScaleTo(dpi, kIconWidth), ScaleTo(dpi, kSeparatorHeight)};
   const platform::FontStyle font = FontAt(dpi);
-  int width =
-      ScaleTo(dpi, kIconWidth + 2 * kTextIndent + kArrowWidth) +
-      std::min(canvas.TextSize(ShownText(entry.text), font).width, ScaleTo(dpi, kLargestText));
+  int width = ScaleTo(dpi, kIconWidth + 2 * kTextIndent + kArrowWidth) +
+              std::min(canvas.TextSize(platform::ReadMarks(entry.text).shown, font).width,
+                       ScaleTo(dpi, kLargestText));
   if (!entry.shortcut.empty()) {
     width += ScaleTo(dpi, kShortCutGap) + canvas.TextSize(entry.shortcut, font).width;
   }
@@ -115,13 +95,13 @@ void MenuPainter::Paint(const platform::MenuEntry& entry, const platform::MenuEn
   const platform::Colour colour = TextColour(entry, state);
   const int text_right = area.Right() - ScaleTo(dpi, kArrowWidth);
   const platform::Rect box{text_left, area.top, text_right - text_left, area.height};
-  const std::string shown = Fitted(ShownText(entry.text), box.width, canvas, font);
+  const platform::MarkedText text = platform::ReadMarks(entry.text);
+  const std::string shown = Fitted(text.shown, box.width, canvas, font);
   canvas.Text(box, shown, font, colour, platform::TextAlign::kLeft);
   canvas.Text(box, entry.shortcut, font, colour, platform::TextAlign::kRight);
-  const std::size_t mnemonic = MnemonicAt(entry.text);
-  if (mnemonic < shown.size()) {
-    const int before = canvas.TextSize(shown.substr(0, mnemonic), font).width;
-    const int width = canvas.TextSize(shown.substr(mnemonic, 1), font).width;
+  if (text.key_at < shown.size()) {
+    const int before = canvas.TextSize(shown.substr(0, text.key_at), font).width;
+    const int width = canvas.TextSize(text.Key(), font).width;
     const int y = area.top + (area.height + canvas.TextSize(shown, font).height) / 2 - 1;
     canvas.Line({text_left + before, y}, {text_left + before + width, y}, colour);
   }

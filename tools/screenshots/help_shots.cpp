@@ -14,18 +14,9 @@ namespace text = language::text::MainForm;
 
 constexpr int kDailyTab = 1;
 
-// Shows some weeks of use and a limit of 20 gigabytes a month.
 void Today(Scene& scene) {
   scene.Restart([] {
-    Store("CurrentDayTotalDL", std::string("734003200"));
-    Store("CurrentDayTotalUL", std::string("52428800"));
-    Store("CurrentMonthTotalDL", std::string("15032385536"));
-    Store("CurrentMonthTotalUL", std::string("1288490188"));
-    Store("MoreThan", 20U);
-    Store("AlertsMoreThan", 2U);
-    Store("BADayWeekMonth", 2U);
-    Store("baDownload", 1U);
-    Store("baUpload", 1U);
+    StoreWeeksOfUse();
     Store("BAAction", 1U);
     Store("BAAlerts", 1U);
     Store("Transparent2k", 1U);

@@ -13,6 +13,9 @@ struct Shot {
   void (*take)(Scene& scene);
 };
 
+// Stores some weeks of use and a limit of 20 gigabytes a month that is mostly used.
+void StoreWeeksOfUse();
+
 [[nodiscard]] std::span<const Shot> MeterShots();
 [[nodiscard]] std::span<const Shot> AlertShots();
 [[nodiscard]] std::span<const Shot> StatisticsShots();

@@ -27,21 +27,8 @@ void SaveAllTabs(Scene& scene, const char* name, HWND window) {
   scene.Save(name, Beside(pictures));
 }
 
-// Shows some weeks of use and a limit of 20 gigabytes a month that is mostly used.
 void DlUlStatistics(Scene& scene) {
-  scene.Restart([] {
-    Store("CurrentDayTotalDL", std::string("734003200"));
-    Store("CurrentDayTotalUL", std::string("52428800"));
-    Store("CurrentWeekTotalDL", std::string("4509715660"));
-    Store("CurrentWeekTotalUL", std::string("322122547"));
-    Store("CurrentMonthTotalDL", std::string("15032385536"));
-    Store("CurrentMonthTotalUL", std::string("1288490188"));
-    Store("MoreThan", 20U);
-    Store("AlertsMoreThan", 2U);
-    Store("BADayWeekMonth", 2U);
-    Store("baDownload", 1U);
-    Store("baUpload", 1U);
-  });
+  scene.Restart(StoreWeeksOfUse);
   const HWND window = scene.Open({text::ConnectionInformations1}, L"T_frmConnInfo");
   SaveAllTabs(scene, "dl-ul-statistics", window);
   scene.Close(window);
@@ -64,6 +51,20 @@ void AdapterStatistics(Scene& scene) {
 }
 
 }  // namespace
+
+void StoreWeeksOfUse() {
+  Store("CurrentDayTotalDL", std::string("734003200"));
+  Store("CurrentDayTotalUL", std::string("52428800"));
+  Store("CurrentWeekTotalDL", std::string("4509715660"));
+  Store("CurrentWeekTotalUL", std::string("322122547"));
+  Store("CurrentMonthTotalDL", std::string("15032385536"));
+  Store("CurrentMonthTotalUL", std::string("1288490188"));
+  Store("MoreThan", 20U);
+  Store("AlertsMoreThan", 2U);
+  Store("BADayWeekMonth", 2U);
+  Store("baDownload", 1U);
+  Store("baUpload", 1U);
+}
 
 std::span<const Shot> StatisticsShots() {
   static constexpr Shot kShots[] = {

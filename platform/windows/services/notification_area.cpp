@@ -4,7 +4,6 @@
 #include <span>
 #include <utility>
 
-#include "platform/text.h"
 #include "platform/windows/wide_text.h"
 
 namespace platform::windows {
@@ -15,8 +14,6 @@ constexpr UINT kIconNumber = 1;
 constexpr UINT_PTR kAddTimer = 1;
 constexpr UINT kRetryMs = 2000;
 constexpr LONG kSameKeyPressMs = 100;
-constexpr std::size_t kTitleCharacters = 63;
-constexpr std::size_t kTextCharacters = 255;
 
 // Copies what fits, always with a terminating NUL and never half of a surrogate pair.
 void CopyText(std::wstring_view text, std::span<wchar_t> target) {
@@ -83,10 +80,9 @@ void ShellTrayIcon::ShowBalloon(std::string_view title, std::string_view text, B
                                 int seconds) {
   if (!added_) Add();
   NOTIFYICONDATAW data = Data(NIF_INFO);
-  CopyText(ToWide(CutCharacters(title, kTitleCharacters)), data.szInfoTitle);
+  CopyText(ToWide(title), data.szInfoTitle);
   // The system takes an empty text as the wish to have no balloon at all.
-  const std::string_view shown = text.empty() ? " " : text;
-  CopyText(ToWide(CutCharacters(shown, kTextCharacters)), data.szInfo);
+  CopyText(text.empty() ? L" " : ToWide(text), data.szInfo);
   data.dwInfoFlags = FlagsOf(icon);
   data.uTimeout = static_cast<UINT>(seconds) * 1000;
   ::Shell_NotifyIconW(NIM_MODIFY, &data);

@@ -1,5 +1,6 @@
 #include "platform/windows/windows/menu_tree.h"
 
+#include "platform/marked_text.h"
 #include "platform/windows/wide_text.h"
 
 namespace platform::windows {
@@ -81,13 +82,9 @@ int MenuTree::PositionOf(HMENU menu, UINT id) {
 
 wchar_t MenuKey(const MenuEntry& entry) {
   if (entry.separator) return 0;
-  const std::wstring text = ToWide(entry.text);
-  for (std::size_t at = 0; at + 1 < text.size(); ++at) {
-    if (text[at] != L'&') continue;
-    if (text[at + 1] != L'&') return UpperCase(text[at + 1]);
-    ++at;  // a doubled "&" is an ampersand
-  }
-  return text.empty() ? L'\0' : UpperCase(text.front());
+  const MarkedText text = ReadMarks(entry.text);
+  const std::wstring key = ToWide(text.key_at < text.shown.size() ? text.Key() : text.shown);
+  return key.empty() ? L'\0' : UpperCase(key.front());
 }
 
 }  // namespace platform::windows
