@@ -7,6 +7,8 @@
 namespace settings {
 namespace {
 
+constexpr std::string_view kMark = "\xEF\xBB\xBF";
+
 enum class Order { kLowByteFirst, kHighByteFirst };
 
 unsigned Byte(std::string_view bytes, std::size_t at) {
@@ -50,13 +52,21 @@ bool IsUtf8(std::string_view bytes) {
          std::any_of(whole.begin(), whole.end(), [](char c) { return (c & 0x80) != 0; });
 }
 
-}  // namespace
-
-std::string DecodeTextFile(std::string_view bytes, platform::Locale& locale) {
-  if (bytes.starts_with("\xEF\xBB\xBF")) return platform::ValidUtf8(bytes.substr(3));
+std::string Decode(std::string_view bytes, platform::Locale& locale) {
+  if (bytes.starts_with(kMark)) return platform::ValidUtf8(bytes);
   if (bytes.starts_with("\xFF\xFE")) return FromUtf16(bytes.substr(2), Order::kLowByteFirst);
   if (bytes.starts_with("\xFE\xFF")) return FromUtf16(bytes.substr(2), Order::kHighByteFirst);
   return IsUtf8(bytes) ? platform::ValidUtf8(bytes) : locale.FromCodePage(bytes);
+}
+
+}  // namespace
+
+std::string DecodeTextFile(std::string_view bytes, platform::Locale& locale) {
+  const std::string text = Decode(bytes, locale);
+  std::string_view content = text;
+  // Joined files have several; one that stayed would be lost when the text is saved and read anew.
+  while (content.starts_with(kMark)) content.remove_prefix(kMark.size());
+  return std::string(content);
 }
 
 }  // namespace settings

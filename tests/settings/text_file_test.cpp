@@ -18,6 +18,8 @@ TEST(TextFile, IsReadInEveryEncodingThatAnEditorWrites) {
   const Row rows[] = {
       {"UTF-8 with mark", "\xEF\xBB\xBFGröße", "Größe"},
       {"a mark alone", "\xEF\xBB\xBF", ""},
+      {"two marks, as where files were joined", "\xEF\xBB\xBF\xEF\xBB\xBFGröße", "Größe"},
+      {"two marks of UTF-16", "\xFE\xFF\xFE\xFF\0a"s, "a"},
       {"UTF-16, low byte first", "\xFF\xFEG\0\xF6\0\xE5\x65"s, "Gö日"},
       {"UTF-16, high byte first", "\xFE\xFF\0G\0\xF6\x65\xE5"s, "Gö日"},
       {"UTF-16 beyond the first plane", "\xFF\xFE\x3D\xD8\x00\xDE"s, "😀"},
