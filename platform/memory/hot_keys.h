@@ -12,8 +12,8 @@ namespace platform::memory {
 
 class HotKeys final : public platform::HotKeys {
  public:
-  [[nodiscard]] std::unique_ptr<HotKey> Register(std::string_view name, const KeyCombination& keys,
-                                                 std::function<void()> pressed) override {
+  std::unique_ptr<HotKey> Register(std::string_view name, const KeyCombination& keys,
+                                   std::function<void()> pressed) override {
     const auto taken_here = [&](const Entry* entry) {
       return entry->keys == keys || entry->name == name;
     };

@@ -13,7 +13,7 @@ class SingleInstance : public platform::SingleInstance {
  public:
   explicit SingleInstance(Notebook& notebook) : notebook_(notebook) {}
 
-  [[nodiscard]] bool ClaimFirst(std::string_view name) override {
+  bool ClaimFirst(std::string_view name) override {
     // A mutex that cannot be made counts as first.
     return notebook_.Fails() || taken_.emplace(name).second;
   }
