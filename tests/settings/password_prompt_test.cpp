@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <string>
+#include <tuple>
 #include <utility>
 
 #include "settings/unit_SecurityForm.h"
@@ -22,14 +23,10 @@ class PasswordPrompt : public testing::Test, protected test::World {
 };
 
 TEST_F(PasswordPrompt, OpensWithTheLastLetterOfTheRightPassword) {
-  struct Row {
-    const char* why;
-    std::string password, typed;
-    bool opens;
-  };
+  using Row = std::tuple<const char*, std::string, std::string, bool>;
   std::string long_one;
   for (int letter = 0; letter < 200; ++letter) long_one += static_cast<char>('!' + letter % 90);
-  for (const Row& row : {
+  for (const auto& [why, password, typed, opens] : {
            Row{"as typed", "Secret 1", "Secret 1", true},
            Row{"small letters are others", "Secret", "secret", false},
            Row{"a beginning is not enough", "Secret", "Secre", false},
@@ -38,17 +35,17 @@ TEST_F(PasswordPrompt, OpensWithTheLastLetterOfTheRightPassword) {
            Row{"two hundred characters", long_one, long_one, true},
            Row{"no password: typing does not find it", "", "Quillmoth", false},
        }) {
-    SCOPED_TRACE(row.why);
-    store.Write(setting::zdP, row.password);
+    SCOPED_TRACE(why);
+    store.Write(setting::zdP, password);
     const auto refused = [&] {
       machine.windowing.PressEnter(kSecurityForm);
       machine.windowing.Press("CancelButton");
     };
-    EXPECT_EQ(Ask([&] {
-                Type(row.typed);
-                if (!row.opens) Then(refused);
+    EXPECT_EQ(Ask([&, text = typed, stays = !opens] {
+                Type(text);
+                if (stays) Then(refused);
               }),
-              row.opens);
+              opens);
     EXPECT_EQ(machine.message_loop.starved, 0);
   }
 }

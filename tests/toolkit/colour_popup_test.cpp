@@ -1,6 +1,7 @@
 #include "toolkit/colour_popup.h"
 
 #include <optional>
+#include <tuple>
 
 #include "tests/toolkit/form_fixture.h"
 #include "toolkit/controls/buttons.h"
@@ -33,12 +34,8 @@ class ColourPopupTest : public FormTest {
 };
 
 TEST_F(ColourPopupTest, GivesWhatTheUserConfirmsAndNothingElse) {
-  struct Row {
-    const char* why;
-    Colour present;
-    std::vector<std::function<void()>> doings;
-    std::optional<Colour> chosen;
-  };
+  using Doings = std::vector<std::function<void()>>;
+  using Row = std::tuple<const char*, Colour, Doings, std::optional<Colour>>;
   using platform::colour::kRed;
   using platform::colour::kWhite;
   const auto keys = [this](const std::vector<Key>& keys) {
@@ -56,7 +53,7 @@ TEST_F(ColourPopupTest, GivesWhatTheUserConfirmsAndNothingElse) {
   const auto more = press("btnMoreColors");
   const auto mix = [this] { machine.system_dialogs.Choose(Colour{0x123456}); };
   const auto cancel = [this] { machine.system_dialogs.Cancel(); };
-  for (const Row& row : {
+  for (const auto& [why, present, doings, chosen] : {
            Row{"arrows from it", kRed, {keys({Key::kRight, Key::kUp}), enter}, 0x40A0FF},
            Row{"not over the edges", kWhite, {keys({Key::kLeft, Key::kUp}), enter}, kWhite},
            Row{"nor over the others", 0x400040, {keys({Key::kRight, Key::kDown}), ok}, 0x400040},
@@ -72,8 +69,7 @@ TEST_F(ColourPopupTest, GivesWhatTheUserConfirmsAndNothingElse) {
            Row{"not mixed there: the popup stays", kRed, {more, cancel, ok}, kRed},
            Row{"the program ends under both", kRed, {more, [&] { app.Terminate(); }}, {}},
        }) {
-    SCOPED_TRACE(row.why);
-    EXPECT_EQ(Ask(row.present, row.doings), row.chosen);
+    EXPECT_EQ(Ask(present, doings), chosen) << why;
   }
   EXPECT_EQ(machine.message_loop.starved, 0);
 }

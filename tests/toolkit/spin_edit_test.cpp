@@ -68,15 +68,10 @@ TEST_F(SpinEditTest, TakesWhatIsTypedAndKeepsItInTheRange) {
 }
 
 TEST_F(SpinEditTest, StepsWithArrowsWheelAndPageKeys) {
-  struct Row {
-    const char* why;
-    std::int64_t from;
-    std::function<void()> move;
-    std::int64_t to;
-  };
+  using Row = std::tuple<const char*, std::int64_t, std::function<void()>, std::int64_t>;
   const auto key = [this](Key key) { return [this, key] { User().PressKey("spin", key); }; };
   const auto widest = [this] { spin.SetRange(kLowest, kHighest, 1000); };
-  for (const Row& row : {
+  for (const auto& [why, from, move, to] : {
            Row{"down", 5000, key(Key::kDown), 4000},
            Row{"to the end, not beyond", 9500, key(Key::kUp), 10000},
            Row{"at the end", 1000, key(Key::kDown), 1000},
@@ -92,11 +87,11 @@ TEST_F(SpinEditTest, StepsWithArrowsWheelAndPageKeys) {
            Row{"to the end of numbers", kHighest - 5, key(Key::kPageUp), kHighest},
            Row{"to their other end", kLowest + 5, key(Key::kDown), kLowest},
        }) {
-    SCOPED_TRACE(row.why);
-    spin.SetValue(row.from);
-    row.move();
-    EXPECT_EQ(spin.Value(), row.to);
-    EXPECT_EQ(Shown(), std::to_string(row.to));
+    SCOPED_TRACE(why);
+    spin.SetValue(from);
+    move();
+    EXPECT_EQ(spin.Value(), to);
+    EXPECT_EQ(Shown(), std::to_string(to));
   }
 }
 
