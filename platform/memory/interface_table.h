@@ -59,8 +59,7 @@ class InterfaceTable : public platform::InterfaceTable {
     }
     const auto count = static_cast<std::uint32_t>(rows.size());
     std::memcpy(buffer.data(), &count, sizeof count);
-    std::copy_n(std::as_bytes(std::span(rows)).begin(), needed - sizeof count,
-                buffer.begin() + sizeof count);
+    std::ranges::copy(std::as_bytes(std::span(rows)), buffer.begin() + sizeof count);
     return 0;
   }
   std::optional<bool> IsFilter(std::uint32_t index) override {

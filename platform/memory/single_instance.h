@@ -21,10 +21,6 @@ class SingleInstance : public platform::SingleInstance {
   // Ends the process, and with it the mutexes that it made.
   void EndProcess() { taken_.clear(); }
 
-  [[nodiscard]] bool Taken(std::string_view name) const {
-    return taken_.contains(std::string(name));
-  }
-
  private:
   Notebook& notebook_;
   std::set<std::string> taken_;  // the case of these names matters, unlike that of others

@@ -37,7 +37,6 @@ class SystemDialogs final : public platform::SystemDialogs {
   void Confirm() { End(Last().present); }
   void Cancel() { End({}); }
 
-  [[nodiscard]] bool Open() const { return !open_.empty(); }
   [[nodiscard]] bool Enabled() const { return enabled_; }
 
   // The requests for files so far.

@@ -6,20 +6,11 @@
 #include "platform/text.h"
 
 namespace platform::memory {
-namespace {
-
-std::size_t Characters(const std::string& text) {
-  return static_cast<std::size_t>(
-      std::count_if(text.begin(), text.end(), [](char c) { return (c & 0xC0) != 0x80; }));
-}
-
-}  // namespace
 
 WidgetState& Windowing::Find(std::string_view name) {
-  for (WidgetState* state : Widgets()) {
-    if (state->name == name) return *state;
-  }
-  throw std::out_of_range("no control is named " + std::string(name));
+  const auto found = std::ranges::find(Widgets(), name, &WidgetState::name);
+  if (found == Widgets().end()) throw std::out_of_range("no control is " + std::string(name));
+  return **found;
 }
 
 bool Windowing::Exists(std::string_view name) const {
@@ -27,11 +18,9 @@ bool Windowing::Exists(std::string_view name) const {
 }
 
 std::vector<WidgetState*> Windowing::TopWindows() const {
-  std::vector<WidgetState*> top;
-  for (WidgetState* state : Widgets()) {
-    if (state->kind == Kind::kTopWindow) top.push_back(state);
-  }
-  return top;
+  std::vector<WidgetState*> windows = Widgets();
+  std::erase_if(windows, [](const WidgetState* state) { return state->parent != nullptr; });
+  return windows;
 }
 
 std::string Windowing::Focused() const {
@@ -155,9 +144,7 @@ void Windowing::Drag(std::string_view window, Point to) {
 }
 
 void Windowing::ClickCloseBox(std::string_view window) {
-  if (WidgetState* state = Reach(window, Kind::kTopWindow)) {
-    state->top_events->OnClose();
-  }
+  if (WidgetState* state = Reach(window, Kind::kTopWindow)) state->top_events->OnClose();
 }
 
 void Windowing::ChangeDpi(std::string_view window, int dpi, const Rect& bounds) {
@@ -194,8 +181,8 @@ void Windowing::EnterLetter(WidgetState& edit, std::string_view letter) {
   const std::string before = edit.text;
   if (edit.all_selected) edit.text.clear();
   edit.all_selected = false;
-  const std::size_t limit = edit.max_length > 0 ? static_cast<std::size_t>(edit.max_length) : 0;
-  if (limit == 0 || Characters(edit.text) < limit) edit.text += letter;
+  const auto most = static_cast<std::size_t>(edit.max_length);
+  if (most == 0 || CutCharacters(edit.text, most - 1) == edit.text) edit.text += letter;
   if (edit.text != before) edit.events->OnChanged();
 }
 
