@@ -117,7 +117,7 @@ void T_frmBrisanto::ConnectHandlers() {
   }
 
   _TrayIcon.OnClick = [this] { _TrayIconClick(); };
-  _TrayIcon.OnMenu = [this](platform::Point screen) { _MainMenu.popup.Popup(screen, *this); };
+  _TrayIcon.OnMenu = [this](platform::Point screen) { _MainMenu.popup.Popup(screen); };
   _MainMenu.ConnectionInformations1->OnClick = [this] { statistics_windows_.OpenMachine(); };
   adapter_menus_.OpenStatistics = [this](const std::string& description) {
     statistics_windows_.OpenAdapter(description);

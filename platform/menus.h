@@ -51,7 +51,7 @@ class Menus {
   // Shows the menu with a corner at `at` (screen pixels) and waits until it closes
   // (TrackPopupMenuEx); timers go on meanwhile. The menu also closes when the user clicks elsewhere
   // or presses Esc. Returns the chosen entry's id, or 0 when none was chosen.
-  [[nodiscard]] virtual int Popup(TopWindow& owner, Point at, const std::vector<MenuEntry>& entries,
+  [[nodiscard]] virtual int Popup(Point at, const std::vector<MenuEntry>& entries,
                                   MenuPainter& painter) = 0;
 
   // Closes the open menu as if the user had pressed Esc. Does nothing when none is open.

@@ -68,7 +68,7 @@ class TopWindowEvents : public WidgetEvents {
   virtual void OnFocusMoved(const Rect& /*area*/) {}
   // The window came onto a monitor of another resolution, or the user changed the resolution.
   // `bounds` are the bounds at which the window keeps its look.
-  virtual void OnDpiChanged(int /*dpi*/, const Rect& /*bounds*/) {}
+  virtual void OnDpiChanged(const Rect& /*bounds*/) {}
   // The resolution or arrangement of the monitors changed.
   virtual void OnDisplayChange() {}
   // The machine came back from sleep.
@@ -87,7 +87,7 @@ class TopWindowEvents : public WidgetEvents {
 
 enum class Activation { kActivate, kLeaveFocus };
 
-class TopWindow : public Widget {
+class TopWindow : public virtual Widget {
  public:
   // Shows it; kLeaveFocus never takes the keyboard from the program that the user works in. A
   // dialog that was hidden and is activated wants the keyboard in a control; hidden again, it

@@ -3,6 +3,8 @@
 #pragma once
 
 #include <cstdint>
+#include <fstream>
+#include <iterator>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -22,6 +24,11 @@ namespace test {
 
 inline constexpr std::string_view kSettingsKey = "SOFTWARE\\Korvane\\Dravenlow\\Settings";
 inline constexpr std::string_view kAdapterDatas = "SOFTWARE\\Korvane\\Dravenlow\\AdapterDatas";
+
+inline std::string ReadFile(const std::string& path) {
+  std::ifstream file(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+}
 
 // A machine and what is stored on it.
 class Computer {

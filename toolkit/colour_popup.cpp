@@ -9,6 +9,7 @@
 #include "toolkit/controls/layout.h"
 #include "toolkit/controls/panel.h"
 #include "toolkit/forms/form.h"
+#include "toolkit/forms/placement.h"
 
 namespace toolkit {
 namespace {
@@ -145,10 +146,7 @@ void ColourPalette::OnMouseUp(const platform::MouseEvent& event) {
 
 void ColourPalette::OnDoubleClick(const platform::MouseEvent& event) {
   App().Guard([&] {
-    by_mouse_ = true;
-    const int cell = CellAt(event.at);
-    if (cell < 0) return;
-    Move(cell);
+    Move(CellAt(event.at));
     Fire(OnConfirm);
   });
 }
@@ -249,10 +247,7 @@ class ColourPopup final : public Form {
     const platform::Rect own = WindowBounds();
     int top = place.Bottom() + Scale(2);
     if (top + own.height > work.Bottom()) top = place.top - Scale(2) - own.height;
-    SetWindowBounds(
-        {std::clamp(place.left, work.left, std::max(work.left, work.Right() - own.width)),
-         std::clamp(top, work.top, std::max(work.top, work.Bottom() - own.height)), own.width,
-         own.height});
+    SetWindowBounds(Inside({place.left, top, own.width, own.height}, work));
   }
 
   platform::Colour colour_;

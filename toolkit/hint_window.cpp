@@ -179,8 +179,6 @@ void HintWindow::PointerOn(Control& control) {
   Begin();
 }
 
-void HintWindow::PointerOff(const Control& control) { Forget(control); }
-
 void HintWindow::TextChanged(const Control& control) {
   if (control_ != &control) return;
   text_ = control.Hint();

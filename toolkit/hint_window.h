@@ -28,8 +28,8 @@ class HintWindow {
 
   // Reports of the controls.
   void PointerOn(Control& control);
-  void PointerOff(const Control& control);
   void TextChanged(const Control& control);
+  // The pointer has left the control, or the control goes.
   void Forget(const Control& control);
 
   // Shows `text` beside `area` (screen pixels) without a control, under the same pauses; an empty

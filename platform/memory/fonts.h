@@ -10,7 +10,7 @@ namespace platform::memory {
 
 class Fonts final : public platform::Fonts {
  public:
-  [[nodiscard]] std::vector<std::string> Families() override {
+  std::vector<std::string> Families() override {
     return {"Arial", "Courier New", "MS Gothic", "Tahoma"};
   }
 };

@@ -12,23 +12,19 @@ namespace platform::memory {
 
 class HotKeys final : public platform::HotKeys {
  public:
-  [[nodiscard]] std::unique_ptr<HotKey> Register(std::string_view name, const KeyCombination& keys,
-                                                 std::function<void()> pressed) override {
-    const auto taken_here = [&](const Entry* entry) {
-      return entry->keys == keys || entry->name == name;
-    };
-    if (std::find(taken.begin(), taken.end(), keys) != taken.end() ||
-        std::any_of(entries_.begin(), entries_.end(), taken_here)) {
-      return nullptr;
-    }
+  std::unique_ptr<HotKey> Register(std::string_view name, const KeyCombination& keys,
+                                   std::function<void()> pressed) override {
+    const bool free = std::ranges::count(taken, keys) == 0 &&
+                      std::ranges::count(entries_, keys, &Entry::keys) == 0 &&
+                      std::ranges::count(entries_, name, &Entry::name) == 0;
+    if (!free) return nullptr;
     return std::make_unique<Entry>(entries_, name, keys, std::move(pressed));
   }
 
   // Acts as the user who presses the combination. Returns false when no hot key is registered for
   // it.
   bool Press(const KeyCombination& keys) {
-    const auto found = std::find_if(entries_.begin(), entries_.end(),
-                                    [&](const Entry* entry) { return entry->keys == keys; });
+    const auto found = std::ranges::find(entries_, keys, &Entry::keys);
     if (found == entries_.end()) return false;
     const std::function<void()> pressed = (*found)->pressed;  // it may destroy its hot key
     pressed();

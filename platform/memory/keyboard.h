@@ -17,7 +17,7 @@ struct KeyEvent {
 
 class Keyboard final : public platform::Keyboard {
  public:
-  [[nodiscard]] std::uint8_t State(std::uint8_t virtual_key) override {
+  std::uint8_t State(std::uint8_t virtual_key) override {
     ++state_questions;
     return states[virtual_key];
   }

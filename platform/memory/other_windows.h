@@ -8,6 +8,7 @@
 #include "platform/memory/clock.h"
 #include "platform/memory/windowing.h"
 #include "platform/other_windows.h"
+#include "platform/text.h"
 
 namespace platform::memory {
 
@@ -24,14 +25,43 @@ class OtherWindows final : public platform::OtherWindows {
   OtherWindows(Windowing& windowing, Clock& clock) : windowing_(windowing), clock_(clock) {}
 
   // Lists the program's own windows first.
-  [[nodiscard]] std::vector<WindowId> TopLevel() override;
-  [[nodiscard]] WindowTitle Title(WindowId window, std::size_t characters) override;
+  std::vector<WindowId> TopLevel() override {
+    std::vector<WindowId> ids;
+    for (const WidgetState* own : windowing_.TopWindows()) ids.push_back(IdOf(own));
+    for (const auto& [id, window] : windows_) ids.push_back(id);
+    return ids;
+  }
+  WindowTitle Title(WindowId window, std::size_t characters) override {
+    const WidgetState* own = Own(window);
+    if (own == nullptr && !windows_.contains(window)) return {};
+    const std::string& title = own == nullptr ? Find(window).title : own->text;
+    const std::string cut = CutCharacters(title, characters);
+    return {cut, cut.size() < title.size()};
+  }
   // Waiting for a window that hangs moves the clock on.
-  TitleOutcome SetTitle(WindowId window, std::string_view title, int patience_ms) override;
-  [[nodiscard]] WindowId Foreground() override { return foreground; }
+  TitleOutcome SetTitle(WindowId window, std::string_view title, int patience_ms) override {
+    ++sets;
+    if (WidgetState* own = Own(window)) {
+      own->text = title;
+      return TitleOutcome::kSet;
+    }
+    if (!windows_.contains(window) || Find(window).refuses) return TitleOutcome::kRefused;
+    Window& other = Find(window);
+    if (other.hangs) {
+      clock_.Advance(patience_ms);
+      return TitleOutcome::kNoAnswer;
+    }
+    other.title = title;
+    ++other.title_changes;
+    return TitleOutcome::kSet;
+  }
+  WindowId Foreground() override { return foreground; }
 
   // The functions that follow are for tests.
-  WindowId Add(std::string_view title);
+  WindowId Add(std::string_view title) {
+    windows_[++last_id_].title = title;
+    return last_id_;
+  }
   void Remove(WindowId window) { windows_.erase(window); }
   // Throws std::out_of_range when there is no such window.
   [[nodiscard]] Window& Find(WindowId window) { return windows_.at(window); }
@@ -41,6 +71,15 @@ class OtherWindows final : public platform::OtherWindows {
   int sets = 0;
 
  private:
+  static WindowId IdOf(const WidgetState* own) { return reinterpret_cast<WindowId>(own); }
+  // One of the program's own, or null.
+  WidgetState* Own(WindowId window) {
+    for (WidgetState* own : windowing_.TopWindows()) {
+      if (IdOf(own) == window) return own;
+    }
+    return nullptr;
+  }
+
   Windowing& windowing_;
   Clock& clock_;
   std::map<WindowId, Window> windows_;

@@ -1,169 +1,230 @@
 // The recording peers behind windows and controls.
 #pragma once
 
+#include <algorithm>
+#include <stdexcept>
+#include <utility>
+
 #include "platform/controls.h"
 #include "platform/memory/desktop.h"
 #include "platform/memory/widget_state.h"
 
 namespace platform::memory {
 
-// What all kinds have in common.
-class Peer {
+// What all kinds have in common; surfaces and texts have no more.
+class Peer : public virtual Widget, public WidgetState {
  public:
-  Peer(Desktop& desktop, WidgetState::Kind kind, std::string_view name, WidgetState* parent,
-       WidgetEvents& events);
-  virtual ~Peer() { desktop_.Remove(state_); }
+  Peer(Desktop& its_desktop, Kind its_kind, std::string_view its_name, WidgetState* on,
+       WidgetEvents& reports)
+      : desktop(its_desktop) {
+    if (!its_name.empty() && its_name == desktop.refused) throw std::runtime_error("refused");
+    kind = its_kind;
+    name = its_name;
+    parent = on;
+    events = &reports;
+    desktop.Add(*this);
+  }
+  ~Peer() override { desktop.Remove(*this); }
   Peer(const Peer&) = delete;
   Peer& operator=(const Peer&) = delete;
 
-  [[nodiscard]] WidgetState& State() { return state_; }
-  // Of a widget that this folder made.
-  [[nodiscard]] static WidgetState& StateOf(Widget& widget) {
-    return dynamic_cast<Peer&>(widget).State();
-  }
-
- protected:
-  [[nodiscard]] bool KeyboardIsIn() const {
-    return desktop_.Focused() != nullptr && desktop_.Focused()->IsIn(state_);
-  }
-
-  Desktop& desktop_;
-  WidgetState state_;
-};
-
-// Implements `Interface`, which is Widget or extends it.
-template <class Interface>
-class PeerOf : public Interface, public Peer {
- public:
-  using Peer::Peer;
-
-  void SetText(std::string_view text) override { state_.SetText(text); }
-  [[nodiscard]] std::string Text() const override { return state_.text; }
-  void SetBounds(const Rect& bounds) override { state_.SetBounds(bounds); }
-  [[nodiscard]] Rect Bounds() const override { return state_.bounds; }
-  [[nodiscard]] Size ClientSize() const override { return state_.ClientSize(); }
-  void SetVisible(bool visible) override { state_.visible = visible; }
-  [[nodiscard]] bool Visible() const override { return state_.visible; }
-  void SetEnabled(bool enabled) override { state_.enabled = enabled; }
-  [[nodiscard]] bool Enabled() const override { return state_.enabled; }
-  void SetFont(const FontStyle& font) override { state_.font = font; }
-  void SetColours(Colour text, Colour background) override {
-    state_.text_colour = text;
-    state_.background = background;
+  void SetText(std::string_view new_text) override { WidgetState::SetText(new_text); }
+  std::string Text() const override { return text; }
+  void SetBounds(const Rect& to) override { WidgetState::SetBounds(to); }
+  Rect Bounds() const override { return bounds; }
+  Size ClientSize() const override { return WidgetState::ClientSize(); }
+  void SetVisible(bool shown) override { visible = shown; }
+  bool Visible() const override { return visible; }
+  void SetEnabled(bool usable) override { enabled = usable; }
+  bool Enabled() const override { return enabled; }
+  void SetFont(const FontStyle& style) override { font = style; }
+  void SetColours(Colour of_text, Colour behind) override {
+    text_colour = of_text;
+    background = behind;
   }
   void Focus() override {
-    if (state_.Reachable()) desktop_.MoveFocus(&state_);
+    if (Reachable()) desktop.MoveFocus(this);
   }
-  [[nodiscard]] bool HasFocus() const override { return KeyboardIsIn(); }
+  bool HasFocus() const override {
+    return desktop.WithKeyboard() != nullptr && desktop.WithKeyboard()->IsIn(*this);
+  }
   void Invalidate() override {}
-  [[nodiscard]] Point ToScreen(Point client) const override { return state_.ToScreen(client); }
+  Point ToScreen(Point client) const override { return WidgetState::ToScreen(client); }
+
+ protected:
+  Desktop& desktop;
 };
 
-// Surfaces and texts.
-using WidgetPeer = PeerOf<Widget>;
-
-class ButtonPeer final : public PeerOf<Button> {
+class ButtonPeer final : public Button, public Peer {
  public:
-  using PeerOf::PeerOf;
-  void SetChecked(bool checked) override { state_.checked = checked; }
-  [[nodiscard]] bool Checked() const override { return state_.checked; }
-  void SetDefault(bool is_default) override { state_.is_default = is_default; }
-  void Press() override { desktop_.Click(state_); }
+  using Peer::Peer;
+  void SetChecked(bool ticked) override { checked = ticked; }
+  bool Checked() const override { return checked; }
+  void SetDefault(bool of_form) override { is_default = of_form; }
+  void Press() override { desktop.Click(*this); }
 };
 
-class EditPeer final : public PeerOf<Edit> {
+class EditPeer final : public Edit, public Peer {
  public:
-  using PeerOf::PeerOf;
-  void SetText(std::string_view text) override {
-    state_.all_selected = false;
-    PeerOf::SetText(text);
+  using Peer::Peer;
+  void SetText(std::string_view new_text) override {
+    all_selected = false;
+    Peer::SetText(new_text);
   }
-  void SetMaxLength(int characters) override { state_.max_length = characters; }
-  void SetReadOnly(bool read_only) override { state_.read_only = read_only; }
-  void SelectAll() override { state_.all_selected = true; }
+  void SetMaxLength(int characters) override { max_length = characters; }
+  void SetReadOnly(bool fixed) override { read_only = fixed; }
+  void SelectAll() override { all_selected = true; }
 };
 
-// What has rows, of which one is chosen.
-template <class Interface>
-class ChoicePeer : public PeerOf<Interface> {
+class ListPeer final : public ItemList, public Peer {
  public:
-  using PeerOf<Interface>::PeerOf;
-  void SetIndex(int index) override { this->state_.Select(index); }
-  [[nodiscard]] int Index() const override { return this->state_.index; }
-};
-
-class ListPeer final : public ChoicePeer<ItemList> {
- public:
-  using ChoicePeer::ChoicePeer;
-  void Replace(int first, int removed, std::span<const std::string> added) override;
-  [[nodiscard]] int Count() const override { return static_cast<int>(state_.items.size()); }
-  void SetChecked(int row, bool checked) override {
-    state_.row_checks.at(static_cast<std::size_t>(row)) = checked;
+  using Peer::Peer;
+  void Replace(int first, int removed, std::span<const std::string> added) override {
+    const auto rows = items.begin() + first;
+    items.insert(items.erase(rows, rows + removed), added.begin(), added.end());
+    const auto checks = row_checks.begin() + first;
+    row_checks.insert(row_checks.erase(checks, checks + removed), added.size(), false);
+    Select(-1);
   }
-  [[nodiscard]] bool Checked(int row) const override {
-    return row >= 0 && row < Count() && state_.row_checks[static_cast<std::size_t>(row)];
+  void SetIndex(int row) override { Select(row); }
+  int Index() const override { return index; }
+  void SetChecked(int row, bool ticked) override {
+    row_checks.at(static_cast<std::size_t>(row)) = ticked;
   }
+  bool Checked(int row) const override { return row_checks.at(static_cast<std::size_t>(row)); }
 };
 
-class TreePeer final : public ChoicePeer<Tree> {
+class TreePeer final : public Tree, public Peer {
  public:
-  using ChoicePeer::ChoicePeer;
-  void SetItems(std::span<const TreeItem> items) override;
+  using Peer::Peer;
+  void SetItems(std::span<const TreeItem> rows) override {
+    items.clear();
+    levels.clear();
+    for (const TreeItem& row : rows) {
+      items.push_back(row.text);
+      levels.push_back(row.level);
+    }
+    Select(-1);
+  }
+  void SetIndex(int row) override { Select(row); }
+  int Index() const override { return index; }
   void ExpandAll() override {}
 };
 
-class TabsPeer final : public ChoicePeer<Tabs> {
+class TabsPeer final : public Tabs, public Peer {
  public:
-  using ChoicePeer::ChoicePeer;
-  void SetItems(std::span<const std::string> captions) override;
-  [[nodiscard]] Rect PageArea() const override;
-  [[nodiscard]] Colour PageColour() const override { return colour::kButtonFace; }
-};
-
-class TrackBarPeer final : public PeerOf<TrackBar> {
- public:
-  using PeerOf::PeerOf;
-  void SetRange(int lowest, int highest, int page) override {
-    state_.page = page;
-    state_.SetRange(lowest, highest);
-    SetPosition(state_.position);
+  using Peer::Peer;
+  void SetItems(std::span<const std::string> captions) override {
+    items.assign(captions.begin(), captions.end());
+    Select(index);
+    if (index < 0) Select(0);
   }
-  void SetPosition(int position) override { state_.SetPosition(position); }
-  [[nodiscard]] int Position() const override { return state_.position; }
+  void SetIndex(int tab) override { Select(tab); }
+  int Index() const override { return index; }
+  Rect PageArea() const override {
+    constexpr int kTabHeight = 20;
+    constexpr int kEdge = 4;
+    const Size size = ClientSize();
+    return {kEdge, kTabHeight + kEdge, std::max(0, size.width - 2 * kEdge),
+            std::max(0, size.height - kTabHeight - 2 * kEdge)};
+  }
+  Colour PageColour() const override { return colour::kButtonFace; }
 };
 
-class ProgressBarPeer final : public PeerOf<ProgressBar> {
+class TrackBarPeer final : public TrackBar, public Peer {
  public:
-  using PeerOf::PeerOf;
-  void SetRange(int lowest, int highest) override { state_.SetRange(lowest, highest); }
-  void SetPosition(int position) override { state_.SetPosition(position); }
+  using Peer::Peer;
+  void SetRange(int low, int high, int step) override {
+    page = step;
+    WidgetState::SetRange(low, high);
+    SetPosition(position);
+  }
+  void SetPosition(int at) override { WidgetState::SetPosition(at); }
+  int Position() const override { return position; }
 };
 
-class TopWindowPeer final : public PeerOf<TopWindow> {
+class ProgressBarPeer final : public ProgressBar, public Peer {
  public:
-  TopWindowPeer(Desktop& desktop, const TopWindowParams& params, WidgetState* owner,
-                TopWindowEvents& events);
-  void SetBounds(const Rect& bounds) override;
-  void SetVisible(bool visible) override;
-  void Focus() override;
-  void Show(Activation activation) override;
-  void SetTopmost(bool topmost) override { state_.topmost = topmost; }
-  [[nodiscard]] bool Topmost() const override { return state_.topmost; }
-  void SetSizeLimits(Size smallest, Size largest) override;
-  void SetClientSize(Size client) override;
-  void SetScroll(const Scroll& scroll) override;
-  void BeginDrag() override { ++state_.drags; }
-  [[nodiscard]] bool Dragging() const override { return state_.dragging; }
-  void SetAlpha(std::uint8_t alpha) override;
-  void SetShape(std::span<const Rect> parts) override { Shape({{parts.begin(), parts.end()}}); }
-  void ResetShape() override { Shape(std::nullopt); }
-  [[nodiscard]] bool UnderPointer() const override { return desktop_.UnderPointer(state_); }
+  using Peer::Peer;
+  void SetRange(int low, int high) override { WidgetState::SetRange(low, high); }
+  void SetPosition(int at) override { WidgetState::SetPosition(at); }
+};
+
+class TopWindowPeer final : public TopWindow, public Peer {
+ public:
+  TopWindowPeer(Desktop& its_desktop, const TopWindowParams& how, TopWindowEvents& reports)
+      : Peer(its_desktop, Kind::kTopWindow, how.name, nullptr, reports) {
+    text = how.caption;
+    params = how;
+    top_events = &reports;
+    window = this;
+    dpi = desktop.TheScreen().Monitors().front().dpi;
+    if (params.frame == Frame::kHint) return;
+    // One pixel around a bare window; a border and a small caption on the others.
+    client_origin = params.bare_popup ? Point{1, 1} : Point{3, 22};
+    frame = params.bare_popup ? Size{2, 2} : Size{6, 25};
+  }
+
+  void SetBounds(const Rect& to) override {
+    Rect placed = to;
+    if (params.frame == Frame::kSizeableTool && largest != Size{}) {
+      placed.width = std::clamp(placed.width, smallest.width, largest.width);
+      placed.height = std::clamp(placed.height, smallest.height, largest.height);
+    }
+    if (placed == bounds) return;
+    Peer::SetBounds(placed);
+    top_events->OnPlaced();
+  }
+  void SetVisible(bool shown) override {
+    if (!shown && HasFocus()) desktop.MoveFocus(nullptr);
+    Peer::SetVisible(shown);
+  }
+  void Focus() override {
+    if (!TakesDialogKeys()) {
+      Peer::Focus();
+    } else if (!HasFocus()) {
+      top_events->OnFocusWanted();
+    }
+  }
+  void Show(Activation activation) override {
+    shown_with = activation;
+    if (!std::exchange(visible, true) && activation == Activation::kActivate) Focus();
+  }
+  void SetTopmost(bool above) override { topmost = above; }
+  bool Topmost() const override { return topmost; }
+  void SetSizeLimits(Size least, Size most) override {
+    smallest = least;
+    largest = most;
+  }
+  void SetClientSize(Size client) override {
+    SetBounds({bounds.left, bounds.top, client.width + frame.width, client.height + frame.height});
+  }
+  void SetScroll(const Scroll& to) override {
+    constexpr int kBar = 17;
+    const auto bar = [](const Scroll& of) { return of.content > of.page ? kBar : 0; };
+    frame.width += bar(to) - bar(scroll);
+    scroll = to;
+  }
+  void BeginDrag() override { ++drags; }
+  bool Dragging() const override { return dragging; }
+  void SetAlpha(std::uint8_t opacity) override {
+    if (!desktop.layered_windows) return;
+    alpha = opacity;
+    alphas.push_back(opacity);
+  }
+  void SetShape(std::span<const Rect> parts) override { Cut({{parts.begin(), parts.end()}}); }
+  void ResetShape() override { Cut(std::nullopt); }
+  bool UnderPointer() const override { return desktop.UnderPointer(*this); }
   void ShowKeyMarks() override {}
-  void Raise() override { ++state_.raised; }
-  [[nodiscard]] int Dpi() const override { return state_.dpi; }
+  void Raise() override { ++raised; }
+  int Dpi() const override { return dpi; }
 
  private:
-  void Shape(std::optional<std::vector<Rect>> shape);
+  void Cut(std::optional<std::vector<Rect>> to) {
+    if (shape == to) return;
+    shape = std::move(to);
+    ++shape_changes;
+  }
 };
 
 }  // namespace platform::memory

@@ -14,7 +14,7 @@ class Session final : public platform::Session {
     calls.push_back((wanted == Privilege::kEnable ? "enable " : "disable ") + std::string(name));
     return true;
   }
-  [[nodiscard]] std::uint32_t EndSession(std::uint32_t flags) override {
+  std::uint32_t EndSession(std::uint32_t flags) override {
     calls.push_back("exit " + std::to_string(flags));
     return exit_result;
   }

@@ -13,17 +13,13 @@ class SingleInstance : public platform::SingleInstance {
  public:
   explicit SingleInstance(Notebook& notebook) : notebook_(notebook) {}
 
-  [[nodiscard]] bool ClaimFirst(std::string_view name) override {
+  bool ClaimFirst(std::string_view name) override {
     // A mutex that cannot be made counts as first.
     return notebook_.Fails() || taken_.emplace(name).second;
   }
 
   // Ends the process, and with it the mutexes that it made.
   void EndProcess() { taken_.clear(); }
-
-  [[nodiscard]] bool Taken(std::string_view name) const {
-    return taken_.contains(std::string(name));
-  }
 
  private:
   Notebook& notebook_;

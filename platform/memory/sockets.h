@@ -12,11 +12,25 @@ class Sockets : public platform::Sockets {
  public:
   explicit Sockets(Notebook& notebook) : notebook_(notebook) {}
 
-  bool Start(std::uint16_t version) override;
-  [[nodiscard]] std::string HostName() override;
-  [[nodiscard]] std::optional<std::vector<std::string>> HostAddresses(
-      std::string_view host) override;
-  void Cleanup() override;
+  bool Start(std::uint16_t version) override {
+    ++starts;
+    last_version = version;
+    if (notebook_.Fails()) return false;
+    ++running_;
+    return true;
+  }
+  std::string HostName() override { return Answers() ? host_name : ""; }
+  std::optional<std::vector<std::string>> HostAddresses(std::string_view host) override {
+    ++look_ups;
+    if (during_look_up) during_look_up();
+    // An empty name is the machine itself.
+    const bool known = host.empty() || host == host_name;
+    return Answers() && known ? addresses : std::nullopt;
+  }
+  void Cleanup() override {
+    ++cleanups;
+    if (running_ > 0) --running_;
+  }
 
   // The answers that a test sets. When `addresses` is nullopt, the look-up fails.
   std::string host_name = "workstation";
@@ -31,6 +45,8 @@ class Sockets : public platform::Sockets {
   std::uint16_t last_version = 0;
 
  private:
+  bool Answers() { return !notebook_.Fails() && running_ > 0; }
+
   Notebook& notebook_;
   int running_ = 0;  // successful starts that were not taken back
 };

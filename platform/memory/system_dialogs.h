@@ -2,6 +2,7 @@
 #pragma once
 
 #include <optional>
+#include <stdexcept>
 #include <string>
 #include <utility>
 #include <variant>
@@ -9,6 +10,7 @@
 
 #include "platform/memory/message_loop.h"
 #include "platform/system_dialogs.h"
+#include "platform/top_window.h"
 
 namespace platform::memory {
 
@@ -18,9 +20,13 @@ class SystemDialogs final : public platform::SystemDialogs {
  public:
   explicit SystemDialogs(MessageLoop& loop) : loop_(loop) {}
 
-  [[nodiscard]] std::optional<std::string> OpenFile(const OpenFileRequest& request,
-                                                    TopWindow& owner) override;
-  [[nodiscard]] std::optional<Colour> ChooseColour(Colour present, TopWindow& owner) override;
+  std::optional<std::string> OpenFile(const OpenFileRequest& request, TopWindow& owner) override {
+    file_requests.push_back(request);
+    return Run<std::string>(0, owner);
+  }
+  std::optional<Colour> ChooseColour(Colour present, TopWindow& owner) override {
+    return Run<Colour>(present, owner);
+  }
   void SetEnabled(bool enabled) override { enabled_ = enabled; }
 
   // Act as the user in the dialog that was opened last; while it is disabled they do nothing. They
@@ -31,7 +37,6 @@ class SystemDialogs final : public platform::SystemDialogs {
   void Confirm() { End(Last().present); }
   void Cancel() { End({}); }
 
-  [[nodiscard]] bool Open() const { return !open_.empty(); }
   [[nodiscard]] bool Enabled() const { return enabled_; }
 
   // The requests for files so far.
@@ -45,9 +50,28 @@ class SystemDialogs final : public platform::SystemDialogs {
     Answer answer;
   };
 
-  void Run(Dialog& dialog, TopWindow& owner);
-  void End(const Answer& answer);
-  [[nodiscard]] Dialog& Last();
+  template <class Kind>
+  std::optional<Kind> Run(Colour present, TopWindow& owner) {
+    Dialog dialog{present, false, {}};
+    const bool was_enabled = owner.Enabled();
+    owner.SetEnabled(false);
+    open_.push_back(&dialog);
+    if (!loop_.RunUntil([&dialog] { return dialog.ended; })) dialog.answer = {};
+    open_.pop_back();
+    if (was_enabled) owner.SetEnabled(true);
+    const auto* answer = std::get_if<Kind>(&dialog.answer);
+    return answer != nullptr ? std::optional(*answer) : std::nullopt;
+  }
+  void End(const Answer& answer) {
+    Dialog& dialog = Last();
+    if (!enabled_ || dialog.ended) return;
+    dialog.answer = answer;
+    dialog.ended = true;
+  }
+  Dialog& Last() {
+    if (open_.empty()) throw std::logic_error("no dialog of the system is open");
+    return *open_.back();
+  }
 
   MessageLoop& loop_;
   bool enabled_ = true;

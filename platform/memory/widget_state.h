@@ -16,6 +16,8 @@ namespace platform::memory {
 // The state of a native control. Tests hold a reference to it, which is valid as long as the
 // control lives.
 struct WidgetState {
+  virtual ~WidgetState() = default;
+
   enum class Kind {
     kTopWindow,
     kSurface,
@@ -42,8 +44,6 @@ struct WidgetState {
   Colour background = colour::kButtonFace;
   WidgetEvents* events = nullptr;
   WidgetState* parent = nullptr;  // null for a top window
-  // How often a repaint was asked for, and how often the text changed, since a test last reset the
-  // counts.
   int text_changes = 0;
 
   // Texts.
@@ -77,7 +77,6 @@ struct WidgetState {
   TopWindowParams params;
   TopWindowEvents* top_events = nullptr;
   TopWindow* window = nullptr;
-  WidgetState* owner = nullptr;  // null for the application
   bool topmost = false;
   Scroll scroll;
   Size smallest;
@@ -115,25 +114,58 @@ struct WidgetState {
   }
   void SetPosition(int at) { position = std::clamp(at, lowest, highest); }
   // Returns the place on the screen of a point of the client area.
-  [[nodiscard]] Point ToScreen(Point client) const;
+  [[nodiscard]] Point ToScreen(Point client) const {
+    const Point origin = parent == nullptr ? Point{} : parent->ToScreen({0, 0});
+    return {origin.x + bounds.left + client_origin.x + client.x,
+            origin.y + bounds.top + client_origin.y + client.y};
+  }
   // Returns whether the widget and all its parents are visible.
-  [[nodiscard]] bool OnScreen() const;
+  [[nodiscard]] bool OnScreen() const {
+    return visible && (parent == nullptr || parent->OnScreen());
+  }
   // Returns whether the user can use the widget: it and all its parents are visible and enabled.
-  [[nodiscard]] bool Reachable() const;
+  [[nodiscard]] bool Reachable() const {
+    return visible && enabled && (parent == nullptr || parent->Reachable());
+  }
   // Returns whether the widget is `other` or lies on it.
-  [[nodiscard]] bool IsIn(const WidgetState& other) const;
+  [[nodiscard]] bool IsIn(const WidgetState& other) const {
+    return this == &other || (parent != nullptr && parent->IsIn(other));
+  }
+  [[nodiscard]] const WidgetState& Top() const { return parent == nullptr ? *this : parent->Top(); }
+  // Returns whether the window that it is has the keys of a dialog.
+  [[nodiscard]] bool TakesDialogKeys() const {
+    return params.frame != Frame::kHint && !params.bare_popup;
+  }
   [[nodiscard]] bool IsButton(ButtonKind wanted) const {
     return kind == Kind::kButton && button == wanted;
   }
   [[nodiscard]] bool IsPush() const {
     return IsButton(ButtonKind::kPush) || IsButton(ButtonKind::kPainted);
   }
-  [[nodiscard]] bool TakesKeyboard() const;
+  [[nodiscard]] bool TakesKeyboard() const {
+    return kind != Kind::kTopWindow && kind != Kind::kSurface && kind != Kind::kText &&
+           kind != Kind::kProgressBar && !IsButton(ButtonKind::kGroup);
+  }
   // The rows of a drop-down list are also its text.
-  void Select(int row);
+  void Select(int row) {
+    index = row >= 0 && row < static_cast<int>(items.size()) ? row : -1;
+    const bool drops_down = list == ListKind::kCombo || list == ListKind::kFontCombo;
+    if (kind != Kind::kList || !drops_down) return;
+    text = index < 0 ? std::string() : items[static_cast<std::size_t>(index)];
+  }
   // Returns the client area as the user sees it, without the children. Of the system's own controls
   // it shows only the background.
-  [[nodiscard]] std::unique_ptr<Raster> Paint(Screen& screen) const;
+  [[nodiscard]] std::unique_ptr<Raster> Paint(Screen& screen) const {
+    auto picture = std::make_unique<Raster>(ClientSize(), screen);
+    picture->Fill(picture->Area(), background);
+    if (kind == Kind::kText) {
+      picture->Text(picture->Area(), text, font, text_colour, text_style.align);
+    } else if (kind == Kind::kTopWindow || kind == Kind::kSurface ||
+               IsButton(ButtonKind::kPainted)) {
+      events->OnPaint(*picture);
+    }
+    return picture;
+  }
 };
 
 }  // namespace platform::memory

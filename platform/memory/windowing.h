@@ -11,68 +11,60 @@
 
 namespace platform::memory {
 
-class Windowing final : public platform::Windowing {
-  Desktop desktop_;  // first: what tests set is in it
-
+class Windowing final : public platform::Windowing, public Desktop {
  public:
-  explicit Windowing(Screen& screen) : desktop_(screen) {}
+  using Desktop::Desktop;
 
   void SetApplicationTitle(std::string_view title) override { application_title = title; }
   void HideTaskbarButton() override { taskbar_button = false; }
-  [[nodiscard]] std::unique_ptr<TopWindow> CreateTopWindow(const TopWindowParams& params,
-                                                           TopWindow* owner,
-                                                           TopWindowEvents& events) override {
-    return std::make_unique<TopWindowPeer>(desktop_, params,
-                                           owner ? &Peer::StateOf(*owner) : nullptr, events);
+  std::unique_ptr<TopWindow> CreateTopWindow(const TopWindowParams& params, TopWindow* /*owner*/,
+                                             TopWindowEvents& events) override {
+    return std::make_unique<TopWindowPeer>(*this, params, events);
   }
-  [[nodiscard]] std::unique_ptr<Widget> CreateSurface(Widget& parent, std::string_view name,
-                                                      WidgetEvents& events) override {
-    return Make<WidgetPeer>(Kind::kSurface, parent, name, events);
+  std::unique_ptr<Widget> CreateSurface(Widget& parent, std::string_view name,
+                                        WidgetEvents& events) override {
+    return Make<Peer>(Kind::kSurface, parent, name, events);
   }
-  [[nodiscard]] std::unique_ptr<Widget> CreateText(Widget& parent, std::string_view name,
-                                                   const TextStyle& style,
-                                                   WidgetEvents& events) override {
-    auto text = Make<WidgetPeer>(Kind::kText, parent, name, events);
-    text->State().text_style = style;
-    if (style.border == Border::kSunken) text->State().Sink(1);
+  std::unique_ptr<Widget> CreateText(Widget& parent, std::string_view name, const TextStyle& style,
+                                     WidgetEvents& events) override {
+    auto text = Make<Peer>(Kind::kText, parent, name, events);
+    text->text_style = style;
+    if (style.border == Border::kSunken) text->Sink(1);
     return text;
   }
-  [[nodiscard]] std::unique_ptr<Button> CreateButton(Widget& parent, std::string_view name,
-                                                     ButtonKind kind,
-                                                     WidgetEvents& events) override {
+  std::unique_ptr<Button> CreateButton(Widget& parent, std::string_view name, ButtonKind kind,
+                                       WidgetEvents& events) override {
     auto button = Make<ButtonPeer>(Kind::kButton, parent, name, events);
-    button->State().button = kind;
+    button->button = kind;
     return button;
   }
-  [[nodiscard]] std::unique_ptr<Edit> CreateEdit(Widget& parent, std::string_view name,
-                                                 const EditStyle& style,
-                                                 WidgetEvents& events) override {
+  std::unique_ptr<Edit> CreateEdit(Widget& parent, std::string_view name, const EditStyle& style,
+                                   WidgetEvents& events) override {
     auto edit = Make<EditPeer>(Kind::kEdit, parent, name, events);
-    edit->State().edit = style;
-    if (style.border == Border::kSunken) edit->State().Sink(2);
+    edit->edit = style;
+    if (style.border == Border::kSunken) edit->Sink(2);
     return edit;
   }
-  [[nodiscard]] std::unique_ptr<ItemList> CreateList(Widget& parent, std::string_view name,
-                                                     ListKind kind, WidgetEvents& events) override {
+  std::unique_ptr<ItemList> CreateList(Widget& parent, std::string_view name, ListKind kind,
+                                       WidgetEvents& events) override {
     auto list = Make<ListPeer>(Kind::kList, parent, name, events);
-    list->State().list = kind;
+    list->list = kind;
     return list;
   }
-  [[nodiscard]] std::unique_ptr<Tree> CreateTree(Widget& parent, std::string_view name,
-                                                 WidgetEvents& events) override {
+  std::unique_ptr<Tree> CreateTree(Widget& parent, std::string_view name,
+                                   WidgetEvents& events) override {
     return Make<TreePeer>(Kind::kTree, parent, name, events);
   }
-  [[nodiscard]] std::unique_ptr<Tabs> CreateTabs(Widget& parent, std::string_view name,
-                                                 WidgetEvents& events) override {
+  std::unique_ptr<Tabs> CreateTabs(Widget& parent, std::string_view name,
+                                   WidgetEvents& events) override {
     return Make<TabsPeer>(Kind::kTabs, parent, name, events);
   }
-  [[nodiscard]] std::unique_ptr<TrackBar> CreateTrackBar(Widget& parent, std::string_view name,
-                                                         WidgetEvents& events) override {
+  std::unique_ptr<TrackBar> CreateTrackBar(Widget& parent, std::string_view name,
+                                           WidgetEvents& events) override {
     return Make<TrackBarPeer>(Kind::kTrackBar, parent, name, events);
   }
-  [[nodiscard]] std::unique_ptr<ProgressBar> CreateProgressBar(Widget& parent,
-                                                               std::string_view name,
-                                                               WidgetEvents& events) override {
+  std::unique_ptr<ProgressBar> CreateProgressBar(Widget& parent, std::string_view name,
+                                                 WidgetEvents& events) override {
     return Make<ProgressBarPeer>(Kind::kProgressBar, parent, name, events);
   }
 
@@ -142,14 +134,8 @@ class Windowing final : public platform::Windowing {
   void Tell(void (TopWindowEvents::*report)());
 
   // Visible or not, in order of creation.
-  [[nodiscard]] std::vector<const WidgetState*> TopWindows() const;
-  // Null when it is none of the program's.
-  [[nodiscard]] WidgetState* OwnTopWindow(WindowId id);
+  [[nodiscard]] std::vector<WidgetState*> TopWindows() const;
 
-  // Whether the system has layered windows.
-  bool& layered_windows = desktop_.layered_windows;
-  // The name of the window or control that the system refuses to make, with an exception.
-  std::string& refused = desktop_.refused;
   std::string application_title;
   bool taskbar_button = true;
 
@@ -159,7 +145,8 @@ class Windowing final : public platform::Windowing {
   template <class PeerKind>
   std::unique_ptr<PeerKind> Make(Kind kind, Widget& parent, std::string_view name,
                                  WidgetEvents& events) {
-    return std::make_unique<PeerKind>(desktop_, kind, name, &Peer::StateOf(parent), events);
+    return std::make_unique<PeerKind>(*this, kind, name, &dynamic_cast<WidgetState&>(parent),
+                                      events);
   }
   // The control, when the user can reach it and it is of this kind; else null.
   [[nodiscard]] WidgetState* Reach(std::string_view name);

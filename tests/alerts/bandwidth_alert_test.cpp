@@ -83,7 +83,7 @@ TEST_F(BandwidthAlert, AMenuThatIsOpenGoesBeforeItsWindowComes) {
     shown = machine.windowing.Exists(kForm);
     machine.windowing.Press("OkBtn");
   });
-  menu.Popup({5, 6}, owner);
+  menu.Popup({5, 6});
   EXPECT_TRUE(shown);
 }
 

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 #include "tests/world.h"
 
 namespace {
@@ -26,59 +28,55 @@ TEST_F(ErrorLog, GrowsByOneLineAMessage) {
 }
 
 TEST_F(ErrorLog, KeepsTheLinesOfAFileThatIsThere) {
-  struct Row {
-    const char* why;
-    std::string bytes, after;
-  };
-  const Row rows[] = {
-      {"empty", "", "new\r\n"},
-      {"no line end at the end", "a\r\nb", "a\r\nb\r\nnew\r\n"},
-      {"other line ends", "a\nb\rc\n", "a\r\nb\r\nc\r\nnew\r\n"},
-      {"an encoding of its own", "\xFC\r\n", "\xC3\xBC\r\nnew\r\n"},
-  };
-  for (const Row& row : rows) {
-    SCOPED_TRACE(row.why);
-    memo = {"what the memo held before"};
-    machine.files.PutBesideProgram("err.log", row.bytes);
-    engine::ErrorLog(machine.files, machine.locale, memo).Append("new");
-    EXPECT_EQ(File(), row.after);
+  memo = {"what the memo held before"};
+  using Row = std::tuple<const char*, std::string, std::string>;
+  for (const auto& [why, bytes, after] : {
+           Row{"empty", "", "new\r\n"},
+           Row{"no line end at the end", "a\r\nb", "a\r\nb\r\nnew\r\n"},
+           Row{"other line ends", "a\nb\rc\n", "a\r\nb\r\nc\r\nnew\r\n"},
+           Row{"an encoding of its own", "\xFC\r\n", "\xC3\xBC\r\nnew\r\n"},
+           Row{"lines that the user took out stay out", "b", "b\r\nnew\r\n"},
+       }) {
+    machine.files.PutBesideProgram("err.log", bytes);
+    log.Append("new");
+    EXPECT_EQ(File(), after) << why;
   }
+  machine.files.Remove(folder + "err.log");
+  log.Append("d");
+  EXPECT_EQ(File(), "b\r\nnew\r\nd\r\n") << "a deleted one comes back";
+  machine.files.PutBesideProgram("err.log", "a\r\n");
+  machine.notebook.FailCall(1);
+  log.Append("b");
+  EXPECT_EQ(File(), "a\r\n") << "one that cannot be read is not overwritten";
+  log.Append("c");
+  EXPECT_EQ(File(), "a\r\nb\r\nc\r\n");
 }
 
 TEST_F(ErrorLog, WhatCannotBeWrittenIsKeptForLater) {
-  const std::string full = std::string(engine::kErrorLogLimit - 2, 'x') + "\r\n";
-  struct Row {
-    const char* why;
-    std::string before;  // none: no file
-    std::string refuses, after;
-  };
-  const Row rows[] = {
-      {"the folder", "", folder, "a\r\nb\r\nc\r\n"},
-      {"a file held", "old\r\n", folder + "err.log", "old\r\na\r\nb\r\nc\r\n"},
-      {"the full log cannot be put aside", full, folder + "err.old.log", "a\r\nb\r\nc\r\n"},
-  };
-  for (const Row& row : rows) {
-    for (const bool wrote_before : {false, true}) {
-      SCOPED_TRACE(std::string(row.why) + (wrote_before ? ", written in this run" : ""));
+  const std::string full = std::string(engine::kErrorLogLimit - 2, 'x');
+  using Row = std::tuple<const char*, std::string, std::string, std::string>;
+  for (const auto& [why, before, refuses, after] : {
+           Row{"the folder", "", folder, "a\r\nb\r\nc\r\n"},
+           Row{"a file held", "old", folder + "err.log", "old\r\na\r\nb\r\nc\r\n"},
+           Row{"the full log is not put aside", full, folder + "err.old.log", "a\r\nb\r\nc\r\n"},
+       }) {
+    for (const bool in_this_run : {false, true}) {
+      SCOPED_TRACE(std::string(why) + (in_this_run ? ", written in this run" : ""));
       memo.clear();
       engine::ErrorLog fresh(machine.files, machine.locale, memo);
       machine.files.Remove(folder + "err.log");
-      if (wrote_before && row.before.size() > 2) {
-        fresh.Append(std::string_view(row.before).substr(0, row.before.size() - 2));
-      } else if (!row.before.empty()) {
-        machine.files.PutBesideProgram("err.log", row.before);
-      }
-      const auto refuse = [&](bool refuses) {
-        machine.files.SetHeld(row.refuses, refuses);
-        machine.files.SetWritable(row.refuses, !refuses);
-      };
-      refuse(true);
+      const std::string there = before.empty() ? "(none)" : before + "\r\n";
+      if (in_this_run && !before.empty()) fresh.Append(before);
+      if (!in_this_run && !before.empty()) machine.files.PutBesideProgram("err.log", there);
+      machine.files.SetHeld(refuses, true);
+      machine.files.SetWritable(refuses, false);
       fresh.Append("a");
       fresh.Append("b");
-      EXPECT_EQ(File(), row.before.empty() ? "(none)" : row.before);
-      refuse(false);
+      EXPECT_EQ(File(), there);
+      machine.files.SetHeld(refuses, false);
+      machine.files.SetWritable(refuses, true);
       fresh.Append("c");
-      EXPECT_EQ(File(), row.after);
+      EXPECT_EQ(File(), after);
     }
   }
 }
@@ -95,17 +93,6 @@ TEST_F(ErrorLog, OfWhatCannotBeWrittenTheFirstIsKept) {
   EXPECT_TRUE(File().ends_with("x\r\nnew\r\n"));
 }
 
-TEST_F(ErrorLog, LinesThatTheUserTookOutStayOutAndADeletedFileComesBack) {
-  log.Append("a");
-  log.Append("b");
-  machine.files.PutBesideProgram("err.log", "b");
-  log.Append("c");
-  EXPECT_EQ(File(), "b\r\nc\r\n");
-  machine.files.Remove(folder + "err.log");
-  log.Append("d");
-  EXPECT_EQ(File(), "b\r\nc\r\nd\r\n");
-}
-
 TEST_F(ErrorLog, AFullLogIsPutAsideAndANewOneBegins) {
   const std::string full = std::string(engine::kErrorLogLimit - 7, 'x') + "\r\n";
   machine.files.PutBesideProgram("err.log", full);
@@ -119,15 +106,6 @@ TEST_F(ErrorLog, AFullLogIsPutAsideAndANewOneBegins) {
   log.Append("newer");
   EXPECT_EQ(File(), "newer\r\n");
   EXPECT_EQ(File("err.old.log"), larger) << "in the place of the one before";
-}
-
-TEST_F(ErrorLog, AFileThatCannotBeReadIsNotOverwritten) {
-  machine.files.PutBesideProgram("err.log", "a\r\n");
-  machine.notebook.FailCall(1);
-  log.Append("b");
-  EXPECT_EQ(File(), "a\r\n");
-  log.Append("c");
-  EXPECT_EQ(File(), "a\r\nb\r\nc\r\n");
 }
 
 }  // namespace

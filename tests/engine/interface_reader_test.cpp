@@ -3,16 +3,17 @@
 #include <gtest/gtest.h>
 
 #include <cstring>
+#include <utility>
 
 #include "engine/adapter.h"
-#include "platform/memory/machine.h"
+#include "tests/world.h"
 
 namespace {
 
 using platform::InterfaceRow;
 using platform::memory::MakeRow;
 
-class InterfaceReader : public testing::Test {
+class InterfaceReader : public testing::Test, protected test::Computer {
  protected:
   // Descriptions of the table, one after the other.
   std::string Read(engine::NewRows new_rows = engine::NewRows::kAskAbout) {
@@ -24,7 +25,6 @@ class InterfaceReader : public testing::Test {
     return names;
   }
 
-  platform::memory::Machine machine;
   platform::memory::InterfaceTable& source = machine.interface_table;
   engine::InterfaceReader reader{source};
   std::vector<InterfaceRow> table;
@@ -34,10 +34,7 @@ TEST_F(InterfaceReader, WhateverFailsLeavesTheTableAsItWas) {
   source.AddRow(MakeRow("a"));
   source.AddRow(MakeRow("b"));
   ASSERT_EQ(Read(), "a b ");
-  struct Row {
-    const char* why;
-    std::function<void()> happens;
-  };
+  using Row = std::pair<const char*, std::function<void()>>;
   const Row rows[] = {
       {"the size cannot be asked for", [&] { source.FailRead(1, 5); }},
       {"the size call claims success", [&] { source.FailRead(1, 0); }},
@@ -49,10 +46,10 @@ TEST_F(InterfaceReader, WhateverFailsLeavesTheTableAsItWas) {
       {"the table is empty", [&] { source.rows.clear(); }},
       {"there are only filters", [&] { source.filters.insert(source.rows[0].dwIndex = 99); }},
   };
-  for (const Row& row : rows) {
+  for (const auto& [why, happens] : rows) {
     source.rows = {MakeRow("x")};
-    row.happens();
-    EXPECT_EQ(Read(), "a b ") << row.why;
+    happens();
+    EXPECT_EQ(Read(), "a b ") << why;
   }
   source.rows = {MakeRow("x"), MakeRow("y"), MakeRow("z")};
   source.after_size_read = [&] { source.RemoveRow(0); };

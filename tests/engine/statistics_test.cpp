@@ -2,176 +2,127 @@
 
 #include <gtest/gtest.h>
 
+#include "engine/periods.h"
 #include "settings/value_texts.h"
 #include "tests/world.h"
 
 namespace {
 
-using engine::AdapterCounters;
 using platform::EncodeDate;
 namespace setting = settings::setting;
 
-AdapterCounters Counters(std::uint32_t in, std::uint32_t out, std::uint32_t max_in,
-                         std::uint32_t max_out) {
-  AdapterCounters counters;
-  counters.DeltaIn = in;
-  counters.DeltaOut = out;
-  counters.MaxIn = max_in;
-  counters.MaxOut = max_out;
-  return counters;
-}
-
-// Totals stand at 1000 when a scan of 5 bytes comes: 1005 is "added", 0 "rolled over, not added",
-// 5 "rolled over and added".
-class Periods : public testing::Test {
+class Periods : public testing::Test, protected test::Adapters {
  protected:
-  void Prepare(platform::DateTime day, int week, int month) {
-    world.store.Write(setting::CurrentDay, day);
-    world.store.Write(setting::CurrentWeek, week);
-    world.store.Write(setting::CurrentMonth, month);
-    world.store.Write(setting::BAShow, true);
+  // No period is over; all totals stand at 1000.
+  void Prepare(platform::DateTime today) {
+    store.Write(setting::CurrentDay, today);
+    store.Write(setting::CurrentWeek, engine::WeekOfYear(today));
+    store.Write(setting::CurrentMonth, platform::DecodeDate(today).month);
+    store.Write(setting::BAShow, true);
     for (const std::string period : {"Day", "Week", "Month"}) {
       for (const std::string value : {"TotalDL", "TotalUL", "MaxDL", "MaxUL"}) {
-        world.Set("Current" + period + value, "1000");
-        world.SetAdapter("cardCurrent" + period + value, "1000");
+        Set("Current" + period + value, "1000");
+        SetAdapter("cardCurrent" + period + value, "1000");
       }
     }
   }
+  platform::DateTime Marker(const std::string& period) {
+    return period == "Day" ? store.ReadDate("CurrentDay", 0)
+                           : static_cast<double>(store.ReadInteger("Current" + period, 0));
+  }
+  // A scan of 5 bytes.
   void UpdateAdapter(platform::DateTime today) {
-    world.statistics.UpdateAdapterStatistics("Card", Counters(5, 5, 5, 5), today);
+    engine::AdapterCounters counters;
+    counters.DeltaIn = counters.DeltaOut = counters.MaxIn = counters.MaxOut = 5;
+    statistics.UpdateAdapterStatistics("Card", counters, today);
   }
   void UpdateMachine(platform::DateTime today) {
-    world.statistics.UpdateMachinePeriods({5, 5, 5, 5}, today);
+    statistics.UpdateMachinePeriods({5, 5, 5, 5}, today);
   }
-
-  test::Adapters world;
 };
 
 constexpr platform::DateTime kWednesday = 45427;  // 2024-05-15, in week 20
 
-TEST_F(Periods, TheDayRollsOverOnAnyOtherMarker) {
+TEST_F(Periods, RollOverWhenTheirMarkerIsOldAndTheirStartDayHasCome) {
+  // The totals: 1005 is "added", 0 "rolled over, not added", 5 "rolled over and added". The markers
+  // before and after are the day, the number of the week or that of the month.
   struct Row {
     const char* why;
-    platform::DateTime marker;
-    const char* total;
-  };
-  static constexpr Row kRows[] = {
-      {"today", kWednesday, "1005"},
-      {"yesterday", kWednesday - 1, "0"},
-      {"tomorrow: the clock was set back", kWednesday + 1, "0"},
-      {"today with a time of day is another date", kWednesday + 0.5, "0"},
-  };
-  for (const Row& row : kRows) {
-    SCOPED_TRACE(row.why);
-    Prepare(row.marker, 20, 5);
-    UpdateAdapter(kWednesday);
-    EXPECT_EQ(world.StoredOfAdapter("cardCurrentDayTotalDL"), row.total);
-    EXPECT_EQ(world.store.ReadDate("CurrentDay", 0), row.marker) << "adapters write no marker";
-    UpdateMachine(kWednesday);
-    EXPECT_EQ(world.StoredText("CurrentDayTotalDL"), row.total);
-    EXPECT_EQ(world.store.ReadDate("CurrentDay", 0), kWednesday);
-    EXPECT_EQ(world.store.Read(setting::BAShow), row.marker == kWednesday);
-    EXPECT_EQ(world.StoredText("CurrentWeekTotalDL"), "1005") << "week and month go on";
-    EXPECT_EQ(world.StoredText("CurrentMonthTotalUL"), "1005");
-  }
-  world.machine.registry.Remove(test::kSettingsKey, "CurrentDay");
-  UpdateMachine(kWednesday);
-  EXPECT_EQ(world.StoredText("CurrentDayTotalDL"), "0") << "a missing marker is yesterday's";
-}
-
-TEST_F(Periods, TheWeekWaitsForItsStartDayOneWeekLong) {
-  struct Row {
-    const char* why;
-    platform::DateTime today;
-    int marker, starts_on;
-    const char* machine;
-    const char* adapter;
-    int marker_after;
+    std::string period;
+    platform::DateTime today, marker;
+    int starts_on;
+    const char *machine, *adapter;
+    platform::DateTime marker_after;
   };
   const auto may = [](int day) { return EncodeDate(2024, 5, day); };
-  // 2024-05-13 is the Monday of week 20.
-  const Row rows[] = {
-      {"the same week", may(15), 20, 0, "1005", "1005", 20},
-      {"Monday, no start day", may(13), 19, 0, "0", "0", 20},
-      {"Monday, start on Monday", may(13), 19, 2, "0", "0", 20},
-      {"Monday, start on Tuesday", may(13), 19, 3, "1005", "1005", 19},
-      {"Saturday, start on Saturday", may(18), 19, 7, "0", "0", 20},
-      {"Sunday is day 1 again", may(19), 19, 7, "1005", "1005", 19},
-      {"a day that never comes", may(18), 19, 8, "1005", "1005", 19},
-      {"until two weeks have passed", may(18), 18, 8, "5", "5", 20},
-      {"two weeks, from the start day on adapters do not add", may(15), 18, 0, "5", "0", 20},
-      {"two weeks, before the start day", may(13), 18, 3, "5", "5", 20},
-      {"set back one week", may(15), 21, 0, "5", "0", 20},
-      {"turn of the year: no waiting", EncodeDate(2024, 1, 1), 52, 7, "5", "5", 1},
-  };
-  for (const Row& row : rows) {
-    SCOPED_TRACE(row.why);
-    Prepare(row.today, row.marker, platform::DecodeDate(row.today).month);
-    world.store.Write(setting::wPerStartsOn, row.starts_on);
+  const auto new_year = EncodeDate(2024, 1, 1);
+  for (const Row& row : {
+           Row{"today", "Day", may(15), kWednesday, 0, "1005", "1005", kWednesday},
+           Row{"yesterday", "Day", may(15), kWednesday - 1, 0, "0", "0", kWednesday},
+           Row{"the clock was set back", "Day", may(15), kWednesday + 1, 0, "0", "0", kWednesday},
+           Row{"today with a time", "Day", may(15), kWednesday + 0.5, 0, "0", "0", kWednesday},
+           // 2024-05-13 is the Monday of week 20.
+           Row{"Monday, no start day", "Week", may(13), 19, 0, "0", "0", 20},
+           Row{"Monday, start on Monday", "Week", may(13), 19, 2, "0", "0", 20},
+           Row{"Monday, start on Tuesday", "Week", may(13), 19, 3, "1005", "1005", 19},
+           Row{"Saturday, start on Saturday", "Week", may(18), 19, 7, "0", "0", 20},
+           Row{"Sunday is day 1 again", "Week", may(19), 19, 7, "1005", "1005", 19},
+           Row{"a day that never comes", "Week", may(18), 19, 8, "1005", "1005", 19},
+           Row{"until two weeks have passed", "Week", may(18), 18, 8, "5", "5", 20},
+           Row{"two weeks, adapters do not add", "Week", may(15), 18, 0, "5", "0", 20},
+           Row{"two weeks, before the start day", "Week", may(13), 18, 3, "5", "5", 20},
+           Row{"set back one week", "Week", may(15), 21, 0, "5", "0", 20},
+           Row{"turn of the year: no waiting", "Week", new_year, 52, 7, "5", "5", 1},
+           Row{"the 1st", "Month", may(1), 4, 0, "0", "0", 5},
+           Row{"the 14th, start on the 15th", "Month", may(14), 4, 14, "1005", "1005", 4},
+           Row{"the 15th", "Month", may(15), 4, 14, "0", "0", 5},
+           Row{"set back, before the start day", "Month", may(15), 6, 20, "1005", "1005", 6},
+           Row{"set back two months", "Month", may(15), 7, 20, "5", "5", 5},
+           Row{"two months on", "Month", may(15), 3, 20, "5", "5", 5},
+           Row{"turn of the year: no waiting", "Month", new_year, 12, 14, "5", "5", 1},
+           Row{"back to December", "Month", EncodeDate(2024, 12, 31), 1, 14, "5", "0", 12},
+       }) {
+    SCOPED_TRACE(row.period + ": " + row.why);
+    Prepare(row.today);
+    if (row.period == "Day") {
+      store.Write(setting::CurrentDay, row.marker);
+    } else {
+      store.WriteInteger("Current" + row.period, static_cast<int>(row.marker));
+      store.WriteInteger(row.period == "Week" ? "wPerStartsOn" : "mPerStartsOn", row.starts_on);
+    }
     UpdateAdapter(row.today);
+    EXPECT_EQ(Marker(row.period), row.marker) << "adapters write none";
     UpdateMachine(row.today);
-    EXPECT_EQ(world.StoredText("CurrentWeekTotalDL"), row.machine);
-    EXPECT_EQ(world.StoredText("CurrentWeekMaxUL"),
-              row.machine == std::string("1005") ? "1000" : row.machine);
-    EXPECT_EQ(world.StoredOfAdapter("cardCurrentWeekTotalDL"), row.adapter);
-    EXPECT_EQ(world.store.Read(setting::CurrentWeek), row.marker_after);
-    EXPECT_EQ(world.store.Read(setting::BAShow), row.machine == std::string("1005"));
+    EXPECT_EQ(Marker(row.period), row.marker_after);
+    for (const std::string period : {"Day", "Week", "Month"}) {
+      const bool goes_on = period != row.period || row.machine == std::string("1005");
+      EXPECT_EQ(StoredOfAdapter("cardCurrent" + period + "TotalDL"),
+                period != row.period ? "1005" : row.adapter);
+      EXPECT_EQ(StoredText("Current" + period + "TotalUL"), goes_on ? "1005" : row.machine);
+      EXPECT_EQ(StoredText("Current" + period + "MaxUL"), goes_on ? "1000" : row.machine);
+    }
+    EXPECT_EQ(store.Read(setting::BAShow), row.machine == std::string("1005"));
   }
 }
 
-TEST_F(Periods, TheMonthWaitsForItsStartDayInBothDirections) {
-  struct Row {
-    const char* why;
-    platform::DateTime today;
-    int marker, starts_on;
-    const char* machine;
-    const char* adapter;
-    int marker_after;
-  };
-  const auto may = [](int day) { return EncodeDate(2024, 5, day); };
-  const Row rows[] = {
-      {"the same month", may(15), 5, 0, "1005", "1005", 5},
-      {"the 1st", may(1), 4, 0, "0", "0", 5},
-      {"the 14th, start on the 15th", may(14), 4, 14, "1005", "1005", 4},
-      {"the 15th", may(15), 4, 14, "0", "0", 5},
-      {"set back one month, before the start day", may(15), 6, 20, "1005", "1005", 6},
-      {"set back two months", may(15), 7, 20, "5", "5", 5},
-      {"two months on, before the start day", may(15), 3, 20, "5", "5", 5},
-      {"turn of the year: no waiting", EncodeDate(2025, 1, 1), 12, 14, "5", "5", 1},
-      {"back from January to December", EncodeDate(2024, 12, 31), 1, 14, "5", "0", 12},
-  };
-  for (const Row& row : rows) {
-    SCOPED_TRACE(row.why);
-    Prepare(row.today, 20, row.marker);
-    world.store.Write(setting::mPerStartsOn, row.starts_on);
-    UpdateAdapter(row.today);
-    UpdateMachine(row.today);
-    EXPECT_EQ(world.StoredText("CurrentMonthTotalUL"), row.machine);
-    EXPECT_EQ(world.StoredOfAdapter("cardCurrentMonthTotalUL"), row.adapter);
-    EXPECT_EQ(world.store.Read(setting::CurrentMonth), row.marker_after);
-  }
+TEST_F(Periods, WhatIsNotStoredYet) {
+  Prepare(kWednesday);
+  machine.registry.Remove(test::kSettingsKey, "CurrentDay");
+  UpdateMachine(kWednesday);
+  EXPECT_EQ(StoredText("CurrentDayTotalDL"), "0") << "a missing marker is yesterday's";
+  EXPECT_FALSE(machine.registry.Exists(test::kSettingsKey, "wPerStartsOn")) << "no period waits";
+  store.Write(setting::CurrentMonth, 4);
+  UpdateMachine(kWednesday);
+  EXPECT_EQ(Stored("mPerStartsOn"), 0U) << "the scan's own default, not the preferences'";
 }
 
-TEST_F(Periods, StartDaysAreReadOnlyWhileAPeriodWaits) {
-  Prepare(kWednesday, 20, 5);
-  UpdateAdapter(kWednesday);
+TEST_F(Periods, ACounterAtItsEndWrapsAndStaysReadable) {
+  Prepare(kWednesday);
+  Set("CurrentDayTotalDL", "9223372036854775803");
   UpdateMachine(kWednesday);
-  EXPECT_FALSE(world.machine.registry.Exists(test::kSettingsKey, "wPerStartsOn"));
-  EXPECT_FALSE(world.machine.registry.Exists(test::kSettingsKey, "mPerStartsOn"));
-  Prepare(kWednesday, 20, 4);
+  EXPECT_EQ(StoredText("CurrentDayTotalDL"), "-9223372036854775808");
   UpdateMachine(kWednesday);
-  EXPECT_EQ(world.machine.registry.Dword(test::kSettingsKey, "mPerStartsOn"), 0U)
-      << "the scan's own default, not the preferences'";
-}
-
-TEST(Statistics, ACounterAtItsEndWrapsAndStaysReadable) {
-  test::Adapters world;
-  world.store.Write(setting::CurrentDay, kWednesday);
-  world.Set("CurrentDayTotalDL", "9223372036854775807");
-  world.statistics.UpdateMachinePeriods({1, 1, 1, 1}, kWednesday);
-  EXPECT_EQ(world.StoredText("CurrentDayTotalDL"), "-9223372036854775808");
-  world.statistics.UpdateMachinePeriods({1, 1, 1, 1}, kWednesday);
-  EXPECT_EQ(world.StoredText("CurrentDayTotalDL"), "9223372036854775807");
+  EXPECT_EQ(StoredText("CurrentDayTotalDL"), "9223372036854775803");
 }
 
 }  // namespace

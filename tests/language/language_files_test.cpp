@@ -4,16 +4,17 @@
 #include <algorithm>
 #include <cctype>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
+#include <map>
 #include <set>
 #include <string>
 #include <vector>
 
 #include "language/language_file.h"
 #include "language/texts.h"
+#include "platform/marked_text.h"
 #include "platform/memory/locale.h"
 #include "platform/text.h"
+#include "tests/world.h"
 
 namespace {
 
@@ -22,66 +23,29 @@ using language::TextEntry;
 constexpr const char* kLanguages[] = {"English", "German",  "French",
                                       "Spanish", "Turkish", "Japanese"};
 
-std::string ReadFile(const std::string& path) {
-  std::ifstream file(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-}
-
-language::LanguageFile Parsed(const std::string& language) {
-  platform::memory::Locale locale;
-  return language::LanguageFile(ReadFile(SOURCE_FOLDER "/assets/Languages/" + language + ".lng"),
-                                locale);
-}
-
-// The letters that the text marks with "&".
-std::string MarkedKeys(std::string_view text) {
-  std::string keys;
-  for (std::size_t at = 0; at + 1 < text.size(); ++at) {
-    if (text[at] != '&') continue;
-    const auto letter = static_cast<unsigned char>(text[++at]);
-    if (letter != '&') keys += letter < 0x80 ? static_cast<char>(std::toupper(letter)) : '?';
-  }
-  return keys;
-}
-
 TEST(LanguageFiles, HaveEveryTextWithItsPlaceHoldersAndMarkedKeys) {
+  platform::memory::Locale locale;
   for (const std::string language : kLanguages) {
-    const language::LanguageFile file = Parsed(language);
-    std::set<char> marked;
+    const std::string path = SOURCE_FOLDER "/assets/Languages/" + language + ".lng";
+    const language::LanguageFile file(test::ReadFile(path), locale);
+    std::set<std::string> marked;
     for (const TextEntry& entry : language::TextCatalogue()) {
       SCOPED_TRACE(language + " [" + std::string(entry.section) + "] " + std::string(entry.key));
-      if (entry.key.empty()) {
-        marked.clear();
-        continue;
-      }
-      const auto text = file.Find(entry.section, entry.key);
-      if (!text) {
-        ADD_FAILURE() << "not translated";
-        continue;
-      }
-      EXPECT_EQ(language::PlaceHolders(*text), language::PlaceHolders(entry.english));
-      EXPECT_EQ(text->empty(), entry.english.empty());
-      const std::string keys = MarkedKeys(*text);
-      EXPECT_EQ(keys.size(), MarkedKeys(entry.english).size()) << *text;
-      for (const char key : keys) {
-        EXPECT_TRUE(std::isalnum(key)) << *text << ": not on every keyboard";
-        EXPECT_TRUE(marked.insert(key).second) << *text << ": the key stands on this page already";
-      }
+      if (entry.key.empty()) marked.clear();
+      if (entry.key.empty()) continue;
+      const auto found = file.Find(entry.section, entry.key);
+      EXPECT_TRUE(found) << "not translated";
+      const std::string_view text = found.value_or(entry.english);
+      EXPECT_EQ(language::PlaceHolders(text), language::PlaceHolders(entry.english));
+      EXPECT_EQ(text.empty(), entry.english.empty());
+      const std::string key = platform::ReadMarks(text).Key();
+      EXPECT_EQ(key.empty(), platform::ReadMarks(entry.english).Key().empty()) << text;
+      if (key.empty()) continue;
+      EXPECT_TRUE(key.size() == 1 && std::isalnum(key[0])) << text << ": not on every keyboard";
+      EXPECT_TRUE(marked.insert(platform::AsciiLower(key)).second)
+          << text << ": the key stands on this page already";
     }
   }
-}
-
-std::string FolderOfHelp(const std::string& language) {
-  return SOURCE_FOLDER "/assets/Help/" + (language == "English" ? "" : language + '/');
-}
-
-std::string HelpPage(const std::string& language) {
-  return ReadFile(FolderOfHelp(language) + "index.html");
-}
-
-std::vector<std::string> Sorted(std::vector<std::string> values) {
-  std::sort(values.begin(), values.end());
-  return values;
 }
 
 // The values of an attribute, in their order.
@@ -96,19 +60,24 @@ std::vector<std::string> Values(const std::string& page, const std::string& attr
 }
 
 TEST(HelpPages, HaveTheSectionsOfTheEnglishOneAndNoDeadLink) {
-  const std::string english = HelpPage("English");
+  std::map<std::string, std::vector<std::string>> english;
   for (const std::string language : kLanguages) {
     SCOPED_TRACE(language);
-    const std::string page = HelpPage(language);
+    const std::string folder =
+        SOURCE_FOLDER "/assets/Help/" + (language == "English" ? "" : language + '/');
+    const std::string page = test::ReadFile(folder + "index.html");
     const std::vector<std::string> sections = Values(page, "id");
-    EXPECT_EQ(sections, Values(english, "id"));
-    EXPECT_EQ(Sorted(Values(page, "data-text")), Sorted(Values(english, "data-text")));
+    std::vector<std::string> texts = Values(page, "data-text");
+    std::ranges::sort(texts);
+    EXPECT_EQ(sections, english.try_emplace("sections", sections).first->second);
+    EXPECT_EQ(texts, english.try_emplace("texts", texts).first->second);
     for (const char* attribute : {"href", "src"}) {
-      EXPECT_EQ(Values(page, attribute).size(), Values(english, attribute).size());
-      for (const std::string& target : Values(page, attribute)) {
+      const std::vector<std::string> targets = Values(page, attribute);
+      EXPECT_EQ(targets.size(), english.try_emplace(attribute, targets).first->second.size());
+      for (const std::string& target : targets) {
         const bool there = target.starts_with('#')
-                               ? std::count(sections.begin(), sections.end(), target.substr(1)) == 1
-                               : std::filesystem::is_regular_file(FolderOfHelp(language) + target);
+                               ? std::ranges::count(sections, target.substr(1)) == 1
+                               : std::filesystem::is_regular_file(folder + target);
         EXPECT_TRUE(there) << target;
       }
     }
@@ -118,9 +87,8 @@ TEST(HelpPages, HaveTheSectionsOfTheEnglishOneAndNoDeadLink) {
 TEST(TextCatalogue, NamesEveryTextOnceWhateverTheCase) {
   std::set<std::string> names;
   for (const TextEntry& entry : language::TextCatalogue()) {
-    if (entry.key.empty()) continue;
     const std::string name = std::string(entry.section) + ' ' + std::string(entry.key);
-    EXPECT_TRUE(names.insert(platform::AsciiLower(name)).second) << name;
+    EXPECT_TRUE(entry.key.empty() || names.insert(platform::AsciiLower(name)).second) << name;
   }
 }
 

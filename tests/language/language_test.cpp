@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <tuple>
 
 #include "tests/world.h"
 
@@ -37,55 +38,36 @@ TEST_F(Language, AFileChangesTheTextsThatItHasAndNothingElse) {
   EXPECT_EQ(language.Text(text::AddTitles::Title), "Window Titles") << "the same key elsewhere";
 }
 
-TEST_F(Language, ReadsWhatUsersWriteIntoIniFiles) {
-  struct Row {
-    const char* why;
-    std::string bytes, title;
-  };
+TEST_F(Language, ReadsWhatUsersWriteIntoIniFilesAndADamagedOneIsEnglish) {
   const std::string longest(1000, 'A');
-  const Row rows[] = {
-      {"plain", "[Security]\nTitle=A\n", "A"},
-      {"either case", "[SECURITY]\ntitle=A\n", "A"},
-      {"blanks everywhere", " [ Security ] \n\t Title \t=  A b  \n", "A b"},
-      {"quotes keep blanks", "[Security]\nTitle=\" A \"\n", " A "},
-      {"quotes around quotes", "[Security]\nTitle=\"\"A\" or \"B\"\"\n", "\"A\" or \"B\""},
-      {"one quote is a character", "[Security]\nTitle=\"\n", "\""},
-      {"one pair of either goes", "[Security]\nTitle='\"A\"'\n", "\"A\""},
-      {"two kinds are no pair", "[Security]\nTitle='A\"\n", "'A\""},
-      {"equals signs in the text", "[Security]\nTitle=A=B\n", "A=B"},
-      {"a comment", "[Security]\n;Title=A\nTitle=B ; no comment\n", "B ; no comment"},
-      {"a text that is empty on purpose", "[Security]\nTitle=\n", ""},
-      {"the first of two counts", "[Security]\nTitle=A\nTitle=B\n", "A"},
-      {"a section goes on", "[Security]\nx=1\n[Other]\nTitle=B\n[Security]\nTitle=A\n", "A"},
-      {"a key before any section", "Title=A\n", "Security"},
-      {"a section without its end is none", "[Security]\nx=1\n[Security\nTitle=A\n", "Security"},
-      {"no equals sign", "[Security]\nTitle\n", "Security"},
-      {"the longest text", "[Security]\nTitle=" + longest, longest},
-      {"a byte more fits nowhere", "[Security]\nTitle=" + longest + "x", "Security"},
-      {"a line that was cut leaves the others", "[Security]\nTitle=Größe\nSt3=Kennw\xC3"s, "Größe"},
-  };
-  for (const Row& row : rows) {
-    Put("x", row.bytes);
-    language.Choose("x");
-    EXPECT_EQ(Title(), row.title) << row.why;
-  }
-}
-
-TEST_F(Language, ADamagedFileIsEnglish) {
-  struct Row {
-    const char* why;
-    std::string bytes;
-  };
   const std::string good = "[Security]\nTitle=Größe\n";
-  const Row rows[] = {
-      {"4 MiB", good + std::string(4U << 20, ' ')},
-      {"binary", "MZ\x90\0\3\0\0\0"s + good},
-      {"cut in the middle of the text", "[Security]\nSt1=ö\nTitle=Gr\xC3"s},
-  };
-  for (const Row& row : rows) {
-    Put("x", row.bytes);
+  using Row = std::tuple<const char*, std::string, std::string_view>;
+  for (const auto& [why, bytes, title] : {
+           Row{"either case", "[SECURITY]\ntitle=A\n", "A"},
+           Row{"blanks everywhere", " [ Security ] \n\t Title \t=  A b  \n", "A b"},
+           Row{"quotes keep blanks", "[Security]\nTitle=\" A \"\n", " A "},
+           Row{"quotes around quotes", "[Security]\nTitle=\"\"A\" or \"B\"\"\n", "\"A\" or \"B\""},
+           Row{"one quote is a character", "[Security]\nTitle=\"\n", "\""},
+           Row{"one pair of either goes", "[Security]\nTitle='\"A\"'\n", "\"A\""},
+           Row{"two kinds are no pair", "[Security]\nTitle='A\"\n", "'A\""},
+           Row{"equals signs in the text", "[Security]\nTitle=A=B\n", "A=B"},
+           Row{"a comment", "[Security]\n;Title=A\nTitle=B ; none\n", "B ; none"},
+           Row{"a text that is empty on purpose", "[Security]\nTitle=\n", ""},
+           Row{"the first of two counts", "[Security]\nTitle=A\nTitle=B\n", "A"},
+           Row{"it goes on", "[Security]\nx=1\n[Other]\nTitle=B\n[Security]\nTitle=A\n", "A"},
+           Row{"a key before any section", "Title=A\n", kEnglishTitle},
+           Row{"a section without end", "[Security]\nx=1\n[Security\nTitle=A\n", kEnglishTitle},
+           Row{"no equals sign", "[Security]\nTitle\n", kEnglishTitle},
+           Row{"the longest text", "[Security]\nTitle=" + longest, longest},
+           Row{"a byte more", "[Security]\nTitle=" + longest + "x", kEnglishTitle},
+           Row{"another line was cut", good + "St3=Kennw\xC3"s, "Größe"},
+           Row{"4 MiB", good + std::string(4U << 20, ' '), kEnglishTitle},
+           Row{"binary", "MZ\x90\0\3\0\0\0"s + good, kEnglishTitle},
+           Row{"cut in the text", "[Security]\nSt1=ö\nTitle=Gr\xC3"s, kEnglishTitle},
+       }) {
+    Put("x", bytes);
     language.Choose("x");
-    EXPECT_EQ(Title(), kEnglishTitle) << row.why;
+    EXPECT_EQ(Title(), title) << why;
   }
   language.Choose("missing");
   EXPECT_EQ(Title(), kEnglishTitle);
@@ -129,22 +111,17 @@ TEST_F(Language, ChoosingALanguageAgainReadsItsEditedFile) {
 }
 
 TEST_F(Language, AFormatKeepsItsPlaceHolders) {
-  struct Row {
-    const char* why;
-    const char* file;
-    const char* caption;
-  };
-  static constexpr Row kRows[] = {
-      {"translated", "seit %s", "seit 1.2.2024 12:00"},
-      {"lost", "seit", "Data transferred since 1.2.2024 12:00"},
-      {"one too many", "seit %s und %s", "Data transferred since 1.2.2024 12:00"},
-      {"other signs are no place-holders", "%d %s %", "%d 1.2.2024 12:00 %"},
-  };
-  for (const Row& row : kRows) {
-    SCOPED_TRACE(row.why);
-    Put("x", std::string("[BandwidthStatisticsForm]\nB8=") + row.file + "\n[Security]\nTitle=%s");
+  using Row = std::tuple<const char*, std::string, const char*>;
+  for (const auto& [why, file, caption] : {
+           Row{"translated", "seit %s", "seit 1.2.2024 12:00"},
+           Row{"lost", "seit", "Data transferred since 1.2.2024 12:00"},
+           Row{"one too many", "seit %s und %s", "Data transferred since 1.2.2024 12:00"},
+           Row{"other signs are no place-holders", "%d %s %", "%d 1.2.2024 12:00 %"},
+       }) {
+    SCOPED_TRACE(why);
+    Put("x", "[BandwidthStatisticsForm]\nB8=" + file + "\n[Security]\nTitle=%s");
     language.Choose("x");
-    EXPECT_EQ(language.Text(text::BandwidthStatisticsForm::B8, {"1.2.2024 12:00"}), row.caption);
+    EXPECT_EQ(language.Text(text::BandwidthStatisticsForm::B8, {"1.2.2024 12:00"}), caption);
     EXPECT_EQ(Title(), kEnglishTitle) << "where English has none";
   }
   EXPECT_EQ(language::Filled("%s-%s", {"%s", "b"}), "%s-b") << "a value is no format";

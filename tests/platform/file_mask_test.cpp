@@ -2,33 +2,29 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 namespace platform {
 namespace {
 
 TEST(FileMask, TheWholeNameMustFit) {
-  struct Row {
-    const char* name;
-    const char* mask;
-    bool matches;
-  };
-  static constexpr Row kRows[] = {
-      {"German.lng", "*.lng", true},
-      {"GERMAN.LNG", "*.lng", true},
-      {"German.lng2", "*.lng", false},
-      {".lng", "*.lng", true},
-      {"lng", "*.lng", false},
-      {"a.lng.lng", "*.lng", true},
-      {"abcabd", "*ab?d*", false},
-      {"abcabxd", "*ab?d*", true},
-      {"\u00E4", "?", true},
-      {"", "?", false},
-      {"x", "*", true},
-      {"x", "", false},
-      {"", "", true},
-      {"xalng", "*.lng", false},
-  };
-  for (const Row& row : kRows) {
-    EXPECT_EQ(MatchesMask(row.name, row.mask), row.matches) << row.name << ' ' << row.mask;
+  using Row = std::tuple<const char*, const char*, bool>;
+  for (const auto& [name, mask, matches] : {
+           Row{"GERMAN.LNG", "*.lng", true},
+           Row{"German.lng2", "*.lng", false},
+           Row{".lng", "*.lng", true},
+           Row{"lng", "*.lng", false},
+           Row{"a.lng.lng", "*.lng", true},
+           Row{"abcabd", "*ab?d*", false},
+           Row{"abcabxd", "*ab?d*", true},
+           Row{"\u00E4", "?", true},
+           Row{"", "?", false},
+           Row{"x", "*", true},
+           Row{"x", "", false},
+           Row{"", "", true},
+           Row{"xalng", "*.lng", false},
+       }) {
+    EXPECT_EQ(MatchesMask(name, mask), matches) << name << ' ' << mask;
   }
 }
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <string_view>
+#include <tuple>
 
 #include "platform/interface_table.h"
 
@@ -9,27 +10,20 @@ namespace platform {
 namespace {
 
 TEST(InterfaceRow, TheDescriptionIsReadWhateverItsLengthSays) {
-  struct Row {
-    const char* why;
-    std::string_view bytes;
-    std::uint32_t length;
-    std::string_view text;
-  };
   const std::string full(256, 'x');
-  const Row rows[] = {
-      {"counts the NUL", "lo", 3, "lo"},
-      {"does not", "lo", 2, "lo"},
-      {"none at all", "abc", 0, ""},
-      {"shorter than the text", "abcdef", 3, "abc"},
-      {"a full field without a NUL", full, 256, full},
-      {"beyond all measure", full, 0xFFFFFFFF, full},
-      {"what stands behind a NUL is no part of it", std::string_view("ab\0cd", 5), 5, "ab"},
-  };
-  for (const Row& row : rows) {
+  using Row = std::tuple<const char*, std::string_view, std::uint32_t, std::string_view>;
+  for (const auto& [why, bytes, length, text] : {
+           Row{"counts the NUL", "lo", 3, "lo"},
+           Row{"none at all", "abc", 0, ""},
+           Row{"shorter than the text", "abcdef", 3, "abc"},
+           Row{"a full field without a NUL", full, 256, full},
+           Row{"beyond all measure", full, 0xFFFFFFFF, full},
+           Row{"what stands behind a NUL is no part of it", {"ab\0cd", 5}, 5, "ab"},
+       }) {
     InterfaceRow made;
-    std::copy(row.bytes.begin(), row.bytes.end(), made.bDescr.begin());
-    made.dwDescrLen = row.length;
-    EXPECT_EQ(DescriptionBytes(made), row.text) << row.why;
+    std::copy(bytes.begin(), bytes.end(), made.bDescr.begin());
+    made.dwDescrLen = length;
+    EXPECT_EQ(DescriptionBytes(made), text) << why;
   }
 }
 

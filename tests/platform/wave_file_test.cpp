@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <string>
+#include <tuple>
 
 namespace {
 
@@ -37,11 +38,7 @@ std::string Wave(const std::string& chunks) { return Chunk("RIFF", "WAVE" + chun
 TEST(WaveFile, IsWhatAPlayerCanTrust) {
   const std::string data = Chunk("data", "abcd");
   const std::string good = Wave(FormatChunk() + data);
-  struct Row {
-    const char* why;
-    std::string bytes;
-    bool is_one;
-  };
+  using Row = std::tuple<const char*, std::string, bool>;
   const Row rows[] = {
       {"plain", good, true},
       {"bytes behind it", good + "more", true},
@@ -69,8 +66,8 @@ TEST(WaveFile, IsWhatAPlayerCanTrust) {
       {"a format that leaves its chunk",
        Wave(FormatChunk({.tag = 2, .more = Number(3, 2) + "xy"}) + data), false},
   };
-  for (const Row& row : rows) {
-    EXPECT_EQ(platform::IsWaveFile(row.bytes), row.is_one) << row.why;
+  for (const auto& [why, bytes, is_one] : rows) {
+    EXPECT_EQ(platform::IsWaveFile(bytes), is_one) << why;
   }
 }
 

@@ -1,6 +1,7 @@
 #include "toolkit/colour_popup.h"
 
 #include <optional>
+#include <tuple>
 
 #include "tests/toolkit/form_fixture.h"
 #include "toolkit/controls/buttons.h"
@@ -33,12 +34,8 @@ class ColourPopupTest : public FormTest {
 };
 
 TEST_F(ColourPopupTest, GivesWhatTheUserConfirmsAndNothingElse) {
-  struct Row {
-    const char* why;
-    Colour present;
-    std::vector<std::function<void()>> doings;
-    std::optional<Colour> chosen;
-  };
+  using Doings = std::vector<std::function<void()>>;
+  using Row = std::tuple<const char*, Colour, Doings, std::optional<Colour>>;
   using platform::colour::kRed;
   using platform::colour::kWhite;
   const auto keys = [this](const std::vector<Key>& keys) {
@@ -47,48 +44,47 @@ TEST_F(ColourPopupTest, GivesWhatTheUserConfirmsAndNothingElse) {
     };
   };
   const auto press = [this](const char* name) { return [this, name] { User().Press(name); }; };
+  const auto twice = [this](int column, int row) {
+    return [this, column, row] { User().DoubleClick("palette", Cell(column, row)); };
+  };
   const auto enter = [this] { User().PressEnter("ColourPopup"); };
   const auto ok = press("btnColorOk");
   const auto click = [this] { User().PressMouse("palette", Cell(1, 2)); };
-  const auto twice = [this] { User().DoubleClick("palette", Cell(7, 5)); };
   const auto more = press("btnMoreColors");
   const auto mix = [this] { machine.system_dialogs.Choose(Colour{0x123456}); };
   const auto cancel = [this] { machine.system_dialogs.Cancel(); };
-  const std::vector<Row> rows = {
-      {"arrows from the present one", kRed, {keys({Key::kRight, Key::kUp}), enter}, 0x40A0FF},
-      {"not over the edges", kWhite, {keys({Key::kLeft, Key::kUp}), enter}, kWhite},
-      {"nor over the others", 0x400040, {keys({Key::kRight, Key::kDown}), enter}, 0x400040},
-      {"one that is not in the field: the first", 0x010203, {keys({Key::kDown}), ok}, kWhite},
-      {"the mouse, then the button", 0x010203, {click, ok}, kRed},
-      {"a click alone", 0x010203, {click, [&] { User().ClickCloseBox("ColourPopup"); }}, {}},
-      {"a double click", 0x010203, {twice}, 0x400040},
-      {"Esc", kRed, {keys({Key::kRight}), [&] { User().PressEsc("ColourPopup"); }}, {}},
-      {"the button for it", kRed, {press("btnColorCancel")}, {}},
-      {"the first cell", kRed, {[this] { User().DoubleClick("palette", Cell(0, 0)); }}, kWhite},
-      {"nobody touched it", platform::colour::kButtonFace, {ok}, platform::colour::kButtonFace},
-      {"mixed in the system's dialog", kRed, {more, mix}, 0x123456},
-      {"not mixed there: the popup stays", kRed, {more, cancel, ok}, kRed},
-      {"the program ends under both", kRed, {more, [&] { app.Terminate(); }}, {}},
-  };
-  for (const Row& row : rows) {
-    SCOPED_TRACE(row.why);
-    EXPECT_EQ(Ask(row.present, row.doings), row.chosen);
-    EXPECT_TRUE(Widget("form").enabled);
-    EXPECT_FALSE(User().Exists("ColourPopup"));
+  for (const auto& [why, present, doings, chosen] : {
+           Row{"arrows from it", kRed, {keys({Key::kRight, Key::kUp}), enter}, 0x40A0FF},
+           Row{"not over the edges", kWhite, {keys({Key::kLeft, Key::kUp}), enter}, kWhite},
+           Row{"nor over the others", 0x400040, {keys({Key::kRight, Key::kDown}), ok}, 0x400040},
+           Row{"not in the field: the first", 0x010203, {keys({Key::kDown}), ok}, kWhite},
+           Row{"the mouse, then the button", 0x010203, {click, ok}, kRed},
+           Row{"a click", 0, {click, [&] { User().ClickCloseBox("ColourPopup"); }}, {}},
+           Row{"a click and its release", 0, {press("palette"), press("btnColorCancel")}, {}},
+           Row{"a double click", 0x010203, {twice(7, 5)}, 0x400040},
+           Row{"on the first cell", kRed, {twice(0, 0)}, kWhite},
+           Row{"Esc", 0, {keys({Key::kRight}), [&] { User().PressEsc("ColourPopup"); }}, {}},
+           Row{"nobody touched it", platform::colour::kMenu, {ok}, platform::colour::kMenu},
+           Row{"mixed in the system's dialog", kRed, {more, mix}, 0x123456},
+           Row{"not mixed there: the popup stays", kRed, {more, cancel, ok}, kRed},
+           Row{"the program ends under both", kRed, {more, [&] { app.Terminate(); }}, {}},
+       }) {
+    EXPECT_EQ(Ask(present, doings), chosen) << why;
   }
   EXPECT_EQ(machine.message_loop.starved, 0);
 }
 
+// Its panel is 20 pixels high, and itself 258 by 251.
 TEST_F(ColourPopupTest, StandsBelowItsPanelAndWithinTheScreen) {
-  const platform::Rect work = machine.screen.Monitors().front().work_area;
-  for (const auto& [left, top] :
-       {std::pair(100, 100), {100, work.Bottom() - 60}, {work.Right() - 80, 100}}) {
-    form.SetWindowBounds({left, top, 320, 340});
-    Ask(0, {[&] {
-          const platform::Rect place = Widget("ColourPopup").bounds;
-          const platform::Point anchor = Widget("panel").ToScreen({0, 0});
-          EXPECT_TRUE(place.left >= work.left && place.Right() <= work.Right());
-          EXPECT_TRUE(place.top >= anchor.y + 20 || place.Bottom() <= anchor.y);
+  for (const auto& [panel_at, popup_at] :
+       std::vector<std::pair<platform::Point, platform::Point>>{{{100, 100}, {100, 122}},
+                                                                {{100, 711}, {100, 733}},
+                                                                {{100, 712}, {100, 459}},
+                                                                {{1200, 100}, {1022, 122}},
+                                                                {{-20, 1000}, {0, 733}}}) {
+    form.SetWindowBounds({panel_at.x - 13, panel_at.y - 32, 320, 340});
+    Ask(0, {[&, at = popup_at] {
+          EXPECT_EQ(Widget("ColourPopup").bounds, (platform::Rect{at.x, at.y, 258, 251}));
           EXPECT_EQ(Widget("ColourPopup").text, "Download");
           User().PressEsc("ColourPopup");
         }});

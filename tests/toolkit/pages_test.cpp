@@ -1,13 +1,11 @@
 // Pages with and without tabs, and the layout.
 #include "toolkit/controls/pages.h"
 
-#include "tests/layout_faults.h"
 #include "tests/toolkit/form_fixture.h"
 #include "toolkit/controls/bars.h"
 #include "toolkit/controls/buttons.h"
 #include "toolkit/controls/edit.h"
 #include "toolkit/controls/label.h"
-#include "toolkit/controls/layout.h"
 #include "toolkit/controls/lists.h"
 #include "toolkit/controls/panel.h"
 #include "toolkit/controls/spin_edit.h"
@@ -102,24 +100,6 @@ TEST_F(Pages, WhatIsSetOnAHiddenOneIsThereWhenItIsShown) {
   User().ChangeDpi("form", 192, {0, 0, 700, 700});
   EXPECT_EQ(Widget("seen").bounds, Widget("page").bounds);
   EXPECT_EQ(Widget("group").bounds, (platform::Rect{20, 20, 400, 120}));
-}
-
-TEST_F(Pages, TheLayoutNamesWhatLeavesItsParentOrCoversAnother) {
-  Label label(form, "label");
-  GroupBox group(form, "group");
-  Edit inner(group, "inner");
-  Button hidden(form, "hidden");
-  hidden.SetVisible(false);
-  ApplyLayout(
-      {{label, {10, 10, 100, 13}}, {group, {10, 30, 200, 100}}, {hidden, {10, 30, 80, 22}}});
-  inner.SetBounds({10, 20, 180, 21});
-  EXPECT_EQ(test::LayoutFaults(form), Names());
-  hidden.SetVisible(true);
-  inner.SetBounds({10, 80, 180, 21});
-  label.SetBounds({10, 10, 0, 13});
-  EXPECT_EQ(test::LayoutFaults(form),
-            (Names{"label has no size", "inner leaves group, which is 200 by 100",
-                   "hidden covers group"}));
 }
 
 }  // namespace

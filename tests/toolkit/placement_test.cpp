@@ -1,6 +1,9 @@
 // Where windows stand: rules, what a form does with them, what is stored.
 #include "toolkit/forms/placement.h"
 
+#include <climits>
+#include <tuple>
+
 #include "tests/toolkit/form_fixture.h"
 #include "toolkit/controls/buttons.h"
 #include "toolkit/forms/placement_saver.h"
@@ -10,6 +13,7 @@ namespace {
 
 using platform::Point;
 using platform::Rect;
+using enum Hold;
 using platform::memory::RegistryValue;
 
 const platform::Monitor kScreen{{0, 0, 1366, 768}, {0, 0, 1366, 728}, 96};
@@ -17,29 +21,26 @@ const platform::Monitor kFine{{0, 0, 1366, 768}, {0, 0, 1366, 728}, 192};
 const platform::Monitor kAbove{{0, -1080, 1920, 1080}, {0, -1080, 1920, 1080}, 96};
 
 TEST(Placement, AWindowIsInSightWhereTheUserCanTakeHoldOfIt) {
-  struct Row {
-    const char* why;
-    Rect bounds;
-    Hold hold;
-    std::vector<platform::Monitor> monitors;
-    bool in_sight;
-  };
-  const std::vector<Row> rows = {
-      {"a corner", {-250, -111, 274, 135}, Hold::kAnywhere, {kScreen}, true},
-      {"a corner too low", {-250, -112, 274, 135}, Hold::kAnywhere, {kScreen}, false},
-      {"a corner too narrow", {-251, -111, 274, 135}, Hold::kAnywhere, {kScreen}, false},
-      {"all of what is smaller", {0, 700, 20, 10}, Hold::kAnywhere, {kScreen}, true},
-      {"the same piece at twice the size", {-250, 0, 274, 135}, Hold::kAnywhere, {kFine}, false},
-      {"behind the task bar", {0, 710, 274, 135}, Hold::kAnywhere, {kScreen}, false},
-      {"the whole height of its caption", {18, 0, 600, 400}, Hold::kCaption, {kScreen}, true},
-      {"most of it, but no caption", {18, -128, 600, 400}, Hold::kCaption, {kScreen}, false},
-      {"a part of its caption", {-233, -1, 300, 400}, Hold::kCaption, {kScreen}, false},
-      {"its caption, above all else", {18, 704, 600, 400}, Hold::kCaption, {kScreen}, true},
-      {"less of its caption", {18, 705, 600, 400}, Hold::kCaption, {kScreen}, false},
-      {"a caption on the other one", {18, -128, 600, 400}, Hold::kCaption, {kScreen, kAbove}, true},
-  };
-  for (const Row& row : rows) {
-    EXPECT_EQ(InSight(row.bounds, row.hold, row.monitors), row.in_sight) << row.why;
+  using Row = std::tuple<const char*, Rect, Hold, std::vector<platform::Monitor>, bool>;
+  for (const auto& [why, bounds, hold, monitors, in_sight] : {
+           Row{"a corner", {-250, -111, 274, 135}, kAnywhere, {kScreen}, true},
+           Row{"a corner too low", {-250, -112, 274, 135}, kAnywhere, {kScreen}, false},
+           Row{"a corner too narrow", {-251, -111, 274, 135}, kAnywhere, {kScreen}, false},
+           Row{"all of what is smaller", {0, 700, 20, 10}, kAnywhere, {kScreen}, true},
+           Row{"at twice the size", {-250, 0, 274, 135}, kAnywhere, {kFine}, false},
+           Row{"behind the task bar", {0, 710, 274, 135}, kAnywhere, {kScreen}, false},
+           Row{"its whole caption", {18, 0, 600, 400}, kCaption, {kScreen}, true},
+           Row{"most of it, but no caption", {18, -128, 600, 400}, kCaption, {kScreen}, false},
+           Row{"a part of its caption", {-233, -1, 300, 400}, kCaption, {kScreen}, false},
+           Row{"its caption, above all else", {18, 704, 600, 400}, kCaption, {kScreen}, true},
+           Row{"less of its caption", {18, 705, 600, 400}, kCaption, {kScreen}, false},
+           Row{"a caption on the other one",
+               {18, -128, 600, 400},
+               kCaption,
+               {kScreen, kAbove},
+               true},
+       }) {
+    EXPECT_EQ(InSight(bounds, hold, monitors), in_sight) << why;
   }
 }
 
@@ -47,20 +48,16 @@ TEST(Placement, BringsWindowsBackOntoTheNearestMonitor) {
   platform::memory::Screen screen;
   screen.monitors = {{{0, 0, 1000, 800}, {0, 0, 1000, 760}, 96},
                      {{1000, 0, 1000, 800}, {1000, 40, 1000, 760}, 96}};
-  struct Row {
-    const char* why;
-    Rect from, to;
-  };
-  static constexpr Row kRows[] = {
-      {"inside", {10, 10, 100, 50}, {10, 10, 100, 50}},
-      {"behind the task bar", {10, 740, 100, 50}, {10, 710, 100, 50}},
-      {"a monitor that is gone", {5000, 300, 100, 50}, {1900, 300, 100, 50}},
-      {"left of everything", {-500, -500, 100, 50}, {0, 0, 100, 50}},
-      {"larger than the monitor", {100, 100, 3000, 3000}, {1000, 40, 3000, 3000}},
-      {"across two monitors, mostly the second", {960, 0, 100, 50}, {1000, 40, 100, 50}},
-  };
-  for (const Row& row : kRows) {
-    EXPECT_EQ(BroughtIntoView(row.from, screen), row.to) << row.why;
+  using Row = std::tuple<const char*, Rect, Rect>;
+  for (const auto& [why, from, to] : {
+           Row{"inside", {10, 10, 100, 50}, {10, 10, 100, 50}},
+           Row{"behind the task bar", {10, 740, 100, 50}, {10, 710, 100, 50}},
+           Row{"a monitor that is gone", {5000, 300, 100, 50}, {1900, 300, 100, 50}},
+           Row{"left of everything", {-500, -500, 100, 50}, {0, 0, 100, 50}},
+           Row{"larger than the monitor", {100, 100, 3000, 3000}, {1000, 40, 3000, 3000}},
+           Row{"across two monitors, mostly the second", {960, 0, 100, 50}, {1000, 40, 100, 50}},
+       }) {
+    EXPECT_EQ(BroughtIntoView(from, screen), to) << why;
   }
   EXPECT_EQ(Centred({400, 300}, kScreen), (Rect{483, 214, 400, 300}));
   EXPECT_EQ(Centred({1500, 900}, kScreen), (Rect{0, 0, 1500, 900}));
@@ -71,24 +68,27 @@ TEST(Placement, ScrollsNoFurtherThanNeeded) {
   EXPECT_EQ(ScrolledToShow(scroll, 200, 500), 200);
   EXPECT_EQ(ScrolledToShow(scroll, 150, 180), 150);
   EXPECT_EQ(ScrolledToShow(scroll, 490, 510), 210);
-  EXPECT_EQ(ScrolledToShow(scroll, 450, 900), 200) << "its upper edge is seen";
+  EXPECT_EQ(ScrolledToShow(scroll, 499, 900), 200) << "its upper edge is seen";
+  EXPECT_EQ(ScrolledToShow(scroll, 500, 900), 500) << "nothing of it";
+  EXPECT_EQ(ScrolledToShow(scroll, -200, 200), -200) << "nor of what ends above";
 }
 
 TEST_F(FormTest, AWindowStandsInTheMiddleAndIsScrolledWhereItIsHigherThanTheScreen) {
-  machine.screen.monitors = {{{0, 0, 1000, 800}, {0, 0, 1000, 760}, 96},
-                             {{1000, 0, 1000, 400}, {1000, 0, 1000, 360}, 96}};
+  machine.screen.monitors = {{{0, 0, 1000, 400}, {0, 0, 1000, 360}, 96},
+                             {{1000, 0, 1000, 800}, {1000, 0, 1000, 760}, 96}};
   Form dialog(app, Params("dialog"), &form);
   Button upper(dialog, "upper"), lower(dialog, "lower");
   upper.SetBounds({10, 10, 80, 20});
   lower.SetBounds({10, 470, 80, 20});
   dialog.SetClientSize({294, 500});  // the frame takes 6 by 25
-  dialog.CentreOnScreen();
-  EXPECT_EQ(dialog.WindowBounds(), (Rect{350, 117, 300, 525})) << "on its owner's monitor";
-  form.SetWindowBounds({1500, 10, 306, 325});
-  dialog.CentreOnScreen();
-  EXPECT_EQ(dialog.WindowBounds(), (Rect{1341, 0, 317, 360}));
   const auto& peer = Widget("dialog");
   EXPECT_EQ(peer.scroll, (platform::Scroll{500, 335, 0, 16}));
+  form.SetWindowBounds({1500, 10, 306, 325});
+  dialog.CentreOnScreen();
+  EXPECT_EQ(dialog.WindowBounds(), (Rect{1350, 117, 300, 525})) << "on its owner's monitor";
+  form.SetWindowBounds({500, 10, 306, 325});
+  dialog.CentreOnScreen();
+  EXPECT_EQ(dialog.WindowBounds(), (Rect{341, 0, 317, 360}));
 
   dialog.Show();
   User().PressTab("dialog");
@@ -98,14 +98,14 @@ TEST_F(FormTest, AWindowStandsInTheMiddleAndIsScrolledWhereItIsHigherThanTheScre
   lower.SetBounds({10, 460, 80, 20});
   EXPECT_EQ(Widget("lower").bounds.Bottom(), 335 - 20);
 
-  machine.screen.monitors[1].work_area.height = 700;
+  machine.screen.monitors[0].work_area.height = 700;
   peer.top_events->OnDisplayChange();
   EXPECT_EQ(peer.ClientSize(), (platform::Size{294, 500}));
   EXPECT_EQ(Widget("upper").bounds.top, 10);
-  dialog.SetWindowBounds({1500, 300, 300, 525});
+  dialog.SetWindowBounds({500, 300, 300, 525});
   dialog.SetClientSize({294, 600});
-  EXPECT_EQ(dialog.WindowBounds(), (Rect{1500, 75, 300, 625})) << "what grows stays in sight";
-  User().ChangeDpi("dialog", 144, {1000, 0, 450, 300});
+  EXPECT_EQ(dialog.WindowBounds(), (Rect{500, 75, 300, 625})) << "what grows stays in sight";
+  User().ChangeDpi("dialog", 144, {0, 0, 450, 300});
   EXPECT_EQ(dialog.ClientPixels(), (platform::Size{441, 675}));
 }
 
@@ -131,9 +131,12 @@ struct Program {
 
 class SavedPlacement : public testing::Test, protected test::Computer {
  protected:
-  void Store(std::int64_t left, std::int64_t top, std::int64_t width, std::int64_t height) {
-    for (const auto& [name, value] :
-         {std::pair{"Left", left}, {"Top", top}, {"Width", width}, {"Height", height}}) {
+  void Store(const Rect& place, int dpi = 96) {
+    for (const auto& [name, value] : {std::pair{"Left", place.left},
+                                      {"Top", place.top},
+                                      {"Width", place.width},
+                                      {"Height", place.height},
+                                      {"Dpi", dpi}}) {
       machine.registry.Set(kKey, name, RegistryValue::Dword(static_cast<std::uint32_t>(value)));
     }
   }
@@ -187,31 +190,23 @@ TEST_F(SavedPlacement, EveryMoveIsStoredOnceAndComesBackInTheNextRun) {
 }
 
 TEST_F(SavedPlacement, WhatCannotBeUsedIsBroughtIntoViewOrLeftOut) {
-  struct Row {
-    const char* why;
-    std::int64_t left, top, width, height;
-    Rect placed;
-    std::uint32_t dpi = 96;
-  };
-  static constexpr Row kRows[] = {
-      {"far away", 90000, -90000, 274, 135, {1280 - 274, 0, 274, 135}},
-      {"as far as a number goes", 2147483647, -2147483648LL, 274, 135, {1280 - 274, 0, 274, 135}},
-      {"a strip too small to take hold of", 1270, 400, 274, 135, {1280 - 274, 400, 274, 135}},
-      {"no height", 40, 50, 300, 0, {40, 50, 274, 135}},
-      {"a size below zero", 40, 50, -300, 135, {40, 50, 274, 135}},
-      {"a size that no window has", 40, 50, 32768, 100, {40, 50, 274, 135}},
-      {"of another resolution", 10, 20, 300, 150, {10, 20, 150, 75}, 192},
-      {"of the lowest", 10, 20, 300, 150, {10, 20, 600, 300}, 48},
-      {"of none", 10, 20, 300, 150, {10, 20, 300, 150}, 47},
-      {"nor such a one", 10, 20, 300, 150, {10, 20, 300, 150}, 961},
-  };
-  for (const Row& row : kRows) {
-    SCOPED_TRACE(row.why);
-    Store(row.left, row.top, row.width, row.height);
-    machine.registry.Set(kKey, "Dpi", RegistryValue::Dword(row.dpi));
-    EXPECT_EQ(Program(machine).At(), row.placed);
+  using Row = std::tuple<const char*, Rect, Rect, int>;
+  for (const auto& [why, stored, placed, dpi] : {
+           Row{"far away", {90000, -90000, 274, 135}, {1280 - 274, 0, 274, 135}, 96},
+           Row{"farthest", {INT_MAX, INT_MIN, 274, 135}, {1280 - 274, 0, 274, 135}, 96},
+           Row{"too small a strip", {1270, 400, 274, 135}, {1280 - 274, 400, 274, 135}, 96},
+           Row{"no height", {40, 50, 300, 0}, {40, 50, 274, 135}, 96},
+           Row{"a size below zero", {40, 50, -300, 135}, {40, 50, 274, 135}, 96},
+           Row{"a size that no window has", {40, 50, 32768, 100}, {40, 50, 274, 135}, 96},
+           Row{"of another resolution", {10, 20, 300, 150}, {10, 20, 150, 75}, 192},
+           Row{"of the lowest", {10, 20, 300, 150}, {10, 20, 600, 300}, 48},
+           Row{"of none", {10, 20, 300, 150}, {10, 20, 300, 150}, 47},
+           Row{"nor such a one", {10, 20, 300, 150}, {10, 20, 300, 150}, 961},
+       }) {
+    Store(stored, dpi);
+    EXPECT_EQ(Program(machine).At(), placed) << why;
   }
-  Store(10, 20, 500, 600);
+  Store({10, 20, 500, 600});
   EXPECT_EQ(Program(machine, PlacementSaver::Restores::kPlace).At(), (Rect{10, 20, 274, 135}))
       << "a form of a fixed size";
   machine.registry.RemoveKey(kKey);
@@ -220,7 +215,7 @@ TEST_F(SavedPlacement, WhatCannotBeUsedIsBroughtIntoViewOrLeftOut) {
 }
 
 TEST_F(SavedPlacement, APlaceOnAMissingMonitorIsKeptAndComesBackWithIt) {
-  Store(2000, 300, 274, 135);
+  Store({2000, 300, 274, 135});
   {
     Program moved(machine);
     EXPECT_EQ(moved.At(), (Rect{1280 - 274, 300, 274, 135}));
@@ -228,7 +223,7 @@ TEST_F(SavedPlacement, APlaceOnAMissingMonitorIsKeptAndComesBackWithIt) {
     Place({700, 300, 274, 135});
     EXPECT_EQ(Stored().left, 700) << "no monitor came or went";
   }
-  Store(2000, 300, 274, 135);
+  Store({2000, 300, 274, 135});
   Program run(machine);
   for (const bool announced : {true, false, true}) {
     machine.screen.monitors.push_back(kSecond);

@@ -11,11 +11,7 @@ class Menu : public FormTest {
   void Open(
       std::function<int(const std::vector<platform::MenuEntry>&, platform::MenuPainter&)> user) {
     machine.menus.user = std::move(user);
-    menu.Popup({5, 6}, form);
-  }
-  void Choose(const std::string& text) {
-    machine.menus.WillChoose(text);
-    menu.Popup({5, 6}, form);
+    menu.Popup({5, 6});
   }
 
   ImageList images;
@@ -36,7 +32,14 @@ TEST_F(Menu, AnItemMayGoWhileTheMenuIsOpenOrWhenItIsChosen) {
     return id;
   });
   EXPECT_EQ(done, "");
-  Choose("eth1");
+  machine.menus.WillChoose("eth1");
+  menu.Popup({5, 6});
+  EXPECT_EQ(done, "a name that lives on the heap");
+  menu.Items.Add("Exit").OnClick = [&] { done = "chosen after the end"; };
+  Open([&](const auto& entries, auto&) {
+    app.Terminate();
+    return platform::memory::Menus::Find(entries, "Exit")->id;
+  });
   EXPECT_EQ(done, "a name that lives on the heap");
 }
 

@@ -1,6 +1,7 @@
 #include "toolkit/controls/spin_edit.h"
 
 #include <limits>
+#include <tuple>
 
 #include "tests/toolkit/form_fixture.h"
 #include "toolkit/controls/buttons.h"
@@ -40,71 +41,65 @@ class SpinEditTest : public FormTest {
 };
 
 TEST_F(SpinEditTest, TakesWhatIsTypedAndKeepsItInTheRange) {
-  struct Row {
-    const char* why;
-    Names texts;  // pasted one after the other, or one that is typed
-    const char* then;
-    Values fired;  // the last one when the keyboard leaves
-  };
-  const std::vector<Row> rows = {
-      {"in the range as soon as the last digit is there", {"1500"}, "1500", {1500}},
-      {"the upper end, by a number inside", {"10000"}, "10000", {1000, 10000}},
-      {"below", {"999"}, "1000", {1000}},
-      {"above, by a number inside", {"10001"}, "10000", {1000, 10000}},
-      {"beyond 64 bits", {"99999999999999999999"}, "10000", {9999, 10000}},
-      {"letters are left out", {"2x5 0-0e"}, "2500", {2500}},
-      {"nothing: the value from before", {"500", ""}, "5000", {}},
-      {"emptied digit by digit", {"3000", "300", "30", "3", ""}, "5000", {3000, 5000}},
-      {"pasted, and no number", {"abc", "12 000", "1,5", "--1", "0x10"}, "5000", {}},
-  };
-  for (const Row& row : rows) {
-    SCOPED_TRACE(row.why);
+  // Texts are pasted one after the other, or one is typed; the last change fires when the keyboard
+  // leaves.
+  using Row = std::tuple<const char*, Names, const char*, Values>;
+  for (const auto& [why, texts, then, changes] : {
+           Row{"as soon as the last digit is there", {"1500"}, "1500", {1500}},
+           Row{"the upper end, by a number inside", {"10000"}, "10000", {1000, 10000}},
+           Row{"below", {"999"}, "1000", {1000}},
+           Row{"above, by a number inside", {"10001"}, "10000", {1000, 10000}},
+           Row{"beyond 64 bits", {"99999999999999999999"}, "10000", {9999, 10000}},
+           Row{"letters are left out", {"2x5 0-0e"}, "2500", {2500}},
+           Row{"nothing: the value from before", {"500", ""}, "5000", {}},
+           Row{"emptied digit by digit", {"3000", "300", "30", "3", ""}, "5000", {3000, 5000}},
+           Row{"no number", {"abc", "12 000", "1,5", "--1", "0x10"}, "5000", {}},
+       }) {
+    SCOPED_TRACE(why);
     spin.SetValue(5000);
     fired.clear();
     spin.SetFocus();
-    if (row.texts.size() == 1) Enter(row.texts[0]);
-    for (const std::string& text : row.texts.size() > 1 ? row.texts : Names()) Paste(text);
+    if (texts.size() == 1) Enter(texts[0]);
+    for (const std::string& text : texts.size() > 1 ? texts : Names()) Paste(text);
     other.SetFocus();
-    EXPECT_EQ(Shown(), row.then);
-    EXPECT_EQ(fired, row.fired);
+    EXPECT_EQ(Shown(), then);
+    EXPECT_EQ(fired, changes);
   }
 }
 
 TEST_F(SpinEditTest, StepsWithArrowsWheelAndPageKeys) {
-  struct Row {
-    const char* why;
-    std::int64_t from;
-    std::function<void()> move;
-    std::int64_t to;
-  };
+  using Row = std::tuple<const char*, std::int64_t, std::function<void()>, std::int64_t>;
   const auto key = [this](Key key) { return [this, key] { User().PressKey("spin", key); }; };
-  const auto steps = [&](const std::vector<Row>& rows) {
-    for (const Row& row : rows) {
-      SCOPED_TRACE(row.why);
-      spin.SetValue(row.from);
-      row.move();
-      EXPECT_EQ(spin.Value(), row.to);
-      EXPECT_EQ(Shown(), std::to_string(row.to));
-    }
-  };
-  steps({{"down", 5000, key(Key::kDown), 4000},
-         {"to the end, not beyond", 9500, key(Key::kUp), 10000},
-         {"at the end", 1000, key(Key::kDown), 1000},
-         {"from below the range", -5, key(Key::kUp), 1000},
-         {"two notches", 5000, [&] { User().Wheel("spin", 2); }, 7000},
-         {"the upper arrow", 5000, [&] { User().Press("spinUp"); }, 6000},
-         {"from what has been typed", 5000, [&] { Enter("20"), User().PressKey("spin", Key::kUp); },
-          2000}});
-  spin.SetRange(kLowest, kHighest, 1000);
-  steps({{"a page", 1000, key(Key::kPageUp), 11000},
-         {"a page down", 10000, key(Key::kPageDown), 0},
-         {"to the end of numbers", kHighest - 5, key(Key::kPageUp), kHighest},
-         {"to their other end", kLowest + 5, key(Key::kDown), kLowest}});
+  const auto widest = [this] { spin.SetRange(kLowest, kHighest, 1000); };
+  for (const auto& [why, from, move, to] : {
+           Row{"down", 5000, key(Key::kDown), 4000},
+           Row{"to the end, not beyond", 9500, key(Key::kUp), 10000},
+           Row{"at the end", 1000, key(Key::kDown), 1000},
+           Row{"from below the range", -5, key(Key::kUp), 1000},
+           Row{"two notches", 5000, [&] { User().Wheel("spin", 2); }, 7000},
+           Row{"the upper arrow", 5000, [&] { User().Press("spinUp"); }, 6000},
+           Row{"from what is typed", 5000, [&] { Enter("20"), key(Key::kUp)(); }, 2000},
+           Row{"no sign above zero", 5000, [&] { Enter("-3000"); }, 3000},
+           Row{"in another range", 0, widest, 0},
+           Row{"a page", 1000, key(Key::kPageUp), 11000},
+           Row{"a page down", 10000, key(Key::kPageDown), 0},
+           Row{"a sign below zero", 0, [&] { Enter("-3"); }, -3},
+           Row{"to the end of numbers", kHighest - 5, key(Key::kPageUp), kHighest},
+           Row{"to their other end", kLowest + 5, key(Key::kDown), kLowest},
+       }) {
+    SCOPED_TRACE(why);
+    spin.SetValue(from);
+    move();
+    EXPECT_EQ(spin.Value(), to);
+    EXPECT_EQ(Shown(), std::to_string(to));
+  }
 }
 
 TEST_F(SpinEditTest, GoesOnWhileAnArrowIsHeld) {
   spin.SetRange(0, 1000, 1);
   spin.SetValue(0);
+  Enter("-");
+  EXPECT_EQ(Shown(), "0") << "no number of this range begins so";
   User().PressMouse("spinUp");
   machine.timers.Advance(399);
   EXPECT_EQ(spin.Value(), 1);
@@ -116,9 +111,10 @@ TEST_F(SpinEditTest, GoesOnWhileAnArrowIsHeld) {
   User().PressMouse("spinDown");
   User().MoveMouse("spinDown", {1, 1}, true);
   User().MoveMouse("spinDown", {1, 1}, false);  // it was released elsewhere
-  machine.timers.Advance(5000);
-  EXPECT_EQ(spin.Value(), 10);
   EXPECT_EQ(machine.timers.Running(), 0);
+  User().PressMouse("spinUp");
+  spin.SetEnabled(false);
+  EXPECT_EQ(machine.timers.Running(), 0) << "it is held no longer";
 }
 
 TEST_F(SpinEditTest, EnterEndsTheTypingAndOnlyThenIsForTheForm) {
@@ -144,14 +140,12 @@ TEST_F(SpinEditTest, TheCodeOverrulesWhatIsBeingTypedAndMayLeaveTheRange) {
 }
 
 TEST_F(SpinEditTest, ItsPartsAreDisabledAndHintedWithIt) {
-  User().PressMouse("spinUp");
-  spin.SetEnabled(false);
-  EXPECT_EQ(machine.timers.Running(), 0) << "it is held no longer";
-  EXPECT_FALSE(Widget("spin").enabled || Widget("spinUp").enabled || Widget("spinDown").enabled);
-  spin.SetEnabled(true);
   spin.SetHint("1000 to 10000");
   app.Hints().Pause = 0;
   for (const char* part : {"spin", "spinUp", "spinDown"}) {
+    spin.SetEnabled(false);
+    EXPECT_FALSE(Widget(part).enabled);
+    spin.SetEnabled(true);
     User().PointAt(part);
     machine.timers.Advance(10);
     EXPECT_TRUE(app.Hints().Showing()) << part;

@@ -77,9 +77,7 @@ void Control::SetBounds(const platform::Rect& bounds) {
 }
 
 void Control::SetAlign(Align align) {
-  if (!Assign(align_, align)) return;
-  if (align_ == Align::kNone) ApplyBounds();
-  ParentRearranges();
+  if (Assign(align_, align)) ParentRearranges();
 }
 
 void Control::SetCaption(std::string_view caption) {
@@ -130,6 +128,11 @@ void Control::Fire(const std::function<void()>& handler) {
   if (!handler) return;
   const std::function<void()> kept = handler;  // a copy: it may go with the control
   app_.Guard(kept);
+}
+
+void Control::Fire(const std::function<void(const platform::MouseEvent&)>& handler,
+                   const platform::MouseEvent& event) {
+  if (handler) Fire([handler, event] { handler(event); });
 }
 
 void Control::Invalidate() {
@@ -217,49 +220,26 @@ void Control::OnPaint(platform::Canvas& canvas) {
   app_.Guard([&] { Paint(canvas); });
 }
 
-void Control::OnMouseMove(const platform::MouseEvent& event) {
-  app_.Guard([&] {
-    if (OnMouseMoved) OnMouseMoved(event);
-  });
-}
-
-void Control::OnMouseDown(const platform::MouseEvent& event) {
-  app_.Guard([&] {
-    if (OnMousePressed) OnMousePressed(event);
-  });
-}
-
-void Control::OnMouseUp(const platform::MouseEvent& event) {
-  if (!OnMouseReleased) return;
-  const auto kept = OnMouseReleased;  // a copy: it may go with the control
-  app_.Guard([&] { kept(event); });
-}
-
-void Control::OnDoubleClick(const platform::MouseEvent& /*event*/) {
-  app_.Guard([&] {
-    if (OnDblClick) OnDblClick();
-  });
-}
+void Control::OnMouseMove(const platform::MouseEvent& event) { Fire(OnMouseMoved, event); }
+void Control::OnMouseDown(const platform::MouseEvent& event) { Fire(OnMousePressed, event); }
+void Control::OnMouseUp(const platform::MouseEvent& event) { Fire(OnMouseReleased, event); }
+void Control::OnDoubleClick(const platform::MouseEvent& /*event*/) { Fire(OnDblClick); }
 
 void Control::OnMouseEnter() {
-  app_.Guard([&] {
-    app_.Hints().PointerOn(*this);
-    if (OnMouseEntered) OnMouseEntered();
-  });
+  app_.Guard([&] { app_.Hints().PointerOn(*this); });
+  Fire(OnMouseEntered);
 }
 
 void Control::OnMouseLeave() {
-  app_.Guard([&] {
-    app_.Hints().PointerOff(*this);
-    if (OnMouseLeft) OnMouseLeft();
-  });
+  app_.Guard([&] { app_.Hints().Forget(*this); });
+  Fire(OnMouseLeft);
 }
 
 void Control::OnContextMenu(platform::Point screen) {
   app_.Guard([&] {
     for (Control* control = this; control != nullptr; control = control->parent_) {
       if (control->popup_menu_ == nullptr) continue;
-      control->popup_menu_->Popup(screen, control->ParentForm());
+      control->popup_menu_->Popup(screen);
       return;
     }
   });

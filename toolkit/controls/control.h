@@ -166,6 +166,8 @@ class Control : protected platform::WidgetEvents {
   }
   // Runs a handler, if there is one, inside the guard. The handler may destroy the control.
   void Fire(const std::function<void()>& handler);
+  void Fire(const std::function<void(const platform::MouseEvent&)>& handler,
+            const platform::MouseEvent& event);
 
   // Places the children that have an Align in `area` (real pixels), in order of creation, those of
   // kClient last; of these the hidden ones too, so that nothing moves when they are shown.
@@ -246,7 +248,7 @@ class ControlOf : public Control {
   ControlOf(Control& parent, std::string_view name) : Control(parent, name) {}
 
   // Returns the peer, or null while there is none.
-  [[nodiscard]] Kind* Peer() const { return static_cast<Kind*>(Control::Peer()); }
+  [[nodiscard]] Kind* Peer() const { return dynamic_cast<Kind*>(Control::Peer()); }
 };
 
 }  // namespace toolkit

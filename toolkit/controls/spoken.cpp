@@ -1,5 +1,6 @@
 // What screen readers are told of the controls.
 #include <algorithm>
+#include <cctype>
 #include <string>
 #include <string_view>
 
@@ -15,8 +16,7 @@ namespace {
 bool HasWords(std::string_view text) {
   return std::ranges::any_of(text, [](char c) {
     const auto byte = static_cast<unsigned char>(c);
-    return byte >= 0x80 || (byte >= '0' && byte <= '9') || (byte >= 'A' && byte <= 'Z') ||
-           (byte >= 'a' && byte <= 'z');
+    return byte >= 0x80 || std::isalnum(byte) != 0;
   });
 }
 

@@ -59,7 +59,7 @@ class Form::Events final : public platform::TopWindowEvents {
     Tell([](FormComponent& part) { part.FormPlaced(); });
     Guarded([&] { form_.FormPlaced(); });
   }
-  void OnDpiChanged(int /*dpi*/, const platform::Rect& bounds) override {
+  void OnDpiChanged(const platform::Rect& bounds) override {
     Guarded([&] { form_.ChangeDpi(bounds); });
   }
   void OnDisplayChange() override {

@@ -5,7 +5,6 @@
 #include "toolkit/design_pixels.h"
 
 namespace toolkit {
-namespace {
 
 platform::Rect Inside(const platform::Rect& bounds, const platform::Rect& work) {
   platform::Rect moved = bounds;
@@ -13,8 +12,6 @@ platform::Rect Inside(const platform::Rect& bounds, const platform::Rect& work) 
   moved.top = std::max(work.top, std::min(moved.top, work.Bottom() - moved.height));
   return moved;
 }
-
-}  // namespace
 
 platform::Rect BroughtIntoView(const platform::Rect& bounds, platform::Screen& screen) {
   return Inside(bounds, screen.MonitorOf(bounds).work_area);

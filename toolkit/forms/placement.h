@@ -9,13 +9,16 @@
 
 namespace toolkit {
 
-// Returns `bounds` moved, not sized, so that it lies inside the work area of its monitor. A
-// rectangle that is larger starts at the upper left corner.
+// Returns `bounds` moved, not sized, so that it lies inside a work area. A rectangle that is larger
+// starts at the upper left corner.
+[[nodiscard]] platform::Rect Inside(const platform::Rect& bounds, const platform::Rect& work);
+
+// Returns `bounds` moved inside the work area of its monitor.
 [[nodiscard]] platform::Rect BroughtIntoView(const platform::Rect& bounds,
                                              platform::Screen& screen);
 
-// Returns the bounds of a window of this size in the middle of the monitor's work area, brought
-// into view as by BroughtIntoView.
+// Returns the bounds of a window of this size in the middle of the monitor's work area, and
+// inside it.
 [[nodiscard]] platform::Rect Centred(platform::Size size, const platform::Monitor& monitor);
 
 // The part of a window by which the user can drag it.

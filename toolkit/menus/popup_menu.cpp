@@ -5,7 +5,6 @@
 
 #include "platform/scoped_value.h"
 #include "toolkit/application.h"
-#include "toolkit/forms/form.h"
 
 namespace toolkit {
 namespace {
@@ -78,13 +77,13 @@ MenuItem& MenuItem::Add(std::string_view caption) {
 PopupMenu::PopupMenu(Application& app, const ImageList& images)
     : app_(app), painter_(app, images) {}
 
-void PopupMenu::Popup(platform::Point screen, Form& owner) {
+void PopupMenu::Popup(platform::Point screen) {
   if (open_) return;
   std::optional<platform::ScopedValue<bool>> opened(std::in_place, open_, true);
   if (OnPopup) app_.Guard(OnPopup);
   EntryBuilder builder;
   const std::vector<platform::MenuEntry> entries = builder.Build(Items.Children());
-  const int id = app_.Platform().menus.Popup(owner.Window(), screen, entries, painter_);
+  const int id = app_.Platform().menus.Popup(screen, entries, painter_);
   opened.reset();
   if (const auto waiting = std::exchange(next_, {}); !waiting.empty()) {
     for (const auto& next : waiting) app_.Guard(next);

@@ -14,7 +14,6 @@
 namespace toolkit {
 
 class Application;
-class Form;
 
 class MenuItem {
  public:
@@ -62,7 +61,7 @@ class PopupMenu {
 
   // Opens the menu at a point of the screen, waits for the user's choice and runs its handler. Does
   // nothing when the chosen item was removed meanwhile, or when a menu is open already.
-  void Popup(platform::Point screen, Form& owner);
+  void Popup(platform::Point screen);
 
   // Runs `next` at once when the menu is not open. Otherwise closes the menu and runs `next` when
   // it is gone, in place of a choice; several functions run in the order of their calls. A modal

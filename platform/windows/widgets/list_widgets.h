@@ -21,10 +21,9 @@ struct ListMessages {
 };
 
 // What list boxes and combo boxes have in common.
-class PlainListWidget : public WidgetOf<ItemList, NativeControl> {
+class PlainListWidget : public ItemList, public NativeControl {
  public:
   void Replace(int first, int removed, std::span<const std::string> added) override;
-  [[nodiscard]] int Count() const override { return static_cast<int>(Send(messages_.count)); }
   void SetIndex(int index) override;
   [[nodiscard]] int Index() const override { return static_cast<int>(Send(messages_.selected)); }
   void SetChecked(int /*row*/, bool /*checked*/) override {}
@@ -33,9 +32,11 @@ class PlainListWidget : public WidgetOf<ItemList, NativeControl> {
 
  protected:
   PlainListWidget(const NewWidget& widget, const ListMessages& messages)
-      : WidgetOf(widget), messages_(messages) {}
+      : NativeControl(widget), messages_(messages) {}
 
  private:
+  [[nodiscard]] int Count() const { return static_cast<int>(Send(messages_.count)); }
+
   const ListMessages& messages_;
 };
 
@@ -68,12 +69,12 @@ class ComboWidget final : public PlainListWidget {
   Rect bounds_;
 };
 
-class CheckListWidget final : public WidgetOf<ItemList, NativeControl> {
+class CheckListWidget final : public ItemList, public NativeControl {
  public:
   explicit CheckListWidget(const NewWidget& widget);
 
   void Replace(int first, int removed, std::span<const std::string> added) override;
-  [[nodiscard]] int Count() const override;
+  [[nodiscard]] int Count() const;
   void SetIndex(int index) override;
   [[nodiscard]] int Index() const override;
   void SetChecked(int row, bool checked) override;
@@ -91,7 +92,7 @@ class CheckListWidget final : public WidgetOf<ItemList, NativeControl> {
   int reported_index_ = -1;
 };
 
-class TreeWidget final : public WidgetOf<Tree, NativeControl> {
+class TreeWidget final : public Tree, public NativeControl {
  public:
   explicit TreeWidget(const NewWidget& widget);
 

@@ -210,8 +210,7 @@ void MenuWindow::Highlight(const MenuEntry* entry, const Rect& area) {
   session_->painter.Highlighted(entry, area);
 }
 
-int Menus::Popup(TopWindow& /*owner*/, Point at, const std::vector<MenuEntry>& entries,
-                 MenuPainter& painter) {
+int Menus::Popup(Point at, const std::vector<MenuEntry>& entries, MenuPainter& painter) {
   const HMONITOR monitor = ::MonitorFromPoint({at.x, at.y}, MONITOR_DEFAULTTONEAREST);
   return window_.Popup(at, entries, painter, DpiOfMonitor(monitor));
 }

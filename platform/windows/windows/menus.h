@@ -48,7 +48,7 @@ class Menus final : public platform::Menus {
   explicit Menus(Drawing& drawing) : window_(window_class_, drawing) {}
 
   // Returns 0 at once, without a menu, while another menu is open.
-  [[nodiscard]] int Popup(TopWindow& owner, Point at, const std::vector<MenuEntry>& entries,
+  [[nodiscard]] int Popup(Point at, const std::vector<MenuEntry>& entries,
                           MenuPainter& painter) override;
   void Cancel() override { window_.Cancel(); }
 

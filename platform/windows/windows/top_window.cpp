@@ -75,7 +75,7 @@ WindowStyle StyleOf(const TopWindowParams& params) {
 
 TopWindow::TopWindow(const WindowClass& window_class, const TopWindowParams& params, HWND owner,
                      Drawing& drawing, TopWindowEvents& events)
-    : WidgetOf(drawing, events),
+    : WidgetWindow(drawing, events),
       events_(events),
       frame_(params.frame),
       draws_frame_(params.frame == Frame::kSizeableTool && params.bare_popup),
@@ -96,7 +96,7 @@ void TopWindow::SetVisible(bool visible) {
     Show(Activation::kLeaveFocus);
   } else {
     if (!visible) GiveForegroundBack(hwnd(), std::exchange(foreground_before_, nullptr));
-    WidgetOf::SetVisible(visible);
+    WidgetWindow::SetVisible(visible);
   }
 }
 
@@ -227,7 +227,7 @@ std::optional<LRESULT> TopWindow::Handle(const Message& message) {
     if (const auto answer = HandleDrag(message)) return answer;
     if (const auto answer = HandleScroll(message)) return answer;
   }
-  return WidgetOf::Handle(message);
+  return WidgetWindow::Handle(message);
 }
 
 std::optional<LRESULT> TopWindow::HandleKind(const Message& message) {
@@ -385,7 +385,7 @@ LRESULT TopWindow::HandleDpi(const Message& message) {
   ::SetWindowPos(hwnd(), nullptr, 0, 0, 0, 0,
                  SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
   if (watch.Gone()) return 0;
-  events_.OnDpiChanged(LOWORD(message.w), FromRect(*reinterpret_cast<const RECT*>(message.l)));
+  events_.OnDpiChanged(FromRect(*reinterpret_cast<const RECT*>(message.l)));
   return 0;
 }
 

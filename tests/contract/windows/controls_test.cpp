@@ -68,7 +68,7 @@ class Controls : public DeskTest {
   }
   std::unique_ptr<platform::ItemList> List(ListKind kind, Reports& reports) {
     auto list = Placed(Windowing().CreateList(*dialog_, "list", kind, reports), Next(70));
-    list->SetItems(kItems);
+    list->Replace(0, 0, kItems);
     return list;
   }
   static COLORREF PixelOf(platform::Widget& widget, int x, int y) {

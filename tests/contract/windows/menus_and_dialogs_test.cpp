@@ -90,7 +90,7 @@ TEST_F(MenusAndDialogs, TheIdOfTheChosenEntryComesBack) {
     Then(kMenu, [&row] {
       for (const int key : row.keys) desktop::PressKey(key);
     });
-    EXPECT_EQ(Platform().menus.Popup(*owner_, {310, 310}, entries, painter), row.id);
+    EXPECT_EQ(Platform().menus.Popup({310, 310}, entries, painter), row.id);
   }
   EXPECT_EQ(painter.painted.height, 18);
   EXPECT_NEAR(painter.painted.width, 150, 3) << "without the check mark that the system adds";
