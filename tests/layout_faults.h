@@ -19,6 +19,9 @@ inline bool IsPlaced(const toolkit::Control& control) {
 }
 
 inline void CheckPlace(toolkit::Control& control, std::vector<std::string>& faults) {
+  if (control.Role() == toolkit::KeyRole::kPush && control.Caption().empty()) {
+    faults.push_back(control.Name() + " says nothing");
+  }
   toolkit::Control& parent = *control.Parent();
   const platform::Rect& place = control.Bounds();
   if (place.Empty()) {

@@ -8,8 +8,6 @@
 
 namespace {
 
-using platform::memory::RegistryValue;
-
 class Preferences : public test::Meter {
  protected:
   static constexpr const char* kForm = "T_frmPreferences";
@@ -212,6 +210,9 @@ TEST_F(Preferences, TheProgressOfTheResetLetsTheWindowBeUsedAndClosed) {
     EXPECT_EQ(ProgressAfter(5), 0);
     EXPECT_TRUE(Widget("btnResetSettings").enabled);
     EXPECT_FALSE(Widget("R3").checked);
+    User().Press("R3");
+    ProgressAfter(5);
+    EXPECT_TRUE(Widget("R3").checked) << "the timer has ended";
     Reset({});  // and the end of the program comes in the middle of it
   });
 }

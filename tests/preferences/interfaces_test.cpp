@@ -61,6 +61,9 @@ TEST_F(Interfaces, AnAdapterIsTickedUnderItsNameAndTheMenuFollows) {
     remove_first();
     EXPECT_EQ(list.items, Strings{"Radio X"});
     EXPECT_EQ(list.index, 0);
+    EXPECT_EQ(Ticks(), "-");
+    EXPECT_EQ(changes(all), "radio x=1");
+    EXPECT_EQ(Ticks(), "+ all");
     EXPECT_EQ(Data(), "01-02-03 54000 900");
     remove_first();
     EXPECT_TRUE(list.items.empty());
