@@ -116,15 +116,14 @@ class Meter : public testing::Test, protected Computer {
   // A picture with a letter for each pixel, "+" for a colour that has none.
   static std::string Drawn(const platform::memory::Raster& picture,
                            const std::map<platform::Colour, char>& letters) {
-    std::string drawn = "\n";
-    for (int y = 0; y < picture.Extent().height; ++y) {
-      for (int x = 0; x < picture.Extent().width; ++x) {
-        const auto letter = letters.find(picture.Pixel({x, y}));
-        drawn += letter != letters.end() ? letter->second : '+';
-      }
-      drawn += '\n';
+    std::string drawn;
+    int pixels = 0;
+    for (const platform::Colour colour : Pixels(picture)) {
+      if (pixels++ % picture.Extent().width == 0) drawn += '\n';
+      const auto letter = letters.find(colour);
+      drawn += letter != letters.end() ? letter->second : '+';
     }
-    return drawn;
+    return drawn + '\n';
   }
   std::string ErrorLog() { return machine.files.BytesBesideProgram("err.log").value_or(""); }
 
@@ -146,17 +145,13 @@ class Meter : public testing::Test, protected Computer {
   }
   // What is other than it was `before`, one behind the other.
   std::string ChangesSince(const Values& before) {
-    const Values now = AllValues();
+    Values now = AllValues();
+    for (const auto& [name, value] : before) now.try_emplace(name, "gone");
     std::string changes;
-    const auto add = [&changes](const std::string& name, const std::string& value) {
-      changes += (changes.empty() ? "" : " ") + name + "=" + value;
-    };
     for (const auto& [name, value] : now) {
       const auto old = before.find(name);
-      if (old == before.end() || old->second != value) add(name, value);
-    }
-    for (const auto& [name, value] : before) {
-      if (!now.contains(name)) add(name, "gone");
+      if (old != before.end() && old->second == value) continue;
+      changes += (changes.empty() ? "" : " ") + name + "=" + value;
     }
     return changes;
   }

@@ -6,9 +6,6 @@ namespace {
 using platform::Rect;
 using Alphas = std::vector<std::uint8_t>;
 
-constexpr std::int64_t kOff = 0;
-constexpr std::int64_t kOn = 1;
-
 constexpr platform::KeyCombination kCtrlAltF{'F', false, true, true};
 constexpr platform::KeyCombination kCtrlAltD{'D', false, true, true};
 constexpr platform::KeyCombination kCtrlShiftQ{'Q', true, true, false};
@@ -49,7 +46,7 @@ TEST_F(Effects, AFreshMeterIsOpaqueAndTheMenuMakesItLetThrough) {
 }
 
 TEST_F(Effects, WhileThePointerIsOnItTheWindowIsOpaque) {
-  Set("Transparent2k", kOn);
+  Set("Transparent2k", 1);
   Run([&] {
     TakeAlphas();
     Enter();
@@ -71,17 +68,17 @@ TEST_F(Effects, WhileThePointerIsOnItTheWindowIsOpaque) {
     Leave();
     TakeAlphas();
     for (const char* off : {"AutoTransparentONOFF", "Transparent2k"}) {
-      Set(off, kOff);
+      Set(off, 0);
       Enter();
       Leave();
       EXPECT_EQ(TakeAlphas(), Alphas{}) << "both must be on";
-      Set(off, kOn);
+      Set(off, 1);
     }
   });
 }
 
 TEST_F(Effects, AFadeTakesStepsOfOneWithinTheRange) {
-  Set("Transparent2k", kOn);
+  Set("Transparent2k", 1);
   struct Row {
     std::int64_t ratio;
     int start;
@@ -96,7 +93,7 @@ TEST_F(Effects, AFadeTakesStepsOfOneWithinTheRange) {
   for (const Row& row : rows) {
     SCOPED_TRACE(row.ratio);
     Set("Win2kTransparentRatio", row.ratio);
-    Set("TransparentFade", kOn);
+    Set("TransparentFade", 1);
     Run([&] {
       EXPECT_EQ(TakeAlphas(), Alphas{static_cast<std::uint8_t>(row.start)});
       Enter();
@@ -108,8 +105,8 @@ TEST_F(Effects, AFadeTakesStepsOfOneWithinTheRange) {
 }
 
 TEST_F(Effects, AFadeTurnsWithThePointerAndEndsWithAnotherOpacityAndTheProgram) {
-  Set("Transparent2k", kOn);
-  Set("TransparentFade", kOn);
+  Set("Transparent2k", 1);
+  Set("TransparentFade", 1);
   Run([&] {
     machine.message_loop.steps_when_pending = true;
     // What is set when this happens after so many steps of a fade.
@@ -185,8 +182,8 @@ TEST_F(Effects, TheGraphWithoutItsBackgroundKeepsBarsLineAndFrame) {
 }
 
 TEST_F(Effects, TheStoredTransparencyComesBackAndIsNotToggledByANewAdapter) {
-  Set("Transparent", kOn);
-  Set("Transparent2k", kOn);
+  Set("Transparent", 1);
+  Set("Transparent2k", 1);
   Run([&] {
     EXPECT_TRUE(TheMeter().shape);
     Enter();
@@ -201,7 +198,7 @@ TEST_F(Effects, TheStoredTransparencyComesBackAndIsNotToggledByANewAdapter) {
       EXPECT_EQ(TheMeter().shape.has_value(), mode != 1) << "the numeric line alone is never cut";
     }
     Leave();
-    Set("Transparent2k", kOff);  // by another program
+    Set("Transparent2k", 0);  // by another program
     machine.interface_table.RemoveRow(1);
     Scan({});
     EXPECT_EQ(TheMeter().alpha, 255);
@@ -228,11 +225,11 @@ TEST_F(Effects, HotKeysWorkUntilTheProgramEnds) {
 
 TEST_F(Effects, TheMeterDocksAndKeepsItsPlace) {
   int left = 0;
-  for (const std::int64_t magnet : {kOn, kOff}) {
+  for (const int magnet : {1, 0}) {
     Set("FormMagnet", magnet);
     Run([&] {
       User().Drag("T_frmBrisanto", {9, 500});
-      left = magnet == kOn ? 0 : 9;
+      left = magnet == 1 ? 0 : 9;
       EXPECT_EQ(TheMeter().bounds, (Rect{left, 500, 274, 135}));
     });
     Run([&] { EXPECT_EQ(TheMeter().bounds, (Rect{left, 500, 274, 135})); });

@@ -75,7 +75,7 @@ class Options : public test::Meter {
     };
   }
   // The user chooses a colour in the system's dialog, or a file in the one that the button opens.
-  Act Colour(const char* panel, platform::Colour colour) {
+  Act Colour(const std::string& panel, platform::Colour colour) {
     return [this, panel, colour] {
       Then([this] { User().Press("btnMoreColors"); });
       Then([this, colour] { machine.system_dialogs.Choose(colour); });
@@ -113,17 +113,16 @@ TEST_F(Options, WorkedOnceStoreTheirValueAndShowInTheMeter) {
            {Press("chkCopyIP"), "CopyIP=1", ""},
            {Slide("AvarageTrackBar", 60), "AvarageTime=60", "",
             [&] { return Widget("lblAvarageTime").text == "60"; }}});
+    platform::Colour colour = 0;
+    for (const std::string name : {"Download", "DownloadLight", "DownloadShadow", "Upload",
+                                   "UploadLight", "UploadShadow", "Background", "Border"}) {
+      const std::string stored = "GraphColor_" + name + "=\"$0000000" + std::to_string(++colour);
+      Check("Graph Colors", {{Colour(name + "Color", colour), stored + '"', "graph"}});
+    }
     Check("Graph Colors",
-          {{Colour("DownloadColor", 0x10E0A0), "GraphColor_Download=\"$0010E0A0\"", "graph"},
-           {Colour("DownloadLightColor", 0x2), "GraphColor_DownloadLight=\"$00000002\"", "graph"},
-           {Colour("DownloadShadowColor", 3), "GraphColor_DownloadShadow=\"$00000003\"", "graph"},
-           {Colour("UploadColor", 0x40B0D0), "GraphColor_Upload=\"$0040B0D0\"", "graph"},
-           {Colour("UploadLightColor", 0x5), "GraphColor_UploadLight=\"$00000005\"", "graph"},
-           {Colour("UploadShadowColor", 0x6), "GraphColor_UploadShadow=\"$00000006\"", "graph"},
-           {Colour("BackgroundColor", 0x7080A1), "GraphColor_Background=\"$007080A1\"", "graph"},
-           {Colour("BorderColor", 0x8), "GraphColor_Border=\"$00000008\"", "graph"},
-           {Colour("HisRecColor", 9), "GraphColor_HistogramReceiving=\"$00000009\"", "tray"},
+          {{Colour("HisRecColor", 9), "GraphColor_HistogramReceiving=\"$00000009\"", "tray"},
            {Colour("HisSendColor", 10), "GraphColor_HistogramSend=\"$0000000A\"", "tray"},
+           {File("ImagesTrayIcon", "C:\\u.bmp"), "TrayIconFile=\"C:\\u.bmp\"", ""},
            {Press("Ic3"), "IconType=2", "tray"},
            {Press("Ic2"), "IconType=1", "tray"},
            {Press("Ic1"), "IconType=0", "tray"},
