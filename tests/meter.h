@@ -50,6 +50,7 @@ class Meter : public testing::Test, protected Computer {
     machine.EndProcess();
     EXPECT_TRUE(ran) << "the program did not start";
     EXPECT_EQ(machine.message_loop.starved, 0) << "something was asked that nobody answered";
+    EXPECT_EQ(machine.message_loop.StepsLeft(), 0U) << "what was to be answered was not asked";
   }
   // The same with the preferences open, on a page.
   void RunOpen(const char* page, const std::function<void()>& body) {
