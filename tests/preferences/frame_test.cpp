@@ -61,8 +61,10 @@ TEST_F(Preferences, EachItemOfTheTreeLeadsToItsPageWhichStaysWhileTheyAreClosed)
       {"Speed Up", 0, "SpeedUp"},
       {"Reset Settings", 0, "ResetSettings"},
   };
-  RunOpen("General", [&] {
+  Run([&] {
+    OpenPreferences();
     EXPECT_EQ(User().Focused(), "TreeItems");
+    EXPECT_TRUE(Widget("General").OnScreen() && Widget("TreeItems").index == 0);
     for (std::size_t i = 0; i < std::size(kRows); ++i) {
       SCOPED_TRACE(kRows[i].item);
       User().Choose("TreeItems", static_cast<int>(i));
@@ -171,6 +173,8 @@ TEST_F(Preferences, TheResetWritesDefaultsOfItsOwnAndTheMeterTakesThem) {
     Parts().SpeedCap = 4711;
     Parts().graph.Set(&display::GraphLook::SpeedLimit, std::int64_t{4711});
     UpsetAll();
+    User().Press("btnClose");
+    OpenPreferences();
     User().Press("SelectAll");
     User().Press("R12");
     EXPECT_FALSE(Widget("SelectAll").checked) << "not all are";

@@ -145,7 +145,8 @@ TEST_F(Options, WorkedOnceStoreTheirValueAndShowInTheMeter) {
            {Press("chkZeroBased"), "ZeroBased=1", "graph"},
            {Press("chk3dGraph"), "Pulse3D=0", "graph"},
            {Up("PulseSpace"), "PulseSpace=1", "graph"},
-           {Up("PulseWidth"), "PulseWidth=4", "graph"},
+           {Up("PulseWidth"), "PulseWidth=4", "graph",
+            [&] { return !Widget("CustomScale").enabled; }},
            {Select("ScaleCombo", 14), "GraphScaleType=14", "cap=5929500 graph scale=5929500",
             [&] { return !Widget("CustomScale").enabled; }},
            {Select("ScaleCombo", 16), "GraphScaleType=16", "cap=128 graph scale=128",
@@ -215,6 +216,7 @@ TEST_F(Options, OfTheAlertsWorkedOnceStoreTheirValue) {
   const std::string program = machine.files.ProgramFolder();
   RunOpen("General", [&] {
     ChoosePage("Bandwidth Alerts");
+    EXPECT_FALSE(plays());
     EXPECT_EQ(Widget("mPerStartsOn").items.size(), 31U);
     EXPECT_EQ(Widget("mPerStartsOn").text, "2") << "the stored 1 is the second row";
     Check("Bandwidth Alerts",
@@ -228,7 +230,8 @@ TEST_F(Options, OfTheAlertsWorkedOnceStoreTheirValue) {
            {Up("MoreThan"), "MoreThan=2", ""},
            {Enter("MoreThan", "9999999999"), "MoreThan=999999999", ""},
            {Select("AlertsMoreThan", 2), "AlertsMoreThan=2 MoreThan=2100000000", ""},
-           {Enter("MoreThan", "50"), "MoreThan=50", ""},
+           {Enter("MoreThan", "50"), "MoreThan=50", "",
+            says("Alerts when the upload of a day reaches 50 GB.")},
            {Press("baDownload"), "baDownload=1", ""},
            {Select("cmbDayWeekMonth", 2), "BADayWeekMonth=2", "",
             says("Alerts when download and upload of a month reach 50 GB.")},

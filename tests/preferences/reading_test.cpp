@@ -97,7 +97,7 @@ TEST_F(Reading, ShowsWhatIsStoredAndChangesNoStoredValue) {
 
 TEST_F(Reading, AMessageTakesSoManyCharactersAndTheOtherRuleItsOwnAction) {
   Set("LessAction", 1);
-  Set("MoreAction", 99);
+  Set("MoreAction", 4);
   RunOpen("Notifications", [&] {
     Widget("DisplayMessage").all_selected = true;
     User().Type("DisplayMessage", std::string(255, 'z'));
@@ -105,7 +105,7 @@ TEST_F(Reading, AMessageTakesSoManyCharactersAndTheOtherRuleItsOwnAction) {
     User().Choose("LessOrMore", 1);
     EXPECT_EQ(Widget("ActionComboBox").index, -1) << "no such row; the other's goes";
     EXPECT_FALSE(Widget("DisplayMessage").visible);
-    EXPECT_EQ(Stored("MoreAction"), 99U);
+    EXPECT_EQ(Stored("MoreAction"), 4U);
   });
 }
 
@@ -116,7 +116,9 @@ TEST_F(Reading, TheStyleOfGridLinesIsReadWithTheLinesWhichAreShownAtOnce) {
     Close();
     Set("hGridVisible", 0);
     Set("cmbHLineStyle", 0);
+    Set("GraphColor_Upload", "$77");
     OpenPreferences();
+    EXPECT_EQ(Parts().graph.Look().OutColor, 0x77U) << "what they show counts";
     EXPECT_EQ(Widget("cmbHLineStyle").index, 2);
     const auto& shape = *Widget("T_frmBrisanto").shape;
     for (const bool shown : {true, false}) {
@@ -169,7 +171,7 @@ TEST_F(Reading, AnotherLanguageCountsAtOnceInAllWindows) {
                                  "mnuAlwaysTopOn=Aloft\nTransparent1Hint=Spyglass\n"
                                  "[SettingsForm]\nTitle=Rigging\nLanguageName=Arrr\n"
                                  "chkShowHints=Parrot\nTreeItem0=Captain\n"
-                                 "lblWin2kTransTrack=Sight\n");
+                                 "lblWin2kTransTrack=Sight\nAd5=Hatch\n");
   Set("SOM3", 1);
   Set("AvarageTime", 1);
   RunOpen("General", [&] {
@@ -183,6 +185,7 @@ TEST_F(Reading, AnotherLanguageCountsAtOnceInAllWindows) {
     EXPECT_TRUE(Entry("Aloft").checked);
     for (const auto& [name, text] : {std::pair{"_tlkInterMeter", "Chart"},
                                      {"T_frmPreferences", "Rigging"},
+                                     {"LockBtn", "Hatch"},
                                      {"chkShowHints", "Parrot"}}) {
       EXPECT_EQ(Widget(name).text, text);
     }
@@ -194,6 +197,7 @@ TEST_F(Reading, AnotherLanguageCountsAtOnceInAllWindows) {
     Scan({});
     EXPECT_EQ(machine.files.loads, loads) << "a scan reads no language file";
     machine.files.PutBesideProgram("Languages\\Pirate.lng",
+                                   "[MainForm]\nmnuAlwaysTopOn=Aloft\n"
                                    "[SettingsForm]\nTitle=Sails\nLanguageName=Arrr\n");
     User().Choose("cmbLanguage", 1);
     EXPECT_EQ(Widget("T_frmPreferences").text, "Sails") << "chosen again, the edited file is read";
@@ -208,6 +212,7 @@ TEST_F(Reading, AnotherLanguageCountsAtOnceInAllWindows) {
     EXPECT_EQ(Widget("cmbLanguage").items, (Strings{"English", "Aaa", "Arrr"}));
     EXPECT_EQ(Widget("cmbLanguage").text, "Arrr");
   });
+  Run([&] { EXPECT_TRUE(Entry("Aloft").checked); });
 }
 
 TEST_F(Reading, TheLockIsPutOnWithTwoEqualPasswordsAndTakenOffWithOne) {

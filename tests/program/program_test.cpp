@@ -162,6 +162,7 @@ TEST_F(Program, AFailedStartIsLoggedAndMadeGoodByTheNextScan) {
     fresh.timers.Advance(1000);
     ASSERT_EQ(window.Traffic().RunTotalDL, 300);
     ASSERT_TRUE(fresh.windowing.Find("T_frmBrisanto").visible);
+    ASSERT_FALSE(fresh.windowing.taskbar_button);
     if (!failed) break;
   }
 }
