@@ -104,7 +104,8 @@ class Ticker : public testing::Test, protected test::Reacting {
 
 TEST_F(Ticker, TicksOnceAScanAndKeepsTheRest) {
   EXPECT_EQ(Sounds(600, 100), 0U);
-  EXPECT_EQ(Sounds(600, 100), 1U);  // 1400, and 400 are left
+  EXPECT_EQ(Sounds(200, 100), 1U);
+  EXPECT_EQ(Sounds(1100, 300), 1U);  // and 400 are left
   EXPECT_EQ(machine.sound.played[0], store.ProgramFile("ticking.wav"));
   EXPECT_EQ(Sounds(5000, 0), 0U) << "both directions must have moved";
   EXPECT_EQ(Sounds(300, 299), 0U);
@@ -167,10 +168,17 @@ TEST_F(Leds, AreLeftAloneWhenNotGivenOrHeldDownAndElseSwitchedByAKeyStroke) {
   using Strokes = std::vector<platform::memory::KeyEvent>;
   Update(5000, 5000);
   EXPECT_EQ(machine.keyboard.state_questions, 0);
+  int given = 0;
+  for (const char* light : {"DLSwitchScr", "ULSwitchNum"}) {
+    Set(light, 1);
+    Update(5000, 5000);
+    EXPECT_EQ(machine.keyboard.states[kScroll] + machine.keyboard.states[kNum], ++given);
+    Set("DLSwitchScr", 0);
+  }
   Set("DLSwitchScr", 1);
-  Set("ULSwitchNum", 1);
   machine.keyboard.states[kScroll] = 0x81;
-  Update(5000, 5000);
+  machine.keyboard.sent.clear();
+  Update(0, 0);
   EXPECT_EQ(machine.keyboard.sent, (Strokes{{kNum, 69, 1}, {kNum, 69, 3}})) << "one scan code";
 }
 

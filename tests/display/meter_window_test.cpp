@@ -58,8 +58,10 @@ TEST_F(MeterWindow, SwitchesBetweenItsThreeModesAndStartsInTheStoredOne) {
       EXPECT_EQ(Entry(mode).checked, mode == row.choice) << mode;
     }
     EXPECT_EQ(Entry("Custom Transparency").enabled, row.graph);
-    const int line_height = row.graph ? 17 : Widget(kMeter).ClientSize().height;
-    EXPECT_TRUE(!row.line || Widget("pnlContain").bounds.height == line_height);
+    platform::Size line = Widget(kMeter).ClientSize();
+    if (row.graph) line.height = 17;
+    const Rect& at = Widget("pnlContain").bounds;
+    EXPECT_TRUE(!row.line || line == (platform::Size{at.width, at.height}));
   };
   constexpr Row kNumeric{"Numeric", 1, false, true};
   for (const Row& row :
@@ -98,7 +100,8 @@ TEST_F(MeterWindow, AlwaysOnTopIsToggledStoredAndComesBackAfterAFullScreenProgra
     EXPECT_FALSE(Entry("Always on Top").checked || Widget(kMeter).topmost);
     Choose("DL-UL Statistics");
     EXPECT_FALSE(Widget("T_frmConnInfo").topmost);
-    User().Press("Button2");
+    User().PressEnter("T_frmConnInfo");
+    EXPECT_FALSE(User().Exists("T_frmConnInfo"));
     Choose("Always on Top");
     Choose("Show / Hide Graph");
     ChooseInTray("DL-UL Statistics");

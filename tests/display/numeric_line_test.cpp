@@ -113,6 +113,7 @@ TEST(NumericLineForm, IsKnownInEveryLanguageAndUnitAndNothingElseIs) {
        "[ DL:0,0 kB UL:0,0 kB ][ Average DL:0,0 kB UL:0,0 kB ][ Max DL:0,0 kB Max UL:0,0 kB ]",
        true},
       {"all modes off", "", false},
+      {"a bracket alone", "[ ", false},
       {"brackets in the word", "[ [a] DL:1 kB UL:2 kB ]", false},
       {"one amount only", "[ DL:1 kB ]", false},
       {"another unit", "[ DL:1 km UL:2 km ]", false},

@@ -136,7 +136,12 @@ TEST_F(Titles, WhatAKilledRunLeftBehindGoesAtTheEndOfTheNext) {
   const WindowId lengthy = Add(std::string(255, 'c') + "|[ DL:1 kB UL:2 kB ]");
   const WindowId bar = Add("Mail|Inbox");
   const WindowId empty = Add("Sheet|");
-  Run([&] { Scan({}); });
+  machine.other_windows.Find(Add("Busy")).hangs = true;
+  Put("busy\n");
+  Mode(2);
+  Run([&] {
+    for (int scans = 0; scans < 2; ++scans) Scan({});  // and nothing is posted
+  });
   EXPECT_EQ(Title(notes) + Title(lengthy), "a|b" + std::string(255, 'c'));
   EXPECT_EQ(Title(bar) + Title(empty), "Mail|InboxSheet|") << "it may be the window's own";
 }
@@ -244,9 +249,13 @@ TEST_F(Titles, TheEditorKeepsWhatItDoesNotShowAndSaysSo) {
         EXPECT_EQ(Widget("Note").text, row.note);
         adds = Widget("btnAdd").enabled;
         EXPECT_EQ(adds, row.note.empty());
-        EXPECT_EQ(Widget("btnRemove").enabled, row.note != unreadable);
+        for (const char* name : {"btnRemove", "AddNew", "WindowTitlesListbox"}) {
+          EXPECT_EQ(Widget(name).enabled, row.note != unreadable) << name;
+        }
         if (adds) AddLine("new");
-        EXPECT_EQ(Widget("btnAdd").enabled, adds && Shown().size() < 10000);
+        const bool full = Shown().size() == 10000;
+        EXPECT_EQ(Widget("btnAdd").enabled, adds && !full);
+        EXPECT_EQ(Widget("Note").text, full ? too_many : row.note);
         EXPECT_TRUE(row.balloons > 0 || File() == row.before) << "not before it closes";
         User().Press("OkBtn");
       });

@@ -208,6 +208,8 @@ TEST_F(Tray, ActivityIsShownByFourPicturesAsLargeAsTheUserLikes) {
         EXPECT_EQ(At(15, 0), shown == 4 ? 1 : shown) << "the last picture is a column short";
       }
       EXPECT_EQ(UpdatesOf({}), 0) << "nothing has changed";
+      Choose("Clear Graph");
+      EXPECT_EQ(UpdatesOf({}), 1) << "a histogram was shown";
       machine.notification_area.picture_size = 32;
       EXPECT_EQ(UpdatesOf({}), 1);
       EXPECT_EQ(Extent(), (platform::Size{32, 32}));

@@ -207,8 +207,9 @@ TEST_F(Effects, TheStoredTransparencyComesBackAndIsNotToggledByANewAdapter) {
 
 TEST_F(Effects, HotKeysWorkUntilTheProgramEnds) {
   machine.sockets.addresses = {"10.0.0.7"};
+  Set("CopyIP", 1);
   Run([&] {
-    machine.clipboard.text.clear();
+    EXPECT_EQ(std::exchange(machine.clipboard.text, ""), "10.0.0.7") << "as the start does";
     for (const auto& key : {kCtrlAltF, kCtrlAltD, kCtrlShiftQ}) {
       EXPECT_TRUE(machine.hot_keys.Press(key));
     }

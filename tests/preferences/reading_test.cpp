@@ -258,6 +258,10 @@ TEST_F(Reading, TheLockIsPutOnWithTwoEqualPasswordsAndTakenOffWithOne) {
     EXPECT_EQ(open("Quillmoth"), opened) << "the page alone knows another one";
     Set("zdP1", 1);  // by another program while a mismatch is typed
     EXPECT_EQ(lock("x", "y"), again);
+    for (const char* edit : {"AdminPassword", "AdminVerifyPass"}) User().Type(edit, "z");
+    Close();
+    OpenPreferences();
+    EXPECT_EQ(Widget("AdminPassword").text + Widget("AdminVerifyPass").text + state(), opened);
   });
 }
 

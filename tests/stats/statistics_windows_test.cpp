@@ -108,7 +108,8 @@ TEST_F(StatisticsWindows, EveryRowShowsItsOwnSource) {
   EXPECT_EQ(AllRows(machine_window),
             std::string("1 kB, 2 kB, 100 kB, 200 kB, 300 kB, ") + kStoredPeriods)
       << "the totals of the page Info are those of the run";
-  EXPECT_EQ(Text(machine_window, "IpAddress"), "192.168.1.20");
+  EXPECT_EQ(Text(machine_window, "IpLabel") + Text(machine_window, "IpAddress"),
+            "Ip  Address192.168.1.20");
 
   // A name with everything that has a meaning somewhere.
   const std::string name = " Fish & \"Chips\" | \u00C4 %s ";
