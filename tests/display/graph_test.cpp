@@ -50,10 +50,9 @@ TEST_F(GraphPicture, IsDrawnPixelByPixel) {
     });
     return drawn;
   };
-  Set("Pulse3D", 1);
-  Set("PulseWidth", 5);
-  Set("PulseSpace", 1);
-  Set("BorderWidth", 2);
+  for (const auto& [name, value] :
+       {std::pair{"Pulse3D", 1}, {"PulseWidth", 5}, {"PulseSpace", 1}, {"BorderWidth", 2}})
+    Set(name, value);
   EXPECT_EQ(draw(), R"(
 ####################################
 ####################################
@@ -140,17 +139,12 @@ TEST_F(GraphPicture, ASeeThroughScaleHasARimThatIsNotBackground) {
 }
 
 TEST_F(GraphPicture, GridLinesOfOddSpacingAreLeftOutAndOfOddStylesAreSolid) {
-  struct Row {
-    std::int64_t visible, space, style;
-    int lines;
-  };
   Set("hLineColor", "clFuchsia");
-  for (const Row& row :
-       {Row{1, 25, 7, 5}, Row{1, 500, 0, 0}, Row{1, 0, 0, 0}, Row{1, -1, 0, 0}, Row{0, 25, 0, 0}}) {
-    Set("hGridVisible", row.visible);
-    Set("hLineSpace", row.space);
-    Set("cmbHLineStyle", row.style);
-    Run([&] { EXPECT_EQ(Count(0xFF00FF) / Graph()->Extent().width, row.lines) << row.space; });
+  Set("hGridVisible", 1);
+  Set("cmbHLineStyle", 7);
+  for (const auto& [space, lines] : {std::pair{25, 5}, {500, 0}, {0, 0}, {-1, 0}}) {
+    Set("hLineSpace", space);
+    Run([&] { EXPECT_EQ(Count(0xFF00FF) / Graph()->Extent().width, lines) << space; });
   }
 }
 

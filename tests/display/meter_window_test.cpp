@@ -183,7 +183,6 @@ TEST_F(MeterWindow, AdaptersThatComeAreListedAndCountedAndStayInTheirWindow) {
     Scan({100, 50});
     EXPECT_EQ(Window().Traffic().RunTotalDL, 900);
     Then([&] {
-      EXPECT_EQ(Widget("T_frmSpecificConnInfo").text, "Fish & Chips");
       machine.interface_table.AddTraffic(1, 4096, 10);
       Scan({1024, 10});
       EXPECT_EQ(total(), "4");

