@@ -62,6 +62,9 @@ TEST_F(Titles, ModeOnePostsIntoEveryWindowEachScanAndTheEndTakesItAway) {
     Set("SOM1", 0);
     Scan({500, 0});
     EXPECT_EQ(Title(notes), "Notes 2|") << "with all modes off the text is empty";
+    Mode(0);
+    Scan({});
+    EXPECT_EQ(Title(notes), "Notes 2|") << "no mode takes it away";
   });
   EXPECT_EQ(Title(notes) + Title(bar), "Notes 2Mail | a");
   EXPECT_EQ(Title(lengthy), std::string(255, 'a'));

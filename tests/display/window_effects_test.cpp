@@ -219,17 +219,13 @@ TEST_F(Effects, HotKeysWorkUntilTheProgramEnds) {
 }
 
 TEST_F(Effects, TheMeterDocksAndKeepsItsPlace) {
-  int left = 0;
-  for (const int magnet : {1, 0}) {
-    Set("FormMagnet", magnet);
-    Run([&] {
-      User().Drag("T_frmBrisanto", {9, 500});
-      left = magnet == 1 ? 0 : 9;
-      EXPECT_EQ(TheMeter().bounds, (Rect{left, 500, 274, 135}));
-    });
-    Run([&] { EXPECT_EQ(TheMeter().bounds, (Rect{left, 500, 274, 135})); });
-  }
-  EXPECT_EQ(machine.registry.Dword("Software\\BrisantoNET\\Settings\\MainScreen", "Left"), 9U);
+  const Rect docked{0, 500, 274, 135};
+  Run([&] {
+    User().Drag("T_frmBrisanto", {9, 500});
+    EXPECT_EQ(TheMeter().bounds, docked);
+  });
+  Run([&] { EXPECT_EQ(TheMeter().bounds, docked); });
+  EXPECT_EQ(machine.registry.Dword("Software\\BrisantoNET\\Settings\\MainScreen", "Top"), 500U);
 }
 
 }  // namespace

@@ -178,6 +178,8 @@ TEST_F(Options, WorkedOnceStoreTheirValueAndShowInTheMeter) {
            {Press("Post2"), "WindowTitle=2", ""},
            {Press("Post1"), "WindowTitle=1", ""},
            {Press("Post0"), "WindowTitle=0", ""}});
+    Then([&] { User().Press("OkBtn"); });
+    User().Press("DefineButton");
     Check("Other",
           {{Slide("Win2kTransTrack", 100), "Win2kTransparentRatio=100", "alpha=100"},
            {[&] { User().PointAt("_tlkInterMeter"); }, "", "alpha=255"},

@@ -146,22 +146,6 @@ TEST_F(Reading, AutostartFollowsItsBoxAlsoWhenTheBoxFollowsTheStore) {
   });
 }
 
-TEST_F(Reading, TheButtonsOfTheTitleModesCountFromTheNextScanAndTakeNothingAway) {
-  const platform::WindowId notes = machine.other_windows.Add("Notes");
-  const auto& title = machine.other_windows.Find(notes).title;
-  RunOpen("Numeric Other", [&] {
-    for (const char* mode : {"Post1", "Post0", "Post2"}) {
-      User().Press(mode);
-      EXPECT_EQ(title == "Notes", mode == std::string("Post1"));
-      Scan({});
-      EXPECT_NE(title, "Notes") << mode;
-    }
-    Then([&] { User().Press("OkBtn"); });
-    User().Press("DefineButton");
-  });
-  EXPECT_EQ(title, "Notes");
-}
-
 TEST_F(Reading, AnotherLanguageCountsAtOnceInAllWindows) {
   machine.files.PutBesideProgram("Languages\\Pirate.lng",
                                  "[MainForm]\nS1=Booty\nS2=Peak\n_tlkInterMeter=Chart\n"
