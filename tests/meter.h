@@ -128,35 +128,6 @@ class Meter : public testing::Test, protected Computer {
   }
   std::string ErrorLog() { return machine.files.BytesBesideProgram("err.log").value_or(""); }
 
-  // What the registry holds, as "name=value" with texts in quotes.
-  using Values = std::map<std::string, std::string>;
-  Values AllValues(const std::string& key = "SOFTWARE") {
-    Values values;
-    for (const std::string& name : machine.registry.Values(key)) {
-      const auto number = machine.registry.Dword(key, name);
-      const auto text = machine.registry.Text(key, name);
-      values[(key == kSettingsKey ? "" : key + "\\") + name] =
-          number ? std::to_string(static_cast<std::int32_t>(*number))
-          : text ? '"' + *text + '"'
-                 : std::to_string(machine.registry.Raw(key, name)->data.size());
-    }
-    for (const std::string& sub : machine.registry.Keys(key))
-      values.merge(AllValues(key + "\\" + sub));
-    return values;
-  }
-  // What is other than it was `before`, one behind the other.
-  std::string ChangesSince(const Values& before) {
-    Values now = AllValues();
-    for (const auto& [name, value] : before) now.try_emplace(name, "gone");
-    std::string changes;
-    for (const auto& [name, value] : now) {
-      const auto old = before.find(name);
-      if (old != before.end() && old->second == value) continue;
-      changes += (changes.empty() ? "" : " ") + name + "=" + value;
-    }
-    return changes;
-  }
-
   toolkit::Application& App() { return program_->App(); }
   display::T_frmBrisanto& Window() { return program_->Meter(); }
   const display::MeterParts& Parts() { return Window().Parts().options.Parts(); }

@@ -189,7 +189,7 @@ TEST_F(Preferences, TheResetWritesDefaultsOfItsOwnAndTheMeterTakesThem) {
 
 TEST_F(Preferences, TheProgressOfTheResetLetsTheWindowBeUsedAndClosed) {
   RunOpen("Reset Settings", [&] {
-    const Values before = AllValues();
+    const StoredValues before = AllValues();
     Reset({});
     EXPECT_EQ(ChangesSince(before), "") << "no group was chosen";
     EXPECT_FALSE(Widget("btnResetSettings").enabled);

@@ -30,7 +30,7 @@ TEST_F(Interfaces, AnAdapterIsTickedUnderItsNameAndTheMenuFollows) {
   machine.interface_table.AddRow(platform::memory::MakeRow("MS TCP Loopback interface"));
   RunOpen("Interfaces", [&] {
     const auto changes = [&](const std::function<void()>& act) {
-      const Values before = AllValues();
+      const StoredValues before = AllValues();
       act();
       return ChangesSince(before);
     };

@@ -9,6 +9,7 @@ using platform::memory::RegistryValue;
 class Options : public test::Meter {
  protected:
   using Act = std::function<void()>;
+  using Looks = std::map<std::string, std::string>;
   struct Row {
     Act act;
     std::string stored;  // the values that are other ones then; no other value changes
@@ -20,8 +21,8 @@ class Options : public test::Meter {
     ChoosePage(page);
     for (const Row& row : rows) {
       SCOPED_TRACE(std::string(page) + ": " + row.stored);
-      const Values stored = AllValues();
-      const Values look = Look();
+      const StoredValues stored = AllValues();
+      const Looks look = Look();
       row.act();
       EXPECT_EQ(ChangesSince(stored), row.stored);
       std::string seen;
@@ -35,7 +36,7 @@ class Options : public test::Meter {
     }
   }
   // What the user sees of the meter, part by part.
-  Values Look() {
+  Looks Look() {
     const auto picture = [](const platform::memory::Raster& raster) {
       const auto pixels = Pixels(raster);
       return std::string(pixels.begin(), pixels.end());  // the lowest byte tells the colours apart

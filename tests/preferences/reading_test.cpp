@@ -80,7 +80,7 @@ TEST_F(Reading, ShowsWhatIsStoredAndChangesNoStoredValue) {
       Run([&] {
         if (opened_before) OpenPreferences(), Close();
         plant();
-        const Values before = AllValues();
+        const StoredValues before = AllValues();
         OpenPreferences();
         SeeEveryPage();
         for (const Row* row : together) {
