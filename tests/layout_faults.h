@@ -1,4 +1,4 @@
-// What is wrong with the places of controls.
+// What is wrong with the places of controls, and buttons that say nothing.
 #pragma once
 
 #include <string>
@@ -19,7 +19,8 @@ inline bool IsPlaced(const toolkit::Control& control) {
 }
 
 inline void CheckPlace(toolkit::Control& control, std::vector<std::string>& faults) {
-  if (control.Role() == toolkit::KeyRole::kPush && control.Caption().empty()) {
+  const bool says = !control.Caption().empty() || control.Role() != toolkit::KeyRole::kPush;
+  if (control.Visible() && !says) {
     faults.push_back(control.Name() + " says nothing");
   }
   toolkit::Control& parent = *control.Parent();
@@ -53,7 +54,7 @@ inline void CheckPlaces(toolkit::Control& parent, std::vector<std::string>& faul
 }
 
 // Returns the faults in the places of all controls on `root`, one text for each: a control that has
-// no size, leaves its parent, or covers another visible one.
+// no size, leaves its parent, or covers another visible one, and a button without a caption.
 inline std::vector<std::string> LayoutFaults(toolkit::Control& root) {
   std::vector<std::string> faults;
   CheckPlaces(root, faults);

@@ -119,7 +119,7 @@ TEST_F(Pages, TheLayoutNamesWhatLeavesItsParentOrCoversAnother) {
   label.SetBounds({10, 10, 0, 13});
   EXPECT_EQ(test::LayoutFaults(form),
             (Names{"label has no size", "inner leaves group, which is 200 by 100",
-                   "hidden covers group"}));
+                   "hidden says nothing", "hidden covers group"}));
 }
 
 }  // namespace
