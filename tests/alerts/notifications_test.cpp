@@ -40,22 +40,19 @@ TEST_F(Notifications, FireAfterSoManyScansInARowAndBeginAnew) {
 }
 
 TEST_F(Notifications, AnAmountEqualToTheThresholdCountsForBothRules) {
-  struct Row {
-    std::string rule;
-    std::int64_t bytes;
-    std::size_t fires;
-  };
-  const Row rows[] = {{"Less", 5000, 1}, {"Less", 5001, 0}, {"More", 5000, 1}, {"More", 4999, 0}};
-  for (const Row& row : rows) {
+  for (const auto& [rule, bytes, fires] : {std::tuple{std::string("Less"), 5000, 1U},
+                                           {"Less", 5001, 0U},
+                                           {"More", 5000, 1U},
+                                           {"More", 4999, 0U}}) {
     for (const bool download : {false, true}) {
-      SCOPED_TRACE(row.rule + std::to_string(row.bytes) + (download ? " down" : " up"));
-      const std::string direction = row.rule + (download ? "Downloaded" : "Uploaded");
+      SCOPED_TRACE(rule + std::to_string(bytes) + (download ? " down" : " up"));
+      const std::string direction = rule + (download ? "Downloaded" : "Uploaded");
       Set(direction, 1);
-      Set(row.rule + "NotSecs", 3);
-      Set(row.rule + "Action", 1);
+      Set(rule + "NotSecs", 3);
+      Set(rule + "Action", 1);
       balloons.clear();
-      Seconds(3, download ? row.bytes : 7000, download ? 7000 : row.bytes);
-      EXPECT_EQ(balloons.size(), row.fires);
+      Seconds(3, download ? bytes : 7000, download ? 7000 : bytes);
+      EXPECT_EQ(balloons.size(), fires);
       Set(direction, 0);
     }
   }

@@ -69,24 +69,19 @@ TEST(GraphScale, TheEdgesOfAFixedScaleNeverMeetAndNothingLeavesThePicture) {
 }
 
 TEST(GraphScale, TextsHaveThreeDigitsAtTheMost) {
-  struct Row {
-    std::int64_t bytes;
-    ScaleUnits units;
-    const char* text;
-  };
-  static constexpr Row kRows[] = {
-      {0, ScaleUnits::kKBytes, "0 kB"},
-      {512, ScaleUnits::kKBytes, "0,5 kB"},
-      {1024, ScaleUnits::kKBytes, "1 kB"},
-      {99 * 1024 + 512, ScaleUnits::kKBytes, "99,5 kB"},
-      {100 * 1024 + 512, ScaleUnits::kKBytes, "100 kB"},
-      {1000 * 1024, ScaleUnits::kKBytes, "0,9 MB"},
-      {12500000, ScaleUnits::kKBytes, "11,9 MB"},
-      {128, ScaleUnits::kKBits, "1 kb"},
-      {12500000, ScaleUnits::kKBits, "95,3 Mb"},
-      {2LL << 50, ScaleUnits::kKBytes, "2 PB"},
-  };
-  for (const Row& row : kRows) EXPECT_EQ(ScaleText(row.bytes, row.units, ","), row.text);
+  using enum ScaleUnits;
+  for (const auto& [bytes, units, text] : {std::tuple{std::int64_t{0}, kKBytes, "0 kB"},
+                                           {512, kKBytes, "0,5 kB"},
+                                           {1024, kKBytes, "1 kB"},
+                                           {99 * 1024 + 512, kKBytes, "99,5 kB"},
+                                           {100 * 1024 + 512, kKBytes, "100 kB"},
+                                           {1000 * 1024, kKBytes, "0,9 MB"},
+                                           {12500000, kKBytes, "11,9 MB"},
+                                           {128, kKBits, "1 kb"},
+                                           {12500000, kKBits, "95,3 Mb"},
+                                           {2LL << 50, kKBytes, "2 PB"}}) {
+    EXPECT_EQ(ScaleText(bytes, units, ","), text);
+  }
 }
 
 }  // namespace
