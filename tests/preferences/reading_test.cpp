@@ -34,48 +34,38 @@ TEST_F(Reading, ShowsWhatIsStoredAndChangesNoStoredValue) {
     std::string shows;
     std::string keeps = "";  // what it showed before, where that is not `shows`
   };
-  const Row rows[] = {
-      // Rows that the list does not have.
-      {"GraphScaleType", Number(99), "ScaleCombo", "#-1 ", "#0 Auto Scale"},
-      {"BevelInner", Number(99), "BevelInner", "#-1 ", "#1 None"},
-      {"cmbVLineStyle", Number(5), "cmbVLineStyle", "#2 Dots"},
-      {"BAAction", Number(99), "BaAction", "#-1 ", "#0 No action"},
-      {"AlertsMoreThan", Number(3), "AlertsMoreThan", "#-1 ", "#0 Kilobytes"},
-      {"LessOrMore", Number(99), "LessOrMore", "#1 When more than"},
-      {"cmbVLineStyle", Number(4), "cmbVLineStyle", "#4 Dash Dot Dot"},
-      // Numbers beyond a range.
-      {"PulseWidth", Number(0), "PulseWidth", "0"},
-      {"BevelWidth", Number(0xFFFFFFFB), "BevelWidth", "-5"},
-      {"SpeedLimit", Number(999999999), "CustomScale", "7999999992"},
-      {"Win2kTransparentRatio", Number(4000), "Win2kTransTrack", "255"},
-      {"Win2kTransparentRatio", Number(4000), "lblWin2kTransTrack", "&Opacity: 100 %"},
-      {"Win2kTransparentRatio", Number(4), "lblWin2kTransTrack", "&Opacity: 2 %"},
-      {"AvarageTime", Number(4000), "lblAvarageTime", "4000"},
-      {"AvarageTime", Number(4001), "AvarageTrackBar", "60"},
-      {"MoreThan", Number(0), "MoreThan", "0"},
-      {"TickerBytes", Number(5), "TickerSpin", "5"},
-      {"FormMagnet", Number(0), "chkScreenDocking", "off"},
-      {"CopyIP", Number(5), "chkCopyIP", "on"},
-      // Texts that name something.
-      {"GraphColor_Upload", Text("$ff"), "UploadColor", "255"},
-      {"FontName", Text("COURIER new"), "FontChoose", "#1 Courier New"},
-      {"FontName", Text("No Such Font"), "FontChoose", "#4 No Such Font"},
-      {"Language", Text("gone"), "cmbLanguage", "#0 English"},
-      {"BaPlayFile", Text(long_path), "BaPlayFile", long_path},
-      {"MoreDisplayMessage", Text(long_text), "DisplayMessage", long_text},
-  };
-  // What is planted together: a name that comes again is of the next round.
-  std::map<std::string, int> rounds;
-  std::map<int, std::vector<const Row*>> planted;
-  for (const Row& row : rows) planted[rounds[row.name]++].push_back(&row);
-  for (const auto& [round, together] : planted) {
+  const std::vector<Row> kRounds[] = {
+      {{"GraphScaleType", Number(99), "ScaleCombo", "#-1 ", "#0 Auto Scale"},
+       {"BevelInner", Number(99), "BevelInner", "#-1 ", "#1 None"},
+       {"cmbVLineStyle", Number(5), "cmbVLineStyle", "#2 Dots"},
+       {"BAAction", Number(99), "BaAction", "#-1 ", "#0 No action"},
+       {"AlertsMoreThan", Number(3), "AlertsMoreThan", "#-1 ", "#0 Kilobytes"},
+       {"LessOrMore", Number(99), "LessOrMore", "#1 When more than"},
+       {"PulseWidth", Number(0), "PulseWidth", "0"},
+       {"BevelWidth", Number(0xFFFFFFFB), "BevelWidth", "-5"},
+       {"SpeedLimit", Number(999999999), "CustomScale", "7999999992"},
+       {"Win2kTransparentRatio", Number(4000), "Win2kTransTrack", "255"},
+       {"Win2kTransparentRatio", Number(4000), "lblWin2kTransTrack", "&Opacity: 100 %"},
+       {"AvarageTime", Number(4001), "lblAvarageTime", "4001"},
+       {"AvarageTime", Number(4001), "AvarageTrackBar", "60"},
+       {"MoreThan", Number(0), "MoreThan", "0"},
+       {"TickerBytes", Number(5), "TickerSpin", "5"},
+       {"FormMagnet", Number(0), "chkScreenDocking", "off"},
+       {"CopyIP", Number(5), "chkCopyIP", "on"},
+       {"GraphColor_Upload", Text("$ff"), "UploadColor", "255"},
+       {"FontName", Text("COURIER new"), "FontChoose", "#1 Courier New"},
+       {"Language", Text("gone"), "cmbLanguage", "#0 English"},
+       {"BaPlayFile", Text(long_path), "BaPlayFile", long_path},
+       {"MoreDisplayMessage", Text(long_text), "DisplayMessage", long_text}},
+      {{"cmbVLineStyle", Number(4), "cmbVLineStyle", "#4 Dash Dot Dot"},
+       {"Win2kTransparentRatio", Number(4), "lblWin2kTransTrack", "&Opacity: 2 %"},
+       {"FontName", Text("No Such Font"), "FontChoose", "#4 No Such Font"}}};
+  for (const std::vector<Row>& rows : kRounds) {
+    const auto plant = [&] {
+      for (const Row& row : rows) machine.registry.Set(test::kSettingsKey, row.name, row.value);
+    };
     for (const bool opened_before : {false, true}) {
       SCOPED_TRACE(opened_before ? "opened before" : "opened for the first time");
-      const auto plant = [&] {
-        for (const Row* row : together) {
-          machine.registry.Set(test::kSettingsKey, row->name, row->value);
-        }
-      };
       if (!opened_before) plant();
       Run([&] {
         if (opened_before) OpenPreferences(), Close();
@@ -83,14 +73,13 @@ TEST_F(Reading, ShowsWhatIsStoredAndChangesNoStoredValue) {
         const StoredValues before = AllValues();
         OpenPreferences();
         SeeEveryPage();
-        for (const Row* row : together) {
-          EXPECT_EQ(Shown(row->control),
-                    opened_before && !row->keeps.empty() ? row->keeps : row->shows)
-              << row->name << " in " << row->control;
+        for (const Row& row : rows) {
+          EXPECT_EQ(Shown(row.control), opened_before && !row.keeps.empty() ? row.keeps : row.shows)
+              << row.name << " in " << row.control;
         }
         EXPECT_EQ(ChangesSince(before), "");
       });
-      for (const Row* row : together) machine.registry.Remove(test::kSettingsKey, row->name);
+      for (const Row& row : rows) machine.registry.Remove(test::kSettingsKey, row.name);
     }
   }
 }
