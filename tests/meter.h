@@ -107,6 +107,11 @@ class Meter : public testing::Test, protected Computer {
   std::unique_ptr<platform::memory::Raster> Graph() {
     return Widget("_tlkInterMeter").Paint(machine.screen);
   }
+  // Whether a pixel of the meter is part of its shape.
+  bool InShape(platform::Point at) {
+    const auto& shape = Widget("T_frmBrisanto").shape;
+    return !shape || std::ranges::any_of(*shape, [at](const auto& it) { return it.Contains(at); });
+  }
   static std::vector<platform::Colour> Pixels(const platform::memory::Raster& picture) {
     std::vector<platform::Colour> pixels;
     for (int y = 0; y < picture.Extent().height; ++y) {

@@ -135,13 +135,6 @@ TEST_F(Effects, AFadeTurnsWithThePointerAndEndsWithAnotherOpacityAndTheProgram) 
   });
 }
 
-// Whether a pixel of the window is part of its shape.
-bool Exists(const platform::memory::WidgetState& window, platform::Point at) {
-  if (!window.shape) return true;
-  return std::any_of(window.shape->begin(), window.shape->end(),
-                     [at](const Rect& part) { return part.Contains(at); });
-}
-
 TEST_F(Effects, TheGraphWithoutItsBackgroundKeepsBarsLineAndFrame) {
   Run([&] {
     Choose("Custom Transparency");
@@ -157,17 +150,17 @@ TEST_F(Effects, TheGraphWithoutItsBackgroundKeepsBarsLineAndFrame) {
     for (int y = 0; y < size.height; ++y) {
       for (int x = 0; x < size.width; ++x) {
         const bool drawn = graph->Pixel({x, y}) != background;
-        ASSERT_EQ(Exists(TheMeter(), {x + 1, y + 1}), drawn) << x << "," << y;
+        ASSERT_EQ(InShape({x + 1, y + 1}), drawn) << x << "," << y;
       }
     }
-    EXPECT_TRUE(Exists(TheMeter(), {0, 60})) << "the window's own frame";
+    EXPECT_TRUE(InShape({0, 60})) << "the window's own frame";
     for (const Rect& part : *TheMeter().shape) {
       EXPECT_TRUE(part.Right() <= 274 && part.Bottom() <= 135) << part.left << "," << part.top;
     }
-    EXPECT_TRUE(Exists(TheMeter(), {100, size.height + 5})) << "the numeric line";
+    EXPECT_TRUE(InShape({100, size.height + 5})) << "the numeric line";
 
     Window().SetWindowBounds({300, 300, 200, 100});
-    EXPECT_TRUE(Exists(TheMeter(), {199, 50}));
+    EXPECT_TRUE(InShape({199, 50}));
 
     Choose("Custom Transparency");
     EXPECT_FALSE(TheMeter().shape);

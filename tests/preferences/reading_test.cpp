@@ -108,15 +108,9 @@ TEST_F(Reading, TheStyleOfGridLinesIsReadWithTheLinesWhichAreShownAtOnce) {
     OpenPreferences();
     EXPECT_EQ(Parts().graph.Look().OutColor, 0x77U) << "what they show counts";
     EXPECT_EQ(Widget("cmbHLineStyle").index, 2);
-    const auto& shape = *Widget("T_frmBrisanto").shape;
     for (const bool shown : {true, false}) {
       User().Press("hGridsVisibleCheckBox");
-      EXPECT_EQ(std::any_of(shape.begin(), shape.end(),
-                            [](const auto& part) {
-                              return part.Contains({41, 41});
-                            }),
-                shown)
-          << "of the see-through meter";
+      EXPECT_EQ(InShape({41, 41}), shown) << "of the see-through meter";
     }
     EXPECT_EQ(Widget("cmbHLineStyle").index, 0);
   });
