@@ -199,6 +199,10 @@ TEST_F(Titles, TheEditorAddsWhatIsTypedAndRemovesWhatIsSelected) {
       User().PressEsc(kAddTitlesForm);
     });
     EXPECT_EQ(File(), "two\r\ntwo\r\n") << "Esc keeps it, too";
+    Mode(2);
+    const WindowId removed = Add("one");
+    Scan({});
+    EXPECT_EQ(Title(removed), "one");
   });
 }
 

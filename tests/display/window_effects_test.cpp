@@ -110,14 +110,14 @@ TEST_F(Effects, AFadeTurnsWithThePointerAndEndsWithAnotherOpacityAndTheProgram) 
   Run([&] {
     machine.message_loop.steps_when_pending = true;
     // What is set when this happens after so many steps of a fade.
-    const auto fade = [&](int steps, const std::function<void()>& act) {
+    const auto fade = [&](bool in, int steps, const std::function<void()>& act) {
       TakeAlphas();
       for (int step = 0; step < steps; ++step) Then([] {});
       Then(act);
-      Enter();
+      in ? Enter() : Leave();
       return TakeAlphas();
     };
-    Alphas seen = fade(21, [&] {
+    Alphas seen = fade(true, 21, [&] {
       Scan({700, 0});
       Leave();
     });
@@ -127,11 +127,11 @@ TEST_F(Effects, AFadeTurnsWithThePointerAndEndsWithAnotherOpacityAndTheProgram) 
     Alphas expected = Steps(190, top);
     std::ranges::copy(Steps(top - 1, 190), std::back_inserter(expected));
     EXPECT_EQ(seen, expected);
-    EXPECT_LT(fade(2, [&] { machine.hot_keys.Press(kCtrlAltD); }).size(), 5U);
+    Enter();
+    EXPECT_LT(fade(false, 2, [&] { machine.hot_keys.Press(kCtrlAltD); }).size(), 5U);
     EXPECT_EQ(TheMeter().alpha, 255);
-    Leave();
     machine.hot_keys.Press(kCtrlAltD);
-    EXPECT_LT(fade(1, [&] { App().Terminate(); }).size(), 5U);
+    EXPECT_LT(fade(true, 1, [&] { App().Terminate(); }).size(), 5U);
   });
 }
 

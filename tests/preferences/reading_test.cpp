@@ -135,7 +135,7 @@ TEST_F(Reading, AnotherLanguageCountsAtOnceInAllWindows) {
                                  "mnuAlwaysTopOn=Aloft\nTransparent1Hint=Spyglass\n"
                                  "[SettingsForm]\nTitle=Rigging\nLanguageName=Arrr\n"
                                  "chkShowHints=Parrot\nTreeItem0=Captain\n"
-                                 "lblWin2kTransTrack=Sight\nAd5=Hatch\n");
+                                 "lblWin2kTransTrack=Sight\nAd5=Hatch\nS13=Trim\n");
   Set("SOM3", 1);
   Set("AvarageTime", 1);
   RunOpen("General", [&] {
@@ -149,6 +149,7 @@ TEST_F(Reading, AnotherLanguageCountsAtOnceInAllWindows) {
     for (const auto& [name, text] : {std::pair{"_tlkInterMeter", "Chart"},
                                      {"T_frmPreferences", "Rigging"},
                                      {"LockBtn", "Hatch"},
+                                     {"ScaleCombo", "Trim"},
                                      {"chkShowHints", "Parrot"}}) {
       EXPECT_EQ(Widget(name).text, text);
     }
