@@ -86,14 +86,10 @@ TEST_F(Preferences, EveryPageIsLaidOutInEveryLanguageAndEveryControlHasAHint) {
   const std::function<void(toolkit::Control&)> check = [&](toolkit::Control& control) {
     for (toolkit::Control* child : control.Children()) check(*child);
     if (!User().Exists(control.Name())) return;
-    using Kind = platform::memory::WidgetState::Kind;
     const auto& widget = Widget(control.Name());
-    if (widget.kind == Kind::kText && widget.text.empty())
-      told += control.Name() + " says nothing\n";
-    if (widget.kind == Kind::kText || widget.kind == Kind::kSurface ||
-        widget.IsButton(platform::ButtonKind::kGroup))
-      return;
     const bool takes_keys = control.Role() != toolkit::KeyRole::kNone;
+    const bool is_text = widget.kind == platform::memory::WidgetState::Kind::kText;
+    if (is_text && widget.text.empty()) told += control.Name() + " says nothing\n";
     if (takes_keys && control.Hint().empty()) told += control.Name() + " has no hint\n";
     if (takes_keys && widget.events->Describe().name.empty())
       told += control.Name() + " has no name\n";
