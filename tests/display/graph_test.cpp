@@ -67,24 +67,23 @@ TEST_F(GraphPicture, IsDrawnPixelByPixel) {
 ####################################
 ####################################
 )");
-  Set("Pulse3D", 0);
-  Set("ZeroBased", 0);
-  Set("BevelOuter", 0);
+  for (const char* none : {"BorderWidth", "ZeroBased", "BevelOuter"}) Set(none, 0);
+  Set("PulseWidth", 3);  // a narrow bar has its edges at top and foot
   for (const char* line : {"hGridVisible", "vGridVisible"}) Set(line, 1);
   for (const char* space : {"hLineSpace", "vLineSpace"}) Set(space, 5);
   for (const char* style : {"cmbHLineStyle", "cmbVLineStyle"}) Set(style, 2);
   EXPECT_EQ(draw(), R"(
 ++++++++++++++++++++++++++++++++++++
-+##################################+
-+##################################+
-+##.d|ddd.|....|....|.ddd|d...|..##|
-+##.d|ddd.|....|....|.dUU|U...|..##|
----.d|---.|.---|..--|.dU-|-.UU|--##|
-+##.ddddd.UUUUU.......dUUUU.UUUUU##+
-+##.ddddd.UUUUU.......dUUUU.UUUUU##+
-+##.ddddd.UUUUU.......dUUUU.Udddd##+
-+##################################+
----###---###---###---###---###---##+
++....|....|....|lll.|....|..ll|....|
++....|....|....|ddd.|....|..dL|....|
++....|....|....|ddd.|....|..dU|....|
++...............ddd.........dUU....+
+---...---...---.dd---...---.dU---LL+
++...............ddd.LLL.....dUU.UUU+
++....|....|....|ddd.|UU..|..dU|.UUU|
++....|....|....|ddd.|UU..|..dU|.UUU|
++....|....|....|ddd.|UU..|..dU|.Ull|
+---...---...---.ss---SS.---.sS---dd+
 ++++++++++++++++++++++++++++++++++++
 )");
 }
