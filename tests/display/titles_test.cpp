@@ -71,32 +71,24 @@ TEST_F(Titles, ModeOnePostsIntoEveryWindowEachScanAndTheEndTakesItAway) {
 }
 
 TEST_F(Titles, ModeTwoPostsWhereALineOfTheListOccurs) {
-  struct Row {
-    const char* why;
-    const char* file;
-    const char* title;
-    bool posted;
-  };
-  static constexpr Row kRows[] = {
-      {"in any case", "x\r\nnote\r\n", "My NOTES", true},
-      {"in any script", "\xD0\x96\xD0\xA3\xD0\x9A\n", "\xD0\xB6\xD1\x83\xD0\xBA", true},
-      {"a marker is no part of the title", "note\n", "Mail|note", false},
-      {"an empty line is in every title", "zzz\n\nyyy\n", "Sheet", true},
-      {"the end of the last line is none", "zz\n", "Sheet", false},
-      {"nor is an empty file", "", "Sheet", false},
-  };
   Mode(2);
-  for (const Row& row : kRows) {
-    SCOPED_TRACE(row.why);
-    Put(row.file);
-    const WindowId window = Add(row.title);
-    Run([&] {
+  for (const auto& [why, file, title, posted] :
+       {std::tuple{"in any case", "x\r\nnote\r\n", "My NOTES", true},
+        {"in any script", "\xD0\x96\xD0\xA3\xD0\x9A\n", "\xD0\xB6\xD1\x83\xD0\xBA", true},
+        {"a marker is no part of the title", "note\n", "Mail|note", false},
+        {"an empty line is in every title", "zzz\n\nyyy\n", "Sheet", true},
+        {"the end of the last line is none", "zz\n", "Sheet", false},
+        {"nor is an empty file", "", "Sheet", false}}) {
+    SCOPED_TRACE(why);
+    Put(file);
+    const WindowId window = Add(title);
+    Run([&, title = title, posted = posted] {
       Scan({});
-      EXPECT_EQ(Title(window), row.posted ? row.title + kIdle : row.title);
+      EXPECT_EQ(Title(window), posted ? title + kIdle : title);
       machine.files.SetHeld(path, true);
       machine.interface_table.AddRow(platform::memory::MakeRow("Another"));
       for (int scans = 0; scans < 2; ++scans) Scan({1024, 0});
-      EXPECT_EQ(Title(window).ends_with("[ DL:1 kB UL:0,0 kB ]"), row.posted)
+      EXPECT_EQ(Title(window).ends_with("[ DL:1 kB UL:0,0 kB ]"), posted)
           << "a list that cannot be read now stays in use";
     });
     machine.files.SetHeld(path, false);

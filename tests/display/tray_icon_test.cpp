@@ -19,15 +19,14 @@ struct Bitmap {
   std::uint32_t width, height, bits;
   std::string pixels;
   std::vector<std::uint32_t> behind = {};
-  bool has_masks = false;
   std::uint32_t header = 40;
 
   [[nodiscard]] std::string Bytes() const {
     std::string bytes;
-    for (const std::uint32_t value : {header, width, height}) Append(bytes, value, 4);
-    Append(bytes, 1, 2);
-    Append(bytes, bits, 2);
-    Append(bytes, has_masks ? 3 : 0, 4);
+    const std::uint32_t kind = bits > 8 && !behind.empty() ? 3 : 0;
+    for (const std::uint32_t value : {header, width, height, 1 | bits << 16U, kind}) {
+      Append(bytes, value, 4);
+    }
     bytes.resize(40);
     for (const std::uint32_t value : behind) Append(bytes, value, 4);
     bytes.resize(std::max<std::size_t>(bytes.size(), header));
@@ -80,8 +79,8 @@ TEST(DecodeBitmap, ReadsColoursOfEveryWidth) {
     SCOPED_TRACE(row.why);
     std::string pixel;
     Append(pixel, row.pixel, 4);
-    const auto picture = display::DecodeBitmap(
-        Bitmap{1, 1, row.bits, pixel, row.masks, !row.masks.empty(), row.header}.Bytes());
+    const auto picture =
+        display::DecodeBitmap(Bitmap{1, 1, row.bits, pixel, row.masks, row.header}.Bytes());
     EXPECT_EQ(picture ? std::optional(picture->At({0, 0})) : std::nullopt, row.colour);
   }
 }

@@ -79,27 +79,20 @@ TEST_F(Effects, WhileThePointerIsOnItTheWindowIsOpaque) {
 
 TEST_F(Effects, AFadeTakesStepsOfOneWithinTheRange) {
   Set("Transparent2k", 1);
-  struct Row {
-    std::int64_t ratio;
-    int start;
-    Alphas enter, leave;
-  };
-  const Row rows[] = {
-      {190, 190, Steps(190, 255), Steps(255, 190)},
-      {255, 255, {255}, {255}},
-      {256, 255, {}, {}},
-      {-2, 0, Steps(0, 255), Steps(255, 0)},
-  };
-  for (const Row& row : rows) {
-    SCOPED_TRACE(row.ratio);
-    Set("Win2kTransparentRatio", row.ratio);
-    Set("TransparentFade", 1);
-    Run([&] {
-      EXPECT_EQ(TakeAlphas(), Alphas{static_cast<std::uint8_t>(row.start)});
+  Set("TransparentFade", 1);
+  for (const auto& [ratio, start, enter, leave] :
+       {std::tuple{190, Alphas{190}, Steps(190, 255), Steps(255, 190)},
+        {255, Alphas{255}, Alphas{255}, Alphas{255}},
+        {256, Alphas{255}, Alphas{}, Alphas{}},
+        {-2, Alphas{0}, Steps(0, 255), Steps(255, 0)}}) {
+    SCOPED_TRACE(ratio);
+    Set("Win2kTransparentRatio", ratio);
+    Run([&, start = start, enter = enter, leave = leave] {
+      EXPECT_EQ(TakeAlphas(), start);
       Enter();
-      EXPECT_EQ(TakeAlphas(), row.enter);
+      EXPECT_EQ(TakeAlphas(), enter);
       Leave();
-      EXPECT_EQ(TakeAlphas(), row.leave);
+      EXPECT_EQ(TakeAlphas(), leave);
     });
   }
 }
