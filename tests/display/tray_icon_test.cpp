@@ -42,15 +42,14 @@ TEST(DecodeBitmap, ReadsPalettesAndRowsFromTheTop) {
   for (std::uint32_t i = 0; i < 256; ++i) palette.push_back(i << 16U | (255 - i) << 8U | 7);
   const auto upwards = static_cast<std::uint32_t>(-2);  // the first row is the upper one
   const std::string pixels("\x92\xA5\0\0\x57\x31\0\0", 8);
-  struct Row {
-    std::uint32_t bits, upper, lower;  // the index of the second pixel in each row
-  };
-  for (const Row& row : {Row{1, 0, 1}, Row{4, 2, 7}, Row{8, 0xA5, 0x31}}) {
-    const auto picture =
-        display::DecodeBitmap(Bitmap{2, upwards, row.bits, pixels, palette}.Bytes());
+  const auto colour = [](std::uint32_t index) { return 7U << 16U | (255 - index) << 8U | index; };
+  // The bits, and the index of the second pixel in each row.
+  for (const auto& [bits, upper, lower] :
+       {std::array{1U, 0U, 1U}, {4U, 2U, 7U}, {8U, 0xA5U, 0x31U}}) {
+    const auto picture = display::DecodeBitmap(Bitmap{2, upwards, bits, pixels, palette}.Bytes());
     ASSERT_TRUE(picture.has_value());
-    EXPECT_EQ(picture->At({1, 0}), 7U << 16U | (255 - row.upper) << 8U | row.upper);
-    EXPECT_EQ(picture->At({1, 1}), 7U << 16U | (255 - row.lower) << 8U | row.lower);
+    EXPECT_EQ(picture->At({1, 0}), colour(upper));
+    EXPECT_EQ(picture->At({1, 1}), colour(lower));
   }
 }
 
@@ -223,26 +222,23 @@ TEST_F(Tray, APictureFileThatIsNoneIsReplacedInUse) {
   UsePictures(good);
   Set("IconType", 0);
   const std::string path = machine.files.ProgramFolder() + "mine.bmp";
-  struct Row {
-    const char* why;
-    std::string bytes;
-    Colour shown = 0x555555;
-  };
   // Another one, with this byte in this place.
   const auto with = [](std::size_t at, char byte) {
     return Pictures({0x666666, 1, 2, 3}).replace(at, 1, 1, byte);
   };
   Set("TrayIconFile", path);
-  for (const Row& row : {Row{"a good one", with(0, 'B'), 0x666666},
-                         {"no bitmap", with(0, 'X')},
-                         {"cut off", with(0, 'B').substr(0, good.size() - 1)},
-                         {"one column less", with(18, 62)},
-                         {"compressed", with(30, 1)},
-                         {"two thousand million columns", with(21, 0x7F)},
-                         {"larger than a picture can be", std::string(3U << 20, '\0')}}) {
-    SCOPED_TRACE(row.why);
-    machine.files.Put(path, row.bytes);
-    Run([&] { EXPECT_EQ(At(3, 3), row.shown); });
+  for (const auto& [why, bytes] : {std::pair{"a good one", with(0, 'B')},
+                                   {"no bitmap", with(0, 'X')},
+                                   {"cut off", with(0, 'B').substr(0, good.size() - 1)},
+                                   {"one column less", with(18, 62)},
+                                   {"compressed", with(30, 1)},
+                                   {"two thousand million columns", with(21, 0x7F)},
+                                   {"larger than a picture can be", std::string(3U << 20, '\0')}}) {
+    SCOPED_TRACE(why);
+    machine.files.Put(path, bytes);
+    Run([&, is_good = bytes == with(0, 'B')] {
+      EXPECT_EQ(At(3, 3), is_good ? 0x666666U : 0x555555U);
+    });
   }
   const auto loads = [&] {
     const int before = machine.files.loads;

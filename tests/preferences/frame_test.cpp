@@ -127,29 +127,25 @@ spnKeyLedsLimit -2147483648..2147483647/1000
 
 // Which value is of which group is written in docs/settings.md.
 TEST_F(Preferences, EachGroupOfTheResetWritesItsValuesAndNoOthers) {
-  struct Row {
-    const char* box;
-    const char* of_them;
-    std::size_t values;
-  };
-  static constexpr Row kRows[] = {
+  // A box of the page, a value that it writes, and how many.
+  static constexpr std::tuple<const char*, const char*, std::size_t> kRows[] = {
       {"R1", "FormMagnet", 6},  {"R2", "IconType", 11},    {"R3", "vLineSpace", 8},
       {"R4", "BevelInner", 9},  {"R5", "FontName", 3},     {"R6", "SOM1", 9},
       {"R7", "BAAction", 12},   {"R8", "LessNotSecs", 20}, {"R9", "AskOnExit", 4},
       {"R10", "CurrentDay", 6}, {"R11", "CurrentWeek", 6}, {"R12", "CurrentMonth", 6},
   };
   RunOpen("Reset Settings", [&] {
-    for (const Row& row : kRows) {
-      SCOPED_TRACE(row.box);
+    for (const auto& [box, of_them, values] : kRows) {
+      SCOPED_TRACE(box);
       UpsetAll();
       std::set<std::string> written;
       machine.notebook.on_registry_write = [&](std::string_view name) { written.emplace(name); };
-      Reset({row.box});
+      Reset({box});
       machine.notebook.on_registry_write = nullptr;
-      EXPECT_EQ(written.size(), row.values);
-      EXPECT_TRUE(written.contains(row.of_them));
+      EXPECT_EQ(written.size(), values);
+      EXPECT_TRUE(written.contains(of_them));
       ProgressAfter(600);
-      EXPECT_FALSE(Widget(row.box).checked);
+      EXPECT_FALSE(Widget(box).checked);
     }
   });
 }
