@@ -57,20 +57,18 @@ MainMenu::MainMenu(toolkit::Application& app) : popup(app, kMenuImages) {
     item.ImageIndex = row.image;
     this->*row.item = &item;
   }
-  mnuAlwaysTopOn->SetChecked(true);
   mnuGraphMode->RadioItem = true;
   mnuTextMode->RadioItem = true;
   mnuTextandGraph->RadioItem = true;
   mnuTextandGraph->SetChecked(true);
   mnuTransparent2k->ShortCut = toolkit::kCtrl | toolkit::kAlt | 'D';
   mnuTransparent->ShortCut = toolkit::kCtrl | toolkit::kAlt | 'F';
-  // The hint names a key that is not registered; its text is kept.
-  Transparent1->Hint = text::MainForm::Transparent1Hint.english;
 }
 
 void MainMenu::Localise(const language::Language& language) {
   const language::Translation say = language.Chosen();
   for (const Row& row : kRows) (this->*row.item)->Caption = say(row.text);
+  // The hint names a key that is not registered; its text is kept.
   Transparent1->Hint = say(text::MainForm::Transparent1Hint);
 }
 

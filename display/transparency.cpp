@@ -43,7 +43,7 @@ Transparency::Transparency(toolkit::Form& window, settings::Store& store, MainMe
 void Transparency::ApplyStored() {
   const bool was_on = menu_.mnuTransparent2k->Checked();
   // A new meter is opaque, although later readers take "on" for the default.
-  const bool on = store_.ReadWith(setting::Transparent2k, false);
+  const bool on = store_.Read(setting::Transparent2k);
   if (on) {
     const std::int64_t ratio = store_.Read(setting::Win2kTransparentRatio);
     if (!was_on || !hovered_) SetWindowAlpha(ratio);

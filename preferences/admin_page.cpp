@@ -73,7 +73,6 @@ class AdminPage final : public Page {
   void Unlock() {
     if (!settings::PasswordMatches(context_.store, AdminPassword.Text(), kPasswordIfNone)) return;
     context_.store.Write(setting::zdP1, false);
-    again_ = false;
     Show(kUnlocked);
     AdminPassword.SetText("");
     AdminPassword.SetFocus();

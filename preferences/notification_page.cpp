@@ -103,10 +103,8 @@ class NotificationPage final : public Page {
   void ReadChoice() {
     const alerts::TrafficRule& rule = RuleOf(context_.store.Read(setting::LessOrMore));
     LessOrMore.SetItemIndex(&rule == &alerts::kLessRule ? 0 : 1);
-    // A stored action that does not exist selects no row: the row that is selected may be the other
-    // rule's.
-    const std::int64_t action = context_.store.Read(rule.action);
-    if (action < 0 || action >= action_.action.Count()) action_.action.SetItemIndex(-1);
+    // The row that is selected may be the other rule's, and an action that does not exist has none.
+    action_.action.SetItemIndex(-1);
   }
 
   void LessOrMoreChange() {

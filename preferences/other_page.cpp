@@ -62,7 +62,7 @@ class OtherPage final : public Page {
     namespace menu = language::text::MainForm;
     const std::string entry = say(menu::GraphDisplayOptions1) + " > " + say(menu::Transparent1) +
                               " > " + say(menu::mnuTransparent2k);
-    Win2kTransTrack.SetHint(context_.store.ReadWith(setting::Transparent2k, false)
+    Win2kTransTrack.SetHint(context_.store.Read(setting::Transparent2k)
                                 ? say(text::Win2kTransTrackHint)
                                 : say(text::Win2kTransTrackOffHint, {entry}));
   }

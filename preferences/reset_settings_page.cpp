@@ -141,7 +141,6 @@ class ResetSettingsPage final : public Page {
   void EndProgress() {
     timer_.SetEnabled(false);
     for (const auto& box : groups_) box->SetChecked(false);
-    SelectAll.SetChecked(false);
     ResetSettingPrg.SetPosition(0);
     btnResetSettings.SetEnabled(true);
   }

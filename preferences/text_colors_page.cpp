@@ -31,7 +31,6 @@ class TextColorsPage final : public Page {
   // stand at the stored index. A font that is not installed is in use all the same, and stands
   // behind the others.
   void ReadFont() {
-    const std::int64_t index = context_.store.Read(setting::FontNameIndex);
     const std::string name = context_.store.Read(setting::FontName);
     std::vector<std::string> fonts = context_.app.Platform().fonts.Families();
     platform::Locale& locale = context_.app.Platform().locale;
@@ -42,11 +41,6 @@ class TextColorsPage final : public Page {
     if (fonts != FontChoose.Items()) {
       FontChoose.SetItemIndex(-1);
       FontChoose.SetItems(fonts);
-    }
-    if (index >= 0 && index < std::ssize(fonts) &&
-        is_named(fonts[static_cast<std::size_t>(index)])) {
-      FontChoose.SetItemIndex(static_cast<int>(index));
-      return;
     }
     const auto found = std::find_if(fonts.begin(), fonts.end(), is_named);
     FontChoose.SetItemIndex(found != fonts.end() ? static_cast<int>(found - fonts.begin()) : -1);

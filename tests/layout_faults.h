@@ -1,4 +1,4 @@
-// What is wrong with the places of controls.
+// What is wrong with the places of controls, and buttons that say nothing.
 #pragma once
 
 #include <string>
@@ -14,7 +14,7 @@ inline bool Overlap(const platform::Rect& a, const platform::Rect& b) {
 }
 
 // Returns the faults in the places of all controls on `root`, one text for each: a control that has
-// no size, leaves its parent, or covers another visible one.
+// no size, leaves its parent, or covers another visible one, and a button without a caption.
 inline std::vector<std::string> LayoutFaults(toolkit::Control& root) {
   std::vector<std::string> faults;
   if (root.IsComposite()) return faults;
@@ -30,6 +30,9 @@ inline std::vector<std::string> LayoutFaults(toolkit::Control& root) {
       faults.push_back(child->Name() + " leaves " + root.Name());
     }
     if (!child->Visible()) continue;
+    if (child->Caption().empty() && child->Role() == toolkit::KeyRole::kPush) {
+      faults.push_back(child->Name() + " says nothing");
+    }
     for (const toolkit::Control* other : seen) {
       if (!Overlap(place, other->Bounds())) continue;
       faults.push_back(child->Name() + " covers " + other->Name());

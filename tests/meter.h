@@ -48,6 +48,7 @@ class Meter : public testing::Test, protected Computer {
     machine.EndProcess();
     EXPECT_TRUE(ran) << "the program did not start";
     EXPECT_EQ(machine.message_loop.starved, 0) << "something was asked that nobody answered";
+    EXPECT_EQ(machine.message_loop.StepsLeft(), 0U) << "what was to be answered was not asked";
   }
   // The same with the preferences open, on a page.
   void RunOpen(const char* page, const std::function<void()>& body) {
@@ -104,6 +105,11 @@ class Meter : public testing::Test, protected Computer {
   std::unique_ptr<platform::memory::Raster> Graph() {
     return Widget("_tlkInterMeter").Paint(machine.screen);
   }
+  // Whether a pixel of the meter is part of its shape.
+  bool InShape(platform::Point at) {
+    const auto& shape = Widget("T_frmBrisanto").shape;
+    return !shape || std::ranges::any_of(*shape, [at](const auto& it) { return it.Contains(at); });
+  }
   static std::vector<platform::Colour> Pixels(const platform::memory::Raster& picture) {
     std::vector<platform::Colour> pixels;
     for (int y = 0; y < picture.Extent().height; ++y) {
@@ -114,50 +120,16 @@ class Meter : public testing::Test, protected Computer {
   // A picture with a letter for each pixel, "+" for a colour that has none.
   static std::string Drawn(const platform::memory::Raster& picture,
                            const std::map<platform::Colour, char>& letters) {
-    std::string drawn = "\n";
-    for (int y = 0; y < picture.Extent().height; ++y) {
-      for (int x = 0; x < picture.Extent().width; ++x) {
-        const auto letter = letters.find(picture.Pixel({x, y}));
-        drawn += letter != letters.end() ? letter->second : '+';
-      }
-      drawn += '\n';
+    std::string drawn;
+    int pixels = 0;
+    for (const platform::Colour colour : Pixels(picture)) {
+      if (pixels++ % picture.Extent().width == 0) drawn += '\n';
+      const auto letter = letters.find(colour);
+      drawn += letter != letters.end() ? letter->second : '+';
     }
-    return drawn;
+    return drawn + '\n';
   }
   std::string ErrorLog() { return machine.files.BytesBesideProgram("err.log").value_or(""); }
-
-  // What the registry holds, as "name=value" with texts in quotes.
-  using Values = std::map<std::string, std::string>;
-  Values AllValues(const std::string& key = "SOFTWARE") {
-    Values values;
-    for (const std::string& name : machine.registry.Values(key)) {
-      const auto number = machine.registry.Dword(key, name);
-      const auto text = machine.registry.Text(key, name);
-      values[(key == kSettingsKey ? "" : key + "\\") + name] =
-          number ? std::to_string(static_cast<std::int32_t>(*number))
-          : text ? '"' + *text + '"'
-                 : std::to_string(machine.registry.Raw(key, name)->data.size());
-    }
-    for (const std::string& sub : machine.registry.Keys(key))
-      values.merge(AllValues(key + "\\" + sub));
-    return values;
-  }
-  // What is other than it was `before`, one behind the other.
-  std::string ChangesSince(const Values& before) {
-    const Values now = AllValues();
-    std::string changes;
-    const auto add = [&changes](const std::string& name, const std::string& value) {
-      changes += (changes.empty() ? "" : " ") + name + "=" + value;
-    };
-    for (const auto& [name, value] : now) {
-      const auto old = before.find(name);
-      if (old == before.end() || old->second != value) add(name, value);
-    }
-    for (const auto& [name, value] : before) {
-      if (!now.contains(name)) add(name, "gone");
-    }
-    return changes;
-  }
 
   toolkit::Application& App() { return program_->App(); }
   display::T_frmBrisanto& Window() { return program_->Meter(); }

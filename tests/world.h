@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <fstream>
 #include <iterator>
+#include <map>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -60,6 +61,35 @@ class Computer {
 
   platform::memory::WidgetState& Widget(std::string_view name) {
     return machine.windowing.Find(name);
+  }
+
+  // What the registry holds, as "name=value" with texts in quotes.
+  using StoredValues = std::map<std::string, std::string>;
+  StoredValues AllValues(const std::string& key = "SOFTWARE") {
+    StoredValues values;
+    for (const std::string& name : machine.registry.Values(key)) {
+      const auto number = machine.registry.Dword(key, name);
+      const auto text = machine.registry.Text(key, name);
+      values[(key == kSettingsKey || key == kAdapterDatas ? "" : key + "\\") + name] =
+          number ? std::to_string(static_cast<std::int32_t>(*number))
+          : text ? '"' + *text + '"'
+                 : std::to_string(machine.registry.Raw(key, name)->data.size());
+    }
+    for (const std::string& sub : machine.registry.Keys(key))
+      values.merge(AllValues(key + "\\" + sub));
+    return values;
+  }
+  // What is other than it was `before`, one behind the other.
+  std::string ChangesSince(const StoredValues& before) {
+    StoredValues now = AllValues();
+    for (const auto& [name, value] : before) now.try_emplace(name, "gone");
+    std::string changes;
+    for (const auto& [name, value] : now) {
+      const auto old = before.find(name);
+      if (old != before.end() && old->second == value) continue;
+      changes += (changes.empty() ? "" : " ") + name + "=" + value;
+    }
+    return changes;
   }
 
   platform::memory::Machine machine;

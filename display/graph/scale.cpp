@@ -83,8 +83,7 @@ GraphScale ScaleFor(std::span<const GraphSample> in_sight, const ScaleRule& choi
   GraphScale scale;
   scale.high = choice.AutoScale ? AutomaticEdge(peak, choice.ScaleUnits)
                                 : std::max<std::int64_t>(1, choice.SpeedLimit);
-  const bool steady =
-      !in_sight.empty() && smallest > 0 && smallest * kSteadyDenominator > peak * kSteadyNumerator;
+  const bool steady = !in_sight.empty() && smallest * kSteadyDenominator > peak * kSteadyNumerator;
   if (!choice.ZeroBased && steady) {
     scale.low = LowerEdge(std::min(smallest, scale.high), choice.ScaleUnits);
   }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <bit>
 #include <cstdint>
+#include <cstdlib>
 
 namespace display {
 namespace {
@@ -66,7 +67,6 @@ struct Layout {
   std::uint32_t bits;  // of a pixel
   Masks masks;
   std::size_t palette;
-  std::uint32_t palette_size;
   std::size_t pixels;
   std::size_t stride;  // bytes of a row, a multiple of four
 };
@@ -80,7 +80,7 @@ std::optional<Layout> ReadLayout(const Bytes& file) {
   layout.width = static_cast<std::int32_t>(file.Dword(18));
   layout.bottom_up = height > 0;
   if (height < -kLargestSide || height > kLargestSide || height == 0) return {};
-  layout.height = height > 0 ? height : -height;
+  layout.height = std::abs(height);
   if (layout.width < 1 || layout.width > kLargestSide) return {};
   layout.bits = file.Word(28);
   if (layout.bits != 1 && layout.bits != 4 && layout.bits != 8 && layout.bits != 16 &&
@@ -91,7 +91,6 @@ std::optional<Layout> ReadLayout(const Bytes& file) {
   if (!masks) return {};
   layout.masks = *masks;
   layout.palette = kFileHeader + header;
-  layout.palette_size = layout.bits <= 8 ? 1U << layout.bits : 0U;
   layout.pixels = file.Dword(10);
   layout.stride = (static_cast<std::size_t>(layout.width) * layout.bits + 31) / 32 * 4;
   if (file.Size() < layout.pixels + layout.stride * static_cast<std::size_t>(layout.height)) {
@@ -110,7 +109,7 @@ platform::Colour PixelOf(const Bytes& file, const Layout& layout, std::size_t ro
   const std::size_t per_byte = 8 / layout.bits;
   const std::uint32_t byte = file.Byte(row + x / per_byte);
   const std::size_t shift = (per_byte - 1 - x % per_byte) * layout.bits;
-  const std::uint32_t index = byte >> shift & (layout.palette_size - 1);
+  const std::uint32_t index = byte >> shift & ((1U << layout.bits) - 1);
   return file.Colour(layout.palette + std::size_t{index} * 4);
 }
 
@@ -155,13 +154,11 @@ TrayActivity ActivityOf(std::int64_t dl, std::int64_t ul) {
   return ul > 0 ? TrayActivity::kUpload : TrayActivity::kIdle;
 }
 
-bool TrayPictures::Load(platform::Files& files, const std::string& path,
+void TrayPictures::Load(platform::Files& files, const std::string& path,
                         const std::string& fallback) {
   std::optional<Picture> loaded = LoadPicture(files, path);
   if (!loaded && path != fallback) loaded = LoadPicture(files, fallback);
-  if (!loaded) return false;
-  picture_ = std::move(loaded);
-  return true;
+  if (loaded) picture_ = std::move(loaded);
 }
 
 platform::Colour TrayPictures::SeeThrough() const {

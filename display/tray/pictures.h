@@ -40,8 +40,8 @@ enum class TrayActivity { kIdle = 0, kUpload = 1, kDownload = 2, kBoth = 3 };
 class TrayPictures {
  public:
   // Loads the file at `path`, or the one at `fallback` when the first is missing or no such bitmap.
-  // When neither can be loaded, returns false and keeps the present pictures.
-  bool Load(platform::Files& files, const std::string& path, const std::string& fallback);
+  // When neither can be loaded, keeps the present pictures.
+  void Load(platform::Files& files, const std::string& path, const std::string& fallback);
 
   [[nodiscard]] bool Loaded() const { return picture_.has_value(); }
   [[nodiscard]] platform::Colour SeeThrough() const;

@@ -1,6 +1,7 @@
 // A message loop whose messages are the steps of a test.
 #pragma once
 
+#include <cstddef>
 #include <deque>
 #include <functional>
 #include <utility>
@@ -35,6 +36,7 @@ class MessageLoop final : public platform::MessageLoop {
 
   // Adds a step that happens next while a loop runs.
   void Then(std::function<void()> step) { steps_.push_back(std::move(step)); }
+  [[nodiscard]] std::size_t StepsLeft() const { return steps_.size(); }
   // Begins a new process, so that the loop may run again.
   void Restart() { quit_ = false; }
   [[nodiscard]] bool HasQuit() const { return quit_; }

@@ -33,18 +33,23 @@ TEST_F(BandwidthLimit, AlertsAtTheExactByteOfItsPeriodAndDirections) {
   struct Row {
     const char* why;
     int period;
+    const char* of;  // the period that has the totals; the others have none
     bool download, upload;
     const char* total_dl;
     const char* total_ul;
     bool alerts;
   };
   static constexpr Row kRows[] = {
-      {"a byte below", 0, true, false, "10485759", "99999999", false},
-      {"the exact byte", 0, true, false, "10485760", "0", true},
-      {"no direction", 0, false, false, "99999999", "99999999", false},
-      {"periods that do not exist", 3, true, true, "99999999", "99999999", false},
-      {"and below zero", -1, true, true, "99999999", "99999999", false},
-      {"near the largest number", 0, true, true, "9223372036854775807", "1", false},
+      {"a byte below", 0, "Day", true, false, "10485759", "99999999", false},
+      {"the exact byte", 0, "Day", true, false, "10485760", "0", true},
+      {"of a week", 1, "Week", true, true, "10485759", "1", true},
+      {"of a month", 2, "Month", false, true, "0", "10485760", true},
+      {"upload alone, a byte below", 0, "Day", false, true, "99999999", "10485759", false},
+      {"of another period", 1, "Day", true, true, "99999999", "99999999", false},
+      {"no direction", 0, "Day", false, false, "99999999", "99999999", false},
+      {"periods that do not exist", 3, "Day", true, true, "99999999", "99999999", false},
+      {"and below zero", -1, "Day", true, true, "99999999", "99999999", false},
+      {"near the largest number", 0, "Day", true, true, "9223372036854775807", "1", false},
   };
   for (const Row& row : kRows) {
     SCOPED_TRACE(row.why);
@@ -52,9 +57,9 @@ TEST_F(BandwidthLimit, AlertsAtTheExactByteOfItsPeriodAndDirections) {
     Set("BADayWeekMonth", row.period);
     Set("baDownload", row.download);
     Set("baUpload", row.upload);
-    for (const std::string total : {"CurrentDayTotal", "CurrentWeekTotal", "CurrentMonthTotal"}) {
-      Set(total + "DL", row.total_dl);
-      Set(total + "UL", row.total_ul);
+    for (const std::string period : {"Day", "Week", "Month"}) {
+      Set("Current" + period + "TotalDL", period == row.of ? row.total_dl : "0");
+      Set("Current" + period + "TotalUL", period == row.of ? row.total_ul : "0");
     }
     EXPECT_EQ(Alerts(), row.alerts);
     EXPECT_FALSE(Alerts()) << "only once in a period";
@@ -99,7 +104,8 @@ class Ticker : public testing::Test, protected test::Reacting {
 
 TEST_F(Ticker, TicksOnceAScanAndKeepsTheRest) {
   EXPECT_EQ(Sounds(600, 100), 0U);
-  EXPECT_EQ(Sounds(600, 100), 1U);  // 1400, and 400 are left
+  EXPECT_EQ(Sounds(200, 100), 1U);
+  EXPECT_EQ(Sounds(1100, 300), 1U);  // and 400 are left
   EXPECT_EQ(machine.sound.played[0], store.ProgramFile("ticking.wav"));
   EXPECT_EQ(Sounds(5000, 0), 0U) << "both directions must have moved";
   EXPECT_EQ(Sounds(300, 299), 0U);
@@ -162,10 +168,17 @@ TEST_F(Leds, AreLeftAloneWhenNotGivenOrHeldDownAndElseSwitchedByAKeyStroke) {
   using Strokes = std::vector<platform::memory::KeyEvent>;
   Update(5000, 5000);
   EXPECT_EQ(machine.keyboard.state_questions, 0);
+  int given = 0;
+  for (const char* light : {"DLSwitchScr", "ULSwitchNum"}) {
+    Set(light, 1);
+    Update(5000, 5000);
+    EXPECT_EQ(machine.keyboard.states[kScroll] + machine.keyboard.states[kNum], ++given);
+    Set("DLSwitchScr", 0);
+  }
   Set("DLSwitchScr", 1);
-  Set("ULSwitchNum", 1);
   machine.keyboard.states[kScroll] = 0x81;
-  Update(5000, 5000);
+  machine.keyboard.sent.clear();
+  Update(0, 0);
   EXPECT_EQ(machine.keyboard.sent, (Strokes{{kNum, 69, 1}, {kNum, 69, 3}})) << "one scan code";
 }
 

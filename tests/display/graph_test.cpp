@@ -50,10 +50,9 @@ TEST_F(GraphPicture, IsDrawnPixelByPixel) {
     });
     return drawn;
   };
-  Set("Pulse3D", 1);
-  Set("PulseWidth", 5);
-  Set("PulseSpace", 1);
-  Set("BorderWidth", 2);
+  for (const auto& [name, value] :
+       {std::pair{"Pulse3D", 1}, {"PulseWidth", 5}, {"PulseSpace", 1}, {"BorderWidth", 2}})
+    Set(name, value);
   EXPECT_EQ(draw(), R"(
 ####################################
 ####################################
@@ -68,24 +67,23 @@ TEST_F(GraphPicture, IsDrawnPixelByPixel) {
 ####################################
 ####################################
 )");
-  Set("Pulse3D", 0);
-  Set("ZeroBased", 0);
-  Set("BevelOuter", 0);
+  for (const char* none : {"BorderWidth", "ZeroBased", "BevelOuter"}) Set(none, 0);
+  Set("PulseWidth", 3);  // a narrow bar has its edges at top and foot
   for (const char* line : {"hGridVisible", "vGridVisible"}) Set(line, 1);
   for (const char* space : {"hLineSpace", "vLineSpace"}) Set(space, 5);
   for (const char* style : {"cmbHLineStyle", "cmbVLineStyle"}) Set(style, 2);
   EXPECT_EQ(draw(), R"(
 ++++++++++++++++++++++++++++++++++++
-+##################################+
-+##################################+
-+##.d|ddd.|....|....|.ddd|d...|..##|
-+##.d|ddd.|....|....|.dUU|U...|..##|
----.d|---.|.---|..--|.dU-|-.UU|--##|
-+##.ddddd.UUUUU.......dUUUU.UUUUU##+
-+##.ddddd.UUUUU.......dUUUU.UUUUU##+
-+##.ddddd.UUUUU.......dUUUU.Udddd##+
-+##################################+
----###---###---###---###---###---##+
++....|....|....|lll.|....|..ll|....|
++....|....|....|ddd.|....|..dL|....|
++....|....|....|ddd.|....|..dU|....|
++...............ddd.........dUU....+
+---...---...---.dd---...---.dU---LL+
++...............ddd.LLL.....dUU.UUU+
++....|....|....|ddd.|UU..|..dU|.UUU|
++....|....|....|ddd.|UU..|..dU|.UUU|
++....|....|....|ddd.|UU..|..dU|.Ull|
+---...---...---.ss---SS.---.sS---dd+
 ++++++++++++++++++++++++++++++++++++
 )");
 }
@@ -140,17 +138,12 @@ TEST_F(GraphPicture, ASeeThroughScaleHasARimThatIsNotBackground) {
 }
 
 TEST_F(GraphPicture, GridLinesOfOddSpacingAreLeftOutAndOfOddStylesAreSolid) {
-  struct Row {
-    std::int64_t visible, space, style;
-    int lines;
-  };
   Set("hLineColor", "clFuchsia");
-  for (const Row& row :
-       {Row{1, 25, 7, 5}, Row{1, 500, 0, 0}, Row{1, 0, 0, 0}, Row{1, -1, 0, 0}, Row{0, 25, 0, 0}}) {
-    Set("hGridVisible", row.visible);
-    Set("hLineSpace", row.space);
-    Set("cmbHLineStyle", row.style);
-    Run([&] { EXPECT_EQ(Count(0xFF00FF) / Graph()->Extent().width, row.lines) << row.space; });
+  Set("hGridVisible", 1);
+  Set("cmbHLineStyle", 7);
+  for (const auto& [space, lines] : {std::pair{25, 5}, {500, 0}, {0, 0}, {-1, 0}}) {
+    Set("hLineSpace", space);
+    Run([&] { EXPECT_EQ(Count(0xFF00FF) / Graph()->Extent().width, lines) << space; });
   }
 }
 

@@ -34,7 +34,7 @@ TEST(GraphScale, EdgesAreRoundAndTheLowerLeavesZeroOnlyForASteadyLoad) {
       {"four fifths", {1000 * kK, 800 * kK}, kBytes, 0, kK * kK},
       {"just above them", {1000 * kK, 801 * kK}, kBytes, 200 * kK, kK * kK},
       {"one way idle", {587 * kK, 0}, kBytes, 0, kK * kK},
-      {"half of it is a unit and more", {3 * kK, 3 * kK}, kBytes, kK, 5 * kK},
+      {"half of it is a unit", {2 * kK, 2 * kK}, kBytes, kK, 2 * kK},
       {"less than the unit", {900, 900}, kBytes, 0, kK},
       {"between two units", {2040 * kK, 2020 * kK}, kBytes, 500 * kK, 2 * kK * kK},
   };
@@ -54,6 +54,7 @@ TEST(GraphScale, TheEdgesOfAFixedScaleNeverMeetAndNothingLeavesThePicture) {
     rule.SpeedLimit = limit;  // all amounts above the limit
     const display::GraphScale scale = ScaleFor(samples, rule);
     EXPECT_LT(scale.low, scale.high);
+    EXPECT_EQ(scale.high, std::max<std::int64_t>(limit, 1));
     EXPECT_EQ(scale.HeightOf(9000, 50), 50);
   }
   const display::GraphScale scale{1000, 2000};
@@ -68,23 +69,19 @@ TEST(GraphScale, TheEdgesOfAFixedScaleNeverMeetAndNothingLeavesThePicture) {
 }
 
 TEST(GraphScale, TextsHaveThreeDigitsAtTheMost) {
-  struct Row {
-    std::int64_t bytes;
-    ScaleUnits units;
-    const char* text;
-  };
-  static constexpr Row kRows[] = {
-      {0, ScaleUnits::kKBytes, "0 kB"},
-      {512, ScaleUnits::kKBytes, "0,5 kB"},
-      {1024, ScaleUnits::kKBytes, "1 kB"},
-      {99 * 1024 + 512, ScaleUnits::kKBytes, "99,5 kB"},
-      {100 * 1024 + 512, ScaleUnits::kKBytes, "100 kB"},
-      {12500000, ScaleUnits::kKBytes, "11,9 MB"},
-      {128, ScaleUnits::kKBits, "1 kb"},
-      {12500000, ScaleUnits::kKBits, "95,3 Mb"},
-      {2LL << 50, ScaleUnits::kKBytes, "2 PB"},
-  };
-  for (const Row& row : kRows) EXPECT_EQ(ScaleText(row.bytes, row.units, ","), row.text);
+  using enum ScaleUnits;
+  for (const auto& [bytes, units, text] : {std::tuple{std::int64_t{0}, kKBytes, "0 kB"},
+                                           {512, kKBytes, "0,5 kB"},
+                                           {1024, kKBytes, "1 kB"},
+                                           {99 * 1024 + 512, kKBytes, "99,5 kB"},
+                                           {100 * 1024 + 512, kKBytes, "100 kB"},
+                                           {1000 * 1024, kKBytes, "0,9 MB"},
+                                           {12500000, kKBytes, "11,9 MB"},
+                                           {128, kKBits, "1 kb"},
+                                           {12500000, kKBits, "95,3 Mb"},
+                                           {2LL << 50, kKBytes, "2 PB"}}) {
+    EXPECT_EQ(ScaleText(bytes, units, ","), text);
+  }
 }
 
 }  // namespace

@@ -54,7 +54,6 @@ TEST_F(Titles, ModeOnePostsIntoEveryWindowEachScanAndTheEndTakesItAway) {
     EXPECT_EQ(Widget("T_frmBrisanto").text, "Korvane Tremolux|[ DL:1 kB UL:2 kB ]");
     machine.other_windows.Remove(refusing);
     for (int scans = 0; scans < 2; ++scans) Scan({});
-    EXPECT_EQ(Title(notes), "Notes" + kIdle);
     EXPECT_EQ(Changes(notes), 2) << "it was right already";
     EXPECT_EQ(Changes(lengthy), 2) << "though its end is not read";
     Title(notes) = "Notes 2";
@@ -63,39 +62,33 @@ TEST_F(Titles, ModeOnePostsIntoEveryWindowEachScanAndTheEndTakesItAway) {
     Set("SOM1", 0);
     Scan({500, 0});
     EXPECT_EQ(Title(notes), "Notes 2|") << "with all modes off the text is empty";
+    Mode(0);
+    Scan({});
+    EXPECT_EQ(Title(notes), "Notes 2|") << "no mode takes it away";
   });
   EXPECT_EQ(Title(notes) + Title(bar), "Notes 2Mail | a");
   EXPECT_EQ(Title(lengthy), std::string(255, 'a'));
-  EXPECT_EQ(ErrorLog(), "");
 }
 
 TEST_F(Titles, ModeTwoPostsWhereALineOfTheListOccurs) {
-  struct Row {
-    const char* why;
-    const char* file;
-    const char* title;
-    bool posted;
-  };
-  static constexpr Row kRows[] = {
-      {"in any case", "x\r\nnote\r\n", "My NOTES", true},
-      {"in any script", "\xD0\x96\xD0\xA3\xD0\x9A\n", "\xD0\xB6\xD1\x83\xD0\xBA", true},
-      {"a marker is no part of the title", "note\n", "Mail|note", false},
-      {"an empty line is in every title", "zzz\n\nyyy\n", "Sheet", true},
-      {"the end of the last line is none", "zz\n", "Sheet", false},
-      {"nor is an empty file", "", "Sheet", false},
-  };
   Mode(2);
-  for (const Row& row : kRows) {
-    SCOPED_TRACE(row.why);
-    Put(row.file);
-    const WindowId window = Add(row.title);
-    Run([&] {
+  for (const auto& [why, file, title, posted] :
+       {std::tuple{"in any case", "x\r\nnote\r\n", "My NOTES", true},
+        {"in any script", "\xD0\x96\xD0\xA3\xD0\x9A\n", "\xD0\xB6\xD1\x83\xD0\xBA", true},
+        {"a marker is no part of the title", "note\n", "Mail|note", false},
+        {"an empty line is in every title", "zzz\n\nyyy\n", "Sheet", true},
+        {"the end of the last line is none", "zz\n", "Sheet", false},
+        {"nor is an empty file", "", "Sheet", false}}) {
+    SCOPED_TRACE(why);
+    Put(file);
+    const WindowId window = Add(title);
+    Run([&, title = title, posted = posted] {
       Scan({});
-      EXPECT_EQ(Title(window), row.posted ? row.title + kIdle : row.title);
+      EXPECT_EQ(Title(window), posted ? title + kIdle : title);
       machine.files.SetHeld(path, true);
       machine.interface_table.AddRow(platform::memory::MakeRow("Another"));
       for (int scans = 0; scans < 2; ++scans) Scan({1024, 0});
-      EXPECT_EQ(Title(window).ends_with("[ DL:1 kB UL:0,0 kB ]"), row.posted)
+      EXPECT_EQ(Title(window).ends_with("[ DL:1 kB UL:0,0 kB ]"), posted)
           << "a list that cannot be read now stays in use";
     });
     machine.files.SetHeld(path, false);
@@ -136,7 +129,12 @@ TEST_F(Titles, WhatAKilledRunLeftBehindGoesAtTheEndOfTheNext) {
   const WindowId lengthy = Add(std::string(255, 'c') + "|[ DL:1 kB UL:2 kB ]");
   const WindowId bar = Add("Mail|Inbox");
   const WindowId empty = Add("Sheet|");
-  Run([&] { Scan({}); });
+  machine.other_windows.Find(Add("Busy")).hangs = true;
+  Put("busy\n");
+  Mode(2);
+  Run([&] {
+    for (int scans = 0; scans < 2; ++scans) Scan({});  // and nothing is posted
+  });
   EXPECT_EQ(Title(notes) + Title(lengthy), "a|b" + std::string(255, 'c'));
   EXPECT_EQ(Title(bar) + Title(empty), "Mail|InboxSheet|") << "it may be the window's own";
 }
@@ -159,8 +157,11 @@ TEST_F(Titles, WindowsThatDoNotAnswerHoldNobodyUpForLong) {
     machine.other_windows.Find(silent[0]).hangs = false;
     for (int second = 0; second < 62; ++second) Scan({});
     EXPECT_EQ(Title(silent[0]), "Busy" + kIdle) << "it answers again";
+    machine.other_windows.Find(last).hangs = true;
+    Scan({1024, 0});
+    machine.other_windows.Find(last).hangs = false;
   });
-  EXPECT_EQ(Title(last) + Title(silent[0]), "LastBusy");
+  EXPECT_EQ(Title(last) + Title(silent[0]), "LastBusy") << "at the end each is asked once more";
 }
 
 TEST_F(Titles, TheEditorAddsWhatIsTypedAndRemovesWhatIsSelected) {
@@ -177,10 +178,10 @@ TEST_F(Titles, TheEditorAddsWhatIsTypedAndRemovesWhatIsSelected) {
       User().PressEnter(kAddTitlesForm);
       EXPECT_EQ(Shown(), (Lines{"one", "two", "Ж|é 漢"}));
       EXPECT_EQ(Widget("AddNew").text, "");
-      EXPECT_EQ(User().Focused(), "AddNew");
       for (int presses = 0; presses < 2; ++presses) User().Press("btnRemove");
       EXPECT_EQ(Shown(), (Lines{"two", "Ж|é 漢"})) << "the second time none was selected";
       AddLine("x");
+      EXPECT_EQ(User().Focused(), "AddNew");
       User().Choose("WindowTitlesListbox", 1);
       press_delete();  // the next one has come in its place
       press_delete();
@@ -190,6 +191,10 @@ TEST_F(Titles, TheEditorAddsWhatIsTypedAndRemovesWhatIsSelected) {
       User().PressEsc(kAddTitlesForm);
     });
     EXPECT_EQ(File(), "two\r\ntwo\r\n") << "Esc keeps it, too";
+    Mode(2);
+    const WindowId removed = Add("one");
+    Scan({});
+    EXPECT_EQ(Title(removed), "one");
   });
 }
 
@@ -200,70 +205,66 @@ TEST_F(Titles, TheEditorKeepsWhatItDoesNotShowAndSaysSo) {
     return text;
   };
   const std::string huge((std::size_t{16} << 20U) + 1, 'x');
-  const auto hold = [&] { machine.files.SetHeld(path, true); };
-  const auto protect = [&] { machine.files.SetWritable(path, false); };
   const std::string unreadable = "WindowTitles.tit can't be read. The file stays as it is.";
   const std::string too_many =
       "Only 10000 titles are shown and used. The file keeps those that follow.";
   struct Row {
     const char* why;
-    std::string before;
-    std::function<void()> prepare;
-    std::string after;
-    std::string note;
-    std::size_t balloons = 0;
+    std::string before, after;
+    std::string note = "";
+    bool held = false, writable = true;
   };
   const Row rows[] = {
-      {"UTF-8 with a mark", "\xEF\xBB\xBF\xC3\xA9\r\n", {}, "\xC3\xA9\r\nnew\r\n", ""},
-      {"the system's code page", "caf\xE9\n", {}, "caf\xC3\xA9\r\nnew\r\n", ""},
-      {"an empty line, and no end of the last", "\n\nx", {}, "\r\n\r\nx\r\nnew\r\n", ""},
-      {"one that cannot be replaced", "x\n", protect, "x\n", "", 1},
-      {"held by another program", "x\n", hold, "x\n", unreadable},
-      {"over 16 MiB", huge, {}, huge, unreadable},
-      {"one below the most", lines(9999, "\n"), {}, lines(9999, "\r\n") + "new\r\n", ""},
-      {"more than the most: nothing is added, and they stay",
-       lines(10000, "\n") + "a\n\nb",
-       {},
-       lines(10000, "\r\n") + "a\n\nb",
-       too_many},
+      {"UTF-8 with a mark", "\xEF\xBB\xBF\xC3\xA9\r\n", "\xC3\xA9\r\nnew\r\n"},
+      {"the system's code page", "caf\xE9\n", "caf\xC3\xA9\r\nnew\r\n"},
+      {"an empty line, and no end of the last", "\n\nx", "\r\n\r\nx\r\nnew\r\n"},
+      {"one that cannot be replaced", "x\n", "x\n", "", false, false},
+      {"held by another program", "x\n", "x\n", unreadable, true},
+      {"over 16 MiB", huge, huge, unreadable},
+      {"one below the most", lines(9999, "\n"), lines(9999, "\r\n") + "new\r\n"},
+      {"more than the most: nothing is added, and they stay", lines(10000, "\n") + "a\n\nb",
+       lines(10000, "\r\n") + "a\n\nb", too_many},
   };
   const WindowId window = Add("A new one");
   Mode(2);
   for (const Row& row : rows) {
     SCOPED_TRACE(row.why);
     Put(row.before);
-    if (row.prepare) row.prepare();
+    machine.files.SetHeld(path, row.held);
+    machine.files.SetWritable(path, row.writable);
     machine.notification_area.balloons.clear();
+    const bool adds = row.note.empty();
     Run([&] {
-      bool adds = false;
+      Scan({});
       Edit([&] {
         EXPECT_EQ(Widget("Note").text, row.note);
-        adds = Widget("btnAdd").enabled;
-        EXPECT_EQ(adds, row.note.empty());
-        EXPECT_EQ(Widget("btnRemove").enabled, row.note != unreadable);
+        EXPECT_EQ(Widget("btnAdd").enabled, adds);
+        for (const char* name : {"btnRemove", "AddNew", "WindowTitlesListbox"}) {
+          EXPECT_EQ(Widget(name).enabled, row.note != unreadable) << name;
+        }
         if (adds) AddLine("new");
-        EXPECT_TRUE(row.balloons > 0 || File() == row.before) << "not before it closes";
+        const bool full = Shown().size() == 10000;
+        EXPECT_EQ(Widget("btnAdd").enabled, adds && !full);
+        EXPECT_EQ(Widget("Note").text, full ? too_many : row.note);
+        EXPECT_TRUE(File() == row.before) << "not before it closes";
         User().Press("OkBtn");
       });
-      EXPECT_EQ(machine.notification_area.balloons.size(), row.balloons);
+      EXPECT_EQ(machine.notification_area.balloons.empty(), row.writable);
       Scan({});
       EXPECT_EQ(Title(window) != "A new one", adds) << "in use, even where it cannot be stored";
     });
     machine.files.SetHeld(path, false);
-    machine.files.SetWritable(path, true);
     EXPECT_TRUE(File() == row.after) << File().substr(0, 100);
   }
-  // None is there, and it ends with the session.
-  machine.files.Remove(path);
+  machine.files.SetWritable(path, true);
+  Put("");
   Run([&] {
     Edit([&] {
-      EXPECT_EQ(Widget("WindowTitlesListbox").index, -1);
       AddLine("new");
       User().Tell(&platform::TopWindowEvents::OnEndSession);
       EXPECT_EQ(File(), "new\r\n") << "the process may be gone now";
     });
   });
-  EXPECT_EQ(ErrorLog(), "");
 }
 
 }  // namespace
