@@ -26,6 +26,13 @@ class World {
     machine_.registry.Set(
         path, name, {static_cast<platform::memory::ValueType>(type), {bytes.begin(), bytes.end()}});
   }
+  std::string RawValue(std::string_view path, std::string_view name) {
+    std::string bytes;
+    for (const std::byte byte : machine_.registry.Raw(path, name).value().data) {
+      bytes += static_cast<char>(byte);
+    }
+    return bytes;
+  }
   void RemoveKey(std::string_view path) { machine_.registry.RemoveKey(path); }
 
   std::string ScratchFolder() {

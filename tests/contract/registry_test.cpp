@@ -1,5 +1,6 @@
 #include "platform/registry.h"
 
+#include <span>
 #include <stdexcept>
 
 #include "tests/contract/world.h"
@@ -13,15 +14,11 @@ using platform::RegistryKey;
 constexpr std::string_view kKey = "\\Software\\TremoluxContractTests";
 
 // The system's numbers of value types.
-constexpr std::uint32_t kText = 1;
-constexpr std::uint32_t kBinary = 3;
-constexpr std::uint32_t kDword = 4;
-constexpr std::uint32_t kQword = 11;
+constexpr std::uint32_t kText = 1, kBinary = 3, kDword = 4, kQword = 11;
 
 std::vector<std::byte> Bytes(std::string_view text) {
-  std::vector<std::byte> bytes;
-  for (const char c : text) bytes.push_back(static_cast<std::byte>(c));
-  return bytes;
+  const auto bytes = std::as_bytes(std::span(text));
+  return {bytes.begin(), bytes.end()};
 }
 
 class Registry : public ContractTest {
@@ -64,8 +61,7 @@ TEST_F(Registry, NumbersAndBytesComeBack) {
 TEST_F(Registry, TextsComeBack) {
   struct Row {
     const char* why;
-    std::string written;
-    std::string read;
+    std::string written, read;
   };
   const Row rows[] = {
       {"empty", "", ""},
@@ -80,12 +76,13 @@ TEST_F(Registry, TextsComeBack) {
     Open()->WriteText("t", row.written);
     EXPECT_EQ(Open(KeyAccess::kExisting)->ReadText("t"), row.read);
   }
+  Open()->WriteText("t", "ab");
+  EXPECT_EQ(world_.RawValue(kKey, "t"), std::string("a\0b\0\0", 6)) << "others want the NUL";
 }
 
 TEST_F(Registry, NamesOfValuesMayBeNearlyAnythingAndCaseIsNotToldApart) {
   struct Row {
-    std::string one;
-    std::string other;
+    std::string one, other;
     bool same;
   };
   const Row rows[] = {
@@ -110,9 +107,7 @@ TEST_F(Registry, AValueThatIsMissingOrOfAnotherTypeGivesNothing) {
     const char* why;
     std::uint32_t type = 0;
     std::string data = {};
-    bool dword = false;
-    bool text = false;
-    bool binary = false;
+    bool dword = false, text = false, binary = false;
   };
   const Row rows[] = {
       {.why = "missing"},

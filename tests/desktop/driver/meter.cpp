@@ -23,17 +23,13 @@ bool Meter::OnTop() const {
 
 HWND Meter::graph() const { return FindControl(window_, L"_tlkInterMeter"); }
 HWND Meter::line() const { return FindControl(window_, L"_tlkDLULMeter"); }
-HWND Meter::panel() const { return FindControl(window_, L"pnlContain"); }
-std::string Meter::LineText() const { return TextOf(line()); }
-
-POINT Meter::Inside() const { return MiddleOf(AreaOf(window_)); }
 
 LONG Meter::Scaled(LONG design) const {
   return ::MulDiv(design, static_cast<int>(::GetDpiForWindow(window_)), 96);
 }
 
 OpenMenu Meter::Menu() {
-  RightClick(Inside());
+  RightClick(MiddleOf(AreaOf(window_)));
   return OpenMenu(program_.id());
 }
 

@@ -22,12 +22,7 @@ class Meter {
 
   // Controls; null when there is none.
   [[nodiscard]] HWND graph() const;
-  [[nodiscard]] HWND line() const;   // the numeric line
-  [[nodiscard]] HWND panel() const;  // what holds it
-  [[nodiscard]] std::string LineText() const;
-
-  // A place on the meter that takes clicks, in whatever mode it is.
-  [[nodiscard]] POINT Inside() const;
+  [[nodiscard]] HWND line() const;  // the numeric line
   // Length in pixels of one at 96 dpi.
   [[nodiscard]] LONG Scaled(LONG design) const;
 
