@@ -9,7 +9,7 @@
 #include <shellapi.h>
 
 namespace desktop {
-Meter::Meter(const std::wstring& path) : program_(path) {
+Meter::Meter() {
   Await("the meter window", [this] {
     window_ = FindTop(program_.id(), L"T_frmBrisanto");
     return window_ != nullptr && Visible();

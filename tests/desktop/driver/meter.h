@@ -13,7 +13,7 @@ namespace desktop {
 class Meter {
  public:
   // Starts the program and waits until the window is shown and what it starts with is stored.
-  explicit Meter(const std::wstring& path = ProgramPath());
+  Meter();
 
   [[nodiscard]] Program& program() { return program_; }
   [[nodiscard]] HWND window() const { return window_; }
