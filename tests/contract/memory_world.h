@@ -27,11 +27,8 @@ class World {
         path, name, {static_cast<platform::memory::ValueType>(type), {bytes.begin(), bytes.end()}});
   }
   std::string RawValue(std::string_view path, std::string_view name) {
-    std::string bytes;
-    for (const std::byte byte : machine_.registry.Raw(path, name).value().data) {
-      bytes += static_cast<char>(byte);
-    }
-    return bytes;
+    const std::vector<std::byte> bytes = machine_.registry.Raw(path, name).value().data;
+    return {reinterpret_cast<const char*>(bytes.data()), bytes.size()};
   }
   void RemoveKey(std::string_view path) { machine_.registry.RemoveKey(path); }
 
