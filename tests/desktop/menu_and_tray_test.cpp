@@ -49,7 +49,7 @@ TEST_F(MenuAndTray, TheMeterComesAndGoesAndLeavesTheKeyboardWhereItIs) {
 
   RightClick(MiddleOf(meter.TrayArea()));
   OpenMenu(meter.program().id()).Choose({"Graph Options", "Clear Graph"});
-  EXPECT_TRUE(Comes([work] { return ::GetForegroundWindow() == work; })) << "after a choice";
+  Await("the work in front again", [work] { return ::GetForegroundWindow() == work; });
 
   for (const HWND place : {meter.graph(), meter.line()}) {
     DoubleClick(MiddleOf(AreaOf(place)));
