@@ -107,7 +107,7 @@ class Layout {
     for (WPARAM row = 0; row < rows; ++row) {
       std::wstring text(256, L'\0');
       ::SendMessageW(list, CB_GETLBTEXT, row, reinterpret_cast<LPARAM>(text.data()));
-      const std::string one = CutIn(room, text.c_str(), false);
+      const std::string one = CutIn(room, text, false);
       if (!one.empty()) cut += "row " + std::to_string(row) + ' ' + one;
     }
     return cut;
