@@ -26,10 +26,6 @@ class World {
     machine_.registry.Set(
         path, name, {static_cast<platform::memory::ValueType>(type), {bytes.begin(), bytes.end()}});
   }
-  std::string RawValue(std::string_view path, std::string_view name) {
-    const std::vector<std::byte> bytes = machine_.registry.Raw(path, name).value().data;
-    return {reinterpret_cast<const char*>(bytes.data()), bytes.size()};
-  }
   void RemoveKey(std::string_view path) { machine_.registry.RemoveKey(path); }
 
   std::string ScratchFolder() {

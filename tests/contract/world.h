@@ -2,7 +2,6 @@
 //
 //   Platform()       the services
 //   SetRawValue()    writes a registry value of any type, in a key that is there
-//   RawValue()       the bytes of a registry value
 //   RemoveKey()      removes a registry key with all that is in it
 //   ScratchFolder()  an empty folder for files, with a backslash at its end
 //   MakeFolder()

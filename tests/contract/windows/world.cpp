@@ -33,17 +33,6 @@ void World::SetRawValue(std::string_view path, std::string_view name, std::uint3
   if (result != ERROR_SUCCESS) ThrowSystemError("RegSetKeyValue", static_cast<DWORD>(result));
 }
 
-std::string World::RawValue(std::string_view path, std::string_view name) {
-  HKEY key = nullptr;
-  ::RegOpenKeyW(HKEY_CURRENT_USER, KeyPath(path).c_str(), &key);
-  std::string bytes(1000, '\0');
-  auto size = static_cast<DWORD>(bytes.size());
-  ::RegQueryValueExW(key, ToWide(name).c_str(), nullptr, nullptr,
-                     reinterpret_cast<BYTE*>(bytes.data()), &size);
-  ::RegCloseKey(key);
-  return bytes.substr(0, size);
-}
-
 void World::RemoveKey(std::string_view path) {
   ::RegDeleteTreeW(HKEY_CURRENT_USER, KeyPath(path).c_str());
 }

@@ -23,7 +23,6 @@ class World {
 
   void SetRawValue(std::string_view path, std::string_view name, std::uint32_t type,
                    std::string_view value);
-  static std::string RawValue(std::string_view path, std::string_view name);
   void RemoveKey(std::string_view path);
 
   std::string ScratchFolder();

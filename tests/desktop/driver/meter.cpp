@@ -52,8 +52,10 @@ RECT Meter::TrayArea() const {
   const NOTIFYICONIDENTIFIER icon{sizeof(icon), tray(), 1, {}};
   RECT area{};
   if (get != nullptr && SUCCEEDED(get(&icon, &area))) return area;
-  // Under Wine the only icon stands at the right end of the taskbar.
-  area = AreaOf(::FindWindowW(L"Shell_TrayWnd", nullptr));
+  // Under Wine the only icon is a window of its own, or stands at the right end of the taskbar.
+  const HWND taskbar = ::FindWindowW(L"Shell_TrayWnd", nullptr);
+  const HWND own = ::FindWindowExW(taskbar, nullptr, L"__wine_tray_icon", nullptr);
+  area = AreaOf(own != nullptr ? own : taskbar);
   area.left = area.right - HeightOf(area);
   return area;
 }
