@@ -65,9 +65,9 @@ TEST_F(MenuAndTray, TheMeterComesAndGoesAndLeavesTheKeyboardWhereItIs) {
   AwaitVisible(meter, false);
   RightClick(MiddleOf(meter.TrayArea()));
   EXPECT_EQ(OpenMenu(meter.program().id()).Items().back().text, "Exit");
-  Click({5, 5});
+  Click({5, 500});
   Await("the menu to close", [&] { return !OpenMenu::Any(meter.program().id()); });
-  Click({5, 5});  // a click that ends a menu can lose its release; the next one mends that
+  Click({5, 500});  // a click that ends a menu can lose its release; the next one mends that
   EXPECT_TRUE(meter.program().Running());
 }
 
