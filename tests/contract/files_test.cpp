@@ -15,13 +15,6 @@ class Files : public ContractTest {
   const std::string path_ = folder_ + "a.txt";
 };
 
-TEST_F(Files, TheProgramIsAFileInItsFolder) {
-  const std::string path = files().ProgramPath();
-  const std::string folder = files().ProgramFolder();
-  EXPECT_TRUE(files().Size(path).has_value());
-  EXPECT_EQ(path.substr(0, path.rfind('\\') + 1), folder);
-}
-
 TEST_F(Files, WhatIsSavedIsLoadedUpToTheLimit) {
   const std::string path = folder_ + "\u00FCber \u7F51.txt";
   EXPECT_EQ(files().Load(path, 100), std::nullopt);

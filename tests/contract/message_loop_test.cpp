@@ -21,26 +21,6 @@ TEST_F(MessageLoop, ALoopThatIsDoneAlreadyDeliversNothing) {
   EXPECT_FALSE(ran);
 }
 
-TEST_F(MessageLoop, AnInnerLoopEndsAloneAndTheOuterOneGoesOn) {
-  std::string order;
-  bool outer_done = false;
-  world_->Later([&] {
-    bool inner_done = false;
-    world_->Later([&] {
-      order += "a";
-      inner_done = true;
-    });
-    EXPECT_TRUE(Loop().RunUntil([&] { return inner_done; }));
-    order += "b";
-    world_->Later([&] {
-      order += "c";
-      outer_done = true;
-    });
-  });
-  EXPECT_TRUE(Loop().RunUntil([&] { return outer_done; }));
-  EXPECT_EQ(order, "abc");
-}
-
 TEST_F(MessageLoop, QuitEndsEveryLoopOfTheProgramAndNoneOfTheNext) {
   bool inner = true;
   EXPECT_TRUE(Loop().ProcessFor(20));

@@ -1,6 +1,5 @@
 #include "tests/desktop/program_test.h"
 
-#include <exception>
 #include <optional>
 
 #include "platform/windows/wide_text.h"
@@ -28,22 +27,6 @@ class UsersDesktop : public testing::Environment {
 const testing::Environment* const kUsersDesktop =
     testing::AddGlobalTestEnvironment(new UsersDesktop);
 
-std::string NameOfTest() {
-  const testing::TestInfo* test = testing::UnitTest::GetInstance()->current_test_info();
-  return std::string(test->test_suite_name()) + "." + test->name();
-}
-
-void LeavePicture() {
-  const std::wstring path =
-      OwnFolder() + L"failed " + platform::windows::ToWide(NameOfTest()) + L".png";
-  try {
-    SavePng(TakePictureOfScreen(), path);
-    std::cout << "the screen at the end: " << platform::windows::FromWide(path) << "\n";
-  } catch (const std::exception& error) {
-    std::cout << "no picture of the screen: " << error.what() << "\n";
-  }
-}
-
 }  // namespace
 
 void ProgramTest::SetUp() {
@@ -52,8 +35,10 @@ void ProgramTest::SetUp() {
 }
 
 void ProgramTest::TearDown() {
-  if (HasFailure()) LeavePicture();
-  Stop();
+  if (!HasFailure()) return;
+  const testing::TestInfo& test = *testing::UnitTest::GetInstance()->current_test_info();
+  SavePng(TakePictureOfScreen(),
+          OwnFolder() + L"failed " + platform::windows::ToWide(test.name()) + L".png");
 }
 
 Meter& ProgramTest::Start() {

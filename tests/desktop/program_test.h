@@ -25,7 +25,6 @@ class ProgramTest : public testing::Test {
 
   // Starts the program; one that runs is ended first.
   Meter& Start();
-  void Stop() { meter_.reset(); }
 
   static void AwaitGone(HWND window);
   static void AwaitStored(const std::string& name, const std::string& value);

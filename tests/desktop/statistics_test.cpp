@@ -7,37 +7,17 @@
 namespace desktop {
 namespace {
 
-class Statistics : public ProgramTest {
- protected:
-  static std::string Shown(HWND window, const wchar_t* control) {
-    return TextOf(FindControl(window, control));
-  }
-};
+using Statistics = ProgramTest;
 
-TEST_F(Statistics, TheirWindowsCloseByEachWayAndCopyTheAddress) {
+TEST_F(Statistics, TheirButtonsCopyAndReset) {
   Meter& meter = Start();
   platform::windows::Clipboard().SetText({});
-  struct Way {
-    const char* name;
-    std::function<void(HWND)> take;
-    bool copies = false;
-  };
-  const Way ways[] = {
-      {"Enter", [](HWND) { PressKey(VK_RETURN); }},
-      {"Esc", [](HWND) { PressKey(VK_ESCAPE); }},
-      {"the close box", [](HWND w) { ::PostMessageW(w, WM_SYSCOMMAND, SC_CLOSE, 0); }},
-      {"the right button on Copy",
-       [](HWND w) { RightClick(MiddleOf(AreaOf(FindControl(w, L"Button1")))); }, true},
-  };
-  for (const Way& way : ways) {
-    SCOPED_TRACE(way.name);
-    meter.Choose({"DL-UL Statistics"});
-    const HWND window = meter.AwaitForm(L"T_frmConnInfo");
-    const std::string address = Shown(window, L"IpAddress");
-    way.take(window);
-    AwaitGone(window);
-    EXPECT_EQ(ClipboardText(), way.copies ? address : "");
-  }
+  meter.Choose({"DL-UL Statistics"});
+  HWND window = meter.AwaitForm(L"T_frmConnInfo");
+  const std::string address = TextOf(FindControl(window, L"IpAddress"));
+  RightClick(MiddleOf(AreaOf(FindControl(window, L"Button1"))));
+  AwaitGone(window);
+  EXPECT_EQ(ClipboardText(), address);
 
   std::string adapter;
   {
@@ -45,11 +25,16 @@ TEST_F(Statistics, TheirWindowsCloseByEachWayAndCopyTheAddress) {
     adapter = menu.Items({"Connection Statistics"}).at(0).text;
     menu.Choose({"Connection Statistics", adapter});
   }
-  const HWND window = meter.AwaitForm(L"T_frmSpecificConnInfo");
+  window = meter.AwaitForm(L"T_frmSpecificConnInfo");
   EXPECT_EQ(TextOf(window), adapter);
   EXPECT_EQ(::IsWindowEnabled(meter.window()), FALSE) << "it is modal";
-  EXPECT_EQ("text " + Shown(window, L"IpAddress"),
-            Stored(kAdaptersKey, platform::AsciiLower(adapter) + "MacAddress"));
+  const std::string stored = platform::AsciiLower(adapter);
+  EXPECT_EQ("text " + TextOf(FindControl(window, L"IpAddress")),
+            Stored(kAdaptersKey, stored + "MacAddress"));
+  const auto total = [&stored] { return Stored(kAdaptersKey, stored + "InfoTotalDL"); };
+  StoreText(kAdaptersKey, stored + "InfoTotalDL", "9000000000000000");
+  ClickOn(window, L"Button3");
+  Await("the reset", [&] { return total().size() < std::string("text 9000000000000000").size(); });
   PressKey(VK_ESCAPE);
   AwaitGone(window);
   EXPECT_NE(::IsWindowEnabled(meter.window()), FALSE);

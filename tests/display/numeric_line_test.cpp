@@ -39,6 +39,8 @@ TEST_F(NumericLine, StartsWithTheTextsOfTheModesThatAreOnAndThenShowsTheScan) {
       Scan({1536, 0});
       EXPECT_EQ(Line(), row.then);
       EXPECT_EQ(Hint(), row.modes == 0 ? "Korvane Tremolux " : "Korvane Tremolux " + Line());
+      const platform::Spoken graph = Widget("_tlkInterMeter").events->Describe();
+      EXPECT_EQ(graph.name + graph.value, "Traffic" + Line());
       const int changes = Widget("_tlkDLULMeter").text_changes;
       Scan({1536, 0});
       EXPECT_EQ(Widget("_tlkDLULMeter").text_changes, changes) << "an equal text";

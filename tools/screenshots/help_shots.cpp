@@ -49,7 +49,7 @@ void Menu(Scene& scene) {
   scene.FillGraph();
   RightClick(MiddleOf(AreaOf(scene.meter().line())));
   OpenMenu menu(scene.meter().program().id());
-  (void)menu.Items(scene.Path({text::GraphDisplayOptions1}));
+  menu.Reach(scene.Path({text::GraphDisplayOptions1, text::Transparent1}));
   Scene::AwaitPainted();
   scene.Save("menu", scene.OfAll());
   menu.Leave();

@@ -56,12 +56,11 @@ void Narrow(Scene& scene) {
 // Shows the menu beside the meter that opened it, and the hint of an item.
 void MenuOfTheMeter(Scene& scene) {
   OpenMenu menu = scene.meter().Menu();
-  (void)menu.Items(scene.Path({text::GraphDisplayOptions1}));
+  // The item that has a hint.
+  const POINT hinted = menu.Reach(scene.Path({text::GraphDisplayOptions1, text::Transparent1}));
   Scene::AwaitPainted();
   scene.Save("menu", scene.OfAll());
-  // The item that has a hint.
-  const MenuPath path = scene.Path({text::GraphDisplayOptions1, text::Transparent1});
-  MoveMouse(MiddleOf(menu.Find(path).area));
+  MoveMouse(hinted);
   Scene::AwaitPainted();
   scene.Save("menu-hint", scene.OfAll());
   menu.Leave();

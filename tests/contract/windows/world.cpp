@@ -38,12 +38,10 @@ void World::RemoveKey(std::string_view path) {
 }
 
 std::string World::ScratchFolder() {
-  if (scratch_.empty()) {
-    scratch_ = std::filesystem::temp_directory_path() /
-               ("tremolux_contract_" + std::to_string(::GetCurrentProcessId()) + "_" +
-                std::to_string(::GetTickCount64()));
-    std::filesystem::create_directory(scratch_);
-  }
+  scratch_ = std::filesystem::temp_directory_path() /
+             ("tremolux_contract_" + std::to_string(::GetCurrentProcessId()));
+  std::filesystem::remove_all(scratch_);
+  std::filesystem::create_directory(scratch_);
   return FromWide(scratch_.wstring()) + '\\';
 }
 
@@ -58,8 +56,11 @@ void World::HoldFile(std::string_view path, const std::function<void()>& meanwhi
 }
 
 void World::Later(std::function<void()> step) {
-  steps_.push_back(std::move(step));
-  if (!stepping_) stepping_ = Platform().timers.Start(10, [this] { RunStep(); });
+  std::unique_ptr<platform::Timer>& timer = steps_.emplace_back();
+  timer = Platform().timers.Start(10, [&timer, step = std::move(step)] {
+    timer.reset();
+    step();
+  });
 }
 
 bool World::LetHappen(const std::function<bool()>& condition) {
@@ -67,13 +68,6 @@ bool World::LetHappen(const std::function<bool()>& condition) {
   const auto wakes_the_loop = Platform().timers.Start(10, [] {});
   Platform().message_loop.RunUntil([&] { return condition() || desktop::SteadyMs() > deadline; });
   return condition();
-}
-
-void World::RunStep() {
-  const std::function<void()> step = std::move(steps_.front());
-  steps_.pop_front();
-  if (steps_.empty()) stepping_.reset();
-  step();
 }
 
 }  // namespace contract

@@ -1,9 +1,9 @@
 // Windows itself, as tests/contract/world.h tells of it.
 #pragma once
 
-#include <deque>
 #include <filesystem>
 #include <functional>
+#include <list>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -33,12 +33,9 @@ class World {
   [[nodiscard]] bool LetHappen(const std::function<bool()>& condition);
 
  private:
-  void RunStep();
-
   platform::windows::Machine machine_;
   std::filesystem::path scratch_;
-  std::deque<std::function<void()>> steps_;
-  std::unique_ptr<platform::Timer> stepping_;
+  std::list<std::unique_ptr<platform::Timer>> steps_;
 };
 
 }  // namespace contract

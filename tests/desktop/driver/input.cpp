@@ -14,22 +14,15 @@ namespace {
 // another one.
 LONG Absolute(LONG pixel, int extent) { return ::MulDiv(2 * pixel + 1, 32768, extent); }
 
-INPUT MouseInput(POINT at, DWORD buttons) {
-  INPUT input{};
-  input.type = INPUT_MOUSE;
-  input.mi.dx = Absolute(at.x, ::GetSystemMetrics(SM_CXSCREEN));
-  input.mi.dy = Absolute(at.y, ::GetSystemMetrics(SM_CYSCREEN));
-  input.mi.dwFlags = MOUSEEVENTF_ABSOLUTE | MOUSEEVENTF_MOVE | buttons;
-  return input;
+INPUT MouseInput(POINT at, DWORD buttons, int turn = 0) {
+  return {.type = INPUT_MOUSE,
+          .mi = {Absolute(at.x, ::GetSystemMetrics(SM_CXSCREEN)),
+                 Absolute(at.y, ::GetSystemMetrics(SM_CYSCREEN)), static_cast<DWORD>(turn),
+                 MOUSEEVENTF_ABSOLUTE | MOUSEEVENTF_MOVE | buttons, 0, 0}};
 }
 
 INPUT KeyInput(WORD key, WORD scan_code, DWORD flags) {
-  INPUT input{};
-  input.type = INPUT_KEYBOARD;
-  input.ki.wVk = key;
-  input.ki.wScan = scan_code;
-  input.ki.dwFlags = flags;
-  return input;
+  return {.type = INPUT_KEYBOARD, .ki = {key, scan_code, flags, 0, 0}};
 }
 
 void Send(std::vector<INPUT> inputs) {
@@ -81,9 +74,7 @@ void DoubleClick(POINT at) {
 void RightClick(POINT at) { Mouse(at, {0, MOUSEEVENTF_RIGHTDOWN, MOUSEEVENTF_RIGHTUP}); }
 
 void Wheel(POINT at, int notches) {
-  INPUT input = MouseInput(at, MOUSEEVENTF_WHEEL);
-  input.mi.mouseData = static_cast<DWORD>(notches * WHEEL_DELTA);
-  Send({input});
+  Send({MouseInput(at, MOUSEEVENTF_WHEEL, notches * WHEEL_DELTA)});
 }
 
 void PressKey(int key) { PressKeys({key}); }

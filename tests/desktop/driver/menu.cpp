@@ -1,10 +1,11 @@
 #include "tests/desktop/driver/menu.h"
 
+#include <algorithm>
+#include <sstream>
 #include <stdexcept>
 
 #include "platform/windows/system_error.h"
 #include "platform/windows/system_handles.h"
-#include "platform/windows/wide_text.h"
 #include "tests/desktop/driver/input.h"
 #include "tests/desktop/driver/program.h"
 #include "tests/desktop/driver/wait.h"
@@ -14,76 +15,45 @@
 namespace desktop {
 namespace {
 
-using platform::windows::FromWide;
-using platform::windows::KernelHandle;
-using platform::windows::ThrowSystemError;
-
 // The open menus of a process.
 std::vector<HWND> MenuWindows(DWORD process) {
-  std::vector<HWND> menus;
-  for (const HWND window : VisibleTops(process)) {
-    if (HasClass(window, L"#32768")) menus.push_back(window);
-  }
+  std::vector<HWND> menus = VisibleTops(process);
+  std::erase_if(menus, [](HWND window) { return !HasClass(window, L"#32768"); });
   return menus;
 }
 
-MenuItem ItemFrom(const SpiedItem& spied) {
-  const std::wstring label = spied.text;
-  return {.text = FromWide(label.substr(0, label.find(L'\t'))),
-          .enabled = (spied.state & MFS_DISABLED) == 0,
-          .checked = (spied.state & MFS_CHECKED) != 0,
-          .submenu = spied.submenu,
-          .area = spied.area};
+// What a spy in the program's thread sees in the menu.
+std::string Spy(HWND menu) {
+  const HMODULE module = ::LoadLibraryW((OwnFolder() + kSpyModule).c_str());
+  const HHOOK hook = ::SetWindowsHookExW(
+      WH_CALLWNDPROC, platform::windows::Function<HOOKPROC>(module, kSpyProcedure), module,
+      ::GetWindowThreadProcessId(menu, nullptr));
+  if (hook == nullptr) platform::windows::ThrowSystemError("SetWindowsHookEx", ::GetLastError());
+  const HWND answer =
+      ::CreateWindowExW(0, L"STATIC", L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr, nullptr);
+  ::SendMessageW(menu, ::RegisterWindowMessageW(kSpyMessage), reinterpret_cast<WPARAM>(answer), 0);
+  std::string told = TextOf(answer);
+  ::DestroyWindow(answer);
+  ::UnhookWindowsHookEx(hook);
+  return told;
 }
 
-HMENU MenuOf(HWND menu_window) {
-  constexpr UINT kGetMenu = 0x01E1;  // MN_GETHMENU
-  return reinterpret_cast<HMENU>(::SendMessageW(menu_window, kGetMenu, 0, 0));
-}
-
-MenuItem Named(const std::vector<MenuItem>& items, std::string_view text) {
-  for (const MenuItem& item : items) {
-    if (item.text == text) return item;
+// All items of the menu and of those in it.
+std::vector<MenuItem> AllItems(HWND menu) {
+  std::vector<MenuItem> items;
+  std::istringstream lines(Spy(menu));
+  for (std::string line; std::getline(lines, line);) {
+    std::istringstream parts(line);
+    MenuItem& item = items.emplace_back();
+    parts >> item.checked >> item.area.left >> item.area.top >> item.area.right >> item.area.bottom;
+    parts.ignore();
+    while (std::getline(parts, item.text, '\t')) item.path.push_back(item.text);
+    item.text = item.path.back();
   }
-  throw std::runtime_error("the menu has no item \"" + std::string(text) + "\"");
+  return items;
 }
 
 }  // namespace
-
-// A hook in the program's thread, with the memory through which it answers.
-class OpenMenu::Spy {
- public:
-  explicit Spy(HWND menu_window) {
-    memory_ = KernelHandle(::CreateFileMappingW(INVALID_HANDLE_VALUE, nullptr, PAGE_READWRITE, 0,
-                                                sizeof(SpiedMenu), kSpyMemory));
-    menu_ = static_cast<SpiedMenu*>(::MapViewOfFile(memory_.get(), FILE_MAP_WRITE, 0, 0, 0));
-    if (menu_ == nullptr) ThrowSystemError("MapViewOfFile", ::GetLastError());
-
-    const HMODULE module = ::LoadLibraryW((OwnFolder() + kSpyModule).c_str());
-    hook_ = ::SetWindowsHookExW(WH_CALLWNDPROC,
-                                platform::windows::Function<HOOKPROC>(module, kSpyProcedure),
-                                module, ::GetWindowThreadProcessId(menu_window, nullptr));
-    if (hook_ == nullptr) ThrowSystemError("SetWindowsHookEx", ::GetLastError());
-  }
-  ~Spy() {
-    ::UnhookWindowsHookEx(hook_);
-    ::UnmapViewOfFile(menu_);
-  }
-  Spy(const Spy&) = delete;
-  Spy& operator=(const Spy&) = delete;
-
-  const SpiedMenu& Ask(HWND menu_window) {
-    menu_->count = -1;
-    ::SendMessageW(menu_window, ::RegisterWindowMessageW(kSpyMessage), 0, 0);
-    if (menu_->count < 0) throw std::runtime_error("the spy did not see the menu");
-    return *menu_;
-  }
-
- private:
-  KernelHandle memory_;
-  SpiedMenu* menu_ = nullptr;
-  HHOOK hook_ = nullptr;
-};
 
 OpenMenu::OpenMenu(DWORD process) : process_(process) {
   Await("a menu", [process] {
@@ -92,66 +62,46 @@ OpenMenu::OpenMenu(DWORD process) : process_(process) {
     return !menus.empty() && GuiOf(menus.front()).hwndMenuOwner != nullptr;
   });
   root_ = MenuWindows(process).front();
-  spy_ = std::make_unique<Spy>(root_);
 }
-
-OpenMenu::~OpenMenu() = default;
 
 bool OpenMenu::Any(DWORD process) { return !MenuWindows(process).empty(); }
 
-template <class Step>
-HWND OpenMenu::Follow(Step begin, Step end) {
-  HWND window = root_;
-  for (; begin != end; ++begin) window = OpenSubmenu(Named(Read(window), *begin));
-  return window;
+std::vector<MenuItem> OpenMenu::Items(const MenuPath& path) const {
+  std::vector<MenuItem> items = AllItems(root_);
+  std::erase_if(items, [&path](const MenuItem& item) {
+    return MenuPath(item.path.begin(), item.path.end() - 1) != path;
+  });
+  return items;
 }
 
-std::vector<MenuItem> OpenMenu::Items(const MenuPath& path) {
-  return Read(Follow(path.begin(), path.end()));
+MenuItem OpenMenu::Find(const MenuPath& path) const {
+  for (const MenuItem& item : AllItems(root_)) {
+    if (item.path == path) return item;
+  }
+  throw std::runtime_error("the menu has no item \"" + path.back() + "\"");
 }
 
-MenuItem OpenMenu::Find(const MenuPath& path) {
-  const auto last = path.end() - 1;
-  return Named(Read(Follow(path.begin(), last)), *last);
+POINT OpenMenu::Reach(const MenuPath& path) const {
+  for (std::size_t depth = 1; depth < path.size(); ++depth) {
+    if (MenuWindows(process_).size() > depth) continue;
+    Click(MiddleOf(Find({path.begin(), path.begin() + static_cast<std::ptrdiff_t>(depth)}).area));
+    Await("a submenu", [&] { return MenuWindows(process_).size() > depth; });
+  }
+  return MiddleOf(Find(path).area);
 }
 
-void OpenMenu::Choose(const MenuPath& path) {
-  const MenuItem item = Find(path);
-  if (!item.enabled) throw std::runtime_error("\"" + item.text + "\" is disabled");
-  Click(MiddleOf(item.area));
+void OpenMenu::Choose(const MenuPath& path) const {
+  Click(Reach(path));
   Await("the menu to close", [this] { return !Any(process_); });
 }
 
-void OpenMenu::Leave() {
+void OpenMenu::Leave() const {
   // One press leaves one level.
   Await("the menu to close", [this] {
     const std::vector<HWND> menus = MenuWindows(process_);
     if (!menus.empty()) ::PostMessageW(menus.back(), WM_KEYDOWN, VK_ESCAPE, 0);
     return menus.empty();
   });
-}
-
-std::vector<MenuItem> OpenMenu::Read(HWND menu_window) {
-  const SpiedMenu& spied = spy_->Ask(menu_window);
-  std::vector<MenuItem> items;
-  for (int at = 0; at < spied.count; ++at) items.push_back(ItemFrom(spied.items[at]));
-  return items;
-}
-
-HWND OpenMenu::OpenSubmenu(const MenuItem& item) {
-  if (item.submenu == nullptr) throw std::runtime_error("\"" + item.text + "\" has no submenu");
-  HWND found = nullptr;
-  const auto is_open = [&] {
-    for (const HWND window : MenuWindows(process_)) {
-      if (MenuOf(window) == item.submenu) found = window;
-    }
-    return found != nullptr;
-  };
-  if (!is_open()) {
-    Click(MiddleOf(item.area));
-    Await("a submenu", is_open);
-  }
-  return found;
 }
 
 }  // namespace desktop

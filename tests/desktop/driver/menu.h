@@ -1,60 +1,46 @@
 // The program's menu, used as a user does.
 #pragma once
 
-#include <memory>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "tests/desktop/driver/win.h"
 
 namespace desktop {
 
-struct MenuItem {
-  std::string text;  // as the menu holds it, ampersands doubled; empty for a separator
-  bool enabled = true;
-  bool checked = false;
-  HMENU submenu = nullptr;
-  RECT area{};  // on the screen
-};
-
-// Texts of items, from the outermost menu inwards.
+// Texts of items as the menu holds them, ampersands doubled, from the outermost menu inwards.
 using MenuPath = std::vector<std::string>;
+
+struct MenuItem {
+  MenuPath path;
+  std::string text;  // the last of the path
+  bool checked = false;
+  RECT area{};  // on the screen; means something while its menu is open
+};
 
 // A menu that is open. What a method waits for in vain, it throws as std::runtime_error.
 class OpenMenu {
  public:
-  // Waits until the program has opened a menu. Looks into it for as long as this lives.
+  // Waits until the program has opened a menu.
   explicit OpenMenu(DWORD process);
-  ~OpenMenu();
-  OpenMenu(const OpenMenu&) = delete;
-  OpenMenu& operator=(const OpenMenu&) = delete;
 
-  // What stands in it, or in the submenu that `path` leads to, which is opened with the mouse.
-  [[nodiscard]] std::vector<MenuItem> Items(const MenuPath& path = {});
-  // The item at the end of `path`; its submenus are opened with the mouse.
-  [[nodiscard]] MenuItem Find(const MenuPath& path);
+  // The items of the menu, or of the one in it that `path` leads to.
+  [[nodiscard]] std::vector<MenuItem> Items(const MenuPath& path = {}) const;
+  [[nodiscard]] MenuItem Find(const MenuPath& path) const;
+  // Opens the menus on the way to the item at the end of `path` with the mouse, and returns where
+  // the item is then.
+  POINT Reach(const MenuPath& path) const;
   // Clicks the item at the end of `path` and waits until the menu is gone.
-  void Choose(const MenuPath& path);
+  void Choose(const MenuPath& path) const;
   // Leaves it with Esc.
-  void Leave();
+  void Leave() const;
 
   // Whether a menu of the process is open.
   [[nodiscard]] static bool Any(DWORD process);
 
  private:
-  class Spy;
-
-  [[nodiscard]] std::vector<MenuItem> Read(HWND menu_window);
-  // The window of the submenu behind `item`; opened when it is not open.
-  HWND OpenSubmenu(const MenuItem& item);
-  // The window of the menu that the steps lead to.
-  template <class Step>
-  HWND Follow(Step begin, Step end);
-
   DWORD process_;
   HWND root_ = nullptr;
-  std::unique_ptr<Spy> spy_;
 };
 
 }  // namespace desktop

@@ -9,7 +9,7 @@
 #include <shellapi.h>
 
 namespace desktop {
-Meter::Meter(const std::wstring& path) : program_(path) {
+Meter::Meter() {
   Await("the meter window", [this] {
     window_ = FindTop(program_.id(), L"T_frmBrisanto");
     return window_ != nullptr && Visible();
@@ -23,17 +23,13 @@ bool Meter::OnTop() const {
 
 HWND Meter::graph() const { return FindControl(window_, L"_tlkInterMeter"); }
 HWND Meter::line() const { return FindControl(window_, L"_tlkDLULMeter"); }
-HWND Meter::panel() const { return FindControl(window_, L"pnlContain"); }
-std::string Meter::LineText() const { return TextOf(line()); }
-
-POINT Meter::Inside() const { return MiddleOf(AreaOf(window_)); }
 
 LONG Meter::Scaled(LONG design) const {
   return ::MulDiv(design, static_cast<int>(::GetDpiForWindow(window_)), 96);
 }
 
 OpenMenu Meter::Menu() {
-  RightClick(Inside());
+  RightClick(MiddleOf(AreaOf(window_)));
   return OpenMenu(program_.id());
 }
 
@@ -56,8 +52,10 @@ RECT Meter::TrayArea() const {
   const NOTIFYICONIDENTIFIER icon{sizeof(icon), tray(), 1, {}};
   RECT area{};
   if (get != nullptr && SUCCEEDED(get(&icon, &area))) return area;
-  // Under Wine the only icon stands at the right end of the taskbar.
-  area = AreaOf(::FindWindowW(L"Shell_TrayWnd", nullptr));
+  // Under Wine the only icon is a window of its own, or stands at the right end of the taskbar.
+  const HWND taskbar = ::FindWindowW(L"Shell_TrayWnd", nullptr);
+  const HWND own = ::FindWindowExW(taskbar, nullptr, L"__wine_tray_icon", nullptr);
+  area = AreaOf(own != nullptr ? own : taskbar);
   area.left = area.right - HeightOf(area);
   return area;
 }

@@ -13,7 +13,7 @@ namespace desktop {
 class Meter {
  public:
   // Starts the program and waits until the window is shown and what it starts with is stored.
-  explicit Meter(const std::wstring& path = ProgramPath());
+  Meter();
 
   [[nodiscard]] Program& program() { return program_; }
   [[nodiscard]] HWND window() const { return window_; }
@@ -22,12 +22,7 @@ class Meter {
 
   // Controls; null when there is none.
   [[nodiscard]] HWND graph() const;
-  [[nodiscard]] HWND line() const;   // the numeric line
-  [[nodiscard]] HWND panel() const;  // what holds it
-  [[nodiscard]] std::string LineText() const;
-
-  // A place on the meter that takes clicks, in whatever mode it is.
-  [[nodiscard]] POINT Inside() const;
+  [[nodiscard]] HWND line() const;  // the numeric line
   // Length in pixels of one at 96 dpi.
   [[nodiscard]] LONG Scaled(LONG design) const;
 

@@ -9,31 +9,8 @@
 #include "tests/desktop/driver/wait.h"
 
 namespace desktop {
-namespace {
 
 using platform::windows::KernelHandle;
-
-// A new process. Now and then Wine loses one before its program begins, which it calls an internal
-// error: nothing of the program has run then, so it is started again.
-PROCESS_INFORMATION StartProcess(const std::wstring& path, const std::wstring& arguments) {
-  constexpr int kAttempts = 5;
-  for (int attempt = 1;; ++attempt) {
-    std::wstring line = L"\"" + path + L"\" " + arguments;  // the system writes into it
-    STARTUPINFOW startup{};
-    startup.cb = sizeof(startup);
-    PROCESS_INFORMATION started{};
-    if (::CreateProcessW(path.c_str(), line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
-                         &startup, &started) != FALSE) {
-      return started;
-    }
-    const DWORD error = ::GetLastError();
-    if (error != ERROR_INTERNAL_ERROR || attempt == kAttempts) {
-      platform::windows::ThrowSystemError("CreateProcess", error);
-    }
-  }
-}
-
-}  // namespace
 
 std::wstring OwnFolder() {
   return platform::windows::ToWide(platform::windows::Files().ProgramFolder());
@@ -53,7 +30,19 @@ bool ProgramRuns() {
 }
 
 Program::Program(const std::wstring& path, const std::wstring& arguments) {
-  const PROCESS_INFORMATION started = StartProcess(path, arguments);
+  std::wstring line = L"\"" + path + L"\" " + arguments;  // the system writes into it
+  STARTUPINFOW startup{};
+  startup.cb = sizeof(startup);
+  PROCESS_INFORMATION started{};
+  // Now and then Wine loses a new process before its program begins, which it calls an internal
+  // error: nothing of the program has run then, so it is started again.
+  for (int attempts = 5; ::CreateProcessW(path.c_str(), line.data(), nullptr, nullptr, FALSE, 0,
+                                          nullptr, nullptr, &startup, &started) == FALSE;) {
+    const DWORD error = ::GetLastError();
+    if (error != ERROR_INTERNAL_ERROR || --attempts == 0) {
+      platform::windows::ThrowSystemError("CreateProcess", error);
+    }
+  }
   ::CloseHandle(started.hThread);
   process_ = KernelHandle(started.hProcess);
   id_ = started.dwProcessId;

@@ -16,9 +16,12 @@ using platform::windows::ToWide;
 
 // Where the user's values are while tests run.
 constexpr char kAside[] = "Software\\Tremolux set aside by tests";
-constexpr char kProductAside[] = "Software\\Tremolux set aside by tests\\Product";
-constexpr char kPlacementAside[] = "Software\\Tremolux set aside by tests\\Placement";
 constexpr char kRunAside[] = "Software\\Tremolux set aside by tests\\Run";
+constexpr struct {
+  const char* key;
+  const char* aside;
+} kKeys[] = {{kProductKey, "Software\\Tremolux set aside by tests\\Product"},
+             {kPlacementKey, "Software\\Tremolux set aside by tests\\Placement"}};
 
 // The one value of the program in a key that is not its own.
 constexpr char kRunValue[] = "BrisantoXP";
@@ -44,8 +47,7 @@ void CopyRunValue(const char* from, const char* to) {
 
 void PutBack() {
   RegistryGuard::RemoveStored();
-  CopyKey(kProductAside, kProductKey);
-  CopyKey(kPlacementAside, kPlacementKey);
+  for (const auto& [key, aside] : kKeys) CopyKey(aside, key);
   CopyRunValue(kRunAside, kRunKey);
   RemoveKey(kAside);
 }
@@ -55,8 +57,7 @@ void PutBack() {
 RegistryGuard::RegistryGuard() {
   if (IsStored(kAside, "")) PutBack();
   StoreText(kAside, "", "in use");
-  CopyKey(kProductKey, kProductAside);
-  CopyKey(kPlacementKey, kPlacementAside);
+  for (const auto& [key, aside] : kKeys) CopyKey(key, aside);
   CopyRunValue(kRunKey, kRunAside);
 }
 
@@ -70,8 +71,7 @@ RegistryGuard::~RegistryGuard() {
 }
 
 void RegistryGuard::RemoveStored() {
-  RemoveKey(kProductKey);
-  RemoveKey(kPlacementKey);
+  for (const auto& [key, aside] : kKeys) RemoveKey(key);
   Remove(kRunKey, kRunValue);
 }
 

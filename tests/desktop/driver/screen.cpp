@@ -19,20 +19,6 @@ namespace {
 
 using platform::windows::ThrowSystemError;
 
-class GdiPlus {
- public:
-  GdiPlus() {
-    const Gdiplus::GdiplusStartupInput input;
-    Gdiplus::GdiplusStartup(&token_, &input, nullptr);
-  }
-  ~GdiPlus() { Gdiplus::GdiplusShutdown(token_); }
-  GdiPlus(const GdiPlus&) = delete;
-  GdiPlus& operator=(const GdiPlus&) = delete;
-
- private:
-  ULONG_PTR token_ = 0;
-};
-
 constexpr CLSID kPngEncoder = {
     0x557cf406, 0x1a04, 0x11d3, {0x9a, 0x73, 0x00, 0x00, 0xf8, 0x1e, 0xf3, 0x2e}};
 
@@ -59,7 +45,9 @@ Picture TakePictureOfScreen() {
 }
 
 void SavePng(const Picture& picture, const std::wstring& path) {
-  const GdiPlus library;
+  const Gdiplus::GdiplusStartupInput input;
+  ULONG_PTR token = 0;
+  Gdiplus::GdiplusStartup(&token, &input, nullptr);  // until the process ends
   std::vector<Gdiplus::ARGB> pixels;
   for (const platform::Colour colour : picture.pixels) {
     pixels.push_back((colour & 0xFFU) << 16U | (colour & 0xFF00U) | colour >> 16U);

@@ -1,30 +1,25 @@
 #include "tests/desktop/driver/traffic.h"
 
-#include <cstring>
+#include <span>
 
 #include "platform/text.h"
-#include "platform/windows/services/services.h"
 #include "platform/windows/system_error.h"
+#include "platform/windows/win32.h"
 
 namespace desktop {
 
 std::vector<AdapterRow> ReadAdapters() {
-  platform::windows::InterfaceTable table;
-  std::vector<std::byte> buffer;
-  std::uint32_t size = 0;
-  std::uint32_t result = table.Read({}, size);
-  while (result == platform::kInsufficientBuffer) {
-    buffer.resize(size);
-    result = table.Read(buffer, size);
-  }
+  std::vector<std::byte> ample(1U << 20U);
+  auto& table = *reinterpret_cast<MIB_IFTABLE*>(ample.data());
+  auto size = static_cast<ULONG>(ample.size());
+  const DWORD result = ::GetIfTable(&table, &size, FALSE);
   if (result != 0) platform::windows::ThrowSystemError("GetIfTable", result);
 
   std::vector<AdapterRow> rows;
-  platform::InterfaceRow row;
-  for (auto at = platform::kInterfaceTableHead; at + sizeof(row) <= size; at += sizeof(row)) {
-    std::memcpy(&row, &buffer[at], sizeof(row));
-    rows.push_back(
-        {platform::AsciiLower(platform::DescriptionBytes(row)), row.dwInOctets, row.dwOutOctets});
+  for (const MIB_IFROW& row : std::span(table.table, table.dwNumEntries)) {
+    const auto* description = reinterpret_cast<const char*>(row.bDescr);
+    rows.push_back({platform::AsciiLower({description, ::strnlen(description, sizeof(row.bDescr))}),
+                    row.dwInOctets, row.dwOutOctets});
   }
   return rows;
 }

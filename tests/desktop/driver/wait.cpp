@@ -26,19 +26,14 @@ double SteadyMs() {
   return std::chrono::duration<double, std::milli>(now).count();
 }
 
-bool Comes(const std::function<bool()>& condition, int within_ms) {
+void Await(std::string_view what, const std::function<bool()>& condition, int within_ms) {
   const double deadline = SteadyMs() + within_ms;
-  for (;;) {
-    AnswerMessages();
-    if (condition()) return true;
-    if (SteadyMs() > deadline) return false;
+  for (AnswerMessages(); !condition(); AnswerMessages()) {
+    if (SteadyMs() > deadline) {
+      throw std::runtime_error("waited in vain for " + std::string(what));
+    }
     ::MsgWaitForMultipleObjects(0, nullptr, FALSE, kPauseMs, QS_ALLINPUT);
   }
-}
-
-void Await(std::string_view what, const std::function<bool()>& condition, int within_ms) {
-  if (Comes(condition, within_ms)) return;
-  throw std::runtime_error("waited in vain for " + std::string(what));
 }
 
 }  // namespace desktop

@@ -9,11 +9,8 @@ namespace desktop {
 // Ample for anything that happens at all, on a busy machine too.
 inline constexpr int kAmpleMs = 15000;
 
-// Lets time pass, and the windows of this thread answer, until `condition` is true. False when it
-// is not within `within_ms`.
-[[nodiscard]] bool Comes(const std::function<bool()>& condition, int within_ms = kAmpleMs);
-
-// The same, but throws std::runtime_error that names what was waited for.
+// Lets time pass, and the windows of this thread answer, until `condition` is true. Throws
+// std::runtime_error that names what was waited for when it is not within `within_ms`.
 void Await(std::string_view what, const std::function<bool()>& condition, int within_ms = kAmpleMs);
 
 // Milliseconds of a clock that setting the date does not move.

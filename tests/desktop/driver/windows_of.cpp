@@ -56,16 +56,16 @@ GUITHREADINFO GuiOf(HWND window) {
   return info;
 }
 
-bool HasClass(HWND window, std::wstring_view name) {
+bool HasClass(HWND window, const wchar_t* name) {
   wchar_t window_class[256] = {};
   ::GetClassNameW(window, window_class, 256);
-  return name == window_class;
+  return ::lstrcmpiW(name, window_class) == 0;
 }
 
 std::string TextOf(HWND window) {
   // Asked of the window itself: GetWindowText gives the text of another program's controls only
   // where they keep it in the usual place.
-  std::wstring text(1024, L'\0');
+  std::wstring text(16384, L'\0');
   const LRESULT length =
       ::SendMessageW(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()));
   text.resize(static_cast<std::size_t>(length));

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "tests/desktop/driver/win.h"
@@ -20,7 +19,7 @@ namespace desktop {
 
 // What the thread of a window does: moving, in a menu, where the keyboard is.
 [[nodiscard]] GUITHREADINFO GuiOf(HWND window);
-[[nodiscard]] bool HasClass(HWND window, std::wstring_view name);
+[[nodiscard]] bool HasClass(HWND window, const wchar_t* name);
 [[nodiscard]] std::string TextOf(HWND window);
 [[nodiscard]] RECT AreaOf(HWND window);  // on the screen
 [[nodiscard]] POINT MiddleOf(const RECT& area);

@@ -10,10 +10,9 @@ number is in the environment variable TREMOLUX_TEST_LINE:
     add NAME          an adapter appears
     move NAME IN OUT  so many bytes come in and so many go out, in one packet or more
 
-Each is answered with "ok" when it has happened, or with what went wrong. It takes Linux, and the
-rights to make a network: without them the command runs without such a line.
+Each is answered with "ok" when it has happened, or with what went wrong. It takes Linux, the package
+iproute2 and the rights to make a network: without them the command runs without such a line.
 """
-import ctypes
 import fcntl
 import os
 import socket
@@ -23,47 +22,16 @@ import subprocess
 import sys
 import threading
 
-CLONE_NEWUSER = 0x10000000
-CLONE_NEWNET = 0x40000000
 TUNSETIFF = 0x400454CA
 IFF_TUN_NO_PI = 0x0001 | 0x1000
-SIOCSIFADDR, SIOCSIFNETMASK, SIOCGIFFLAGS, SIOCSIFFLAGS = 0x8916, 0x891C, 0x8913, 0x8914
-IFF_UP = 0x1
 
 LARGEST_PACKET = 1500
 IP_HEAD, UDP_HEAD = 20, 8
 
 
-def unshare(flags):
-    libc = ctypes.CDLL(None, use_errno=True)
-    if libc.unshare(flags) != 0:
-        raise OSError(ctypes.get_errno(), "unshare")
-
-
-def enter_own_network():
-    """Others keep theirs. Without the rights of root, this process gets those of its own world."""
-    uid, gid = os.getuid(), os.getgid()
-    try:
-        unshare(CLONE_NEWNET)
-    except OSError:
-        unshare(CLONE_NEWUSER | CLONE_NEWNET)
-        for file, text in (("setgroups", "deny"), ("uid_map", f"{uid} {uid} 1"),
-                           ("gid_map", f"{gid} {gid} 1")):
-            with open(f"/proc/self/{file}", "w", encoding="ascii") as target:
-                target.write(text)
-    configure(b"lo", None)
-
-
-def configure(name, address):
-    """Gives an adapter its address, if it has none of its own, and switches it on."""
-    with socket.socket(socket.AF_INET, socket.SOCK_DGRAM) as control:
-        if address is not None:
-            for request, value in ((SIOCSIFADDR, address), (SIOCSIFNETMASK, "255.255.255.0")):
-                fcntl.ioctl(control, request, struct.pack(
-                    "16sHH4s8x", name, socket.AF_INET, 0, socket.inet_aton(value)))
-        flags = struct.unpack("16sH14x", fcntl.ioctl(
-            control, SIOCGIFFLAGS, struct.pack("16sH14x", name, 0)))[1]
-        fcntl.ioctl(control, SIOCSIFFLAGS, struct.pack("16sH14x", name, flags | IFF_UP))
+def ip(*words):
+    if subprocess.run(["ip", *words], check=False).returncode:
+        raise OSError("ip " + " ".join(words))
 
 
 class Adapter:
@@ -73,12 +41,10 @@ class Adapter:
         self.network = f"10.77.{number}."
         self.tunnel = os.open("/dev/net/tun", os.O_RDWR)
         fcntl.ioctl(self.tunnel, TUNSETIFF, struct.pack("16sH14x", name.encode(), IFF_TUN_NO_PI))
-        try:  # the system would say hello by itself
-            with open(f"/proc/sys/net/ipv6/conf/{name}/disable_ipv6", "w", encoding="ascii") as off:
-                off.write("1")
-        except OSError:
-            pass
-        configure(name.encode(), self.network + "1")
+        # The system would say hello by itself.
+        ip("link", "set", name, "addrgenmode", "none")
+        ip("address", "add", self.network + "1/24", "dev", name)
+        ip("link", "set", name, "up")
 
     def close(self):
         os.close(self.tunnel)
@@ -135,18 +101,30 @@ class Line(socketserver.StreamRequestHandler):
             raise ValueError(word)
 
 
-def main():
-    command = sys.argv[1:]
+def serve(command):
     try:
-        enter_own_network()
+        ip("link", "set", "lo", "up")
         Adapter("probe", 250).close()
     except OSError as error:
-        print(f"no rights to make a network: {error}", file=sys.stderr)
+        print(f"no adapters can be made: {error}", file=sys.stderr)
         return subprocess.call(command)
     with socketserver.TCPServer(("127.0.0.1", 0), Line) as server:
         threading.Thread(target=server.serve_forever, daemon=True).start()
         environment = dict(os.environ, TREMOLUX_TEST_LINE=str(server.server_address[1]))
         return subprocess.call(command, env=environment)
+
+
+def main():
+    command = sys.argv[1:]
+    if command[0] == "--inside":
+        return serve(command[1:])
+    # Without the rights of root, a process may have those of a world of its own.
+    for rights in ([], ["--map-root-user"]):
+        unshare = ["unshare", "--net", *rights]
+        if subprocess.run([*unshare, "true"], stderr=subprocess.DEVNULL, check=False).returncode == 0:
+            os.execvp("unshare", [*unshare, sys.executable, __file__, "--inside", *command])
+    print("no rights to make a network", file=sys.stderr)
+    return subprocess.call(command)
 
 
 if __name__ == "__main__":

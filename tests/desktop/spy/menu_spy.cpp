@@ -1,42 +1,31 @@
 // Lies in the program that is tested, brought there by a hook, and reads its menus.
 #include "tests/desktop/spy/menu_spy.h"
 
-#include <algorithm>
+#include <sstream>
+#include <string>
+
+#include "platform/windows/win32.h"
 
 namespace {
 
-using desktop::SpiedItem;
-using desktop::SpiedMenu;
-
-void Read(HMENU menu, int position, SpiedItem& spied) {
-  MENUITEMINFOW item{};
-  item.cbSize = sizeof(item);
-  item.fMask = MIIM_STATE | MIIM_SUBMENU | MIIM_STRING;
-  item.dwTypeData = spied.text;
-  item.cch = 256;
-  ::GetMenuItemInfoW(menu, static_cast<UINT>(position), TRUE, &item);
-  spied.state = item.fState;
-  spied.submenu = item.hSubMenu;
-  ::GetMenuItemRect(nullptr, menu, static_cast<UINT>(position), &spied.area);
-}
-
-void Read(HMENU menu, SpiedMenu& spied) {
-  const int count = std::min(::GetMenuItemCount(menu), SpiedMenu::kRoom);
-  for (int position = 0; position < count; ++position) Read(menu, position, spied.items[position]);
-  spied.count = count;
-}
-
-void Answer(HWND menu_window) {
-  constexpr UINT kGetMenu = 0x01E1;  // MN_GETHMENU
-  const HANDLE memory = ::OpenFileMappingW(FILE_MAP_WRITE, FALSE, desktop::kSpyMemory);
-  if (memory == nullptr) return;
-  void* view = ::MapViewOfFile(memory, FILE_MAP_WRITE, 0, 0, sizeof(SpiedMenu));
-  if (view != nullptr) {
-    const LRESULT menu = ::SendMessageW(menu_window, kGetMenu, 0, 0);
-    Read(reinterpret_cast<HMENU>(menu), *static_cast<SpiedMenu*>(view));
-    ::UnmapViewOfFile(view);
+void Tell(HMENU menu, const std::wstring& path, std::wostream& told) {
+  const int count = ::GetMenuItemCount(menu);
+  for (int position = 0; position < count; ++position) {
+    wchar_t label[256] = {};
+    MENUITEMINFOW item{};
+    item.cbSize = sizeof(item);
+    item.fMask = MIIM_STATE | MIIM_SUBMENU | MIIM_STRING;
+    item.dwTypeData = label;
+    item.cch = 256;
+    ::GetMenuItemInfoW(menu, static_cast<UINT>(position), TRUE, &item);
+    const std::wstring text = std::wstring(label, ::wcscspn(label, L"\t"));  // without its keys
+    if (text.empty()) continue;                                              // a separator
+    RECT area{};
+    ::GetMenuItemRect(nullptr, menu, static_cast<UINT>(position), &area);
+    told << ((item.fState & MFS_CHECKED) != 0) << ' ' << area.left << ' ' << area.top << ' '
+         << area.right << ' ' << area.bottom << path << L'\t' << text << L'\n';
+    Tell(item.hSubMenu, path + L'\t' + text, told);
   }
-  ::CloseHandle(memory);
 }
 
 }  // namespace
@@ -44,9 +33,13 @@ void Answer(HWND menu_window) {
 // Sees each message sent to a window of the program.
 extern "C" __declspec(dllexport) LRESULT CALLBACK SpyOnMenu(int code, WPARAM w, LPARAM l) {
   static const UINT ask = ::RegisterWindowMessageW(desktop::kSpyMessage);
-  if (code == HC_ACTION) {
-    const auto& message = *reinterpret_cast<const CWPSTRUCT*>(l);
-    if (message.message == ask) Answer(message.hwnd);
+  const auto& message = *reinterpret_cast<const CWPSTRUCT*>(l);
+  if (code == HC_ACTION && message.message == ask) {
+    constexpr UINT kGetMenu = 0x01E1;  // MN_GETHMENU
+    std::wostringstream told;
+    Tell(reinterpret_cast<HMENU>(::SendMessageW(message.hwnd, kGetMenu, 0, 0)), {}, told);
+    ::SendMessageW(reinterpret_cast<HWND>(message.wParam), WM_SETTEXT, 0,
+                   reinterpret_cast<LPARAM>(told.str().c_str()));
   }
   return ::CallNextHookEx(nullptr, code, w, l);
 }

@@ -2,27 +2,13 @@
 // under Wine no other process can read it.
 #pragma once
 
-#include "platform/windows/win32.h"
-
 namespace desktop {
 
 inline constexpr wchar_t kSpyModule[] = L"menu_spy.dll";
 inline constexpr char kSpyProcedure[] = "SpyOnMenu";
-// Sent to a menu's window; the answer is in the shared memory then.
+// Sent to a menu's window, with the window (w) whose text becomes the answer: a line for each item
+// of the menu and of those in it, "checked left top right bottom" and, each behind a tab, the texts
+// that lead to it. The place is on the screen, and means something where the menu is open.
 inline constexpr wchar_t kSpyMessage[] = L"TremoluxSpyOnMenu";
-inline constexpr wchar_t kSpyMemory[] = L"TremoluxSpiedMenu";
-
-struct SpiedItem {
-  RECT area;      // on the screen
-  UINT state;     // MFS_...
-  HMENU submenu;  // null: an item without one
-  wchar_t text[256];
-};
-
-struct SpiedMenu {
-  static constexpr int kRoom = 64;
-  int count;  // -1: not answered
-  SpiedItem items[kRoom];
-};
 
 }  // namespace desktop
