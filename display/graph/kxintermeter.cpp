@@ -1,6 +1,7 @@
 #include "display/graph/kxintermeter.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <limits>
 #include <vector>
 
@@ -19,6 +20,21 @@ const platform::FontStyle kScaleFont{"Small Fonts", 9, true};
 // More than the 31 bits of an input can hold, 2 GiB a second, arrives as less than nothing.
 std::int32_t Drawn(std::int32_t input) {
   return input < 0 ? std::numeric_limits<std::int32_t>::max() : input;
+}
+
+// Returns how bright a colour is to the eye, from 0 to 255.
+int Brightness(platform::Colour c) {
+  const auto part = [c](int shift) { return static_cast<int>(c >> shift & 0xFFU); };
+  return (30 * part(0) + 59 * part(8) + 11 * part(16)) / 100;
+}
+
+// Returns the colour of letters, or what can be read instead where it is lost on the background,
+// which the user chooses.
+platform::Colour Readable(platform::Colour letters, platform::Colour background) {
+  constexpr int kToldApart = 96;
+  const int behind = Brightness(background);
+  if (std::abs(Brightness(letters) - behind) >= kToldApart) return letters;
+  return behind < 128 ? platform::colour::kWhite : platform::colour::kBlack;
 }
 
 }  // namespace
@@ -90,9 +106,10 @@ GraphLook TKxInterMeter::PixelLook() {
     look.*width = Scale(std::clamp(look.*width, -kWidestDrawn, kWidestDrawn));
   }
   // Told apart from what has almost this colour.
-  look.DisplayColor = App().Platform().screen.Resolve(look.DisplayColor);
+  platform::Screen& screen = App().Platform().screen;
+  look.DisplayColor = screen.Resolve(look.DisplayColor);
   look.Font = Scale(Font());
-  look.FontColour = FontColour();
+  look.FontColour = Readable(screen.Resolve(FontColour()), look.DisplayColor);
   return look;
 }
 
