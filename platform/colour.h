@@ -32,6 +32,7 @@ inline constexpr Colour kButtonShadow = System(16);
 inline constexpr Colour kGrayText = System(17);
 inline constexpr Colour kButtonText = System(18);
 inline constexpr Colour kButtonHighlight = System(20);
+inline constexpr Colour kHotLight = System(26);  // of links
 }  // namespace colour
 
 // Returns whether `c` names a system colour rather than a fixed one.

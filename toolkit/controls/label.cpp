@@ -7,10 +7,6 @@
 namespace toolkit {
 namespace {
 
-// A colour that is readable on light and dark backgrounds, which the system's colour of links is
-// not in every scheme.
-constexpr platform::Colour kLinkColour = 0xCC6600;
-
 // Design pixels that the focus mark takes on the left.
 constexpr int kIndent = 4;
 
@@ -25,7 +21,7 @@ Label::Label(Control& parent, std::string_view name, const platform::TextStyle& 
 
 LinkLabel::LinkLabel(Control& parent, std::string_view name)
     : ButtonControl(parent, name, platform::ButtonKind::kPainted) {
-  SetFontColour(kLinkColour);
+  SetFontColour(platform::colour::kHotLight);
 }
 
 platform::Spoken LinkLabel::Describe() const {
