@@ -1,7 +1,6 @@
 #include "display/graph/kxintermeter.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <limits>
 #include <vector>
 
@@ -22,19 +21,12 @@ std::int32_t Drawn(std::int32_t input) {
   return input < 0 ? std::numeric_limits<std::int32_t>::max() : input;
 }
 
-// Returns how bright a colour is to the eye, from 0 to 255.
-int Brightness(platform::Colour c) {
-  const auto part = [c](int shift) { return static_cast<int>(c >> shift & 0xFFU); };
-  return (30 * part(0) + 59 * part(8) + 11 * part(16)) / 100;
-}
-
 // Returns the colour of letters, or what can be read instead where it is lost on the background,
 // which the user chooses.
 platform::Colour Readable(platform::Colour letters, platform::Colour background) {
-  constexpr int kToldApart = 96;
-  const int behind = Brightness(background);
-  if (std::abs(Brightness(letters) - behind) >= kToldApart) return letters;
-  return behind < 128 ? platform::colour::kWhite : platform::colour::kBlack;
+  if (platform::IsReadable(letters, background)) return letters;
+  const bool dark = platform::IsReadable(platform::colour::kWhite, background);
+  return dark ? platform::colour::kWhite : platform::colour::kBlack;
 }
 
 }  // namespace
