@@ -32,9 +32,22 @@ inline constexpr Colour kButtonShadow = System(16);
 inline constexpr Colour kGrayText = System(17);
 inline constexpr Colour kButtonText = System(18);
 inline constexpr Colour kButtonHighlight = System(20);
+inline constexpr Colour kHotLight = System(26);  // of links
 }  // namespace colour
 
 // Returns whether `c` names a system colour rather than a fixed one.
 constexpr bool IsSystemColour(Colour c) { return (c & 0x80000000U) != 0; }
+
+// Returns how bright a fixed colour is to the eye, from 0 to 255.
+constexpr int Brightness(Colour c) {
+  const auto part = [c](int shift) { return static_cast<int>(c >> shift & 0xFFU); };
+  return (30 * part(0) + 59 * part(8) + 11 * part(16)) / 100;
+}
+
+// Returns whether letters of one fixed colour can be read on another.
+constexpr bool IsReadable(Colour letters, Colour background) {
+  const int apart = Brightness(letters) - Brightness(background);
+  return apart >= 96 || apart <= -96;
+}
 
 }  // namespace platform

@@ -27,7 +27,7 @@ class BandwidthAlertPage final : public Page {
     constexpr int kUnitLeft = kLeft + kNumberWidth + kMargin;
     constexpr Place kUnit{kUnitLeft, kFields.Top(2), kPageWidth - kMargin - kUnitLeft,
                           kFieldHeight};
-    constexpr int kHalf = 120;
+    constexpr int kHalf = kNumberWidth + kMargin;  // as the limit and its unit
     constexpr int kDirections = kFields.Top(3) + 2;
     std::vector<std::string> days;
     for (int day = 1; day <= kDays; ++day) days.push_back(std::to_string(day));

@@ -15,7 +15,6 @@ namespace text = language::text::BandwidthStatisticsForm;
 constexpr int kRefreshMs = 500;
 
 // Design pixels.
-constexpr int kMargin = 1;
 constexpr int kInfoGroupHeight = 40;
 constexpr int kAddressBelow = 18;  // from the address's caption to the address, where it is below
 constexpr int kFootHeight = 29;    // of the form, with the button "Ok"
@@ -62,20 +61,20 @@ void StatisticsForm::Arrange() {
                         {Button2, {width - 81, height - 26, 75, 23}}});
 
   const platform::Size room = RoomOf(InfoTab);
-  const int group = room.width - 2 * kMargin;
+  const int group = room.width;  // all of it, for the "since" caption
   const int lower = address_below_ ? kAddressBelow : 0;
   const int address_left = address_below_ ? 8 : 80;
   const int since_top = kInfoGroupHeight + lower + 1;
   const int since_height = room.height - since_top - 1;
   toolkit::ApplyLayout(
-      {{InfoGroup, {kMargin, 0, group, kInfoGroupHeight + lower}},
+      {{InfoGroup, {0, 0, group, kInfoGroupHeight + lower}},
        {IpLabel, {8, 16, address_below_ ? group - 16 : 71, address_below_ ? 16 : 18}},
        {IpAddress, {address_left, 16 + lower, group - address_left - 68, 18}},
        {Button1, {group - 64, 14 + lower, 56, kButtonHeight}},
        {Button3, {group - 98, since_height - kButtonHeight - kGroupFoot, 90, kButtonHeight}}});
-  InfoGroupBox.Arrange({kMargin, since_top, group, since_height}, kButtonHeight + kGroupFoot + 2);
+  InfoGroupBox.Arrange({0, since_top, group, since_height}, kButtonHeight + kGroupFoot + 2);
   for (FiguresGroup* period : {&DailyGroupBox, &WeeklyGroupBox, &MonthlyGroupBox}) {
-    period->Arrange({kMargin, 0, group, room.height - 1}, kGroupFoot);
+    period->Arrange({0, 0, group, room.height - 1}, kGroupFoot);
   }
   CentreOnScreen();
   _tlkFormSaver.Restore();

@@ -68,7 +68,7 @@ void T_frmConnInfo::ArrangeBandwidthTab() {
   const int check_top = room.height - kCheckHeight - 1;
   toolkit::ApplyLayout({{Label1, {1, 1, room.width - 2, 16}},
                         {ISBAShown, {5, check_top, room.width - 10, kCheckHeight}}});
-  details_.SetBounds({1, kDetailsTop, room.width - 2, check_top - kDetailsTop - 1});
+  details_.SetBounds({0, kDetailsTop, room.width, check_top - kDetailsTop - 1});
 }
 
 void T_frmConnInfo::FormCreate() {

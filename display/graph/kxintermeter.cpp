@@ -21,6 +21,14 @@ std::int32_t Drawn(std::int32_t input) {
   return input < 0 ? std::numeric_limits<std::int32_t>::max() : input;
 }
 
+// Returns the colour of letters, or what can be read instead where it is lost on the background,
+// which the user chooses.
+platform::Colour Readable(platform::Colour letters, platform::Colour background) {
+  if (platform::IsReadable(letters, background)) return letters;
+  const bool dark = platform::IsReadable(platform::colour::kWhite, background);
+  return dark ? platform::colour::kWhite : platform::colour::kBlack;
+}
+
 }  // namespace
 
 TKxInterMeter::TKxInterMeter(toolkit::Control& parent, std::string_view name)
@@ -90,9 +98,10 @@ GraphLook TKxInterMeter::PixelLook() {
     look.*width = Scale(std::clamp(look.*width, -kWidestDrawn, kWidestDrawn));
   }
   // Told apart from what has almost this colour.
-  look.DisplayColor = App().Platform().screen.Resolve(look.DisplayColor);
+  platform::Screen& screen = App().Platform().screen;
+  look.DisplayColor = screen.Resolve(look.DisplayColor);
   look.Font = Scale(Font());
-  look.FontColour = FontColour();
+  look.FontColour = Readable(screen.Resolve(FontColour()), look.DisplayColor);
   return look;
 }
 

@@ -190,6 +190,8 @@ TEST_F(MeterWindow, OtherColoursOfTheSystemShowAtOnce) {
     User().Tell(&platform::TopWindowEvents::OnSettingChange);
     const auto pixels = Pixels(*Graph());
     EXPECT_GT(std::count(pixels.begin(), pixels.end(), kOther), 1000);
+    EXPECT_GT(std::count(pixels.begin(), pixels.end(), platform::colour::kWhite), 10)
+        << "black letters of the scale could not be read on it";
   });
 }
 

@@ -1,4 +1,6 @@
 // Controls with a value: what the user does and what the code does to it.
+#include <set>
+
 #include "tests/toolkit/form_fixture.h"
 #include "toolkit/controls/bars.h"
 #include "toolkit/controls/buttons.h"
@@ -6,6 +8,7 @@
 #include "toolkit/controls/label.h"
 #include "toolkit/controls/lists.h"
 #include "toolkit/controls/pages.h"
+#include "toolkit/controls/panel.h"
 #include "toolkit/controls/spin_edit.h"
 
 namespace toolkit {
@@ -135,6 +138,35 @@ TEST_F(ValueControls, APressedButtonMayTakeItsFormAway) {
   };
   User().Press("button");
   EXPECT_EQ(dialog, nullptr);
+}
+
+TEST_F(ValueControls, ThosePaintedHereHaveColoursOfTheSystemAlone) {
+  SpinEdit spin(form, "spin");
+  LinkLabel link(form, "link");
+  ColourPanel colour(form, "colour");
+  Panel panel(form, "panel");
+  panel.SetBevels(BevelCut::kRaised, BevelCut::kLowered);
+  link.SetCaption("Link");
+  std::set<platform::Colour> scheme;
+  for (platform::Colour& one : machine.screen.scheme) {
+    one = 0x203040 + static_cast<platform::Colour>(scheme.size());
+    scheme.insert(one);
+  }
+  scheme.insert(machine.screen.scheme[26] = 0xFFFF00);  // links can be read
+  for (Control* control : std::initializer_list<Control*>{&spin, &link, &colour, &panel}) {
+    control->SetBounds({0, 0, 60, 20});
+  }
+  for (const bool enabled : {true, false}) {
+    for (Control* control : form.Children()) control->SetEnabled(enabled);
+    for (const char* name : {"spinUp", "link", "colour", "panel"}) {
+      const auto raster = Widget(name).Paint(machine.screen);
+      for (int x = 0; x < raster->Extent().width; ++x) {
+        for (int y = 0; y < raster->Extent().height; ++y) {
+          EXPECT_TRUE(scheme.contains(raster->Pixel({x, y}))) << name;
+        }
+      }
+    }
+  }
 }
 
 TEST_F(ValueControls, AScreenReaderHearsANameOfEach) {

@@ -7,8 +7,7 @@
 namespace toolkit {
 namespace {
 
-// A colour that is readable on light and dark backgrounds, which the system's colour of links is
-// not in every scheme.
+// The system's usual colour of links, for schemes whose own cannot be read on a page.
 constexpr platform::Colour kLinkColour = 0xCC6600;
 
 // Design pixels that the focus mark takes on the left.
@@ -24,9 +23,7 @@ Label::Label(Control& parent, std::string_view name, const platform::TextStyle& 
 }
 
 LinkLabel::LinkLabel(Control& parent, std::string_view name)
-    : ButtonControl(parent, name, platform::ButtonKind::kPainted) {
-  SetFontColour(kLinkColour);
-}
+    : ButtonControl(parent, name, platform::ButtonKind::kPainted) {}
 
 platform::Spoken LinkLabel::Describe() const {
   platform::Spoken spoken = ButtonControl::Describe();
@@ -34,10 +31,16 @@ platform::Spoken LinkLabel::Describe() const {
   return spoken;
 }
 
+platform::Colour LinkLabel::LinkColour() const {
+  platform::Screen& screen = App().Platform().screen;
+  const platform::Colour links = screen.Resolve(platform::colour::kHotLight);
+  return platform::IsReadable(links, screen.Resolve(Colour())) ? links : kLinkColour;
+}
+
 void LinkLabel::Paint(platform::Canvas& canvas) {
   const platform::Size size = canvas.Extent();
   canvas.Fill(canvas.Area(), Colour());
-  const platform::Colour colour = Enabled() ? FontColour() : platform::colour::kGrayText;
+  const platform::Colour colour = Enabled() ? LinkColour() : platform::colour::kGrayText;
   const platform::FontStyle font = Scale(Font());
   const int left = Scale(kIndent);
   canvas.Text({left, 0, size.width - left, size.height}, Caption(), font, colour,

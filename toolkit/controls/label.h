@@ -32,6 +32,9 @@ class LinkLabel : public ButtonControl {
   void Paint(platform::Canvas& canvas) override;
   void CaptionChanged() override { Invalidate(); }
   [[nodiscard]] platform::Spoken Describe() const override;
+
+ private:
+  [[nodiscard]] platform::Colour LinkColour() const;
 };
 
 }  // namespace toolkit

@@ -9,7 +9,8 @@
 namespace made_files {
 namespace {
 
-// A caption in HTML, without what marks its key and without the colon before a field.
+// A caption in HTML, without what marks its key and without the colon before a field, nor the
+// unbreakable blank that French has before that.
 std::string AsNamed(std::string_view caption) {
   std::string name;
   for (std::size_t at = 0; at < caption.size(); ++at) {
@@ -25,7 +26,9 @@ std::string AsNamed(std::string_view caption) {
                                     : std::string(1, rest.front());
     }
   }
-  if (name.ends_with(':')) name.pop_back();
+  for (const std::string_view end : {":", "\u00A0"}) {
+    if (name.ends_with(end)) name.resize(name.size() - end.size());
+  }
   return std::string(platform::Trim(name));
 }
 

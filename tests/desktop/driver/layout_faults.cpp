@@ -51,13 +51,8 @@ class Layout {
     ::GetClientRect(control, &client);
     if (HasClass(control, WC_COMBOBOXW)) return CutRows(control, client);
     const Room room = RoomOf(control);
-    const std::string text = TextOf(control);
-    // A group whose title tells a moment is as long as that makes it, and the hint has it whole.
-    const bool moment = HasClass(control, WC_BUTTONW) &&
-                        (StyleOf(control) & BS_TYPEMASK) == BS_GROUPBOX &&
-                        text.find_first_of("0123456789") != std::string::npos;
-    if (room.beside < 0 || moment) return {};
-    return CutIn({client.right - room.beside, client.bottom}, ToWide(text), room.wraps);
+    if (room.beside < 0) return {};
+    return CutIn({client.right - room.beside, client.bottom}, ToWide(TextOf(control)), room.wraps);
   }
 
  private:
@@ -74,7 +69,7 @@ class Layout {
     if (!HasClass(control, WC_BUTTONW)) return {};
     switch (style & BS_TYPEMASK) {
       case BS_GROUPBOX:
-        return {Scaled(16)};
+        return {Scaled(8)};  // on the left; on the right a title may cover the frame
       case BS_AUTOCHECKBOX:
       case BS_AUTORADIOBUTTON:
         return {Scaled(18), true};
