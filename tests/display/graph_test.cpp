@@ -151,7 +151,7 @@ TEST_F(GraphPicture, OddStoredValuesAreDrawnAsTheNearestThatCanBe) {
   Run([&] {
     for (const char* name : {"PulseWidth", "PulseSpace", "BorderWidth", "BevelWidth", "BevelInner",
                              "GraphScaleType", "SpeedLimit"}) {
-      for (const std::int64_t value : {0LL, 99LL, 4000LL, 0x7FFFFFFFLL, 0x80000000LL, -1LL}) {
+      for (const std::int64_t value : {0LL, 4LL, 99LL, 4000LL, 0x7FFFFFFFLL, 0x80000000LL, -1LL}) {
         Set(name, value);
         Window().ApplyDisplaySettings();
         Scan({1024, 512});

@@ -67,6 +67,10 @@ TEST_F(Program, EachWindowOpensAfterTheSystemRefusedItAboveTheMeterIsRaisedByThe
       for (const auto& close : ways) {
         While(window, [&] {
           ASSERT_TRUE(Shown(window.name));
+          const platform::Rect& at = Widget(window.name).bounds;
+          const bool centred = std::abs(2 * at.left + at.width - 1280) < 2 &&
+                               std::abs(2 * at.top + at.height - 984) < 2;
+          EXPECT_TRUE(left == 40 ? at.left == 40 : centred) << "or else where it was";
           if (User().Exists("btnDetails")) User().Press("btnDetails");
           EXPECT_EQ(test::LayoutFaults(*Find(window.name)), std::vector<std::string>());
           EXPECT_FALSE(Widget(window.name).text.empty());
@@ -83,7 +87,6 @@ TEST_F(Program, EachWindowOpensAfterTheSystemRefusedItAboveTheMeterIsRaisedByThe
             if (window.modal) raises(other, [&] { ChooseInTray(other); });
           }
           if (!window.place.empty()) {
-            EXPECT_EQ(Widget(window.name).bounds.left == 40, left == 40) << "where it was";
             User().Drag(window.name, {left = 40, 50});
             EXPECT_EQ(machine.registry.Dword(
                           "Software\\BrisantoNET\\Settings\\" + window.place + "Screen", "Left"),
