@@ -143,7 +143,9 @@ TEST_F(GraphPicture, GridLinesOfOddSpacingAreLeftOutAndOfOddStylesAreSolid) {
   Set("cmbHLineStyle", 7);
   for (const auto& [space, lines] : {std::pair{25, 5}, {500, 0}, {0, 0}, {-1, 0}}) {
     Set("hLineSpace", space);
-    Run([&] { EXPECT_EQ(Count(0xFF00FF) / Graph()->Extent().width, lines) << space; });
+    Run([&, space = space, lines = lines] {
+      EXPECT_EQ(Count(0xFF00FF) / Graph()->Extent().width, lines) << space;
+    });
   }
 }
 
