@@ -4,7 +4,6 @@
 namespace {
 
 using platform::Key;
-using platform::memory::RegistryValue;
 
 class Options : public test::Meter {
  protected:
