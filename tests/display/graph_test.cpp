@@ -71,19 +71,20 @@ TEST_F(GraphPicture, IsDrawnPixelByPixel) {
   Set("PulseWidth", 3);  // a narrow bar has its edges at top and foot
   for (const char* line : {"hGridVisible", "vGridVisible"}) Set(line, 1);
   for (const char* space : {"hLineSpace", "vLineSpace"}) Set(space, 5);
-  for (const char* style : {"cmbHLineStyle", "cmbVLineStyle"}) Set(style, 2);
+  Set("cmbHLineStyle", 2);
+  Set("cmbVLineStyle", 0);
   EXPECT_EQ(draw(), R"(
 ++++++++++++++++++++++++++++++++++++
 +....|....|....|lll.|....|..ll|....|
 +....|....|....|ddd.|....|..dL|....|
 +....|....|....|ddd.|....|..dU|....|
-+...............ddd.........dUU....+
----...---...---.dd---...---.dU---LL+
-+...............ddd.LLL.....dUU.UUU+
++....|....|....|ddd.|....|..dU|....|
+---..|---.|.---|dd--|...-|-.dU|--LL|
++....|....|....|ddd.|LL..|..dU|.UUU|
 +....|....|....|ddd.|UU..|..dU|.UUU|
 +....|....|....|ddd.|UU..|..dU|.UUU|
 +....|....|....|ddd.|UU..|..dU|.Ull|
----...---...---.ss---SS.---.sS---dd+
+---..|---.|.---|ss--|SS.-|-.sS|--dd|
 ++++++++++++++++++++++++++++++++++++
 )");
 }
