@@ -79,7 +79,6 @@ class GraphOthersPage final : public Page {
   // Both values are read before either control changes, since the handler of each control uses the
   // other one.
   void ReadScale() {
-    SayScales(context_.language.Chosen());
     const std::int64_t index = context_.store.Read(setting::GraphScaleType);
     const std::int64_t speed = context_.store.Read(setting::SpeedLimit);
     CustomScale.SetValue(settings::ShownSpeed(speed));

@@ -71,19 +71,20 @@ TEST_F(GraphPicture, IsDrawnPixelByPixel) {
   Set("PulseWidth", 3);  // a narrow bar has its edges at top and foot
   for (const char* line : {"hGridVisible", "vGridVisible"}) Set(line, 1);
   for (const char* space : {"hLineSpace", "vLineSpace"}) Set(space, 5);
-  for (const char* style : {"cmbHLineStyle", "cmbVLineStyle"}) Set(style, 2);
+  Set("cmbHLineStyle", 2);
+  Set("cmbVLineStyle", 0);
   EXPECT_EQ(draw(), R"(
 ++++++++++++++++++++++++++++++++++++
 +....|....|....|lll.|....|..ll|....|
 +....|....|....|ddd.|....|..dL|....|
 +....|....|....|ddd.|....|..dU|....|
-+...............ddd.........dUU....+
----...---...---.dd---...---.dU---LL+
-+...............ddd.LLL.....dUU.UUU+
++....|....|....|ddd.|....|..dU|....|
+---..|---.|.---|dd--|...-|-.dU|--LL|
++....|....|....|ddd.|LL..|..dU|.UUU|
 +....|....|....|ddd.|UU..|..dU|.UUU|
 +....|....|....|ddd.|UU..|..dU|.UUU|
 +....|....|....|ddd.|UU..|..dU|.Ull|
----...---...---.ss---SS.---.sS---dd+
+---..|---.|.---|ss--|SS.-|-.sS|--dd|
 ++++++++++++++++++++++++++++++++++++
 )");
 }
@@ -143,7 +144,9 @@ TEST_F(GraphPicture, GridLinesOfOddSpacingAreLeftOutAndOfOddStylesAreSolid) {
   Set("cmbHLineStyle", 7);
   for (const auto& [space, lines] : {std::pair{25, 5}, {500, 0}, {0, 0}, {-1, 0}}) {
     Set("hLineSpace", space);
-    Run([&] { EXPECT_EQ(Count(0xFF00FF) / Graph()->Extent().width, lines) << space; });
+    Run([&, space = space, lines = lines] {
+      EXPECT_EQ(Count(0xFF00FF) / Graph()->Extent().width, lines) << space;
+    });
   }
 }
 
@@ -151,7 +154,7 @@ TEST_F(GraphPicture, OddStoredValuesAreDrawnAsTheNearestThatCanBe) {
   Run([&] {
     for (const char* name : {"PulseWidth", "PulseSpace", "BorderWidth", "BevelWidth", "BevelInner",
                              "GraphScaleType", "SpeedLimit"}) {
-      for (const std::int64_t value : {0LL, 99LL, 4000LL, 0x7FFFFFFFLL, 0x80000000LL, -1LL}) {
+      for (const std::int64_t value : {0LL, 4LL, 99LL, 4000LL, 0x7FFFFFFFLL, 0x80000000LL, -1LL}) {
         Set(name, value);
         Window().ApplyDisplaySettings();
         Scan({1024, 512});

@@ -125,7 +125,7 @@ TEST_F(Tray, TheHistogramIsDrawnPixelByPixel) {
   Run([&] {
     // The highest, and both sides of a half, a third, a quarter and a fifth of it.
     for (const std::uint32_t amount :
-         {6000, 3000, 2999, 2000, 1999, 1500, 1499, 1200, 1199, 1, 0}) {
+         {6000U, 3000U, 2999U, 2000U, 1999U, 1500U, 1499U, 1200U, 1199U, 1U, 0U}) {
       Scan({amount, amount});
     }
     machine.interface_table.AddRow(platform::memory::MakeRow("Another"));

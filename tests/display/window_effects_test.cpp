@@ -178,7 +178,11 @@ TEST_F(Effects, TheStoredTransparencyComesBackAndIsNotToggledByANewAdapter) {
       EXPECT_EQ(TheMeter().shape.has_value(), mode != 1) << "the numeric line alone is never cut";
     }
     Leave();
-    Set("Transparent2k", 0);  // by another program
+    Set("Win2kTransparentRatio", 100);  // by another program
+    machine.interface_table.AddRow(platform::memory::MakeRow("Third"));
+    Scan({});
+    EXPECT_EQ(TheMeter().alpha, 100);
+    Set("Transparent2k", 0);
     machine.interface_table.RemoveRow(1);
     Scan({});
     EXPECT_EQ(TheMeter().alpha, 255);

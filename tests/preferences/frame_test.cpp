@@ -153,11 +153,12 @@ TEST_F(Preferences, EachGroupOfTheResetWritesItsValuesAndNoOthers) {
 TEST_F(Preferences, TheResetWritesDefaultsOfItsOwnAndTheMeterTakesThem) {
   RunOpen("Reset Settings", [&] {
     machine.clock.SetNow(platform::EncodeDateTime(2024, 12, 29, 20, 0, 0));
-    Parts().SpeedCap = 4711;
-    Parts().graph.Set(&display::GraphLook::SpeedLimit, std::int64_t{4711});
     UpsetAll();
+    Set("GraphScaleType", 14);
     User().Press("btnClose");
     OpenPreferences();
+    Parts().SpeedCap = 4711;
+    Parts().graph.Set(&display::GraphLook::SpeedLimit, std::int64_t{4711});
     User().Press("SelectAll");
     User().Press("R12");
     EXPECT_FALSE(Widget("SelectAll").checked) << "not all are";
@@ -165,7 +166,7 @@ TEST_F(Preferences, TheResetWritesDefaultsOfItsOwnAndTheMeterTakesThem) {
     EXPECT_EQ(Stored("MoreThan"), 10U);
     EXPECT_EQ(StoredText("LessPlayWavFile"), machine.files.ProgramFolder() + "Warning.wav");
     EXPECT_EQ(StoredText("GraphColor_Background"), "clBtnFace");
-    EXPECT_EQ(Stored("GraphScaleType"), 77U) << "the scale is in no group";
+    EXPECT_EQ(Stored("GraphScaleType"), 14U) << "the scale is in no group";
     EXPECT_EQ(Parts().SpeedCap, 4711);
     EXPECT_EQ(Parts().graph.Look().SpeedLimit, 4711);
     EXPECT_EQ(store.ReadDate("CurrentDay", 0), platform::EncodeDate(2024, 12, 29));

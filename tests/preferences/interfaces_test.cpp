@@ -60,7 +60,7 @@ TEST_F(Interfaces, AnAdapterIsTickedUnderItsNameAndTheMenuFollows) {
     EXPECT_EQ(Data() + " " + Ticks(), "01-02-03 54000 900 + all");
     remove_first();
     EXPECT_TRUE(list.items.empty());
-    EXPECT_EQ(Data(), "  ");
+    EXPECT_EQ(Data() + Ticks(), "  ");
     EXPECT_TRUE(after(all).starts_with(" "));
   });
 }

@@ -4,7 +4,6 @@
 namespace {
 
 using platform::Key;
-using platform::memory::RegistryValue;
 
 class Options : public test::Meter {
  protected:
@@ -110,7 +109,7 @@ class Options : public test::Meter {
       Then([this, path] { machine.system_dialogs.Choose(std::string(path)); });
       User().Press(button);
       const auto& asked = machine.system_dialogs.file_requests.back();
-      EXPECT_FALSE(asked.title.empty());
+      EXPECT_TRUE(!asked.title.empty() && asked.kinds.size() == 2);
       for (const auto& kind : asked.kinds) EXPECT_FALSE(kind.name.starts_with(' ')) << kind.mask;
     };
   }

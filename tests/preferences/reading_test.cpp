@@ -4,7 +4,6 @@
 namespace {
 
 using namespace std::string_literals;
-using platform::memory::RegistryValue;
 using Strings = std::vector<std::string>;
 
 class Reading : public test::Meter {
