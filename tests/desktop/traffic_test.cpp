@@ -25,7 +25,7 @@ class Traffic : public ProgramTest {
   // Moves bytes right behind the program's measuring, so that they fall into the next scan.
   void Move(int received, int sent) {
     AwaitScans(1);
-    line_.Move(card_, received, sent);
+    line_.Move(kCard, received, sent);
   }
   // Until that scan is over.
   static void AwaitCounted() { AwaitScans(2); }
@@ -34,23 +34,23 @@ class Traffic : public ProgramTest {
   static void ExpectTotals(std::int64_t dl, std::int64_t ul) {
     for (const std::string period : {"CurrentDayTotal", "CurrentWeekTotal", "CurrentMonthTotal"}) {
       EXPECT_EQ(Setting(period + "DL"), "text " + std::to_string(dl)) << period;
-      EXPECT_EQ(Stored(kAdaptersKey, card_ + period + "UL"), "text " + std::to_string(ul))
+      EXPECT_EQ(Stored(kAdaptersKey, kCard + period + "UL"), "text " + std::to_string(ul))
           << period;
     }
   }
 
   NetworkLine line_;
-  static inline const std::string card_ = "testcard";
+  static inline const std::string kCard = "testcard";
 };
 
 TEST_F(Traffic, OfACardThatComesIsCountedToTheByteAlsoAfterARestart) {
   Meter* meter = &Start();
   AwaitScans(2);
-  line_.Add(card_);
-  line_.Move(card_, 5000000, 5000000);
+  line_.Add(kCard);
+  line_.Move(kCard, 5000000, 5000000);
   AwaitScans(3);
   const OpenMenu menu = meter->Menu();
-  EXPECT_TRUE(menu.Find({"Connection Sources", card_}).checked);
+  EXPECT_TRUE(menu.Find({"Connection Sources", kCard}).checked);
   menu.Leave();
   EXPECT_EQ(Setting("ExecuteTime"), "dword 3") << "the window was initialised again, once";
   EXPECT_EQ(Setting("CurrentMonthTotalDL"), "text 0") << "what the card had moved before";
@@ -66,7 +66,7 @@ TEST_F(Traffic, OfACardThatComesIsCountedToTheByteAlsoAfterARestart) {
   EXPECT_EQ(meter->program().AwaitEnd(), 0U);
   ExpectTotals(15 * 1024, 2048);
 
-  line_.Move(card_, 777, 777);  // while it does not run
+  line_.Move(kCard, 777, 777);  // while it does not run
   Store("CurrentMonthTotalUL", "2048 B");
   const std::wstring log = std::filesystem::path(ProgramPath()).replace_filename("err.log");
   std::filesystem::remove(log);
@@ -79,7 +79,7 @@ TEST_F(Traffic, OfACardThatComesIsCountedToTheByteAlsoAfterARestart) {
   const auto errors = platform::windows::Files().Load(platform::windows::FromWide(log), 100000);
   EXPECT_TRUE(errors.value_or("").starts_with("'2048 B' is not a valid integer value\r\n"));
   for (const AdapterRow& row : ReadAdapters()) {
-    if (row.name != card_) continue;
+    if (row.name != kCard) continue;
     EXPECT_EQ(row.in, 5000000U + 15 * 1024 + 777 + 123457) << "as the system counts";
     EXPECT_EQ(row.out, 5000000U + 2048 + 777);
   }

@@ -32,9 +32,9 @@ void Tell(HMENU menu, const std::wstring& path, std::wostream& told) {
 
 // Sees each message sent to a window of the program.
 extern "C" __declspec(dllexport) LRESULT CALLBACK SpyOnMenu(int code, WPARAM w, LPARAM l) {
-  static const UINT ask = ::RegisterWindowMessageW(desktop::kSpyMessage);
+  static const UINT kAsk = ::RegisterWindowMessageW(desktop::kSpyMessage);
   const auto& message = *reinterpret_cast<const CWPSTRUCT*>(l);
-  if (code == HC_ACTION && message.message == ask) {
+  if (code == HC_ACTION && message.message == kAsk) {
     constexpr UINT kGetMenu = 0x01E1;  // MN_GETHMENU
     std::wostringstream told;
     Tell(reinterpret_cast<HMENU>(::SendMessageW(message.hwnd, kGetMenu, 0, 0)), {}, told);
