@@ -14,6 +14,7 @@ import argparse
 import os
 import random
 import re
+import resource
 import subprocess
 import sys
 import time
@@ -126,6 +127,8 @@ def main():
         sys.exit("faults: there are changes that are not committed")
     if outcome(asked.build) != "unseen":
         sys.exit("faults: the tests fail without a fault")
+    # A fault that fills the memory must not take it from the machine.
+    resource.setrlimit(resource.RLIMIT_AS, (4 << 30, 4 << 30))
     drawn = sorted(place for place in places() if re.search(asked.only, place[0]))
     random.Random(asked.seed).shuffle(drawn)
     report = open(asked.report, "w", encoding="utf-8") if asked.report else sys.stdout
