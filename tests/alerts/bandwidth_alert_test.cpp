@@ -105,6 +105,7 @@ TEST_F(BandwidthAlert, TheDetailsOpenAndCloseAndRefreshTwiceASecond) {
     machine.windowing.Press("btnDetails");
     EXPECT_EQ(Widget(kForm).ClientSize().height, 255);
     EXPECT_EQ(Widget("btnDetails").text, "<< Details");
+    EXPECT_FALSE(Widget("StaticText63").text.empty());
     EXPECT_FALSE(Widget("").visible) << "the unit of the kind of limit, which has none";
     const auto after = [&] {
       machine.timers.Advance(500);

@@ -50,29 +50,29 @@ TEST_F(GraphPicture, IsDrawnPixelByPixel) {
     });
     return drawn;
   };
+  for (const char* line : {"hGridVisible", "vGridVisible"}) Set(line, 1);
+  for (const char* space : {"hLineSpace", "vLineSpace"}) Set(space, 5);
+  Set("cmbHLineStyle", 2);
+  Set("cmbVLineStyle", 0);
   for (const auto& [name, value] :
        {std::pair{"Pulse3D", 1}, {"PulseWidth", 5}, {"PulseSpace", 1}, {"BorderWidth", 2}})
     Set(name, value);
   EXPECT_EQ(draw(), R"(
 ####################################
 ####################################
-##...lllls.............lllls......##
-##...lddds.............dLLLS......##
-##...lddds.............dLUUS......##
-##...lddds.............dLUUS.LLLLS##
-##...lddds.LLLLS.......dLUUS.LUUUS##
-##...lddds.LUUUS.......dLUUS.LUUUS##
-##...lddds.LUUUS.......dLUUS.Ullls##
-##...lddds.LUUUS.......dLUUS.Uldds##
-####################################
+##...|llls|....|....|..ll|ls..|...#|
+##...|ddds|....|....|..dL|LS..|...#|
+##...|ddds|....|....|..dL|US..|...#|
+---..|---s|.---|..--|..d-|-S.L|--S#|
+##...|ddds|LLLL|....|..dL|US.L|UUS#|
+##...|ddds|LUUU|....|..dL|US.L|UUS#|
+##...|ddds|LUUU|....|..dL|US.U|lls#|
+##...|ddds|LUUU|....|..dL|US.U|dds#|
+---###---###---###---###---###---###
 ####################################
 )");
   for (const char* none : {"BorderWidth", "ZeroBased", "BevelOuter"}) Set(none, 0);
   Set("PulseWidth", 3);  // a narrow bar has its edges at top and foot
-  for (const char* line : {"hGridVisible", "vGridVisible"}) Set(line, 1);
-  for (const char* space : {"hLineSpace", "vLineSpace"}) Set(space, 5);
-  Set("cmbHLineStyle", 2);
-  Set("cmbVLineStyle", 0);
   EXPECT_EQ(draw(), R"(
 ++++++++++++++++++++++++++++++++++++
 +....|....|....|lll.|....|..ll|....|

@@ -50,12 +50,14 @@ TEST_F(NumericLine, StartsWithTheTextsOfTheModesThatAreOnAndThenShowsTheScan) {
   Run([&] {
     Scan({102399, 2048});
     EXPECT_EQ(Line(), "[ DL:  UL:2 kB ][ Max DL:  Max UL:2 kB ]") << "an amount in a gap";
-    Modes(1);
-    Scan({0, 1024});
-    EXPECT_EQ(Line(), "[ DL:0,0 kB UL:1 kB ]");
-    Modes(0);
-    Scan({});
-    EXPECT_EQ(Line(), "Korvane Tremolux");
+    for (const bool anew : {false, true}) {
+      Modes(1);
+      Scan({0, 1024});
+      EXPECT_EQ(Line(), "[ DL:0,0 kB UL:1 kB ]");
+      Modes(0);
+      anew ? Window().ApplyDisplaySettings() : Scan({});
+      EXPECT_EQ(Line(), "Korvane Tremolux");
+    }
   });
 }
 

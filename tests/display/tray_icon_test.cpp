@@ -107,7 +107,7 @@ class Tray : public test::Meter {
   }
   bool Empty() {
     const auto pixels = Pixels(*machine.notification_area.Picture());
-    return std::find(pixels.begin(), pixels.end(), kRed) == pixels.end();
+    return std::ranges::count(pixels, kRed) + std::ranges::count(pixels, kBlue) == 0;
   }
   platform::Size Extent() { return machine.notification_area.Picture()->Extent(); }
   // How often a scan gives the shell a picture.

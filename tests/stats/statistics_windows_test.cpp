@@ -143,6 +143,7 @@ TEST_F(StatisticsWindows, ResetOfTheMachineWritesTheMaximaAndNothingElse) {
   window.Show();
   EXPECT_EQ(Text(window, "InfoGroupBox"), "Data transferred since 17.05.2024 09:30:00");
   EXPECT_EQ(Reset(), R"(InfoMaxDL="0" InfoMaxUL="0" in 2)");
+  EXPECT_EQ(traffic.RunTotalDL + traffic.RunTotalUL, 0);
   for (const engine::AdapterCounters& counters : traffic.adapter_counters) {
     EXPECT_EQ(counters.MaxIn + counters.MaxOut, 0U);
     EXPECT_EQ(counters.DeltaOut + counters.LastInOctets, 8U + 3U);
