@@ -192,6 +192,7 @@ TEST_F(Controls, AListReportsTheRowThatTheUserChooses) {
   for (const int key : {VK_HOME, VK_DOWN, VK_SPACE, VK_DOWN, VK_SPACE}) Press({key});
   EXPECT_TRUE(!list->Checked(0) && list->Checked(1) && !list->Checked(2));
   EXPECT_EQ(reports.rows, (std::vector<int>{1, 2}));
+  EXPECT_EQ(reports.changes, 3);
 
   const auto combo = Windowing().CreateList(*dialog_, "combo", ListKind::kCombo, reports);
   combo->SetFont({});

@@ -15,6 +15,8 @@ using platform::Size;
 struct Heard : platform::TopWindowEvents {
   void OnContextMenu(platform::Point) override { ++context_menus; }
   void OnResume() override { ++resumes; }
+  void OnSettingChange() override { ++setting_changes; }
+  void OnDisplayChange() override { ++display_changes; }
   void OnEndSession() override { ++session_ends; }
   void OnMouseMove(const platform::MouseEvent&) override { throw std::runtime_error("a fault"); }
   void OnResize(Size size) override { sizes.push_back(size); }
@@ -34,6 +36,7 @@ struct Heard : platform::TopWindowEvents {
   std::vector<Rect> asked;
   std::vector<Size> sizes;
   int context_menus = 0, resumes = 0, session_ends = 0, placed = 0, drags = 0;
+  int setting_changes = 0, display_changes = 0;
 };
 
 // Fills its surface with a colour.
@@ -141,6 +144,10 @@ TEST_F(TopWindow, MessagesOfTheSystemAreHeardAndFaultsStayInside) {
   Tell(WM_POWERBROADCAST, PBT_APMSUSPEND);
   Tell(WM_POWERBROADCAST, PBT_APMRESUMEAUTOMATIC);
   EXPECT_EQ(heard_.resumes, 1);
+  Tell(WM_SYSCOLORCHANGE);
+  Tell(WM_SETTINGCHANGE, SPI_SETWORKAREA);
+  EXPECT_EQ(heard_.setting_changes, 2);
+  EXPECT_EQ(heard_.display_changes, 1);
   Tell(WM_SYSCOMMAND, SC_KEYMENU);
   EXPECT_EQ(heard_.context_menus, 1) << "the key of the menu bar";
   EXPECT_NO_THROW(Tell(WM_MOUSEMOVE, 0, MAKELPARAM(5, 5)));
