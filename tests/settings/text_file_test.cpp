@@ -25,6 +25,7 @@ TEST(TextFile, IsReadInEveryEncodingThatAnEditorWrites) {
            Row{"the code page, which is Latin-1 here", "Gr\xF6\xDF"s + "e", "Größe"},
            Row{"the code page with such a character last", "Caf\xE9", "Café"},
            Row{"UTF-8 with its one such character last", "Café", "Café"},
+           Row{"of three bytes", "a日", "a日"},
            Row{"UTF-8 cut behind two bytes of three", "ö\xE2\x80", "ö\xEF\xBF\xBD"},
            Row{"the same of the lowest three", "ö\xE0\xA4", "ö\xEF\xBF\xBD"},
            Row{"behind three of four", "ö\xF0\x9F\x98", "ö\xEF\xBF\xBD"},

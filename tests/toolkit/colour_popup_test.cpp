@@ -55,8 +55,8 @@ TEST_F(ColourPopupTest, GivesWhatTheUserConfirmsAndNothingElse) {
   const auto cancel = [this] { machine.system_dialogs.Cancel(); };
   for (const auto& [why, present, doings, chosen] : {
            Row{"arrows from it", kRed, {keys({Key::kRight, Key::kUp}), enter}, 0x40A0FF},
-           Row{"not over the edges", kWhite, {keys({Key::kLeft, Key::kUp}), enter}, kWhite},
-           Row{"nor over the others", 0x400040, {keys({Key::kRight, Key::kDown}), ok}, 0x400040},
+           Row{"to the edges", 0x8080FF, {keys({Key::kLeft, Key::kLeft, Key::kUp}), enter}, kWhite},
+           Row{"others", 0x400000, {keys({Key::kRight, Key::kRight, Key::kDown}), ok}, 0x400040},
            Row{"not in the field: the first", 0x010203, {keys({Key::kDown}), ok}, kWhite},
            Row{"the mouse, then the button", 0x010203, {click, ok}, kRed},
            Row{"a click", 0, {click, [&] { User().ClickCloseBox("ColourPopup"); }}, {}},
@@ -86,6 +86,7 @@ TEST_F(ColourPopupTest, StandsBelowItsPanelAndWithinTheScreen) {
     Ask(0, {[&, at = popup_at] {
           EXPECT_EQ(Widget("ColourPopup").bounds, (platform::Rect{at.x, at.y, 258, 251}));
           EXPECT_EQ(Widget("ColourPopup").text, "Download");
+          EXPECT_TRUE(Widget("palette").events->OnKey(Key::kEnd)) << "or it would leave the field";
           User().PressEsc("ColourPopup");
         }});
   }
