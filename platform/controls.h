@@ -35,7 +35,7 @@ enum class ButtonKind {
 // A button of the system (BUTTON). "&" in its text marks the key. A click reports OnClicked, after
 // the box has changed. The radio buttons of one parent that were made one after the other exclude
 // each other when the user chooses one; when the code checks one, the others stay as they are.
-class Button : public virtual Widget {
+class Button : public Widget {
  public:
   virtual void SetChecked(bool checked) = 0;
   [[nodiscard]] virtual bool Checked() const = 0;
@@ -54,7 +54,7 @@ struct EditStyle {
 
 // An edit (EDIT). Typing reports OnChanged. A password edit shows "x" for every character. A memo
 // has several lines, separated by "\n", has its own scroll bar and takes Enter for itself.
-class Edit : public virtual Widget {
+class Edit : public Widget {
  public:
   // Sets how many characters (code points) the user can enter; 0 means no limit. A typed or pasted
   // text that is too long is cut at its end. The code may set a longer text.
@@ -71,7 +71,7 @@ enum class ListKind {
 };
 
 // A list. Selecting a row reports OnChanged; ticking one reports OnRowChecked.
-class ItemList : public virtual Widget {
+class ItemList : public Widget {
  public:
   // Puts `added` in the place of the `removed` rows from `first` on; the new rows are not ticked.
   // The rows around them keep their ticks. Which row is selected afterwards is not said, unless all
@@ -91,7 +91,7 @@ struct TreeItem {
 };
 
 // A tree (SysTreeView32) with all items expanded. Selecting an item reports OnChanged.
-class Tree : public virtual Widget {
+class Tree : public Widget {
  public:
   // Replaces all items. Afterwards none is selected. The level of an item is at most one deeper
   // than that of the item before it.
@@ -105,7 +105,7 @@ class Tree : public virtual Widget {
 
 // A row of tabs over an area for the pages (SysTabControl32), which are made as its children.
 // Choosing a tab: OnChanged.
-class Tabs : public virtual Widget {
+class Tabs : public Widget {
  public:
   // Replaces the tabs. The chosen tab keeps its number, or is the first when that number is gone.
   virtual void SetItems(std::span<const std::string> captions) = 0;
@@ -119,7 +119,7 @@ class Tabs : public virtual Widget {
 };
 
 // A slider (msctls_trackbar32). Moving it reports OnChanged.
-class TrackBar : public virtual Widget {
+class TrackBar : public Widget {
  public:
   // Sets the range and moves the position into it. `page` is the step of the page keys.
   virtual void SetRange(int lowest, int highest, int page) = 0;
@@ -128,7 +128,7 @@ class TrackBar : public virtual Widget {
 };
 
 // A progress bar (msctls_progress32).
-class ProgressBar : public virtual Widget {
+class ProgressBar : public Widget {
  public:
   virtual void SetRange(int lowest, int highest) = 0;
   virtual void SetPosition(int position) = 0;

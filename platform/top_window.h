@@ -87,7 +87,7 @@ class TopWindowEvents : public WidgetEvents {
 
 enum class Activation { kActivate, kLeaveFocus };
 
-class TopWindow : public virtual Widget {
+class TopWindow : public Widget {
  public:
   // Shows it; kLeaveFocus never takes the keyboard from the program that the user works in. A
   // dialog that was hidden and is activated wants the keyboard in a control; hidden again, it

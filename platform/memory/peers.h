@@ -11,11 +11,13 @@
 
 namespace platform::memory {
 
-// What all kinds have in common; surfaces and texts have no more.
-class Peer : public virtual Widget, public WidgetState {
+// What all kinds have in common; surfaces and texts have no more. `Interface` is Widget or extends
+// it.
+template <class Interface>
+class PeerOf : public Interface, public WidgetState {
  public:
-  Peer(Desktop& its_desktop, Kind its_kind, std::string_view its_name, WidgetState* on,
-       WidgetEvents& reports)
+  PeerOf(Desktop& its_desktop, Kind its_kind, std::string_view its_name, WidgetState* on,
+         WidgetEvents& reports)
       : desktop(its_desktop) {
     if (!its_name.empty() && its_name == desktop.refused) throw std::runtime_error("refused");
     kind = its_kind;
@@ -24,9 +26,9 @@ class Peer : public virtual Widget, public WidgetState {
     events = &reports;
     desktop.Add(*this);
   }
-  ~Peer() override { desktop.Remove(*this); }
-  Peer(const Peer&) = delete;
-  Peer& operator=(const Peer&) = delete;
+  ~PeerOf() override { desktop.Remove(*this); }
+  PeerOf(const PeerOf&) = delete;
+  PeerOf& operator=(const PeerOf&) = delete;
 
   void SetText(std::string_view new_text) override { WidgetState::SetText(new_text); }
   std::string Text() const override { return text; }
@@ -55,30 +57,30 @@ class Peer : public virtual Widget, public WidgetState {
   Desktop& desktop;
 };
 
-class ButtonPeer final : public Button, public Peer {
+class ButtonPeer final : public PeerOf<Button> {
  public:
-  using Peer::Peer;
+  using PeerOf::PeerOf;
   void SetChecked(bool ticked) override { checked = ticked; }
   bool Checked() const override { return checked; }
   void SetDefault(bool of_form) override { is_default = of_form; }
   void Press() override { desktop.Click(*this); }
 };
 
-class EditPeer final : public Edit, public Peer {
+class EditPeer final : public PeerOf<Edit> {
  public:
-  using Peer::Peer;
+  using PeerOf::PeerOf;
   void SetText(std::string_view new_text) override {
     all_selected = false;
-    Peer::SetText(new_text);
+    PeerOf::SetText(new_text);
   }
   void SetMaxLength(int characters) override { max_length = characters; }
   void SetReadOnly(bool fixed) override { read_only = fixed; }
   void SelectAll() override { all_selected = true; }
 };
 
-class ListPeer final : public ItemList, public Peer {
+class ListPeer final : public PeerOf<ItemList> {
  public:
-  using Peer::Peer;
+  using PeerOf::PeerOf;
   void Replace(int first, int removed, std::span<const std::string> added) override {
     const auto rows = items.begin() + first;
     items.insert(items.erase(rows, rows + removed), added.begin(), added.end());
@@ -94,9 +96,9 @@ class ListPeer final : public ItemList, public Peer {
   bool Checked(int row) const override { return row_checks.at(static_cast<std::size_t>(row)); }
 };
 
-class TreePeer final : public Tree, public Peer {
+class TreePeer final : public PeerOf<Tree> {
  public:
-  using Peer::Peer;
+  using PeerOf::PeerOf;
   void SetItems(std::span<const TreeItem> rows) override {
     items.clear();
     levels.clear();
@@ -111,9 +113,9 @@ class TreePeer final : public Tree, public Peer {
   void ExpandAll() override {}
 };
 
-class TabsPeer final : public Tabs, public Peer {
+class TabsPeer final : public PeerOf<Tabs> {
  public:
-  using Peer::Peer;
+  using PeerOf::PeerOf;
   void SetItems(std::span<const std::string> captions) override {
     items.assign(captions.begin(), captions.end());
     Select(index);
@@ -131,9 +133,9 @@ class TabsPeer final : public Tabs, public Peer {
   Colour PageColour() const override { return colour::kButtonFace; }
 };
 
-class TrackBarPeer final : public TrackBar, public Peer {
+class TrackBarPeer final : public PeerOf<TrackBar> {
  public:
-  using Peer::Peer;
+  using PeerOf::PeerOf;
   void SetRange(int low, int high, int step) override {
     page = step;
     WidgetState::SetRange(low, high);
@@ -143,17 +145,17 @@ class TrackBarPeer final : public TrackBar, public Peer {
   int Position() const override { return position; }
 };
 
-class ProgressBarPeer final : public ProgressBar, public Peer {
+class ProgressBarPeer final : public PeerOf<ProgressBar> {
  public:
-  using Peer::Peer;
+  using PeerOf::PeerOf;
   void SetRange(int low, int high) override { WidgetState::SetRange(low, high); }
   void SetPosition(int at) override { WidgetState::SetPosition(at); }
 };
 
-class TopWindowPeer final : public TopWindow, public Peer {
+class TopWindowPeer final : public PeerOf<TopWindow> {
  public:
   TopWindowPeer(Desktop& its_desktop, const TopWindowParams& how, TopWindowEvents& reports)
-      : Peer(its_desktop, Kind::kTopWindow, how.name, nullptr, reports) {
+      : PeerOf(its_desktop, Kind::kTopWindow, how.name, nullptr, reports) {
     text = how.caption;
     params = how;
     top_events = &reports;
@@ -172,16 +174,16 @@ class TopWindowPeer final : public TopWindow, public Peer {
       placed.height = std::clamp(placed.height, smallest.height, largest.height);
     }
     if (placed == bounds) return;
-    Peer::SetBounds(placed);
+    PeerOf::SetBounds(placed);
     top_events->OnPlaced();
   }
   void SetVisible(bool shown) override {
     if (!shown && HasFocus()) desktop.MoveFocus(nullptr);
-    Peer::SetVisible(shown);
+    PeerOf::SetVisible(shown);
   }
   void Focus() override {
     if (!TakesDialogKeys()) {
-      Peer::Focus();
+      PeerOf::Focus();
     } else if (!HasFocus()) {
       top_events->OnFocusWanted();
     }

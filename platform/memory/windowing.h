@@ -23,11 +23,11 @@ class Windowing final : public platform::Windowing, public Desktop {
   }
   std::unique_ptr<Widget> CreateSurface(Widget& parent, std::string_view name,
                                         WidgetEvents& events) override {
-    return Make<Peer>(Kind::kSurface, parent, name, events);
+    return Make<PeerOf<Widget>>(Kind::kSurface, parent, name, events);
   }
   std::unique_ptr<Widget> CreateText(Widget& parent, std::string_view name, const TextStyle& style,
                                      WidgetEvents& events) override {
-    auto text = Make<Peer>(Kind::kText, parent, name, events);
+    auto text = Make<PeerOf<Widget>>(Kind::kText, parent, name, events);
     text->text_style = style;
     if (style.border == Border::kSunken) text->Sink(1);
     return text;

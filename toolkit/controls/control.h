@@ -248,7 +248,7 @@ class ControlOf : public Control {
   ControlOf(Control& parent, std::string_view name) : Control(parent, name) {}
 
   // Returns the peer, or null while there is none.
-  [[nodiscard]] Kind* Peer() const { return dynamic_cast<Kind*>(Control::Peer()); }
+  [[nodiscard]] Kind* Peer() const { return static_cast<Kind*>(Control::Peer()); }
 };
 
 }  // namespace toolkit

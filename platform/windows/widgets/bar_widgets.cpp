@@ -7,7 +7,7 @@
 
 namespace platform::windows {
 
-TrackBarWidget::TrackBarWidget(const NewWidget& widget) : NativeControl(widget) {
+TrackBarWidget::TrackBarWidget(const NewWidget& widget) : WidgetOf(widget) {
   MakeControl(TRACKBAR_CLASSW, {kStopChild | TBS_HORZ | TBS_AUTOTICKS, 0}, widget);
 }
 
@@ -27,14 +27,14 @@ void TrackBarWidget::SetPosition(int position) {
 int TrackBarWidget::Position() const { return static_cast<int>(Send(TBM_GETPOS)); }
 
 std::optional<LRESULT> TrackBarWidget::HandleNotification(const Message& message) {
-  if (message.id != WM_HSCROLL) return NativeControl::HandleNotification(message);
+  if (message.id != WM_HSCROLL) return WidgetOf::HandleNotification(message);
   // Told at the end of a movement as well.
   const int position = Position();
   if (std::exchange(reported_, position) != position) events().OnChanged();
   return 0;
 }
 
-ProgressBarWidget::ProgressBarWidget(const NewWidget& widget) : NativeControl(widget) {
+ProgressBarWidget::ProgressBarWidget(const NewWidget& widget) : WidgetOf(widget) {
   MakeControl(PROGRESS_CLASSW, {kChild | WS_GROUP | PBS_SMOOTH, 0}, widget);
 }
 

@@ -6,7 +6,7 @@
 
 namespace platform::windows {
 
-class TrackBarWidget final : public TrackBar, public NativeControl {
+class TrackBarWidget final : public WidgetOf<TrackBar, NativeControl> {
  public:
   explicit TrackBarWidget(const NewWidget& widget);
 
@@ -20,7 +20,7 @@ class TrackBarWidget final : public TrackBar, public NativeControl {
   int reported_ = 0;
 };
 
-class ProgressBarWidget final : public ProgressBar, public NativeControl {
+class ProgressBarWidget final : public WidgetOf<ProgressBar, NativeControl> {
  public:
   explicit ProgressBarWidget(const NewWidget& widget);
 

@@ -56,7 +56,7 @@ DWORD StyleOf(ButtonKind kind, HWND parent) {
 }  // namespace
 
 ButtonWidget::ButtonWidget(const NewWidget& widget, ButtonKind kind)
-    : NativeControl(widget), kind_(kind) {
+    : WidgetOf(widget), kind_(kind) {
   MakeControl(L"BUTTON", {StyleOf(kind, widget.parent), 0}, widget);
 }
 
@@ -83,7 +83,7 @@ std::optional<LRESULT> ButtonWidget::HandleNotification(const Message& message) 
     DrawFace(*reinterpret_cast<const DRAWITEMSTRUCT*>(message.l));
     return TRUE;
   }
-  return NativeControl::HandleNotification(message);
+  return WidgetOf::HandleNotification(message);
 }
 
 void ButtonWidget::Clicked() {
@@ -117,7 +117,7 @@ std::optional<LRESULT> ButtonWidget::Handle(const Message& message) {
     default:
       break;
   }
-  return NativeControl::Handle(message);
+  return WidgetOf::Handle(message);
 }
 
 // The system leaves the inside of a group to its parent, which does not paint under its children.

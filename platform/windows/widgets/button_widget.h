@@ -6,7 +6,7 @@
 
 namespace platform::windows {
 
-class ButtonWidget final : public Button, public NativeControl {
+class ButtonWidget final : public WidgetOf<Button, NativeControl> {
  public:
   ButtonWidget(const NewWidget& widget, ButtonKind kind);
 

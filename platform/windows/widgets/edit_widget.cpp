@@ -71,7 +71,7 @@ LONG LineHeight(HWND edit) {
 }  // namespace
 
 EditWidget::EditWidget(const NewWidget& widget, const EditStyle& style)
-    : NativeControl(widget), kind_(style.kind) {
+    : WidgetOf(widget), kind_(style.kind) {
   MakeControl(L"EDIT", StyleOf(style, kStopChild), widget);
   if (kind_ == EditKind::kPassword) Send(EM_SETPASSWORDCHAR, L'x');
   Send(EM_SETLIMITTEXT, 0);  // a new one has a limit
@@ -82,13 +82,13 @@ void EditWidget::SetText(std::string_view text) {
   if (kind_ == EditKind::kMemo) {
     if (Text() != text) ::SetWindowTextW(hwnd(), ToWide(WithReturns(text)).c_str());
   } else {
-    NativeControl::SetText(text);
+    WidgetOf::SetText(text);
   }
   known_ = WideText();
 }
 
 std::string EditWidget::Text() const {
-  return kind_ == EditKind::kMemo ? WithoutReturns(NativeControl::Text()) : NativeControl::Text();
+  return kind_ == EditKind::kMemo ? WithoutReturns(WidgetOf::Text()) : WidgetOf::Text();
 }
 
 void EditWidget::SetMaxLength(int characters) {
@@ -104,18 +104,18 @@ void EditWidget::SetReadOnly(bool read_only) {
 }
 
 void EditWidget::SetFont(const FontStyle& font) {
-  NativeControl::SetFont(font);
+  WidgetOf::SetFont(font);
   constexpr UINT kFrameOnly = SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE;
   ::SetWindowPos(hwnd(), nullptr, 0, 0, 0, 0, kFrameOnly | SWP_FRAMECHANGED);
 }
 
 void EditWidget::SetEnabled(bool enabled) {
-  NativeControl::SetEnabled(enabled);
+  WidgetOf::SetEnabled(enabled);
   RepaintWithFrame();
 }
 
 void EditWidget::SetColours(Colour text, Colour background) {
-  NativeControl::SetColours(text, background);
+  WidgetOf::SetColours(text, background);
   RepaintWithFrame();
 }
 
@@ -169,7 +169,7 @@ Colour EditWidget::Background() const {
 }
 
 std::optional<LRESULT> EditWidget::HandleNotification(const Message& message) {
-  if (message.id != WM_COMMAND) return NativeControl::HandleNotification(message);
+  if (message.id != WM_COMMAND) return WidgetOf::HandleNotification(message);
   if (HIWORD(message.w) == EN_CHANGE && !IsQuiet()) Changed();
   return 0;
 }
@@ -228,7 +228,7 @@ std::optional<LRESULT> EditWidget::Handle(const Message& message) {
     case WM_CONTEXTMENU:
       return std::nullopt;  // the system has one of its own for it
     default:
-      return NativeControl::Handle(message);
+      return WidgetOf::Handle(message);
   }
 }
 

@@ -6,7 +6,7 @@
 
 namespace platform::windows {
 
-class EditWidget final : public Edit, public NativeControl {
+class EditWidget final : public WidgetOf<Edit, NativeControl> {
  public:
   EditWidget(const NewWidget& widget, const EditStyle& style);
 

@@ -62,7 +62,7 @@ void PlainListWidget::SetIndex(int index) {
 }
 
 std::optional<LRESULT> PlainListWidget::HandleNotification(const Message& message) {
-  if (message.id != WM_COMMAND) return NativeControl::HandleNotification(message);
+  if (message.id != WM_COMMAND) return WidgetOf::HandleNotification(message);
   if (HIWORD(message.w) == messages_.chosen && !IsQuiet()) events().OnChanged();
   return 0;
 }
@@ -153,7 +153,7 @@ void ComboWidget::DrawRow(const DRAWITEMSTRUCT& item) {
   canvas.Text(inside, name, own, colour, TextAlign::kLeft);
 }
 
-CheckListWidget::CheckListWidget(const NewWidget& widget) : NativeControl(widget) {
+CheckListWidget::CheckListWidget(const NewWidget& widget) : WidgetOf(widget) {
   constexpr DWORD kList = LVS_REPORT | LVS_NOCOLUMNHEADER | LVS_SINGLESEL | LVS_SHOWSELALWAYS;
   MakeControl(WC_LISTVIEWW, {kStopChild | kList, WS_EX_CLIENTEDGE}, widget);
   constexpr DWORD kExtended = LVS_EX_CHECKBOXES | LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER;
@@ -215,7 +215,7 @@ bool CheckListWidget::Checked(int row) const {
 }
 
 std::optional<LRESULT> CheckListWidget::HandleNotification(const Message& message) {
-  if (message.id != WM_NOTIFY) return NativeControl::HandleNotification(message);
+  if (message.id != WM_NOTIFY) return WidgetOf::HandleNotification(message);
   if (!IsQuiet()) RowChanged(*reinterpret_cast<const NMHDR*>(message.l));
   return std::nullopt;
 }
@@ -245,14 +245,14 @@ void CheckListWidget::ReportIndex() {
 std::optional<LRESULT> CheckListWidget::Handle(const Message& message) {
   if (message.id == WM_SIZE && Reporting()) {
     const Lifetime::Watch watch(lifetime());
-    const std::optional<LRESULT> answer = NativeControl::Handle(message);
+    const std::optional<LRESULT> answer = WidgetOf::Handle(message);
     if (!watch.Gone()) Send(LVM_SETCOLUMNWIDTH, 0, ClientSize().width);
     return answer;
   }
-  return NativeControl::Handle(message);
+  return WidgetOf::Handle(message);
 }
 
-TreeWidget::TreeWidget(const NewWidget& widget) : NativeControl(widget) {
+TreeWidget::TreeWidget(const NewWidget& widget) : WidgetOf(widget) {
   // Without a scroll bar for sideways: Wine shows one although the rows have room.
   constexpr DWORD kTree =
       TVS_HASBUTTONS | TVS_HASLINES | TVS_LINESATROOT | TVS_SHOWSELALWAYS | TVS_NOHSCROLL;
@@ -311,11 +311,11 @@ void TreeWidget::SetFont(const FontStyle& font) {
   constexpr int kIndent = 19;  // design pixels
   const int indent = ScaledFor(hwnd(), kIndent);
   if (indent != Send(TVM_GETINDENT)) Send(TVM_SETINDENT, static_cast<WPARAM>(indent));
-  NativeControl::SetFont(font);
+  WidgetOf::SetFont(font);
 }
 
 std::optional<LRESULT> TreeWidget::HandleNotification(const Message& message) {
-  if (message.id != WM_NOTIFY) return NativeControl::HandleNotification(message);
+  if (message.id != WM_NOTIFY) return WidgetOf::HandleNotification(message);
   const auto* notification = reinterpret_cast<const NMHDR*>(message.l);
   if (notification->code == TVN_SELCHANGEDW && !IsQuiet()) events().OnChanged();
   return std::nullopt;

@@ -21,7 +21,7 @@ struct ListMessages {
 };
 
 // What list boxes and combo boxes have in common.
-class PlainListWidget : public ItemList, public NativeControl {
+class PlainListWidget : public WidgetOf<ItemList, NativeControl> {
  public:
   void Replace(int first, int removed, std::span<const std::string> added) override;
   void SetIndex(int index) override;
@@ -32,7 +32,7 @@ class PlainListWidget : public ItemList, public NativeControl {
 
  protected:
   PlainListWidget(const NewWidget& widget, const ListMessages& messages)
-      : NativeControl(widget), messages_(messages) {}
+      : WidgetOf(widget), messages_(messages) {}
 
  private:
   [[nodiscard]] int Count() const { return static_cast<int>(Send(messages_.count)); }
@@ -69,7 +69,7 @@ class ComboWidget final : public PlainListWidget {
   Rect bounds_;
 };
 
-class CheckListWidget final : public ItemList, public NativeControl {
+class CheckListWidget final : public WidgetOf<ItemList, NativeControl> {
  public:
   explicit CheckListWidget(const NewWidget& widget);
 
@@ -92,7 +92,7 @@ class CheckListWidget final : public ItemList, public NativeControl {
   int reported_index_ = -1;
 };
 
-class TreeWidget final : public Tree, public NativeControl {
+class TreeWidget final : public WidgetOf<Tree, NativeControl> {
  public:
   explicit TreeWidget(const NewWidget& widget);
 

@@ -5,7 +5,7 @@
 namespace platform::windows {
 
 Surface::Surface(const WindowClass& window_class, const NewWidget& widget)
-    : WidgetWindow(widget.drawing, widget.events) {
+    : WidgetOf(widget.drawing, widget.events) {
   Create(window_class, {WS_CHILD | WS_CLIPSIBLINGS | WS_CLIPCHILDREN, 0}, widget.parent, {});
   PublishName(widget.name);
   StartReporting();
@@ -13,7 +13,7 @@ Surface::Surface(const WindowClass& window_class, const NewWidget& widget)
 
 std::optional<LRESULT> Surface::Handle(const Message& message) {
   if (message.id == WM_NCHITTEST && OnSizingEdge(hwnd(), message.l)) return HTTRANSPARENT;
-  return WidgetWindow::Handle(message);
+  return WidgetOf::Handle(message);
 }
 
 namespace {
@@ -41,7 +41,7 @@ UINT FormatOf(const TextStyle& text, HWND hwnd) {
 }  // namespace
 
 TextWidget::TextWidget(const NewWidget& widget, const TextStyle& style)
-    : WidgetWindow(widget.drawing, widget.events), style_(style) {
+    : WidgetOf(widget.drawing, widget.events), style_(style) {
   MakeControl(L"STATIC", StyleOf(style), widget);
 }
 
@@ -59,7 +59,7 @@ std::optional<LRESULT> TextWidget::Handle(const Message& message) {
     case WM_UPDATEUISTATE:
       return WithoutControl(message);
     default:
-      return WidgetWindow::Handle(message);
+      return WidgetOf::Handle(message);
   }
 }
 

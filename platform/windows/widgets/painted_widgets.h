@@ -7,7 +7,7 @@
 namespace platform::windows {
 
 // An area that the program paints.
-class Surface final : public WidgetWindow {
+class Surface final : public WidgetOf<Widget> {
  public:
   Surface(const WindowClass& window_class, const NewWidget& widget);
 
@@ -17,7 +17,7 @@ class Surface final : public WidgetWindow {
 
 // A text: the system's static control, so that screen readers know what it is and read its text. It
 // is painted here: the control's own painting flickers.
-class TextWidget final : public WidgetWindow {
+class TextWidget final : public WidgetOf<Widget> {
  public:
   TextWidget(const NewWidget& widget, const TextStyle& style);
 

@@ -12,7 +12,7 @@
 
 namespace platform::windows {
 
-TabsWidget::TabsWidget(const NewWidget& widget) : NativeControl(widget) {
+TabsWidget::TabsWidget(const NewWidget& widget) : WidgetOf(widget) {
   MakeControl(WC_TABCONTROLW, {kStopChild | WS_CLIPCHILDREN, 0}, widget);
   Send(TCM_SETMINTABWIDTH, 0, 0);  // as wide as its text, so that more of them are in view
 }
@@ -42,7 +42,7 @@ void TabsWidget::SetFont(const FontStyle& font) {
   constexpr int kBeside = 6;  // design pixels, as the next one
   constexpr int kAbove = 3;
   Send(TCM_SETPADDING, 0, MAKELPARAM(ScaledFor(hwnd(), kBeside), ScaledFor(hwnd(), kAbove)));
-  NativeControl::SetFont(font);
+  WidgetOf::SetFont(font);
 }
 
 int TabsWidget::Index() const { return static_cast<int>(Send(TCM_GETCURSEL)); }
@@ -71,7 +71,7 @@ Colour TabsWidget::PageColour() const {
 }
 
 std::optional<LRESULT> TabsWidget::HandleNotification(const Message& message) {
-  if (message.id != WM_NOTIFY) return NativeControl::HandleNotification(message);
+  if (message.id != WM_NOTIFY) return WidgetOf::HandleNotification(message);
   if (reinterpret_cast<const NMHDR*>(message.l)->code == TCN_SELCHANGE) events().OnChanged();
   return std::nullopt;
 }

@@ -6,7 +6,7 @@
 
 namespace platform::windows {
 
-class TabsWidget final : public Tabs, public NativeControl {
+class TabsWidget final : public WidgetOf<Tabs, NativeControl> {
  public:
   explicit TabsWidget(const NewWidget& widget);
 

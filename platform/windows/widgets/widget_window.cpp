@@ -52,7 +52,7 @@ HWND WidgetWindow::Of(Widget& widget) { return dynamic_cast<WidgetWindow&>(widge
 
 void WidgetWindow::SetText(std::string_view text) {
   // The same text again would repaint and be read out again.
-  if (WidgetWindow::Text() == text) return;
+  if (Text() == text) return;
   ::SetWindowTextW(hwnd(), ToWide(text).c_str());
   // The system tells screen readers of another name; what a painted widget shows is its value.
   ::NotifyWinEvent(EVENT_OBJECT_VALUECHANGE, hwnd(), OBJID_CLIENT, CHILDID_SELF);

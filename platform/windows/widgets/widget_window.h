@@ -22,7 +22,7 @@ struct NewWidget {
 // Who gets a key that was pressed in a window.
 enum class KeyTaker { kDialog, kWindow, kNobody };
 
-class WidgetWindow : public NativeWindow, public virtual Widget {
+class WidgetWindow : public NativeWindow {
  public:
   ~WidgetWindow() override { ForgetName(); }
 
@@ -33,21 +33,22 @@ class WidgetWindow : public NativeWindow, public virtual Widget {
     return dynamic_cast<WidgetWindow*>(NativeWindow::Of(hwnd));
   }
 
-  void SetText(std::string_view text) override;
-  [[nodiscard]] std::string Text() const override;
-  void SetBounds(const Rect& bounds) override;
-  [[nodiscard]] Rect Bounds() const override;
-  [[nodiscard]] Size ClientSize() const override;
-  void SetVisible(bool visible) override;
-  [[nodiscard]] bool Visible() const override;
-  void SetEnabled(bool enabled) override;
-  [[nodiscard]] bool Enabled() const override;
-  void SetFont(const FontStyle& font) override;
-  void SetColours(Colour text, Colour background) override;
-  void Focus() override;
-  [[nodiscard]] bool HasFocus() const override;
-  void Invalidate() override;
-  [[nodiscard]] Point ToScreen(Point client) const override;
+  // These functions do what Widget says.
+  void SetText(std::string_view text);
+  [[nodiscard]] std::string Text() const;
+  void SetBounds(const Rect& bounds);
+  [[nodiscard]] Rect Bounds() const;
+  [[nodiscard]] Size ClientSize() const;
+  void SetVisible(bool visible);
+  [[nodiscard]] bool Visible() const;
+  void SetEnabled(bool enabled);
+  [[nodiscard]] bool Enabled() const;
+  void SetFont(const FontStyle& font);
+  void SetColours(Colour text, Colour background);
+  void Focus();
+  [[nodiscard]] bool HasFocus() const;
+  void Invalidate();
+  [[nodiscard]] Point ToScreen(Point client) const;
 
   // Returns what the widget is to a screen reader: nothing before its maker holds it.
   [[nodiscard]] Spoken Describe() const { return reporting_ ? events_.Describe() : Spoken{}; }
@@ -106,6 +107,31 @@ class WidgetWindow : public NativeWindow, public virtual Widget {
   SharedFont native_font_;  // the control goes on using it
   Colour text_colour_ = colour::kWindowText;
   Colour background_ = colour::kButtonFace;
+};
+
+// Implements `Interface`, which is Widget or extends it, over `Window`, which is WidgetWindow or
+// extends it.
+template <class Interface, class Window = WidgetWindow>
+class WidgetOf : public Interface, public Window {
+ public:
+  void SetText(std::string_view text) override { Window::SetText(text); }
+  [[nodiscard]] std::string Text() const override { return Window::Text(); }
+  void SetBounds(const Rect& bounds) override { Window::SetBounds(bounds); }
+  [[nodiscard]] Rect Bounds() const override { return Window::Bounds(); }
+  [[nodiscard]] Size ClientSize() const override { return Window::ClientSize(); }
+  void SetVisible(bool visible) override { Window::SetVisible(visible); }
+  [[nodiscard]] bool Visible() const override { return Window::Visible(); }
+  void SetEnabled(bool enabled) override { Window::SetEnabled(enabled); }
+  [[nodiscard]] bool Enabled() const override { return Window::Enabled(); }
+  void SetFont(const FontStyle& font) override { Window::SetFont(font); }
+  void SetColours(Colour text, Colour background) override { Window::SetColours(text, background); }
+  void Focus() override { Window::Focus(); }
+  [[nodiscard]] bool HasFocus() const override { return Window::HasFocus(); }
+  void Invalidate() override { Window::Invalidate(); }
+  [[nodiscard]] Point ToScreen(Point client) const override { return Window::ToScreen(client); }
+
+ protected:
+  using Window::Window;
 };
 
 }  // namespace platform::windows

@@ -75,7 +75,7 @@ WindowStyle StyleOf(const TopWindowParams& params) {
 
 TopWindow::TopWindow(const WindowClass& window_class, const TopWindowParams& params, HWND owner,
                      Drawing& drawing, TopWindowEvents& events)
-    : WidgetWindow(drawing, events),
+    : WidgetOf(drawing, events),
       events_(events),
       frame_(params.frame),
       draws_frame_(params.frame == Frame::kSizeableTool && params.bare_popup),
@@ -96,7 +96,7 @@ void TopWindow::SetVisible(bool visible) {
     Show(Activation::kLeaveFocus);
   } else {
     if (!visible) GiveForegroundBack(hwnd(), std::exchange(foreground_before_, nullptr));
-    WidgetWindow::SetVisible(visible);
+    WidgetOf::SetVisible(visible);
   }
 }
 
@@ -227,7 +227,7 @@ std::optional<LRESULT> TopWindow::Handle(const Message& message) {
     if (const auto answer = HandleDrag(message)) return answer;
     if (const auto answer = HandleScroll(message)) return answer;
   }
-  return WidgetWindow::Handle(message);
+  return WidgetOf::Handle(message);
 }
 
 std::optional<LRESULT> TopWindow::HandleKind(const Message& message) {

@@ -56,7 +56,7 @@ class DragWatch {
   POINT grip_{};
 };
 
-class TopWindow final : public platform::TopWindow, public WidgetWindow {
+class TopWindow final : public WidgetOf<platform::TopWindow> {
  public:
   // `owner`, never null, stays below the window.
   TopWindow(const WindowClass& window_class, const TopWindowParams& params, HWND owner,
