@@ -110,7 +110,8 @@ class Raster final : public Bitmap, public Canvas {
     if (Area().Contains(at)) pixels_[Index(at)] = rgb;
   }
   [[nodiscard]] std::size_t Index(Point at) const {
-    return static_cast<std::size_t>(at.y * size_.width + at.x);
+    return static_cast<std::size_t>(at.y) * static_cast<std::size_t>(size_.width) +
+           static_cast<std::size_t>(at.x);
   }
   static int LetterWidth(const FontStyle& font) { return std::max(1, font.height * 6 / 10); }
 

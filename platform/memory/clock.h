@@ -12,7 +12,8 @@ class Clock : public platform::Clock {
   // A day and its fraction are added, so that a moment reached by Advance is the same double as an
   // encoded one.
   DateTime Now() override {
-    return static_cast<DateTime>(now_ / kDay) + static_cast<DateTime>(now_ % kDay) / kDay;
+    const std::int64_t days = now_ / kDay;
+    return static_cast<DateTime>(days) + static_cast<DateTime>(now_ % kDay) / kDay;
   }
   std::int64_t SteadyMilliseconds() override { return steady_; }
 

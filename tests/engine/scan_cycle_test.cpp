@@ -15,7 +15,7 @@ namespace setting = settings::setting;
 // The meter window's part of a scan: writes down what it is asked to do.
 class Cycle : public test::Adapters, private engine::ScanSteps {
  public:
-  explicit Cycle(std::initializer_list<const char*> adapters) {
+  Cycle(std::initializer_list<const char*> adapters) {
     for (const char* name : adapters) AddAdapter(name);
     (void)Initialise();
   }
