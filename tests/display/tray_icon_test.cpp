@@ -37,19 +37,22 @@ struct Bitmap {
   }
 };
 
-TEST(DecodeBitmap, ReadsPalettesAndRowsFromTheTop) {
+TEST(DecodeBitmap, ReadsPalettesAndRowsFromEitherEnd) {
   std::vector<std::uint32_t> palette;
   for (std::uint32_t i = 0; i < 256; ++i) palette.push_back(i << 16U | (255 - i) << 8U | 7);
-  const auto upwards = static_cast<std::uint32_t>(-2);  // the first row is the upper one
   const std::string pixels("\x92\xA5\0\0\x57\x31\0\0", 8);
   const auto colour = [](std::uint32_t index) { return 7U << 16U | (255 - index) << 8U | index; };
   // The bits, and the index of the second pixel in each row.
-  for (const auto& [bits, upper, lower] :
+  for (const auto& [bits, first, second] :
        {std::array{1U, 0U, 1U}, {4U, 2U, 7U}, {8U, 0xA5U, 0x31U}}) {
-    const auto picture = display::DecodeBitmap(Bitmap{2, upwards, bits, pixels, palette}.Bytes());
-    ASSERT_TRUE(picture.has_value());
-    EXPECT_EQ(picture->At({1, 0}), colour(upper));
-    EXPECT_EQ(picture->At({1, 1}), colour(lower));
+    for (const int height : {2, -2}) {
+      const auto picture = display::DecodeBitmap(
+          Bitmap{2, static_cast<std::uint32_t>(height), bits, pixels, palette}.Bytes());
+      ASSERT_TRUE(picture.has_value());
+      const int first_row = height < 0 ? 0 : 1;
+      EXPECT_EQ(picture->At({1, first_row}), colour(first));
+      EXPECT_EQ(picture->At({1, 1 - first_row}), colour(second));
+    }
   }
 }
 

@@ -57,6 +57,7 @@ TEST_F(ColourPopupTest, GivesWhatTheUserConfirmsAndNothingElse) {
            Row{"arrows from it", kRed, {keys({Key::kRight, Key::kUp}), enter}, 0x40A0FF},
            Row{"to the edges", 0x8080FF, {keys({Key::kLeft, Key::kLeft, Key::kUp}), enter}, kWhite},
            Row{"others", 0x400000, {keys({Key::kRight, Key::kRight, Key::kDown}), ok}, 0x400040},
+           Row{"Home", 0x400040, {keys({Key::kHome}), ok}, kWhite},
            Row{"not in the field: the first", 0x010203, {keys({Key::kDown}), ok}, kWhite},
            Row{"the mouse, then the button", 0x010203, {click, ok}, kRed},
            Row{"a click", 0, {click, [&] { User().ClickCloseBox("ColourPopup"); }}, {}},

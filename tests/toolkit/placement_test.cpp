@@ -14,7 +14,6 @@ namespace {
 using platform::Point;
 using platform::Rect;
 using enum Hold;
-using platform::memory::RegistryValue;
 
 const platform::Monitor kScreen{{0, 0, 1366, 768}, {0, 0, 1366, 728}, 96};
 const platform::Monitor kFine{{0, 0, 1366, 768}, {0, 0, 1366, 728}, 192};
