@@ -227,9 +227,7 @@ void World::AddAdapter() {
 
 void World::RemoveAdapter() {
   auto& rows = machine_.interface_table.rows;
-  if (!rows.empty())
-    machine_.interface_table.RemoveRow(
-        static_cast<std::size_t>(Below(static_cast<int>(rows.size()))));
+  if (!rows.empty()) machine_.interface_table.RemoveRow(Below(static_cast<int>(rows.size())));
 }
 
 // Between two scans, so that the number of rows stays.

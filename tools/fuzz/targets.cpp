@@ -77,7 +77,7 @@ void ReadBitmap(std::string_view bytes) {
   if (!picture) return;
   const auto [width, height] = picture->size;
   Require(width >= 1 && width <= 1024 && height >= 1 && height <= 1024, "its sides are allowed");
-  Require(picture->pixels.size() == static_cast<std::size_t>(width * height), "it is whole");
+  Require(std::ssize(picture->pixels) == width * height, "it is whole");
 }
 
 void ReadWave(std::string_view bytes) {
