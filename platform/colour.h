@@ -44,10 +44,12 @@ constexpr int Brightness(Colour c) {
   return (30 * part(0) + 59 * part(8) + 11 * part(16)) / 100;
 }
 
-// Returns whether letters of one fixed colour can be read on another.
+// Returns whether letters of one fixed colour can be read on another: whether their brightness is
+// at least 96 of 255 apart.
 constexpr bool IsReadable(Colour letters, Colour background) {
+  constexpr int kApart = 96;
   const int apart = Brightness(letters) - Brightness(background);
-  return apart >= 96 || apart <= -96;
+  return apart >= kApart || apart <= -kApart;
 }
 
 }  // namespace platform

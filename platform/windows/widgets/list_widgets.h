@@ -74,7 +74,6 @@ class CheckListWidget final : public WidgetOf<ItemList, NativeControl> {
   explicit CheckListWidget(const NewWidget& widget);
 
   void Replace(int first, int removed, std::span<const std::string> added) override;
-  [[nodiscard]] int Count() const;
   void SetIndex(int index) override;
   [[nodiscard]] int Index() const override;
   void SetChecked(int row, bool checked) override;
@@ -86,6 +85,7 @@ class CheckListWidget final : public WidgetOf<ItemList, NativeControl> {
   std::optional<LRESULT> Handle(const Message& message) override;
 
  private:
+  [[nodiscard]] int Count() const;
   void RowChanged(const NMHDR& notification);
   void ReportIndex();
 
